@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+/// Times two pieces of work against each other on a noisy machine: they run in turns, so that a busy
+/// second hits both, and the medians are compared.
+namespace Ratio {
+
+inline double MedianMilliseconds(std::vector<double> times)
+{
+    std::sort(times.begin(), times.end());
+    return times.at(times.size() / 2);
+}
+
+inline double Milliseconds(const std::function<void()>& work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+/// Runs @p ours and @p theirs @p rounds times each and prints "name ratio (ours ms, theirs ms)".
+inline void Print(
+    const char* name, int rounds, const std::function<void()>& ours, const std::function<void()>& theirs)
+{
+    std::vector<double> oursTimes;
+    std::vector<double> theirsTimes;
+    for (int i = 0; i < rounds; ++i) {
+        oursTimes.push_back(Milliseconds(ours));
+        theirsTimes.push_back(Milliseconds(theirs));
+    }
+    const double a = MedianMilliseconds(oursTimes);
+    const double b = MedianMilliseconds(theirsTimes);
+    std::printf("%s %.3f (%.3f ms, %.3f ms)\n", name, a / b, a, b);
+    std::fflush(stdout);
+}
+
+} // namespace Ratio

@@ -1,0 +1,59 @@
+#include "StrictMain.h"
+
+#include <QTemporaryFile>
+#include <QTest>
+
+namespace TestSupport {
+
+namespace {
+
+int CountUnannounced(const QString& logFile)
+{
+    QFile log(logFile);
+    if (!log.open(QIODevice::ReadOnly))
+        return 1;
+    int count = 0;
+    while (!log.atEnd()) {
+        const QByteArray line = log.readLine();
+        if (line.startsWith("QWARN") || line.startsWith("QFATAL") || line.startsWith("QCRITICAL"))
+            ++count;
+    }
+    return count;
+}
+
+bool NamesAnOutput(const QStringList& arguments)
+{
+    return arguments.contains(QLatin1String("-o")) || arguments.contains(QLatin1String("-functions"));
+}
+
+} // namespace
+
+void PrepareEnvironment()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
+}
+
+int RunStrictly(QObject& test, int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    if (NamesAnOutput(arguments))
+        return QTest::qExec(&test, arguments);
+
+    // The test log is the only place where Qt Test tells announced warnings from others.
+    QTemporaryFile log;
+    if (!log.open())
+        return 1;
+    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0") << QStringLiteral("-o")
+              << log.fileName() + QLatin1String(",txt") << QStringLiteral("-o") << QStringLiteral("-,txt");
+    const int failures = QTest::qExec(&test, arguments);
+    const int warnings = CountUnannounced(log.fileName());
+    if (warnings > 0)
+        fprintf(stderr, "FAIL: %d warning(s) that no test announced\n", warnings);
+    return failures + warnings;
+}
+
+} // namespace TestSupport

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QObject>
+
+namespace TestSupport {
+
+/// Runs every test function of @p test as QTest::qExec does, and then fails the program when a Qt
+/// warning was printed that the test had not announced with QTest::ignoreMessage: an unknown signal
+/// in a connect, a bad geometry or a misused painter is a fault also when every check passed.
+/// Sets the offscreen platform unless the environment names another one.
+/// @return 0 when all is well, else the number of failures (at least 1).
+int RunStrictly(QObject& test, int argc, char** argv);
+
+/// Puts what every widget test needs into the environment; call before the application is made.
+void PrepareEnvironment();
+
+} // namespace TestSupport
+
+/// main() of a test program with widgets.
+#define STRICT_TEST_MAIN(TestClass)                                                                           \
+    int main(int argc, char** argv)                                                                           \
+    {                                                                                                         \
+        TestSupport::PrepareEnvironment();                                                                    \
+        QApplication application(argc, argv);                                                                 \
+        TestClass test;                                                                                       \
+        return TestSupport::RunStrictly(test, argc, argv);                                                    \
+    }
