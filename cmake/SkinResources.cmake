@@ -1,10 +1,17 @@
-# Compiles the skin tree into the resource system. A file that lies in the tree as
+# uicomponents_skin_resources(target root module): compiles a skin tree into the target by the
+# resource system. A file that lies in the tree as
 #     <application>/<skin>/<sub folder>/<file>
 # is found at run time as
-#     :/<application>/UICommonModule/<skin>/UICommonModule/<sub folder>/<file>
-# which is the path that CommonFun::GetSkinPath and CommonFun::SetStyleSheet build.
-function(uicomponents_skin_resources target root)
+#     :/<application>/<module>/<skin>/<module>/<sub folder>/<file>
+# which is the path that CommonFun::GetSkinPath(module, "<sub folder>/<file>") builds and
+# CommonFun::SetStyleSheet(widget, "<sub folder>", "<file>", module) reads. The library's own
+# module is UICommonModule; the gallery's is OperatorClient:
+#     uicomponents_skin_resources(<gallery target> "${PROJECT_SOURCE_DIR}/gallery/skins" OperatorClient)
+#     :/Corvale/OperatorClient/Black/OperatorClient/MainWindow/OperatorClient.css
+function(uicomponents_skin_resources target root module)
     file(GLOB skins CONFIGURE_DEPENDS LIST_DIRECTORIES true RELATIVE "${root}" "${root}/*/*")
+    # The templates from which the skins are made may lie beside them.
+    list(FILTER skins EXCLUDE REGEX "^templates/")
     set(qrc "<RCC>\n")
     foreach(skin IN LISTS skins)
         if(NOT IS_DIRECTORY "${root}/${skin}")
@@ -12,7 +19,7 @@ function(uicomponents_skin_resources target root)
         endif()
         get_filename_component(application "${skin}" DIRECTORY)
         get_filename_component(version "${skin}" NAME)
-        string(APPEND qrc "  <qresource prefix=\"/${application}/UICommonModule/${version}/UICommonModule\">\n")
+        string(APPEND qrc "  <qresource prefix=\"/${application}/${module}/${version}/${module}\">\n")
         file(GLOB_RECURSE files CONFIGURE_DEPENDS RELATIVE "${root}/${skin}" "${root}/${skin}/*")
         list(SORT files)
         foreach(file IN LISTS files)
@@ -21,10 +28,14 @@ function(uicomponents_skin_resources target root)
         string(APPEND qrc "  </qresource>\n")
     endforeach()
     string(APPEND qrc "</RCC>\n")
-    set(qrc_file "${PROJECT_BINARY_DIR}/generated/UICommonModuleSkins.qrc")
-    file(GENERATE OUTPUT "${qrc_file}" CONTENT "${qrc}")
-    # file(GENERATE) writes after configuring; AUTORCC wants the file while configuring.
-    if(NOT EXISTS "${qrc_file}")
+    # Written now, because qt5_add_resources reads it for the dependencies; and only when it
+    # changed, so that configuring again does not compile it again.
+    set(qrc_file "${PROJECT_BINARY_DIR}/generated/${module}Skins.qrc")
+    set(qrc_before "")
+    if(EXISTS "${qrc_file}")
+        file(READ "${qrc_file}" qrc_before)
+    endif()
+    if(NOT qrc STREQUAL qrc_before)
         file(WRITE "${qrc_file}" "${qrc}")
     endif()
     qt5_add_resources(compiled "${qrc_file}")
