@@ -1,0 +1,97 @@
+#include <Common/ByteBudget.h>
+
+#include <algorithm>
+
+namespace {
+
+/// Counts the bytes of pieces of one text.
+class ByteCounter
+{
+public:
+    ByteCounter(const QString& text, TextEncoding encoding)
+        : m_text(text)
+        , m_encoding(encoding)
+    { }
+
+    /// Bytes of the units @p begin to @p end (exclusive), encoded as a text of their own.
+    qint64 Count(int begin, int end) const
+    {
+        const QString piece = QString::fromRawData(m_text.constData() + begin, end - begin);
+        return m_encoding == TextEncoding::Utf8 ? piece.toUtf8().size() : piece.toLocal8Bit().size();
+    }
+
+    /// True when cutting between @p position - 1 and @p position would tear a surrogate pair.
+    bool IsInsidePair(int position) const
+    {
+        return position > 0 && position < m_text.size() && m_text.at(position - 1).isHighSurrogate()
+            && m_text.at(position).isLowSurrogate();
+    }
+
+    int WholeCharacters(int position) const { return IsInsidePair(position) ? position - 1 : position; }
+
+    bool IsHighSurrogate(int position) const { return m_text.at(position).isHighSurrogate(); }
+
+private:
+    const QString& m_text;
+    TextEncoding m_encoding;
+};
+
+/// True when a text has as many bytes as its pieces together. Codecs that begin with a byte order mark,
+/// that switch between character sets or that write a base and its mark as one are told by a text in
+/// which all of that happens.
+bool AddsUp(TextEncoding encoding)
+{
+    const QString sample = QStringLiteral("aa\u4E2D\u4E2Da\u00CA\u0304\u304B\u309Ab\uD55C\u0E01\u0416\u0416c"
+                                          "\u0B95\u0BC6\u0915\u093F\u0995\u00E9\u05D0d");
+    const ByteCounter counter(sample, encoding);
+    qint64 sum = 0;
+    for (int i = 0; i < sample.size(); ++i)
+        sum += counter.Count(i, i + 1);
+    return sum == counter.Count(0, sample.size());
+}
+
+/// The largest end in @p begin to @p end for which the units from @p begin on have at most @p maxBytes.
+int LargestEnd(const ByteCounter& counter, int begin, int end, qint64 maxBytes)
+{
+    int fits = begin;
+    int tooLong = end + 1;
+    while (tooLong - fits > 1) {
+        const int middle = fits + (tooLong - fits) / 2;
+        const int candidate = counter.WholeCharacters(middle);
+        if (candidate > fits && counter.Count(begin, candidate) > maxBytes)
+            tooLong = candidate;
+        else
+            fits = middle;
+    }
+    return counter.WholeCharacters(fits);
+}
+
+} // namespace
+
+QString CutToByteBudget(const QString& text, int maxBytes, TextEncoding encoding, int block)
+{
+    if (maxBytes <= 0)
+        return {};
+    const ByteCounter counter(text, encoding);
+    const int end = counter.WholeCharacters(std::min(text.size(), maxBytes));
+    const int step = end > block && AddsUp(encoding) ? block : end;
+
+    int begin = 0;
+    qint64 rest = maxBytes;
+    while (begin < end) {
+        const int stop = end - begin > step ? begin + step : end;
+        qint64 bytes = counter.Count(begin, stop);
+        if (bytes > rest)
+            return text.left(LargestEnd(counter, begin, stop, rest));
+        if (stop == end)
+            break;
+        begin = stop;
+        if (counter.IsHighSurrogate(stop - 1)) {
+            // What becomes of it depends on the next unit: count it again with the next block.
+            --begin;
+            bytes -= counter.Count(begin, stop);
+        }
+        rest -= bytes;
+    }
+    return text.left(end);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+/// The style sheet @p fileName of @p folder, read as UTF-8; empty when there is none.
+///
+/// Each sheet is read once, and a missing one looked for once, until the skin changes: widgets are made
+/// by the hundred and share a few sheets.
+QString StyleSheetText(const QString& fileName, const QString& folder);

@@ -1,0 +1,11 @@
+#include <Platform/BasicUIComponents/KvSkinNotifier.h>
+
+namespace KvGUI {
+
+KvSkinNotifier* KvSkinNotifier::Instance()
+{
+    static KvSkinNotifier notifier;
+    return &notifier;
+}
+
+} // namespace KvGUI
