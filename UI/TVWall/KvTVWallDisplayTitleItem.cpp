@@ -1,0 +1,120 @@
+#include "KvTVWallDisplayTitleItem.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
+
+namespace UICommonMdl {
+
+namespace {
+
+constexpr int ButtonSize = 20; // pixels, at most: buttons shrink in a narrow window
+constexpr int SmallestButton = 8; // pixels
+constexpr int TextIndent = 4; // pixels
+
+/// A label that ends a text which does not fit with an ellipsis, and never asks for room.
+class TitleText : public QLabel
+{
+public:
+    explicit TitleText(QWidget* parent)
+        : QLabel(parent)
+    {
+        setObjectName(QStringLiteral("pWindowTitleText"));
+        setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::WindowText));
+        const QRect area = rect().adjusted(TextIndent, 0, 0, 0);
+        painter.drawText(
+            area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+            painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
+    }
+};
+
+void SetToolTip(QPushButton* button, const QString& toolTip)
+{
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+}
+
+void StyleAgain(QWidget* widget)
+{
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+    widget->update();
+}
+
+// The sheet selects the restoring icon by this property. A button that was never set has none.
+void SetRestore(QPushButton* button, bool restore)
+{
+    if (button->property("restore").toBool() == restore)
+        return;
+    button->setProperty("restore", restore);
+    StyleAgain(button);
+}
+
+} // namespace
+
+KvTVWallDisplayTitleItem::KvTVWallDisplayTitleItem(QWidget* parent)
+    : QWidget(parent)
+    , m_pText(new TitleText(this))
+    , m_btnVolume(AddButton(QStringLiteral("pWindowVolumeOffBtn")))
+    , m_btnSnap(AddButton(QStringLiteral("pWindowSelfAdaptionBtn")))
+    , m_btnMax(AddButton(QStringLiteral("pWindowMaxBtn")))
+    , m_btnClose(AddButton(QStringLiteral("pWindowCloseBtn")))
+{
+    setObjectName(QStringLiteral("pWindowTitleBar"));
+    setAttribute(Qt::WA_StyledBackground);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(1);
+    layout->addWidget(m_pText, 1);
+    for (QPushButton* button : {m_btnVolume, m_btnSnap, m_btnMax, m_btnClose})
+        layout->addWidget(button);
+    SetToolTip(m_btnVolume, tr("Open Volume"));
+    SetToolTip(m_btnSnap, tr("SelfAdaption"));
+    SetToolTip(m_btnMax, tr("Max"));
+    SetToolTip(m_btnClose, tr("Close"));
+}
+
+QPushButton* KvTVWallDisplayTitleItem::AddButton(const QString& objectName)
+{
+    auto* button = new QPushButton(this);
+    button->setObjectName(objectName);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    button->setMinimumWidth(SmallestButton);
+    button->setMaximumSize(ButtonSize, ButtonSize);
+    return button;
+}
+
+void KvTVWallDisplayTitleItem::SetText(const QString& text) { m_pText->setText(text); }
+
+void KvTVWallDisplayTitleItem::SetVolumeOn(bool on)
+{
+    m_btnVolume->setObjectName(
+        on ? QStringLiteral("pWindowVolumeOnBtn") : QStringLiteral("pWindowVolumeOffBtn"));
+    SetToolTip(m_btnVolume, on ? tr("Close Volume") : tr("Open Volume"));
+    StyleAgain(m_btnVolume);
+}
+
+void KvTVWallDisplayTitleItem::SetMaximized(bool maximized)
+{
+    SetToolTip(m_btnMax, maximized ? tr("Restore") : tr("Max"));
+    SetRestore(m_btnMax, maximized);
+}
+
+void KvTVWallDisplayTitleItem::SetSnapped(bool snapped)
+{
+    SetToolTip(m_btnSnap, snapped ? tr("Restore") : tr("SelfAdaption"));
+    SetRestore(m_btnSnap, snapped);
+}
+
+} // namespace UICommonMdl

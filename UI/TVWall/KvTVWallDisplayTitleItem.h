@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+namespace UICommonMdl {
+
+/// The title bar of a window: its text and the buttons for volume, snapping, maximising and closing.
+///
+/// It shows states; what a click on a button does is the window's business.
+class KvTVWallDisplayTitleItem : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit KvTVWallDisplayTitleItem(QWidget* parent);
+
+    void SetText(const QString& text); ///< elided at its end where it does not fit
+    void SetVolumeOn(bool on);
+    void SetMaximized(bool maximized);
+    void SetSnapped(bool snapped);
+
+    QPushButton* VolumeButton() const { return m_btnVolume; }
+    QPushButton* SnapButton() const { return m_btnSnap; }
+    QPushButton* MaxButton() const { return m_btnMax; }
+    QPushButton* CloseButton() const { return m_btnClose; }
+
+private:
+    QPushButton* AddButton(const QString& objectName);
+
+    QLabel* m_pText;
+    QPushButton* m_btnVolume;
+    QPushButton* m_btnSnap;
+    QPushButton* m_btnMax;
+    QPushButton* m_btnClose;
+};
+
+} // namespace UICommonMdl

@@ -1,0 +1,354 @@
+#include "KvTVWallDisplayWindow.h"
+
+#include "KvTVWallDisplayScreen.h"
+#include "KvTVWallDisplayTitleItem.h"
+#include "KvTVWallDisplayVideo.h"
+#include "KvTVWallDisplayWnd.h"
+#include "WallGeometry.h"
+
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QPushButton>
+
+namespace UICommonMdl {
+
+namespace {
+
+constexpr int TitleHeight = 24; // pixels
+constexpr int TitleMargin = 2; // pixels
+constexpr int VideoTop = 26; // pixels
+constexpr int Grip = 5; // pixels from an edge that take hold of it
+constexpr QSize SmallestDragged(64, 48); // pixels; a drag makes no window smaller
+
+Qt::CursorShape CursorFor(Qt::Edges edges)
+{
+    if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge))
+        return Qt::SizeFDiagCursor;
+    if (edges == (Qt::RightEdge | Qt::TopEdge) || edges == (Qt::LeftEdge | Qt::BottomEdge))
+        return Qt::SizeBDiagCursor;
+    if (edges & (Qt::LeftEdge | Qt::RightEdge))
+        return Qt::SizeHorCursor;
+    return edges ? Qt::SizeVerCursor : Qt::ArrowCursor;
+}
+
+} // namespace
+
+KvTVWallDisplayWindow::KvTVWallDisplayWindow(
+    KvTVWallDisplayScreen* screen, double precision, const KvGUI::StructScaleRect& rect,
+    const QVariant& userData)
+    : QMdiSubWindow(screen->viewport(), Qt::SubWindow | Qt::FramelessWindowHint | Qt::CustomizeWindowHint)
+    , m_pScreen(screen)
+    , m_pTitle(new KvTVWallDisplayTitleItem(this))
+    , m_pVideo(new KvTVWallDisplayVideo(this))
+    , m_userData(userData)
+    , m_scale(rect)
+    , m_restoreScale(rect)
+    , m_dPrecision(precision)
+{
+    // The base class activates the window under the keyboard focus, closes it by shortcuts of its system
+    // menu, and lays it out by a layout for one inner widget.
+    disconnect(qApp, nullptr, this, nullptr);
+    setSystemMenu(nullptr);
+    delete layout();
+    setAttribute(Qt::WA_Hover);
+    setAcceptDrops(true);
+
+    connect(m_pTitle->VolumeButton(), SIGNAL(clicked()), this, SIGNAL(SignalVolemeBtnClicked()));
+    connect(m_pTitle->SnapButton(), SIGNAL(clicked()), this, SLOT(OnWindowSelfAdaptionBtnClicked()));
+    connect(m_pTitle->MaxButton(), SIGNAL(clicked()), this, SLOT(OnShowMaxOrNormal()));
+    connect(m_pTitle->CloseButton(), SIGNAL(clicked()), this, SIGNAL(SignalCloseBtnClicked()));
+}
+
+void KvTVWallDisplayWindow::PlaceOnScreen()
+{
+    m_drag.active = false;
+    setGeometry(WallGeometry::Displayable(WallGeometry::WindowRect(m_pScreen->size(), m_scale)));
+}
+
+// State, pixels and tool tips change before the report, so that a slot finds the window as it will be and
+// may change or delete it: nothing of the window may be used after true was returned.
+bool KvTVWallDisplayWindow::ChangeScale(const KvGUI::StructScaleRect& rect, State state)
+{
+    if (WallGeometry::IsEqual(m_scale, rect, m_dPrecision))
+        return false;
+    const KvGUI::StructScaleRect changed = rect; // may be a reference to a member
+    m_restoreScale = m_scale;
+    m_scale = changed;
+    PlaceOnScreen();
+    SetState(state);
+    Q_EMIT SignalGeoChanged(changed);
+    return true;
+}
+
+void KvTVWallDisplayWindow::SetScale(const KvGUI::StructScaleRect& rect) { ChangeScale(rect, State::Free); }
+
+void KvTVWallDisplayWindow::SetState(State state)
+{
+    if (m_state == state)
+        return;
+    m_state = state;
+    m_pTitle->SetMaximized(state == State::Maximized);
+    m_pTitle->SetSnapped(state == State::Snapped);
+}
+
+void KvTVWallDisplayWindow::OnShowMaxOrNormal()
+{
+    if (m_state != State::Free) {
+        const KvGUI::StructScaleRect restored = m_restoreScale;
+        if (!ChangeScale(restored, State::Free))
+            SetState(State::Free);
+        return;
+    }
+    // A window that fills its screen already is maximised all the same, and restored to where it is.
+    if (!ChangeScale({0.0, 0.0, 1.0, 1.0, true}, State::Maximized)) {
+        m_restoreScale = m_scale;
+        SetState(State::Maximized);
+    }
+}
+
+void KvTVWallDisplayWindow::OnWindowSelfAdaptionBtnClicked()
+{
+    if (m_state == State::Snapped) {
+        OnShowMaxOrNormal();
+        return;
+    }
+    const auto snapped = WallGeometry::SnappedToCells(
+        m_scale, m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan(), m_dPrecision);
+    if (snapped && !ChangeScale(*snapped, State::Snapped))
+        m_restoreScale = m_scale;
+}
+
+void KvTVWallDisplayWindow::SetSelected(bool selected)
+{
+    if (m_bSelected == selected)
+        return;
+    m_bSelected = selected;
+    update();
+}
+
+void KvTVWallDisplayWindow::SetVolumeOn(bool on)
+{
+    if (m_bVolumeOn == on)
+        return;
+    m_bVolumeOn = on;
+    m_pTitle->SetVolumeOn(on);
+}
+
+void KvTVWallDisplayWindow::SetTitle(const QString& title)
+{
+    m_strTitle = title;
+    UpdateTitle();
+}
+
+void KvTVWallDisplayWindow::SetContentText(const QString& text)
+{
+    m_strContent = text;
+    UpdateTitle();
+}
+
+void KvTVWallDisplayWindow::UpdateTitle()
+{
+    const bool both = !m_strTitle.isEmpty() && !m_strContent.isEmpty();
+    const QString text = both ? m_strTitle + QStringLiteral("  ") + m_strContent : m_strTitle + m_strContent;
+    m_pTitle->SetText(text);
+    setAccessibleName(text);
+}
+
+bool KvTVWallDisplayWindow::DeleteVideo()
+{
+    if (m_pVideo == nullptr)
+        return false;
+    delete m_pVideo;
+    m_pVideo = nullptr;
+    return true;
+}
+
+void KvTVWallDisplayWindow::resizeEvent(QResizeEvent*)
+{
+    const int innerWidth = qMax(0, width() - 2 * TitleMargin);
+    m_pTitle->setGeometry(TitleMargin, TitleMargin, innerWidth, TitleHeight);
+    if (m_pVideo != nullptr)
+        m_pVideo->setGeometry(1, VideoTop, innerWidth, qMax(0, height() - TitleHeight));
+}
+
+void KvTVWallDisplayWindow::paintEvent(QPaintEvent*)
+{
+    const KvTVWallDisplayWnd* wall = m_pScreen->GetWall();
+    QPainter painter(this);
+    painter.fillRect(rect(), wall->WindowColor());
+    painter.setPen(m_bSelected ? wall->WindowSelectedFrameColor() : wall->WindowFrameColor());
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (m_bSelected)
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    if (m_bKeyboardFocus) {
+        painter.setPen(QPen(wall->BandColor(), 1, Qt::DashLine));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+// Moving and resizing by the mouse. While the drag lasts only pixels move; the rectangle is set once, at the
+// release.
+
+Qt::Edges KvTVWallDisplayWindow::EdgesForMouse(const QPoint& pos) const
+{
+    return m_scale.bEditable ? WallGeometry::EdgesAt(size(), pos, Grip) : Qt::Edges();
+}
+
+void KvTVWallDisplayWindow::ShowCursorAt(const QPoint& pos)
+{
+    const Qt::CursorShape shape = CursorFor(EdgesForMouse(pos));
+    if (shape != Qt::ArrowCursor)
+        setCursor(shape);
+    else if (testAttribute(Qt::WA_SetCursor))
+        unsetCursor();
+}
+
+KvGUI::StructScaleRect KvTVWallDisplayWindow::ScaleOfDrag(bool keepToCells) const
+{
+    const KvGUI::StructScaleRect dragged
+        = WallGeometry::DraggedScale(m_scale, m_drag.start, m_drag.pixels, m_pScreen->size());
+    if (!keepToCells)
+        return dragged;
+    return WallGeometry::SnappedToCells(
+               dragged, m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan(), m_dPrecision)
+        .value_or(dragged);
+}
+
+void KvTVWallDisplayWindow::DragTo(const QPoint& globalPos, bool keepToCells)
+{
+    m_drag.pixels = WallGeometry::DraggedRect(
+        m_drag.start, globalPos - m_drag.press, m_drag.edges, m_pScreen->rect(), SmallestDragged);
+    if (keepToCells && m_drag.pixels != m_drag.start)
+        setGeometry(WallGeometry::WindowRect(m_pScreen->size(), ScaleOfDrag(true)));
+    else
+        setGeometry(m_drag.pixels);
+}
+
+void KvTVWallDisplayWindow::EndDrag(const QPoint& globalPos, bool keepToCells)
+{
+    DragTo(globalPos, keepToCells);
+    const bool moved = m_drag.pixels != m_drag.start;
+    if (!moved || !ChangeScale(ScaleOfDrag(keepToCells), State::Free))
+        PlaceOnScreen(); // the way was too short to count
+}
+
+void KvTVWallDisplayWindow::CancelDrag()
+{
+    if (m_drag.active)
+        PlaceOnScreen();
+}
+
+void KvTVWallDisplayWindow::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (event->button() != Qt::LeftButton || !m_scale.bEditable || m_pScreen->IsPositioning())
+        return;
+    const Qt::Edges edges = EdgesForMouse(event->pos());
+    if (edges || m_pTitle->geometry().contains(event->pos()))
+        m_drag = Drag{true, edges, event->globalPos(), geometry(), geometry()};
+}
+
+void KvTVWallDisplayWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (!m_drag.active)
+        return;
+    if (event->buttons() & Qt::LeftButton)
+        DragTo(event->globalPos(), event->modifiers() & Qt::ShiftModifier);
+    else
+        CancelDrag(); // the release went elsewhere
+}
+
+void KvTVWallDisplayWindow::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (m_drag.active && event->button() == Qt::LeftButton)
+        EndDrag(event->globalPos(), event->modifiers() & Qt::ShiftModifier);
+}
+
+void KvTVWallDisplayWindow::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_drag.active = false;
+    const QPointer<KvTVWallDisplayWindow> alive(this);
+    if (m_scale.bEditable)
+        OnShowMaxOrNormal();
+    if (!alive)
+        return;
+    SetSelected(true);
+    m_pScreen->SelectUnlessSelected();
+    if (alive)
+        Q_EMIT SignalDoubleClickedSelectedChanged();
+}
+
+void KvTVWallDisplayWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && m_drag.active) {
+        CancelDrag();
+        event->accept();
+        return;
+    }
+    event->ignore();
+}
+
+// Hover events arrive also while the mouse is over a child, whatever the client put into the video area.
+bool KvTVWallDisplayWindow::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        if (!m_drag.active)
+            ShowCursorAt(static_cast<QHoverEvent*>(event)->pos());
+        return true;
+    case QEvent::HoverLeave:
+        return true;
+    case QEvent::UngrabMouse:
+        CancelDrag();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event); // past the base class, see above
+}
+
+bool KvTVWallDisplayWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    return QWidget::eventFilter(watched, event);
+}
+
+void KvTVWallDisplayWindow::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
+
+void KvTVWallDisplayWindow::closeEvent(QCloseEvent* event) { event->ignore(); }
+
+void KvTVWallDisplayWindow::hideEvent(QHideEvent*) { m_drag.active = false; }
+
+void KvTVWallDisplayWindow::moveEvent(QMoveEvent* event) { QWidget::moveEvent(event); }
+
+void KvTVWallDisplayWindow::showEvent(QShowEvent* event) { QWidget::showEvent(event); }
+
+void KvTVWallDisplayWindow::leaveEvent(QEvent* event) { QWidget::leaveEvent(event); }
+
+void KvTVWallDisplayWindow::changeEvent(QEvent* event) { QWidget::changeEvent(event); }
+
+void KvTVWallDisplayWindow::childEvent(QChildEvent* event) { QWidget::childEvent(event); }
+
+void KvTVWallDisplayWindow::timerEvent(QTimerEvent* event) { QWidget::timerEvent(event); }
+
+void KvTVWallDisplayWindow::focusInEvent(QFocusEvent* event)
+{
+    m_bKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    update();
+}
+
+void KvTVWallDisplayWindow::focusOutEvent(QFocusEvent*)
+{
+    m_bKeyboardFocus = false;
+    update();
+}
+
+} // namespace UICommonMdl

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <Platform/BasicUIComponents/StructScaleRect.h>
+
+#include <QMdiSubWindow>
+#include <QVariant>
+
+namespace UICommonMdl {
+
+class KvTVWallDisplayScreen;
+class KvTVWallDisplayTitleItem;
+class KvTVWallDisplayVideo;
+
+/// A video window on a screen of the display wall: a title bar with four buttons, and a video area.
+///
+/// The window keeps its scale rectangle and its states, paints itself, and is moved and resized by the
+/// mouse. Selection is the screen's business, which watches the events that reach the window. Nothing of the
+/// base class's own conduct is left: no system menu or shortcut, no activation or raising on a click, no
+/// window states, no closing.
+class KvTVWallDisplayWindow : public QMdiSubWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param screen the owner; the window is a child of its viewport, and hidden
+    /// @param precision largest difference of an edge at which two rectangles are equal
+    KvTVWallDisplayWindow(
+        KvTVWallDisplayScreen* screen, double precision, const KvGUI::StructScaleRect& rect,
+        const QVariant& userData);
+
+    const KvGUI::StructScaleRect& GetScale() const { return m_scale; }
+    /// Makes @p rect the window's rectangle, by the client or the operator: unless it is equal within the
+    /// precision, the window is placed there, is no longer maximised or snapped, and reports it.
+    void SetScale(const KvGUI::StructScaleRect& rect);
+    /// Computes the window's pixels from its rectangle and the screen's present size.
+    void PlaceOnScreen();
+
+    bool IsSelected() const { return m_bSelected; }
+    void SetSelected(bool selected);
+    bool IsVolumeOn() const { return m_bVolumeOn; }
+    void SetVolumeOn(bool on);
+    int GetZValue() const { return m_iZValue; }
+    void SetZValue(int z) { m_iZValue = z; }
+    const QVariant& GetUserData() const { return m_userData; }
+    void SetUserData(const QVariant& userData) { m_userData = userData; }
+
+    void SetTitle(const QString& title); ///< the window's number
+    void SetContentText(const QString& text); ///< shown behind the title
+    KvTVWallDisplayVideo* GetVideo() const { return m_pVideo; }
+    bool DeleteVideo(); ///< false when there is none
+
+    /// Whether the mouse holds the window to move or resize it.
+    bool IsDragged() const { return m_drag.active; }
+    /// Gives a drag up: the window goes back to its rectangle.
+    void CancelDrag();
+
+Q_SIGNALS:
+    void SignalCloseBtnClicked();
+    void SignalVolemeBtnClicked();
+    void SignalGeoChanged(const KvGUI::StructScaleRect& rect);
+    void SignalDoubleClickedSelectedChanged();
+
+public Q_SLOTS:
+    void OnShowMaxOrNormal();
+    void OnWindowSelfAdaptionBtnClicked();
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void childEvent(QChildEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    enum class State
+    {
+        Free,
+        Maximized,
+        Snapped
+    };
+
+    struct Drag
+    {
+        bool active = false;
+        Qt::Edges edges; // none: the window is moved
+        QPoint press; // on the desktop
+        QRect start; // in the screen
+        QRect pixels; // where the mouse has brought it, in the screen
+    };
+
+    bool ChangeScale(const KvGUI::StructScaleRect& rect, State state);
+    void SetState(State state);
+    void UpdateTitle();
+    Qt::Edges EdgesForMouse(const QPoint& pos) const;
+    void ShowCursorAt(const QPoint& pos);
+    KvGUI::StructScaleRect ScaleOfDrag(bool keepToCells) const;
+    void DragTo(const QPoint& globalPos, bool keepToCells);
+    void EndDrag(const QPoint& globalPos, bool keepToCells);
+
+    KvTVWallDisplayScreen* const m_pScreen;
+    KvTVWallDisplayTitleItem* m_pTitle;
+    KvTVWallDisplayVideo* m_pVideo;
+    QVariant m_userData;
+    int m_iZValue = 0;
+    KvGUI::StructScaleRect m_scale;
+    KvGUI::StructScaleRect m_restoreScale;
+    const double m_dPrecision;
+    bool m_bSelected = false;
+    bool m_bVolumeOn = false;
+    bool m_bKeyboardFocus = false; // the focus came by keyboard, so the eye has to find it
+    State m_state = State::Free;
+    QString m_strTitle;
+    QString m_strContent;
+    Drag m_drag;
+};
+
+} // namespace UICommonMdl

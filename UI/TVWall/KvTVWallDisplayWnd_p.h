@@ -1,0 +1,59 @@
+#pragma once
+
+#include "KvTVWallDisplayWnd.h"
+
+namespace UICommonMdl {
+
+class KvTVWallDisplayScreen;
+class KvTVWallDisplayWindow;
+
+/// State of the display wall, and the relay of its screens' signals: each slot looks up the sending screen's
+/// present index and emits the wall's signal with it.
+class KvTVWallDisplayWndPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit KvTVWallDisplayWndPrivate(KvTVWallDisplayWnd* wall);
+
+    KvTVWallDisplayScreen* AddScreen(const KvGUI::StructScaleRect& rect, const QVariant& userData);
+    void DeleteAllScreen();
+    /// Null for an index that names nothing.
+    KvTVWallDisplayScreen* Screen(int screen) const { return screens.value(screen); }
+    KvTVWallDisplayWindow* Window(int screen, int window) const;
+    int SelectedScreen() const; ///< lowest index of a selected screen, or -1
+    void SelectScreen(const KvTVWallDisplayScreen* selected); ///< and unselects all others
+    void PlaceScreens();
+    void SetColor(QColor& member, const QColor& color); ///< stores a colour and paints the wall again
+
+    KvTVWallDisplayWnd* const q;
+    KvTVWallDisplayWnd::SelectionMode selectionMode = KvTVWallDisplayWnd::NoSelection;
+    QList<KvTVWallDisplayScreen*> screens;
+    bool titleShow = false;
+
+    // Used where the style sheet is missing.
+    QColor windowFrameColor = QColor(127, 132, 142);
+    QColor windowSelectedFrameColor = QColor(90, 165, 242);
+    QColor windowColor = QColor(46, 49, 56);
+    QColor screenTextColor = QColor(201, 205, 213);
+    QColor bandColor = QColor(90, 165, 242);
+
+public Q_SLOTS:
+    void OnWindowCloseBtnClicked(int window);
+    void OnWindowGeoChanged(int window, const KvGUI::StructScaleRect& rect);
+    void OnWindowEvent(int window, QEvent* event);
+    void OnLabelEvent(int label, QEvent* event);
+    void OnScreenSelected();
+    void OnContextMenuRequested();
+    void OnWindowSelectedChanged();
+    void OnDrawAreaOpenWindow(const KvGUI::StructScaleRect& rect);
+    void OnScreenDropEvent(QEvent* event);
+    void OnWindowVolumeBtnClicked(int window);
+    void OnWindowDoubleClicked();
+    void OnWindow3DSite(int startX, int startY, int endX, int endY);
+
+private:
+    int SendingScreen() const; ///< index of the screen whose signal is handled, or -1
+};
+
+} // namespace UICommonMdl
