@@ -24,9 +24,18 @@ inline double Milliseconds(const std::function<void()>& work)
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
+/// Prints "name ratio (ours ms, theirs ms)" of two lists of times.
+inline void PrintMedians(const char* name, const std::vector<double>& ours, const std::vector<double>& theirs)
+{
+    const double a = MedianMilliseconds(ours);
+    const double b = MedianMilliseconds(theirs);
+    std::printf("%s %.3f (%.3f ms, %.3f ms)\n", name, a / b, a, b);
+    std::fflush(stdout);
+}
+
 /// Runs @p ours and @p theirs @p rounds times each and prints "name ratio (ours ms, theirs ms)".
-inline void Print(
-    const char* name, int rounds, const std::function<void()>& ours, const std::function<void()>& theirs)
+inline void
+Print(const char* name, int rounds, const std::function<void()>& ours, const std::function<void()>& theirs)
 {
     std::vector<double> oursTimes;
     std::vector<double> theirsTimes;
@@ -34,10 +43,7 @@ inline void Print(
         oursTimes.push_back(Milliseconds(ours));
         theirsTimes.push_back(Milliseconds(theirs));
     }
-    const double a = MedianMilliseconds(oursTimes);
-    const double b = MedianMilliseconds(theirsTimes);
-    std::printf("%s %.3f (%.3f ms, %.3f ms)\n", name, a / b, a, b);
-    std::fflush(stdout);
+    PrintMedians(name, oursTimes, theirsTimes);
 }
 
 } // namespace Ratio

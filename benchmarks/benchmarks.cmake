@@ -1,0 +1,1 @@
+uicomponents_benchmark(bench_wall bench_wall.cpp)
