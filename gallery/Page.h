@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+#include <QWidget>
+#include <functional>
+
+namespace OperatorClient {
+
+/// A page of the main window.
+class Page : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// A state of the page that is worth a screenshot.
+    struct Picture
+    {
+        QString suffix; ///< of the file name; empty for the page as it opens
+        std::function<void()> enter; ///< brings the page into the state, whatever the one before
+    };
+
+    using QWidget::QWidget;
+
+    virtual QString Title() const = 0; ///< in the list of pages
+    virtual QString Name() const = 0; ///< of its screenshots: lower-case letters and "-"
+    /// At least one; without suffix the page as it opens.
+    virtual QVector<Picture> Pictures()
+    {
+        return {{QString(), [] {}}};
+    }
+
+Q_SIGNALS:
+    void SignalReport(const QString& text); ///< one line for the status bar
+};
+
+} // namespace OperatorClient

@@ -1,0 +1,46 @@
+#include <gallery/Pictures/CameraTile.h>
+
+#include <gallery/Pictures/FrameClock.h>
+
+#include <QPainter>
+
+namespace OperatorClient {
+
+CameraTile::CameraTile(std::shared_ptr<FrameSource> source, FrameClock& clock, QWidget* parent)
+    : QWidget(parent)
+    , m_pSource(std::move(source))
+    , m_clock(clock)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(m_pSource->Title());
+    m_clock.Add(this);
+}
+
+CameraTile::~CameraTile() { m_clock.Remove(this); }
+
+void CameraTile::SetSource(std::shared_ptr<FrameSource> source)
+{
+    m_pSource = std::move(source);
+    setAccessibleName(m_pSource->Title());
+    update();
+}
+
+bool CameraTile::CanBeSeen() const { return isVisible() && !visibleRegion().isEmpty(); }
+
+void CameraTile::Refresh(const QDateTime& now)
+{
+    if (m_pSource->FrameNumber(now) != m_iPainted)
+        update();
+}
+
+void CameraTile::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    const QDateTime now = m_clock.Now();
+    m_iPainted = m_pSource->FrameNumber(now);
+    QPainter painter(this);
+    m_pSource->Paint(painter, rect(), now);
+}
+
+} // namespace OperatorClient

@@ -1,0 +1,101 @@
+#include <gallery/Pictures/VideoFile.h>
+
+#include <gallery/Pictures/PictureFit.h>
+
+#include <QFileInfo>
+#include <QPainter>
+#include <QTimer>
+#include <QUrl>
+
+namespace OperatorClient {
+
+VideoFile::VideoFile(const QString& path)
+    : m_strPath(path)
+{
+    const QFileInfo file(path);
+    if (!file.isFile() || !file.isReadable())
+        Fail(tr("There is no such file, or it may not be read."));
+    else
+        Start();
+}
+
+VideoFile::~VideoFile()
+{
+    // The player must not present a frame to a sink that is gone.
+    delete m_pPlayer;
+}
+
+void VideoFile::Start()
+{
+    m_pPlayer = new QMediaPlayer(this, QMediaPlayer::VideoSurface);
+    if (!m_pPlayer->isAvailable()) {
+        Fail(tr("No media player is installed."));
+        return;
+    }
+    connect(m_pPlayer, &QMediaPlayer::mediaStatusChanged, this, &VideoFile::OnMediaStatusChanged);
+    connect(m_pPlayer, QOverload<QMediaPlayer::Error>::of(&QMediaPlayer::error), this, [this] {
+        Fail(m_pPlayer->errorString());
+    });
+    m_pPlayer->setVideoOutput(&m_sink);
+    m_pPlayer->setMuted(true);
+    m_pPlayer->setMedia(QUrl::fromLocalFile(QFileInfo(m_strPath).absoluteFilePath()));
+    m_pPlayer->play();
+}
+
+void VideoFile::Fail(const QString& reason)
+{
+    m_strError = reason.isEmpty() ? tr("It cannot be played.") : reason;
+}
+
+void VideoFile::OnMediaStatusChanged(QMediaPlayer::MediaStatus status)
+{
+    if (status == QMediaPlayer::InvalidMedia)
+        Fail(m_pPlayer->errorString());
+    else if (status == QMediaPlayer::EndOfMedia)
+        QTimer::singleShot(0, this, &VideoFile::PlayAgain);
+}
+
+void VideoFile::PlayAgain()
+{
+    // A file without a single picture would start over without end.
+    if (m_sink.FrameCount() == m_iFramesAtStart) {
+        Fail(tr("It holds no pictures."));
+        return;
+    }
+    m_iFramesAtStart = m_sink.FrameCount();
+    m_pPlayer->setPosition(0);
+    m_pPlayer->play();
+}
+
+QString VideoFile::Title() const { return QFileInfo(m_strPath).fileName(); }
+
+qint64 VideoFile::FrameNumber(const QDateTime& now) const
+{
+    Q_UNUSED(now)
+    return m_strError.isEmpty() ? m_sink.FrameCount() : -1;
+}
+
+bool VideoFile::IsReady() const { return m_sink.FrameCount() > 0 || !m_strError.isEmpty(); }
+
+void VideoFile::SetAudible(bool bAudible)
+{
+    if (m_pPlayer)
+        m_pPlayer->setMuted(!bAudible);
+}
+
+void VideoFile::Paint(QPainter& painter, const QRect& area, const QDateTime& now)
+{
+    Q_UNUSED(now)
+    if (!m_strError.isEmpty()) {
+        PaintMessage(painter, area, tr("%1\nThe video cannot be shown: %2").arg(Title(), m_strError));
+        return;
+    }
+    PaintNoPicture(painter, area);
+    const QImage picture = m_sink.Picture();
+    if (picture.isNull())
+        return;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(FitInside(picture.size(), area), picture);
+}
+
+} // namespace OperatorClient

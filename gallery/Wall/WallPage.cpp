@@ -1,0 +1,257 @@
+#include <gallery/Wall/WallPage.h>
+
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <Platform/BasicUIComponents/KvSkinNotifier.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QImageReader>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+
+namespace OperatorClient {
+
+namespace {
+
+using Command = WallToolBar::Command;
+
+constexpr int SaveDelay = 300; // milliseconds after the last change
+
+QString PictureFilter()
+{
+    QStringList patterns;
+    for (const QByteArray& format : QImageReader::supportedImageFormats())
+        patterns << QStringLiteral("*.") + QString::fromLatin1(format);
+    return WallPage::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
+}
+
+QString VideoFilter()
+{
+    return WallPage::tr("Videos (%1)")
+               .arg(QStringLiteral("*.avi *.mkv *.mov *.mp4 *.mpg *.ogg *.ogv *.ts *.webm"))
+        + QStringLiteral(";;") + WallPage::tr("All files (*)");
+}
+
+/// Presses, moves and releases the left button as an operator would.
+void Drag(QWidget& wall, const QPoint& from, const QPoint& to)
+{
+    QWidget* target = wall.childAt(from);
+    if (!target)
+        return;
+    const auto send
+        = [&](QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held) {
+              QMouseEvent event(
+                  type, target->mapFrom(&wall, at), wall.mapToGlobal(at), button, held, Qt::NoModifier);
+              QApplication::sendEvent(target, &event);
+          };
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+}
+
+} // namespace
+
+WallPage::WallPage(
+    SourcePool& pool, FrameClock& clock, const WallLayoutFile& file, const WallLayout& layout,
+    const QVector<SourceSpec>& files, QWidget* parent)
+    : Page(parent)
+    , m_file(file)
+    , m_start(layout)
+    , m_files(files)
+    , m_pTools(new WallToolBar(this))
+    , m_pCameras(new CameraWall(pool, clock, this))
+{
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(m_pTools);
+    all->addWidget(m_pCameras, 1);
+    m_saveSoon.setSingleShot(true);
+    m_saveSoon.setInterval(SaveDelay);
+    connect(&m_saveSoon, &QTimer::timeout, this, &WallPage::Save);
+
+    ConnectTools();
+    ConnectScreenTools();
+    connect(m_pCameras, &CameraWall::SignalReport, this, &Page::SignalReport);
+    connect(m_pCameras, &CameraWall::SignalMenuWanted, this, &WallPage::ShowMenu);
+    connect(m_pCameras, &CameraWall::SignalScreenSelected, this, &WallPage::ShowScreenStates);
+    ShowStart();
+    connect(m_pCameras, &CameraWall::SignalChanged, &m_saveSoon, QOverload<>::of(&QTimer::start));
+    connect(
+        KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, &m_saveSoon,
+        QOverload<>::of(&QTimer::start));
+    m_saveSoon.start();
+}
+
+WallPage::~WallPage()
+{
+    if (m_saveSoon.isActive())
+        Save();
+}
+
+QString WallPage::Title() const { return tr("Video wall"); }
+
+QString WallPage::Name() const { return QStringLiteral("wall"); }
+
+void WallPage::On(Command command, const std::function<void(bool)>& act)
+{
+    connect(m_pTools->Action(command), &QAction::triggered, this, act);
+}
+
+void WallPage::ConnectTools()
+{
+    connect(m_pTools, &WallToolBar::SignalGridChanged, m_pCameras, &CameraWall::SetGrid);
+    On(Command::AddScreen, [this](bool) {
+        Q_EMIT SignalReport(m_pCameras->AddScreen() ? tr("Screen added") : tr("The grid has no free cell"));
+    });
+    On(Command::FillGrid, [this](bool) {
+        const int added = m_pCameras->FillGrid();
+        Q_EMIT SignalReport(
+            added > 0 ? tr("%n screen(s) added", nullptr, added) : tr("The grid has no free cell"));
+    });
+    On(Command::RemoveAll, [this](bool) {
+        m_pCameras->RemoveAll();
+        Q_EMIT SignalReport(tr("All screens removed"));
+    });
+    On(Command::Gutter, [this](bool checked) { m_pCameras->SetGutter(checked); });
+    On(Command::OpenWindow, [this](bool) {
+        if (m_pCameras->OpenWindowSomewhere() < 0)
+            Q_EMIT SignalReport(tr("There is no screen to open a window on"));
+    });
+    On(Command::OpenPhoto, [this](bool) { OpenFile(tr("Open a picture file"), PictureFilter(), false); });
+    On(Command::OpenVideo, [this](bool) { OpenFile(tr("Open a video file"), VideoFilter(), true); });
+    On(Command::Titles, [this](bool checked) { m_pCameras->SetTitles(checked); });
+    On(Command::SelectNone, [this](bool) { m_pCameras->SetSelectionMode(WallWidget::NoSelection); });
+    On(Command::SelectOne, [this](bool) { m_pCameras->SetSelectionMode(WallWidget::SingleSelection); });
+    On(Command::SelectMany, [this](bool) { m_pCameras->SetSelectionMode(WallWidget::MultiSelection); });
+    On(Command::Raise, [this](bool) { m_pCameras->StackSelected(true); });
+    On(Command::Lower, [this](bool) { m_pCameras->StackSelected(false); });
+    On(Command::CloseSelected, [this](bool) { m_pCameras->CloseSelected(); });
+    On(Command::Skin, [this](bool) { ChangeSkin(); });
+}
+
+void WallPage::ConnectScreenTools()
+{
+    WallWidget* wall = m_pCameras->Wall();
+    On(Command::Overlays,
+       [=](bool checked) { m_pCameras->SetOverlays(wall->GetSelectedScreenIndex(), checked); });
+    On(Command::BaseMap,
+       [=](bool checked) { m_pCameras->SetBaseMap(wall->GetSelectedScreenIndex(), checked); });
+    On(Command::Positioning,
+       [=](bool checked) { m_pCameras->SetPositioning(wall->GetSelectedScreenIndex(), checked); });
+}
+
+void WallPage::ShowStart()
+{
+    m_pCameras->SetWaitingFiles(m_files);
+    m_pCameras->Apply(m_start);
+    m_pCameras->ShowWaitingFiles();
+    ShowStates();
+}
+
+void WallPage::ShowStates()
+{
+    const WallLayout layout = m_pCameras->Layout();
+    const Command modes[] = {Command::SelectNone, Command::SelectOne, Command::SelectMany};
+    m_pTools->ShowGrid(layout.rows, layout.columns);
+    m_pTools->Action(Command::Gutter)->setChecked(layout.gutter);
+    m_pTools->Action(Command::Titles)->setChecked(layout.titles);
+    m_pTools->Action(modes[qBound(0, layout.selectionMode, 2)])->setChecked(true);
+    ShowScreenStates();
+}
+
+void WallPage::ShowScreenStates()
+{
+    const int screen = m_pCameras->Wall()->GetSelectedScreenIndex();
+    const ScreenNote note = m_pCameras->Note(screen);
+    const auto show = [&](Command command, bool checked) {
+        m_pTools->Action(command)->setEnabled(screen >= 0);
+        m_pTools->Action(command)->setChecked(checked);
+    };
+    show(Command::Overlays, note.overlays);
+    show(Command::BaseMap, note.baseMap);
+    show(Command::Positioning, note.positioning);
+}
+
+void WallPage::ShowMenu(int screen)
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(tr("New window filling the screen"), this, [=] {
+        m_pCameras->OpenWindow(screen, KvGUI::StructScaleRect{0, 0, 1, 1, true});
+    });
+    menu->addAction(tr("Snap all windows"), this, [=] { m_pCameras->SnapWindows(screen); });
+    menu->addAction(tr("Close all windows"), this, [=] { m_pCameras->CloseWindows(screen); });
+    menu->addSeparator();
+    const ScreenNote note = m_pCameras->Note(screen);
+    const auto addSwitch = [&](const QString& text, bool checked, void (CameraWall::*set)(int, bool)) {
+        QAction* action = menu->addAction(text);
+        action->setCheckable(true);
+        action->setChecked(checked);
+        connect(action, &QAction::triggered, this, [=](bool on) {
+            (m_pCameras->*set)(screen, on);
+            ShowScreenStates();
+        });
+    };
+    addSwitch(tr("Text overlays"), note.overlays, &CameraWall::SetOverlays);
+    addSwitch(tr("Base map"), note.baseMap, &CameraWall::SetBaseMap);
+    menu->popup(QCursor::pos());
+}
+
+void WallPage::OpenFile(const QString& title, const QString& filter, bool video)
+{
+    const QString path = QFileDialog::getOpenFileName(this, title, QString(), filter);
+    if (path.isEmpty())
+        return;
+    const SourceSpec source = video ? SourceSpec::Video(path) : SourceSpec::Photo(path);
+    m_pCameras->OpenWindowSomewhere(&source);
+}
+
+void WallPage::ChangeSkin()
+{
+    const bool dark = KvGUI::GetSkinVersion() == QLatin1String("Black");
+    KvGUI::SetSkinVersion(dark ? QStringLiteral("White") : QStringLiteral("Black"));
+}
+
+void WallPage::Save()
+{
+    m_saveSoon.stop();
+    WallLayout layout = m_pCameras->Layout();
+    layout.skin = KvGUI::GetSkinVersion();
+    m_file.Write(layout);
+}
+
+QVector<Page::Picture> WallPage::Pictures()
+{
+    return {
+        {QString(), [this] { ShowStart(); }},
+        {QStringLiteral("overlays"), [this] { EnterOverlays(); }},
+        {QStringLiteral("selection"), [this] { EnterSelection(); }}};
+}
+
+void WallPage::EnterOverlays()
+{
+    ShowStart();
+    for (const int screen : {2, 3}) {
+        m_pCameras->SetOverlays(screen, true);
+        m_pCameras->SetBaseMap(screen, true);
+    }
+    m_pCameras->Wall()->SetSelectedScreenIndex(2);
+    ShowScreenStates();
+}
+
+void WallPage::EnterSelection()
+{
+    ShowStart();
+    m_pCameras->SetSelectionMode(WallWidget::MultiSelection);
+    ShowStates();
+    // A band from the free lower left corner of the third screen over two of its windows.
+    const QSize wall = m_pCameras->Wall()->size();
+    Drag(
+        *m_pCameras->Wall(), QPoint(wall.width() / 50, wall.height() * 49 / 50),
+        QPoint(wall.width() / 4, wall.height() * 7 / 10));
+}
+
+} // namespace OperatorClient

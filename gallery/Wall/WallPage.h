@@ -1,0 +1,51 @@
+#pragma once
+
+#include <gallery/Page.h>
+#include <gallery/Wall/CameraWall.h>
+#include <gallery/Wall/WallLayoutFile.h>
+#include <gallery/Wall/WallToolBar.h>
+
+namespace OperatorClient {
+
+/// The video wall with its tool bar. The wall is saved a moment after each change, and at the end.
+class WallPage : public Page
+{
+    Q_OBJECT
+
+public:
+    /// @param layout the wall to begin with
+    /// @param files shown in the first windows, and in new ones when there are more files than windows
+    WallPage(
+        SourcePool& pool, FrameClock& clock, const WallLayoutFile& file, const WallLayout& layout,
+        const QVector<SourceSpec>& files, QWidget* parent = nullptr);
+    ~WallPage() override;
+
+    QString Title() const override;
+    QString Name() const override;
+    QVector<Picture> Pictures() override;
+
+    CameraWall* Cameras() const { return m_pCameras; }
+
+private:
+    void ConnectTools();
+    void ConnectScreenTools();
+    void On(WallToolBar::Command command, const std::function<void(bool checked)>& act);
+    void ShowStart();
+    void ShowStates();
+    void ShowScreenStates();
+    void ShowMenu(int screen);
+    void OpenFile(const QString& title, const QString& filter, bool video);
+    void ChangeSkin();
+    void Save();
+    void EnterOverlays();
+    void EnterSelection();
+
+    const WallLayoutFile m_file;
+    const WallLayout m_start;
+    const QVector<SourceSpec> m_files;
+    WallToolBar* m_pTools;
+    CameraWall* m_pCameras;
+    QTimer m_saveSoon;
+};
+
+} // namespace OperatorClient

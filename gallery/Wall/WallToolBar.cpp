@@ -1,0 +1,150 @@
+#include <gallery/Wall/WallToolBar.h>
+
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <gallery/SkinIcon.h>
+#include <gallery/Wall/WallLayout.h>
+
+#include <QAction>
+#include <QActionGroup>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+namespace OperatorClient {
+
+namespace {
+
+using Command = WallToolBar::Command;
+
+/// Which commands stand together; a separator goes before each first one.
+struct CommandEntry
+{
+    Command command;
+    const char* icon;
+    const char* text;
+    const char* tip;
+    const char* shortcut;
+    bool checkable;
+    bool first;
+};
+
+// clang-format off
+const CommandEntry Entries[] = {
+    {Command::AddScreen, "AddScreen", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen on the first free cell of the grid"), "Ctrl+M", false, true},
+    {Command::FillGrid, "FillGrid", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Fill the grid"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen on every free cell of the grid"), "Ctrl+Shift+M", false, false},
+    {Command::RemoveAll, "RemoveAll", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Remove all screens"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Remove all screens with their windows"), "Ctrl+Shift+Del", false, false},
+    {Command::Gutter, "Gutter", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Gutter"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Leave a gutter between the screens"), "Ctrl+G", true, false},
+    {Command::OpenWindow, "Area", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a window"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a window on the selected screen"), "Ctrl+N", false, true},
+    {Command::OpenPhoto, "OpenPhoto", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a picture file"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show a picture file in a new window"), "Ctrl+P", false, false},
+    {Command::OpenVideo, "OpenVideo", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a video file"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show a video file in a new window"), "Ctrl+O", false, false},
+    {Command::Titles, "Titles", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Window titles"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show titles on windows opened from now on"), "Ctrl+T", true, false},
+    {Command::SelectNone, "SelectionNone", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select nothing"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Clicks select no window; drag over a screen to open one"), "Ctrl+1", true, true},
+    {Command::SelectOne, "SelectionSingle", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select one window"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "A click selects one window; drag over a screen to open one"), "Ctrl+2", true, false},
+    {Command::SelectMany, "SelectionMultiple", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select many windows"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Clicks and a drag over a screen select windows"), "Ctrl+3", true, false},
+    {Command::Raise, "Raise", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Raise"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Raise the selected windows above the others"), "Ctrl+Up", false, true},
+    {Command::Lower, "Lower", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Lower"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Lower the selected windows below the others"), "Ctrl+Down", false, false},
+    {Command::CloseSelected, "CloseSelected", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Close selected windows"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Close the selected windows"), "Del", false, false},
+    {Command::Overlays, "Overlays", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Text overlays"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show texts on the selected screen"), "Ctrl+L", true, true},
+    {Command::BaseMap, "BaseMap", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Base map"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show the site map behind the windows of the selected screen"), "Ctrl+B", true, false},
+    {Command::Positioning, "Positioning3D", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "3D positioning"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Draw 3D-positioning frames over the windows of the selected screen"), "Ctrl+D", true, false},
+    {Command::Skin, "SkinLight", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change the skin"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change between the dark and the light skin"), "Ctrl+K", false, true},
+};
+// clang-format on
+
+} // namespace
+
+WallToolBar::WallToolBar(QWidget* parent)
+    : QToolBar(parent)
+{
+    setAccessibleName(tr("Wall tools"));
+    setIconSize(QSize(20, 20));
+    setMovable(false);
+    AddGridBoxes();
+    AddCommands();
+    LoadIcons();
+    connect(
+        KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, this,
+        &WallToolBar::LoadIcons);
+}
+
+QSpinBox* WallToolBar::AddGridBox(const QString& name, const QString& tip)
+{
+    auto* box = new QSpinBox(this);
+    box->setRange(1, WallLayout::MaxGrid);
+    box->setAccessibleName(name);
+    box->setToolTip(tip);
+    box->setKeyboardTracking(false);
+    addWidget(box);
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] {
+        Q_EMIT SignalGridChanged(m_pRows->value(), m_pColumns->value());
+    });
+    return box;
+}
+
+void WallToolBar::AddGridBoxes()
+{
+    m_pGridIcon = new QLabel(this);
+    m_pGridIcon->setContentsMargins(4, 0, 6, 0);
+    addWidget(m_pGridIcon);
+    m_pRows = AddGridBox(tr("Rows of the grid"), tr("Rows of the wall's grid"));
+    auto* times = new QLabel(QStringLiteral("\u00d7"), this);
+    times->setContentsMargins(4, 0, 4, 0);
+    addWidget(times);
+    m_pColumns = AddGridBox(tr("Columns of the grid"), tr("Columns of the wall's grid"));
+}
+
+void WallToolBar::AddCommands()
+{
+    auto* modes = new QActionGroup(this);
+    for (const CommandEntry& entry : Entries) {
+        if (entry.first)
+            addSeparator();
+        QAction* action = addAction(tr(entry.text));
+        const QKeySequence shortcut(QString::fromLatin1(entry.shortcut));
+        action->setShortcut(shortcut);
+        action->setToolTip(
+            QStringLiteral("%1 (%2)").arg(tr(entry.tip), shortcut.toString(QKeySequence::NativeText)));
+        action->setCheckable(entry.checkable);
+        m_actions.insert(entry.command, action);
+    }
+    for (const Command command : {Command::SelectNone, Command::SelectOne, Command::SelectMany})
+        modes->addAction(Action(command));
+}
+
+void WallToolBar::LoadIcons()
+{
+    for (const CommandEntry& entry : Entries)
+        Action(entry.command)->setIcon(SkinIcon(QString::fromLatin1(entry.icon)));
+    const bool dark = KvGUI::GetSkinVersion() == QLatin1String("Black");
+    Action(Command::Skin)->setIcon(SkinIcon(dark ? QStringLiteral("SkinLight") : QStringLiteral("SkinDark")));
+    m_pGridIcon->setPixmap(SkinIcon(QStringLiteral("GridSize")).pixmap(window()->windowHandle(), iconSize()));
+}
+
+void WallToolBar::ShowGrid(int rows, int columns)
+{
+    const QSignalBlocker rowsBlocker(m_pRows);
+    const QSignalBlocker columnsBlocker(m_pColumns);
+    m_pRows->setValue(rows);
+    m_pColumns->setValue(columns);
+}
+
+} // namespace OperatorClient
