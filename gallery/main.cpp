@@ -32,8 +32,13 @@ int Run(const ClientOptions& options)
 
     SourcePool pool;
     FrameClock clock;
-    if (pictures)
+    if (pictures) {
         clock.Freeze(PictureMoment);
+        // Without a desktop the font is any size.
+        QFont font = QApplication::font();
+        font.setPixelSize(13);
+        QApplication::setFont(font);
+    }
     const WallLayoutFile file(layoutFile);
     const WallLayout layout = file.Read().value_or(FirstWall());
     KvGUI::SetSkinVersion(options.skin.isEmpty() ? layout.skin : options.skin);

@@ -31,7 +31,8 @@ DrawnCamera::DrawnCamera(int number)
 
 QString DrawnCamera::Title() const
 {
-    return QStringLiteral("%1 %2").arg(m_iNumber, 2, 10, QLatin1Char('0')).arg(m_scene.name);
+    const int round = (m_iNumber - 1) / SceneCount() + 1;
+    return round == 1 ? m_scene.name : QStringLiteral("%1 %2").arg(m_scene.name).arg(round);
 }
 
 qint64 DrawnCamera::FrameNumber(const QDateTime& now) const { return now.toMSecsSinceEpoch(); }
@@ -69,7 +70,9 @@ void DrawnCamera::PaintText(QPainter& painter, const QRect& area, const QDateTim
     const QRect text = area.adjusted(8, 5, -8, -5);
     PaintOutlined(
         painter, text, Qt::AlignLeft | Qt::AlignTop, now.toString(QStringLiteral("yyyy-MM-dd  hh:mm:ss")));
-    PaintOutlined(painter, text, Qt::AlignLeft | Qt::AlignBottom, Title());
+    PaintOutlined(
+        painter, text, Qt::AlignLeft | Qt::AlignBottom,
+        QStringLiteral("C%1  %2").arg(m_iNumber, 2, 10, QLatin1Char('0')).arg(Title()));
 }
 
 void DrawnCamera::Paint(QPainter& painter, const QRect& area, const QDateTime& now)

@@ -24,10 +24,10 @@ KvGUI::StructOSDInfo Standing()
     info.iBackG = 56;
     info.iBackB = 96;
     info.iLeft = Whole * 3 / 100;
-    info.iTop = Whole * 8 / 100;
-    info.iRight = Whole * 40 / 100;
-    info.iBottom = Whole * 24 / 100;
-    info.iFontPercent = 62;
+    info.iTop = Whole * 71 / 100;
+    info.iRight = Whole * 27 / 100;
+    info.iBottom = Whole * 84 / 100;
+    info.iFontPercent = 58;
     info.iAlign = 1;
     info.strFontName = "simHei";
     info.strText = Translated(QT_TRANSLATE_NOOP("OperatorClient::SampleOverlays", "North gate\nSector A"));

@@ -33,7 +33,7 @@ void PaintParkedCars(QPainter& painter)
         {7, false, QColor(120, 126, 134)}, {8, false, QColor(54, 84, 128)}};
     for (const Parked& car : cars) {
         const QPointF centre(80 + BayWidth * (car.bay + 0.5), car.upper ? UpperRow : LowerRow);
-        PaintCarFromAbove(painter, centre, car.upper ? 90 : -90, car.color, false);
+        PaintCarFromAbove(painter, centre, car.upper ? 90 : -90, car.color);
     }
 }
 
@@ -47,7 +47,6 @@ void PaintStill(QPainter& painter)
     FillRect(painter, QRectF(0, 880, 1600, 20), QColor(150, 152, 150));
     PaintBays(painter, 118, 340);
     PaintBays(painter, 650, 872);
-    painter.setPen(QPen(QColor(206, 209, 212), 6, Qt::CustomDashLine));
     QPen dashes(QColor(214, 216, 218, 170), 6);
     dashes.setDashPattern({9, 9});
     painter.setPen(dashes);
@@ -58,9 +57,9 @@ void PaintStill(QPainter& painter)
 void PaintMoving(QPainter& painter, double seconds)
 {
     const double right = -250 + 2100 * Phase(seconds, 21);
-    PaintCarFromAbove(painter, QPointF(right, 570), 0, QColor(176, 60, 48), true);
+    PaintCarFromAbove(painter, QPointF(right, 570), 0, QColor(176, 60, 48));
     const double left = 1850 - 2100 * Phase(seconds + 9, 29);
-    PaintCarFromAbove(painter, QPointF(left, 420), 180, QColor(214, 216, 219), true);
+    PaintCarFromAbove(painter, QPointF(left, 420), 180, QColor(214, 216, 219));
     const double walk = 1700 - 1800 * Phase(seconds + 20, 46);
     PaintPerson(painter, QPointF(walk, 652), 118, seconds * 1.7, QColor(150, 118, 62));
 }

@@ -85,13 +85,13 @@ void PaintLight(QPainter& painter, QPointF at, bool green)
 void PaintMoving(QPainter& painter, double seconds)
 {
     const double east = Travelled(seconds, 0, 690);
-    PaintCarFromAbove(painter, QPointF(-280 + east, EastLane), 0, QColor(58, 92, 142), true);
+    PaintCarFromAbove(painter, QPointF(-280 + east, EastLane), 0, QColor(58, 92, 142));
     const double west = Travelled(seconds, 1.2, 690);
-    PaintCarFromAbove(painter, QPointF(1880 - west, WestLane), 180, QColor(198, 200, 202), true);
+    PaintCarFromAbove(painter, QPointF(1880 - west, WestLane), 180, QColor(198, 200, 202));
     const double north = Travelled(seconds, 13, 320);
-    PaintCarFromAbove(painter, QPointF(NorthLane, 1130 - north), -90, QColor(152, 52, 44), true);
+    PaintCarFromAbove(painter, QPointF(NorthLane, 1130 - north), -90, QColor(152, 52, 44));
     const double south = Travelled(seconds, 14.5, 320);
-    PaintCarFromAbove(painter, QPointF(SouthLane, -230 + south), 90, QColor(72, 76, 82), true);
+    PaintCarFromAbove(painter, QPointF(SouthLane, -230 + south), 90, QColor(72, 76, 82));
     const double inCycle = Phase(seconds, Cycle) * Cycle;
     PaintLight(painter, QPointF(578, 652), inCycle < 10);
     PaintLight(painter, QPointF(1022, 248), inCycle < 10);

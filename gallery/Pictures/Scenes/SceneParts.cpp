@@ -56,19 +56,11 @@ void FillGraded(QPainter& painter, const QRectF& rect, const QColor& top, const 
     painter.fillRect(rect, gradient);
 }
 
-void PaintCarFromAbove(QPainter& painter, QPointF centre, double degrees, const QColor& color, bool lights)
+void PaintCarFromAbove(QPainter& painter, QPointF centre, double degrees, const QColor& color)
 {
     painter.save();
     painter.translate(centre);
     painter.rotate(degrees);
-    if (lights) {
-        QLinearGradient beam(90, 0, 330, 0);
-        beam.setColorAt(0, QColor(255, 250, 225, 70));
-        beam.setColorAt(1, QColor(255, 250, 225, 0));
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(beam);
-        painter.drawPolygon(QPolygonF({{92, -36}, {330, -95}, {330, 95}, {92, 36}}));
-    }
     FillRounded(painter, QRectF(-92, -40, 192, 92), 26, QColor(0, 0, 0, 70));
     FillRounded(painter, QRectF(-98, -45, 196, 90), 26, color);
     FillRounded(painter, QRectF(-66, -37, 118, 74), 18, QColor(28, 34, 42));

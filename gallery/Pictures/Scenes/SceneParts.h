@@ -32,8 +32,7 @@ void FillGraded(QPainter& painter, const QRectF& rect, const QColor& top, const 
 /// A car seen from above.
 /// @param centre its middle
 /// @param degrees where its nose points, clockwise, 0 is to the right
-/// @param lights whether its headlights are on
-void PaintCarFromAbove(QPainter& painter, QPointF centre, double degrees, const QColor& color, bool lights);
+void PaintCarFromAbove(QPainter& painter, QPointF centre, double degrees, const QColor& color);
 
 /// A walking person seen from the side.
 /// @param feet the point between the feet
