@@ -29,7 +29,12 @@ public:
 
     int WholeCharacters(int position) const { return IsInsidePair(position) ? position - 1 : position; }
 
-    bool IsHighSurrogate(int position) const { return m_text.at(position).isHighSurrogate(); }
+    /// True when what becomes of the unit at @p position depends on the next one. Some codecs hold back
+    /// a surrogate that ends the text, others write a "?" for it.
+    bool NeedsItsSuccessor(int position) const
+    {
+        return m_text.at(position).isSurrogate() && !IsInsidePair(position);
+    }
 
 private:
     const QString& m_text;
@@ -86,8 +91,8 @@ QString CutToByteBudget(const QString& text, int maxBytes, TextEncoding encoding
         if (stop == end)
             break;
         begin = stop;
-        if (counter.IsHighSurrogate(stop - 1)) {
-            // What becomes of it depends on the next unit: count it again with the next block.
+        if (counter.NeedsItsSuccessor(stop - 1)) {
+            // It is counted again with the next block.
             --begin;
             bytes -= counter.Count(begin, stop);
         }

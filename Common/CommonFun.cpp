@@ -16,6 +16,10 @@ namespace {
 /// Bytes of the first line that tell whether a file has data.
 constexpr int kProbeLength = 10;
 
+/// What the user of this process may do with a file. The administrator may do all, which says nothing
+/// about the file.
+constexpr auto kMyPermissions = QFileDevice::ReadUser | QFileDevice::WriteUser | QFileDevice::ExeUser;
+
 QString ClassSheetName(const QWidget* widget)
 {
     const QString className = QString::fromUtf8(widget->metaObject()->className());
@@ -44,11 +48,12 @@ void ReplaceByCopy(const QString& source, const QString& target)
 
     // A read-only file is replaced like any other.
     if (QFile::exists(target))
-        QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
+        QFile::setPermissions(
+            target, (QFile::permissions(target) & ~kMyPermissions) | QFileDevice::WriteOwner);
     QSaveFile copy(target);
     if (!copy.open(QIODevice::WriteOnly) || copy.write(bytes) != bytes.size())
         return;
-    copy.setPermissions(original.permissions());
+    copy.setPermissions(original.permissions() & ~kMyPermissions);
     copy.commit();
 }
 

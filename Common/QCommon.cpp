@@ -155,7 +155,10 @@ QSize QCommon::StringToSize(QString text)
 QColor QCommon::StringToColor(QString text)
 {
     const QList<int> numbers = ReadNumbers(text, 3);
-    return numbers.isEmpty() ? QColor() : QColor(numbers.at(0), numbers.at(1), numbers.at(2));
+    if (numbers.isEmpty())
+        return {};
+    const QColor colour(numbers.at(0), numbers.at(1), numbers.at(2));
+    return colour.isValid() ? colour : QColor();
 }
 
 int QCommon::isDigitStr(QString s)

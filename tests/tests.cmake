@@ -4,3 +4,11 @@ find_package(Python3 COMPONENTS Interpreter REQUIRED)
 # told apart, and images that a sheet names but nothing makes.
 add_test(NAME skins-up-to-date
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/Resources/make-skins.py" --check)
+uicomponents_test(tst_kvl tst_kvl.cpp)
+uicomponents_test(tst_sequence tst_sequence.cpp)
+uicomponents_test(tst_inifiles tst_inifiles.cpp)
+uicomponents_test(tst_daylight tst_daylight.cpp)
+uicomponents_test(tst_strings tst_strings.cpp INTERNAL)
+qt5_add_resources(test_skin skin/skin.qrc)
+uicomponents_test(tst_skin tst_skin.cpp ${test_skin})
+target_compile_definitions(tst_skin PRIVATE SKIN_SOURCES="${CMAKE_CURRENT_SOURCE_DIR}/skin")

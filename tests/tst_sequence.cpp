@@ -1,0 +1,107 @@
+#include "support/StrictMain.h"
+
+#include <Common/COperSequence.h>
+#include <Common/CRecordColorManager.h>
+#include <QtTest>
+#include <atomic>
+#include <thread>
+#include <vector>
+
+using UICommonMdl::COperSequence;
+
+class TestSequence : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void AnswerIsExpectedOnce();
+    void DuplicatesAreForgottenOneByOne();
+    void ClearForgetsAll();
+    void EachAnswerGoesToOneThread();
+    void RecordColoursAreAssigned();
+};
+
+/// Catches a number that stays outstanding after its answer, and an answer that removes another number.
+void TestSequence::AnswerIsExpectedOnce()
+{
+    COperSequence sequence;
+    QVERIFY(!sequence.HasSeqIn(5));
+    sequence.InsertSeq(4);
+    sequence.InsertSeq(5);
+    sequence.InsertSeq(6);
+    QVERIFY(sequence.HasSeqIn(5));
+    QVERIFY(!sequence.HasSeqIn(5));
+    QVERIFY(sequence.HasSeqIn(6));
+    QVERIFY(sequence.HasSeqIn(4));
+}
+
+/// Catches a removal of all equal numbers at once, and a set in place of a list.
+void TestSequence::DuplicatesAreForgottenOneByOne()
+{
+    COperSequence sequence;
+    sequence.ClearSeq(7);
+    sequence.InsertSeq(7);
+    sequence.InsertSeq(7);
+    sequence.InsertSeq(7);
+    sequence.ClearSeq(7);
+    QVERIFY(sequence.HasSeqIn(7));
+    QVERIFY(sequence.HasSeqIn(7));
+    QVERIFY(!sequence.HasSeqIn(7));
+}
+
+/// Catches a Clear() that leaves a number behind.
+void TestSequence::ClearForgetsAll()
+{
+    COperSequence sequence;
+    for (int i = 0; i < 10; ++i)
+        sequence.InsertSeq(i);
+    sequence.Clear();
+    for (int i = 0; i < 10; ++i)
+        QVERIFY(!sequence.HasSeqIn(i));
+}
+
+/// Catches a find and remove in two steps: two threads would be told true for one request, or a number
+/// would be lost. The thread sanitizer sees an unlocked list here.
+void TestSequence::EachAnswerGoesToOneThread()
+{
+    constexpr int kThreads = 4;
+    constexpr int kNumbers = 1000;
+    COperSequence sequence;
+    std::atomic<int> expected{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < kThreads; ++t) {
+        threads.emplace_back([&sequence, &expected] {
+            for (int i = 0; i < kNumbers; ++i) {
+                sequence.InsertSeq(i);
+                sequence.InsertSeq(-1 - i);
+                sequence.ClearSeq(-1 - i);
+                if (i % 2 == 0)
+                    expected += sequence.HasSeqIn(i) ? 1 : 0;
+            }
+            for (int i = 0; i < kNumbers; ++i)
+                expected += sequence.HasSeqIn(i) ? 1 : 0;
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    // A number may be asked for before another thread has noted it again; those are still here.
+    int left = 0;
+    for (int i = 0; i < kNumbers; ++i) {
+        QVERIFY(!sequence.HasSeqIn(-1 - i));
+        while (sequence.HasSeqIn(i))
+            ++left;
+    }
+    QCOMPARE(expected + left, kThreads * kNumbers);
+}
+
+/// Catches operators that are declared but not in the library.
+void TestSequence::RecordColoursAreAssigned()
+{
+    XCM::CRecordColorManager one;
+    XCM::CRecordColorManager other;
+    QCOMPARE(&(one = other), &one);
+    QCOMPARE(&(one = std::move(other)), &one);
+}
+
+STRICT_TEST_MAIN(TestSequence)
+#include "tst_sequence.moc"

@@ -1,0 +1,410 @@
+#include "support/StrictMain.h"
+
+#include <Common/CommonFun.h>
+#include <Common/QCommon.h>
+#include <Platform/BasicUIComponents/KvDir.h>
+#include <Platform/BasicUIComponents/KvFile.h>
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <QtTest>
+#include <memory>
+#include <new>
+
+using UICommonMdl::CommonFun;
+
+namespace {
+
+const QString kApp = QStringLiteral("Test %2");
+const QString kDay = QStringLiteral("Day");
+const QString kNight = QStringLiteral("Night");
+const QString kForms = QStringLiteral("forms");
+const QString kShared = QStringLiteral("Shared.css");
+const QString kSample = QStringLiteral("SampleWidget.css");
+
+QString SheetOf(const char* file)
+{
+    const QByteArray bytes = KvGUI::KvFile::ReadAll(QString::fromLatin1(file), QStringLiteral(SKIN_SOURCES));
+    return QString::fromUtf8(bytes);
+}
+
+void Write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+} // namespace
+
+namespace Samples {
+
+/// Styles itself by its class name, as the library's widgets do.
+class SampleWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    SampleWidget() { CommonFun::SetStyleSheet(this, kForms, QString(), QString()); }
+
+    int m_styleChanges = 0;
+    QPointer<QWidget> m_victim; ///< deleted when this widget's style changes
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::StyleChange) {
+            ++m_styleChanges;
+            delete m_victim;
+        }
+        QWidget::changeEvent(event);
+    }
+};
+
+/// A client's subclass, without and (with @p styled) with a sheet of its own.
+class DerivedWidget : public SampleWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DerivedWidget(bool styled)
+    {
+        if (styled)
+            CommonFun::SetStyleSheet(this, kForms, QString(), QString());
+    }
+};
+
+} // namespace Samples
+
+using Samples::DerivedWidget;
+using Samples::SampleWidget;
+
+class TestSkin : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void SkinPaths();
+    void NamesAreNoPlaceMarks();
+    void SheetIsNamedByTheClass();
+    void ModuleNamesTheFolder();
+    void MissingSheetLeavesTheStyle();
+    void NullWidgetIsIgnored();
+    void SkinChangeRestyles();
+    void SheetMissingInTheNewSkinLeavesTheOld();
+    void SheetOfTheBaseClassStaysThat();
+    void SheetFoundLaterWins();
+    void EqualSheetIsNotSetAgain();
+    void LastCallCounts();
+    void DeadWidgetsAreForgotten();
+    void RestylingSurvivesDeletions();
+    void SheetsOnDisk();
+    void SheetsOnDiskBelongToNoSkin();
+    void SheetsAreReadOnce();
+    void WholeFilesAreReadAsLatin1();
+    void CurrentPath_data();
+    void CurrentPath();
+    void JoinedPaths_data();
+    void JoinedPaths();
+};
+
+void TestSkin::init()
+{
+    KvGUI::SetAppName(kApp);
+    KvGUI::SetSkinVersion(kDay);
+    KvGUI::KvDir::SetCurrentPath(QString());
+}
+
+/// Catches path parts in the wrong order.
+void TestSkin::SkinPaths()
+{
+    const QString file = QStringLiteral("a.png");
+    const QString module = QStringLiteral("UICommonModule");
+    KvGUI::SetAppName(QStringLiteral("App"));
+    KvGUI::SetSkinVersion(QStringLiteral("Skin2"));
+    const QString path = QStringLiteral(":/App/UICommonModule/Skin2/UICommonModule/a.png");
+    QCOMPARE(CommonFun::GetSkinPath(module, file), path);
+    QCOMPARE(XCM::GetSkinPath(module, file), path);
+    const QString nested = QStringLiteral("Client/Maps");
+    QCOMPARE(
+        CommonFun::GetSkinPath(nested, file), QStringLiteral(":/App/Client/Maps/Skin2/Client/Maps/a.png"));
+    QCOMPARE(XCM::GetSkinPath(nested, file), QStringLiteral(":/App/Client/Skin2/Client/Maps/a.png"));
+    QCOMPARE(XCM::GetSkinPath(QStringLiteral("/a"), file), QStringLiteral(":/App//Skin2//a/a.png"));
+    KvGUI::KvDir::SetCurrentPath(QStringLiteral("/opt/client"));
+    QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx(file)), QStringLiteral("/opt/client/Skin/a.png"));
+}
+
+/// Catches place marks filled one after the other: a name with "%1" would be filled as well.
+void TestSkin::NamesAreNoPlaceMarks()
+{
+    KvGUI::SetAppName(QStringLiteral("%5%1"));
+    KvGUI::SetSkinVersion(QStringLiteral("100%3"));
+    const QString path = QStringLiteral(":/%5%1/M%4/100%3/M%4/%2.png");
+    QCOMPARE(CommonFun::GetSkinPath(QStringLiteral("M%4"), QStringLiteral("%2.png")), path);
+    QCOMPARE(XCM::GetSkinPath(QStringLiteral("M%4"), QStringLiteral("%2.png")), path);
+    KvGUI::KvDir::SetCurrentPath(QStringLiteral("/opt/%2"));
+    QCOMPARE(
+        QDir::cleanPath(CommonFun::GetSkinPathEx(QStringLiteral("%1"))), QStringLiteral("/opt/%2/Skin/%1"));
+}
+
+/// Catches a namespace left in the file name, a sheet read as Latin-1, and a wrong folder.
+void TestSkin::SheetIsNamedByTheClass()
+{
+    const SampleWidget widget;
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    QVERIFY(widget.styleSheet().contains(QChar(0x65E5)));
+}
+
+/// Catches the whole module path where its first part belongs.
+void TestSkin::ModuleNamesTheFolder()
+{
+    QWidget widget;
+    CommonFun::SetStyleSheet(&widget, kForms, kSample, QStringLiteral("Client/Maps"));
+    QCOMPARE(widget.styleSheet(), SheetOf("client.css"));
+}
+
+/// Catches a missing or empty sheet that clears the style.
+void TestSkin::MissingSheetLeavesTheStyle()
+{
+    QWidget widget;
+    const QString own = QStringLiteral("color: blue");
+    widget.setStyleSheet(own);
+    CommonFun::SetStyleSheet(&widget, kForms, QString(), QString());
+    CommonFun::SetStyleSheet(&widget, kForms, QStringLiteral("Empty.css"), QString());
+    CommonFun::SetStyleSheet(&widget, QStringLiteral("nowhere"), kSample, QString());
+    CommonFun::SetStyleSheetEx(&widget, kSample, kForms);
+    QCOMPARE(widget.styleSheet(), own);
+}
+
+/// Catches a crash without a widget.
+void TestSkin::NullWidgetIsIgnored()
+{
+    CommonFun::SetStyleSheet(nullptr, kForms, QString(), QString());
+    CommonFun::SetStyleSheetEx(nullptr, kSample, kForms);
+    KvGUI::SetSkinVersion(kNight);
+}
+
+/// Catches widgets that keep the old skin, also when the skin goes to and fro.
+void TestSkin::SkinChangeRestyles()
+{
+    const SampleWidget first;
+    const SampleWidget second;
+    for (const char* skin : {"Night", "Day", "Night"}) {
+        KvGUI::SetSkinVersion(QString::fromLatin1(skin));
+        const QString sheet = SheetOf(skin == QByteArray("Day") ? "day.css" : "night.css");
+        QCOMPARE(first.styleSheet(), sheet);
+        QCOMPARE(second.styleSheet(), sheet);
+    }
+}
+
+/// Catches a widget that loses its style, or does not find it again, when one skin lacks its sheet.
+void TestSkin::SheetMissingInTheNewSkinLeavesTheOld()
+{
+    QWidget widget;
+    CommonFun::SetStyleSheet(&widget, kForms, QStringLiteral("OnlyDay.css"), QString());
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    KvGUI::SetAppName(QStringLiteral("Another application"));
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    widget.setStyleSheet(QString());
+    KvGUI::SetSkinVersion(kDay);
+    KvGUI::SetAppName(kApp);
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+}
+
+/// Catches a class name that is asked for again when the skin changes: the object is a subclass by then.
+void TestSkin::SheetOfTheBaseClassStaysThat()
+{
+    const DerivedWidget widget(false);
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(widget.styleSheet(), SheetOf("night.css"));
+}
+
+/// Catches a subclass without a sheet of its own that no longer follows the skin, and one that does not
+/// get its own sheet where there is one.
+void TestSkin::SheetFoundLaterWins()
+{
+    const DerivedWidget widget(true);
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(widget.styleSheet(), SheetOf("derived.css"));
+}
+
+/// Catches widgets that are polished again for a sheet that both skins share.
+void TestSkin::EqualSheetIsNotSetAgain()
+{
+    SampleWidget widget;
+    CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
+    widget.ensurePolished();
+    widget.m_styleChanges = 0;
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
+    QCOMPARE(widget.m_styleChanges, 0);
+    CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
+    QVERIFY(widget.m_styleChanges > 0);
+}
+
+/// Catches a widget that is noted twice: the earlier call would come back with the skin.
+void TestSkin::LastCallCounts()
+{
+    SampleWidget widget;
+    CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
+    CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
+    KvGUI::SetSkinVersion(kDay);
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+}
+
+/// Catches notes of dead widgets that are kept: the next widget at the same place would be styled.
+void TestSkin::DeadWidgetsAreForgotten()
+{
+    alignas(QWidget) unsigned char place[sizeof(QWidget)];
+    auto* widget = new (place) QWidget;
+    CommonFun::SetStyleSheet(widget, kForms, kSample, QString());
+    widget->~QWidget();
+    widget = new (place) QWidget;
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(widget->styleSheet(), QString());
+    CommonFun::SetStyleSheet(widget, kForms, kSample, QString());
+    KvGUI::SetSkinVersion(kDay);
+    QCOMPARE(widget->styleSheet(), SheetOf("day.css"));
+    widget->~QWidget();
+}
+
+/// Catches a walk over the widgets that touches one which the client deleted on the way.
+void TestSkin::RestylingSurvivesDeletions()
+{
+    std::vector<std::unique_ptr<SampleWidget>> widgets;
+    for (int i = 0; i < 20; ++i)
+        widgets.push_back(std::make_unique<SampleWidget>());
+    for (auto& widget : widgets) {
+        widget->ensurePolished();
+        auto* victim = new SampleWidget;
+        victim->ensurePolished();
+        widget->m_victim = victim;
+        victim->m_victim = new SampleWidget;
+    }
+    KvGUI::SetSkinVersion(kNight);
+    for (const auto& widget : widgets) {
+        QCOMPARE(widget->styleSheet(), SheetOf("night.css"));
+        QVERIFY(widget->m_victim.isNull());
+    }
+}
+
+/// Catches a sheet on disk that is looked for in the skin.
+void TestSkin::SheetsOnDisk()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("Skin/forms")));
+    Write(folder.filePath(QStringLiteral("Skin/forms/disk.css")), "QWidget { color: \"\xE6\x97\xA5\" }");
+    KvGUI::KvDir::SetCurrentPath(folder.path());
+    QWidget widget;
+    CommonFun::SetStyleSheetEx(&widget, QStringLiteral("disk.css"), kForms);
+    QCOMPARE(widget.styleSheet(), QStringLiteral("QWidget { color: \"\u65E5\" }"));
+}
+
+/// Catches a skin change that takes a client's own sheet away.
+void TestSkin::SheetsOnDiskBelongToNoSkin()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("Skin")));
+    Write(folder.filePath(QStringLiteral("Skin/own.css")), "QWidget { color: blue }");
+    KvGUI::KvDir::SetCurrentPath(folder.path());
+    SampleWidget widget;
+    CommonFun::SetStyleSheetEx(&widget, QStringLiteral("own.css"), QString());
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(widget.styleSheet(), QStringLiteral("QWidget { color: blue }"));
+    CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
+    KvGUI::SetSkinVersion(kDay);
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+}
+
+/// Catches a sheet, or a missing sheet, that is read for each widget, and one that is kept for ever.
+void TestSkin::SheetsAreReadOnce()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("Skin")));
+    KvGUI::KvDir::SetCurrentPath(folder.path());
+    const QString path = folder.filePath(QStringLiteral("Skin/a.css"));
+    const auto styled = [] {
+        QWidget widget;
+        CommonFun::SetStyleSheetEx(&widget, QStringLiteral("a.css"), QString());
+        return widget.styleSheet();
+    };
+    QCOMPARE(styled(), QString());
+    Write(path, "QWidget { margin: 1px }");
+    QCOMPARE(styled(), QString());
+    KvGUI::SetSkinVersion(kNight);
+    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
+    QFile::remove(path);
+    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
+}
+
+/// Catches bytes that are decoded as UTF-8 or end at a zero, and an output that a failure clears.
+void TestSkin::WholeFilesAreReadAsLatin1()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.css"));
+    Write(path, QByteArray("\xE6\x97\xA5\0z", 5));
+    for (const auto load : {&CommonFun::loadStyleSheet, &XCM::loadStyleSheet}) {
+        QString out = QStringLiteral("before");
+        QVERIFY(!load(folder.filePath(QStringLiteral("b.css")), out));
+        QVERIFY(!load(QString(), out));
+        QCOMPARE(out, QStringLiteral("before"));
+        QVERIFY(load(path, out));
+        QCOMPARE(out, QString::fromLatin1("\xE6\x97\xA5\0z", 5));
+    }
+}
+
+void TestSkin::CurrentPath_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("result");
+    const QString result = QStringLiteral("/opt/client/");
+    QTest::newRow("no slash") << QStringLiteral("/opt/client") << result;
+    QTest::newRow("one slash") << QStringLiteral("/opt/client/") << result;
+    QTest::newRow("many slashes") << QStringLiteral("/opt//client///") << result;
+    QTest::newRow("root") << QStringLiteral("/") << QStringLiteral("/");
+    QTest::newRow("relative") << QStringLiteral("x/..") << QDir::currentPath() + QLatin1Char('/');
+    QTest::newRow("back to the program's")
+        << QString() << QCoreApplication::applicationDirPath() + QLatin1Char('/');
+}
+
+/// Catches a path without its "/" or with two: files are named by appending to it.
+void TestSkin::CurrentPath()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, result);
+    KvGUI::KvDir::SetCurrentPath(path);
+    QCOMPARE(KvGUI::KvDir::GetCurrentPath(), result);
+}
+
+void TestSkin::JoinedPaths_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("file");
+    const QString folder = QStringLiteral(SKIN_SOURCES);
+    QTest::newRow("none") << folder << QStringLiteral("night.css");
+    QTest::newRow("behind the folder") << folder + QStringLiteral("//") << QStringLiteral("night.css");
+    QTest::newRow("before the file") << folder << QStringLiteral("/night.css");
+    QTest::newRow("both") << folder + QLatin1Char('/') << QStringLiteral("/night.css");
+    QTest::newRow("no folder") << QString() << folder + QStringLiteral("/night.css");
+}
+
+/// Catches joins with no or two slashes (a resource is not found then), and a missing file that cannot be
+/// told from an empty one.
+void TestSkin::JoinedPaths()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, file);
+    QCOMPARE(KvGUI::KvFile::ReadAll(file, folder), QByteArray("QWidget { color: #d0e0f0; }\n"));
+    QVERIFY(KvGUI::KvFile::ReadAll(QStringLiteral("none.css"), folder).isNull());
+    QVERIFY(KvGUI::KvFile::ReadAll(QString(), folder).isNull());
+    const QByteArray empty
+        = KvGUI::KvFile::ReadAll(QStringLiteral("empty.css"), QStringLiteral(SKIN_SOURCES));
+    QVERIFY(empty.isEmpty() && !empty.isNull());
+}
+
+STRICT_TEST_MAIN(TestSkin)
+#include "tst_skin.moc"
