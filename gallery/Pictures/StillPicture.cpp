@@ -16,6 +16,10 @@ const QSize LargestKept(3840, 2160);
 
 QImage ReadPicture(const QString& path, QString& error)
 {
+    if (!QFileInfo(path).isFile()) {
+        error = QCoreApplication::translate("OperatorClient::StillPicture", "there is no such file");
+        return QImage();
+    }
     QImageReader reader(path);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
@@ -48,7 +52,7 @@ void StillPicture::Paint(QPainter& painter, const QRect& area, const QDateTime& 
     if (m_image.isNull()) {
         PaintMessage(
             painter, area,
-            QCoreApplication::translate("OperatorClient::StillPicture", "%1\nThe picture cannot be read: %2")
+            QCoreApplication::translate("OperatorClient::StillPicture", "%1\nThe picture cannot be shown: %2")
                 .arg(Title(), m_strError));
         return;
     }

@@ -14,7 +14,7 @@ VideoFile::VideoFile(const QString& path)
 {
     const QFileInfo file(path);
     if (!file.isFile() || !file.isReadable())
-        Fail(tr("There is no such file, or it may not be read."));
+        Fail(tr("there is no such file, or it may not be read"));
     else
         Start();
 }
@@ -29,7 +29,7 @@ void VideoFile::Start()
 {
     m_pPlayer = new QMediaPlayer(this, QMediaPlayer::VideoSurface);
     if (!m_pPlayer->isAvailable()) {
-        Fail(tr("No media player is installed."));
+        Fail(tr("no media player is installed"));
         return;
     }
     connect(m_pPlayer, &QMediaPlayer::mediaStatusChanged, this, &VideoFile::OnMediaStatusChanged);
@@ -44,7 +44,7 @@ void VideoFile::Start()
 
 void VideoFile::Fail(const QString& reason)
 {
-    m_strError = reason.isEmpty() ? tr("It cannot be played.") : reason;
+    m_strError = reason.isEmpty() ? tr("it cannot be played") : reason;
 }
 
 void VideoFile::OnMediaStatusChanged(QMediaPlayer::MediaStatus status)
@@ -59,7 +59,7 @@ void VideoFile::PlayAgain()
 {
     // A file without a single picture would start over without end.
     if (m_sink.FrameCount() == m_iFramesAtStart) {
-        Fail(tr("It holds no pictures."));
+        Fail(tr("it holds no pictures"));
         return;
     }
     m_iFramesAtStart = m_sink.FrameCount();
