@@ -7,16 +7,24 @@ namespace UICommonMdl {
 namespace {
 
 constexpr int LineWidth = 2; // pixels
-constexpr QRgb SelectedColor = qRgb(219, 221, 225);
 
 } // namespace
 
-KvTVWallDisplayFrame::KvTVWallDisplayFrame(QWidget* parent)
+KvTVWallDisplayFrame::KvTVWallDisplayFrame(QWidget* parent, const QColor& color)
     : QWidget(parent)
+    , m_color(color)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
+}
+
+void KvTVWallDisplayFrame::SetColor(const QColor& color)
+{
+    if (m_color == color)
+        return;
+    m_color = color;
+    update();
 }
 
 void KvTVWallDisplayFrame::FitTo(const QSize& size)
@@ -26,6 +34,6 @@ void KvTVWallDisplayFrame::FitTo(const QSize& size)
     setMask(QRegion(whole) - QRegion(whole.adjusted(LineWidth, LineWidth, -LineWidth, -LineWidth)));
 }
 
-void KvTVWallDisplayFrame::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), SelectedColor); }
+void KvTVWallDisplayFrame::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), m_color); }
 
 } // namespace UICommonMdl

@@ -23,6 +23,7 @@ namespace UICommonMdl {
 namespace {
 
 constexpr QRgb ScreenColor = qRgb(33, 34, 37);
+constexpr QRgb SelectedColor = qRgb(219, 221, 225);
 constexpr QRgb CellLineColor = qRgb(74, 77, 84);
 constexpr qreal CellDash = 4.0; // pixels drawn, and pixels left out
 constexpr int ContentMargin = 12; // pixels
@@ -150,7 +151,7 @@ void KvTVWallDisplayScreen::SetSelected(bool selected)
 void KvTVWallDisplayScreen::ShowFrame()
 {
     if (m_pFrame == nullptr && m_bSelected) {
-        m_pFrame = new KvTVWallDisplayFrame(viewport());
+        m_pFrame = new KvTVWallDisplayFrame(viewport(), QColor(SelectedColor));
         m_pFrame->FitTo(size());
     }
     if (m_pFrame == nullptr)
@@ -204,7 +205,7 @@ void KvTVWallDisplayScreen::UpdateLook()
 {
     viewport()->update();
     for (KvTVWallDisplayWindow* window : qAsConst(m_windows))
-        window->update();
+        window->UpdateLook();
 }
 
 // ---- Overlays

@@ -1,5 +1,6 @@
 #include "KvTVWallDisplayWindow.h"
 
+#include "KvTVWallDisplayFrame.h"
 #include "KvTVWallDisplayScreen.h"
 #include "KvTVWallDisplayTitleItem.h"
 #include "KvTVWallDisplayVideo.h"
@@ -126,6 +127,18 @@ void KvTVWallDisplayWindow::SetSelected(bool selected)
     if (m_bSelected == selected)
         return;
     m_bSelected = selected;
+    if (m_pFrame == nullptr) {
+        m_pFrame = new KvTVWallDisplayFrame(this, m_pScreen->GetWall()->WindowSelectedFrameColor());
+        m_pFrame->FitTo(size());
+    }
+    m_pFrame->setVisible(selected);
+    m_pFrame->raise(); // over what the client has put into the window meanwhile
+}
+
+void KvTVWallDisplayWindow::UpdateLook()
+{
+    if (m_pFrame != nullptr)
+        m_pFrame->SetColor(m_pScreen->GetWall()->WindowSelectedFrameColor());
     update();
 }
 
@@ -172,6 +185,8 @@ void KvTVWallDisplayWindow::resizeEvent(QResizeEvent*)
     m_pTitle->setGeometry(TitleMargin, TitleMargin, innerWidth, TitleHeight);
     if (m_pVideo != nullptr)
         m_pVideo->setGeometry(1, VideoTop, innerWidth, qMax(0, height() - TitleHeight));
+    if (m_pFrame != nullptr)
+        m_pFrame->FitTo(size());
 }
 
 void KvTVWallDisplayWindow::paintEvent(QPaintEvent*)
@@ -179,14 +194,10 @@ void KvTVWallDisplayWindow::paintEvent(QPaintEvent*)
     const KvTVWallDisplayWnd* wall = m_pScreen->GetWall();
     QPainter painter(this);
     painter.fillRect(rect(), wall->WindowColor());
-    painter.setPen(m_bSelected ? wall->WindowSelectedFrameColor() : wall->WindowFrameColor());
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    if (m_bSelected)
-        painter.drawRect(rect().adjusted(1, 1, -2, -2));
-    if (m_bKeyboardFocus) {
+    painter.setPen(wall->WindowFrameColor());
+    if (m_bKeyboardFocus)
         painter.setPen(QPen(wall->BandColor(), 1, Qt::DashLine));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 // Moving and resizing by the mouse. While the drag lasts only pixels move; the rectangle is set once, at the

@@ -7,6 +7,7 @@
 
 namespace UICommonMdl {
 
+class KvTVWallDisplayFrame;
 class KvTVWallDisplayScreen;
 class KvTVWallDisplayTitleItem;
 class KvTVWallDisplayVideo;
@@ -37,6 +38,7 @@ public:
 
     bool IsSelected() const { return m_bSelected; }
     void SetSelected(bool selected);
+    void UpdateLook(); ///< paints the window again in the wall's colours
     bool IsVolumeOn() const { return m_bVolumeOn; }
     void SetVolumeOn(bool on);
     int GetZValue() const { return m_iZValue; }
@@ -115,6 +117,7 @@ private:
     KvTVWallDisplayScreen* const m_pScreen;
     KvTVWallDisplayTitleItem* m_pTitle;
     KvTVWallDisplayVideo* m_pVideo;
+    KvTVWallDisplayFrame* m_pFrame = nullptr; // of a selected window; the video covers what lies below it
     QVariant m_userData;
     int m_iZValue = 0;
     KvGUI::StructScaleRect m_scale;
