@@ -340,7 +340,10 @@ bool KvTVWallDisplayScreen::WatchLabel(const QObject* watched, QEvent* event)
             std::find_if(m_plainLabels.begin(), m_plainLabels.end(), isWatched) - m_plainLabels.begin());
     // The wheel and keys are the wall's; a mouse event on an overlay is none on the window below.
     event->setAccepted(IsMouseEvent(event->type()) || event->type() == QEvent::ContextMenu);
+    const QPointer<KvTVWallDisplayScreen> alive(this);
     Q_EMIT SignalLabelEvent(label, event);
+    if (!alive)
+        event->accept(); // or it would go on to the parent of a widget that is gone
     return true;
 }
 
@@ -507,6 +510,8 @@ bool KvTVWallDisplayScreen::WatchWindow(KvTVWallDisplayWindow* window, QEvent* e
     const int index = alive && windowAlive ? IndexOf(window) : NoWindow;
     if (index != NoWindow)
         Q_EMIT SignalWindowEvent(index, event);
+    if (!windowAlive)
+        event->accept(); // or it would go on to the parent of a widget that is gone
     return true;
 }
 

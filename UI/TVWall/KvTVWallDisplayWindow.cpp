@@ -40,7 +40,7 @@ Qt::CursorShape CursorFor(Qt::Edges edges)
 KvTVWallDisplayWindow::KvTVWallDisplayWindow(
     KvTVWallDisplayScreen* screen, double precision, const KvGUI::StructScaleRect& rect,
     const QVariant& userData)
-    : QMdiSubWindow(screen->viewport(), Qt::SubWindow | Qt::FramelessWindowHint | Qt::CustomizeWindowHint)
+    : QMdiSubWindow(screen->viewport(), Qt::SubWindow | Qt::FramelessWindowHint)
     , m_pScreen(screen)
     , m_pTitle(new KvTVWallDisplayTitleItem(this))
     , m_pVideo(new KvTVWallDisplayVideo(this))
@@ -54,6 +54,7 @@ KvTVWallDisplayWindow::KvTVWallDisplayWindow(
     disconnect(qApp, nullptr, this, nullptr);
     setSystemMenu(nullptr);
     delete layout();
+    overrideWindowFlags(windowFlags() | Qt::CustomizeWindowHint); // which it takes away
     setAttribute(Qt::WA_Hover);
     setAcceptDrops(true);
 
