@@ -14,49 +14,56 @@ QString Translated(const char* text)
     return QCoreApplication::translate("OperatorClient::ClientOptions", text);
 }
 
+QCommandLineOption TextOption(const char* name, const char* description, const char* value)
+{
+    return QCommandLineOption(QString::fromLatin1(name), Translated(description), QString::fromLatin1(value));
+}
+
+void AddOptions(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(Translated("An example of an operator's client for a video wall."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions(
+        {TextOption("video", "Show the video file in a window.", "file"),
+         TextOption("photo", "Show the picture file in a window.", "file"),
+         TextOption(
+             "screenshots", "Save pictures of all pages in both skins to the folder, and end.", "folder"),
+         TextOption("layout", "Keep the wall in this file instead of the user's own.", "file"),
+         TextOption("skin", "Start in this skin: Black or White.", "name")});
+}
+
+/// Files are stored with the wall, so a name must mean the same file when the program starts elsewhere.
+QVector<SourceSpec> Sources(const QStringList& files, SourceSpec (*make)(const QString&))
+{
+    QVector<SourceSpec> sources;
+    for (const QString& file : files)
+        sources.append(make(QFileInfo(file).absoluteFilePath()));
+    return sources;
+}
+
 } // namespace
 
 bool ParseOptions(const QStringList& arguments, ClientOptions& options, QString& error)
 {
-    const QCommandLineOption video(
-        QStringLiteral("video"), Translated("Show the video file in a window."), QStringLiteral("file"));
-    const QCommandLineOption photo(
-        QStringLiteral("photo"), Translated("Show the picture file in a window."), QStringLiteral("file"));
-    const QCommandLineOption screenshots(
-        QStringLiteral("screenshots"),
-        Translated("Save pictures of all pages in both skins to the folder, and end."),
-        QStringLiteral("folder"));
-    const QCommandLineOption layout(
-        QStringLiteral("layout"), Translated("Keep the wall in this file instead of the user's own."),
-        QStringLiteral("file"));
-    const QCommandLineOption skin(
-        QStringLiteral("skin"), Translated("Start in this skin: Black or White."), QStringLiteral("name"));
     QCommandLineParser parser;
-    parser.setApplicationDescription(Translated("An example of an operator's client for a video wall."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({video, photo, screenshots, layout, skin});
+    AddOptions(parser);
     if (!parser.parse(arguments)) {
         error = parser.errorText();
         return false;
     }
-    if (parser.isSet(QStringLiteral("help")))
-        parser.showHelp();
-    if (parser.isSet(QStringLiteral("version")))
-        parser.showVersion();
-    options.skin = parser.value(skin);
-    if (!options.skin.isEmpty() && options.skin != QLatin1String("Black")
-        && options.skin != QLatin1String("White")) {
+    // The command line is in order; this answers --help, --help-all and --version.
+    parser.process(arguments);
+    options.skin = parser.value(QStringLiteral("skin"));
+    const QStringList skins{QString(), QStringLiteral("Black"), QStringLiteral("White")};
+    if (!skins.contains(options.skin)) {
         error = Translated("There is no skin \"%1\": choose Black or White.").arg(options.skin);
         return false;
     }
-    // Stored with the wall, so a name must mean the same file when the program starts elsewhere.
-    for (const QString& file : parser.values(video))
-        options.files.append(SourceSpec::Video(QFileInfo(file).absoluteFilePath()));
-    for (const QString& file : parser.values(photo))
-        options.files.append(SourceSpec::Photo(QFileInfo(file).absoluteFilePath()));
-    options.screenshotFolder = parser.value(screenshots);
-    options.layoutFile = parser.value(layout);
+    options.files = Sources(parser.values(QStringLiteral("video")), &SourceSpec::Video)
+        + Sources(parser.values(QStringLiteral("photo")), &SourceSpec::Photo);
+    options.screenshotFolder = parser.value(QStringLiteral("screenshots"));
+    options.layoutFile = parser.value(QStringLiteral("layout"));
     return true;
 }
 

@@ -25,7 +25,7 @@ QImage ReadPicture(const QString& path, QString& error)
     const QSize size = reader.size();
     if (size.width() > LargestKept.width() || size.height() > LargestKept.height())
         reader.setScaledSize(size.scaled(LargestKept, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.isNull())
         error = reader.errorString();
     return image;

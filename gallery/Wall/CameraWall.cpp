@@ -484,7 +484,7 @@ void CameraWall::ShowOverlaysAgain()
 
 QString CameraWall::BaseMapPath()
 {
-    const QString path = m_folder.filePath(QStringLiteral("site-map.png"));
+    QString path = m_folder.filePath(QStringLiteral("site-map.png"));
     if (!QFile::exists(path) && !SaveSiteMap(path))
         Q_EMIT SignalReport(tr("The site map cannot be written to %1").arg(path));
     return path;

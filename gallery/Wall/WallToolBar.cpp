@@ -20,53 +20,53 @@ using Command = WallToolBar::Command;
 /// Which commands stand together; a separator goes before each first one.
 struct CommandEntry
 {
-    Command command;
     const char* icon;
     const char* text;
     const char* tip;
     const char* shortcut;
+    Command command;
     bool checkable;
     bool first;
 };
 
 // clang-format off
 const CommandEntry Entries[] = {
-    {Command::AddScreen, "AddScreen", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen on the first free cell of the grid"), "Ctrl+M", false, true},
-    {Command::FillGrid, "FillGrid", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Fill the grid"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen on every free cell of the grid"), "Ctrl+Shift+M", false, false},
-    {Command::RemoveAll, "RemoveAll", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Remove all screens"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Remove all screens with their windows"), "Ctrl+Shift+Del", false, false},
-    {Command::Gutter, "Gutter", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Gutter"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Leave a gutter between the screens"), "Ctrl+G", true, false},
-    {Command::OpenWindow, "Area", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a window"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a window on the selected screen"), "Ctrl+N", false, true},
-    {Command::OpenPhoto, "OpenPhoto", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a picture file"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show a picture file in a new window"), "Ctrl+P", false, false},
-    {Command::OpenVideo, "OpenVideo", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a video file"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show a video file in a new window"), "Ctrl+O", false, false},
-    {Command::Titles, "Titles", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Window titles"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show titles on windows opened from now on"), "Ctrl+T", true, false},
-    {Command::SelectNone, "SelectionNone", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select nothing"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Clicks select no window; drag over a screen to open one"), "Ctrl+1", true, true},
-    {Command::SelectOne, "SelectionSingle", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select one window"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "A click selects one window; drag over a screen to open one"), "Ctrl+2", true, false},
-    {Command::SelectMany, "SelectionMultiple", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select many windows"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Clicks and a drag over a screen select windows"), "Ctrl+3", true, false},
-    {Command::Raise, "Raise", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Raise"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Raise the selected windows above the others"), "Ctrl+Up", false, true},
-    {Command::Lower, "Lower", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Lower"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Lower the selected windows below the others"), "Ctrl+Down", false, false},
-    {Command::CloseSelected, "CloseSelected", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Close selected windows"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Close the selected windows"), "Del", false, false},
-    {Command::Overlays, "Overlays", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Text overlays"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show texts on the selected screen"), "Ctrl+L", true, true},
-    {Command::BaseMap, "BaseMap", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Base map"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show the site map behind the windows of the selected screen"), "Ctrl+B", true, false},
-    {Command::Positioning, "Positioning3D", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "3D positioning"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Draw 3D-positioning frames over the windows of the selected screen"), "Ctrl+D", true, false},
-    {Command::Skin, "SkinLight", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change the skin"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change between the dark and the light skin"), "Ctrl+K", false, true},
+    {"AddScreen", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen on the first free cell of the grid"), "Ctrl+M", Command::AddScreen, false, true},
+    {"FillGrid", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Fill the grid"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Add a screen on every free cell of the grid"), "Ctrl+Shift+M", Command::FillGrid, false, false},
+    {"RemoveAll", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Remove all screens"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Remove all screens with their windows"), "Ctrl+Shift+Del", Command::RemoveAll, false, false},
+    {"Gutter", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Gutter"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Leave a gutter between the screens"), "Ctrl+G", Command::Gutter, true, false},
+    {"Area", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a window"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a window on the selected screen"), "Ctrl+N", Command::OpenWindow, false, true},
+    {"OpenPhoto", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a picture file"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show a picture file in a new window"), "Ctrl+P", Command::OpenPhoto, false, false},
+    {"OpenVideo", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Open a video file"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show a video file in a new window"), "Ctrl+O", Command::OpenVideo, false, false},
+    {"Titles", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Window titles"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show titles on windows opened from now on"), "Ctrl+T", Command::Titles, true, false},
+    {"SelectionNone", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select nothing"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Clicks select no window; drag over a screen to open one"), "Ctrl+1", Command::SelectNone, true, true},
+    {"SelectionSingle", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select one window"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "A click selects one window; drag over a screen to open one"), "Ctrl+2", Command::SelectOne, true, false},
+    {"SelectionMultiple", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Select many windows"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Clicks and a drag over a screen select windows"), "Ctrl+3", Command::SelectMany, true, false},
+    {"Raise", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Raise"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Raise the selected windows above the others"), "Ctrl+Up", Command::Raise, false, true},
+    {"Lower", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Lower"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Lower the selected windows below the others"), "Ctrl+Down", Command::Lower, false, false},
+    {"CloseSelected", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Close selected windows"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Close the selected windows"), "Del", Command::CloseSelected, false, false},
+    {"Overlays", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Text overlays"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show texts on the selected screen"), "Ctrl+L", Command::Overlays, true, true},
+    {"BaseMap", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Base map"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show the site map behind the windows of the selected screen"), "Ctrl+B", Command::BaseMap, true, false},
+    {"Positioning3D", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "3D positioning"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Draw 3D-positioning frames over the windows of the selected screen"), "Ctrl+D", Command::Positioning, true, false},
+    {"SkinLight", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change the skin"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change between the dark and the light skin"), "Ctrl+K", Command::Skin, false, true},
 };
 // clang-format on
 

@@ -18,7 +18,8 @@ void PaintShelf(QPainter& painter, double side)
         = {QColor(164, 132, 92), QColor(148, 116, 80), QColor(176, 146, 106), QColor(118, 130, 142)};
     FillPolygon(painter, Aisle.Wall(side, -1, 1, 1, End), QColor(52, 57, 64));
     int pattern = side > 0 ? 3 : 0;
-    for (double z = 6.6; z > 0.9; z /= 1.2) {
+    for (int bay = 0; bay < 11; ++bay) {
+        const double z = 6.6 / std::pow(1.2, bay);
         for (const double top : {-0.95, -0.3, 0.35}) {
             pattern = (pattern * 5 + 7) % 23;
             if (pattern % 6 != 1)
@@ -29,8 +30,10 @@ void PaintShelf(QPainter& painter, double side)
     }
     for (const double level : {-0.37, 0.28, 0.93})
         FillPolygon(painter, Aisle.Wall(side, level, level + 0.07, 1, End), QColor(196, 104, 44));
-    for (double z = 1.0; z < End; z *= 1.44)
+    for (int post = 0; post < 6; ++post) {
+        const double z = std::pow(1.44, post);
         FillPolygon(painter, Aisle.Wall(side, -1, 1, z, z * 1.03), QColor(52, 84, 132));
+    }
 }
 
 void PaintStill(QPainter& painter)
