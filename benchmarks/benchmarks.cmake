@@ -1,1 +1,2 @@
 uicomponents_benchmark(bench_wall bench_wall.cpp)
+uicomponents_benchmark(bench_foundation bench_foundation.cpp)

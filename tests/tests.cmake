@@ -17,3 +17,15 @@ if(TARGET OperatorClientPages)
     target_link_libraries(tst_gallery PRIVATE OperatorClientPages)
     uicomponents_skin_resources(tst_gallery "${PROJECT_SOURCE_DIR}/gallery/skins" OperatorClient)
 endif()
+uicomponents_test(tst_wallmodel tst_wallmodel.cpp INTERNAL)
+uicomponents_test(tst_displaywall tst_displaywall.cpp)
+# Catches a dependency that goes against the direction of the rooms.
+add_test(NAME include-directions
+    COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")
+# Catches a header, a dependency or a skin that is missing where the library is installed.
+add_test(NAME installed-package
+    COMMAND "${CMAKE_COMMAND}"
+        "-DBUILD_DIR=${PROJECT_BINARY_DIR}" "-DSOURCE_DIR=${CMAKE_CURRENT_SOURCE_DIR}/installed"
+        "-DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/installed" "-DGENERATOR=${CMAKE_GENERATOR}"
+        "-DCXX=${CMAKE_CXX_COMPILER}" "-DCXX_FLAGS=$<$<BOOL:${UICOMPONENTS_SANITIZE}>:-fsanitize=${UICOMPONENTS_SANITIZE}>"
+        -P "${CMAKE_CURRENT_SOURCE_DIR}/installed/check.cmake")
