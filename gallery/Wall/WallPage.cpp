@@ -186,17 +186,15 @@ void WallPage::ShowMenu(int screen)
     menu->addAction(tr("Close all windows"), this, [=] { m_pCameras->CloseWindows(screen); });
     menu->addSeparator();
     const ScreenNote note = m_pCameras->Note(screen);
-    const auto addSwitch = [&](const QString& text, bool checked, void (CameraWall::*set)(int, bool)) {
+    const auto addSwitch = [&](const QString& text, bool checked, const std::function<void(bool)>& set) {
         QAction* action = menu->addAction(text);
         action->setCheckable(true);
         action->setChecked(checked);
-        connect(action, &QAction::triggered, this, [=](bool on) {
-            (m_pCameras->*set)(screen, on);
-            ShowScreenStates();
-        });
+        connect(action, &QAction::triggered, this, set);
+        connect(action, &QAction::triggered, this, &WallPage::ShowScreenStates);
     };
-    addSwitch(tr("Text overlays"), note.overlays, &CameraWall::SetOverlays);
-    addSwitch(tr("Base map"), note.baseMap, &CameraWall::SetBaseMap);
+    addSwitch(tr("Text overlays"), note.overlays, [=](bool on) { m_pCameras->SetOverlays(screen, on); });
+    addSwitch(tr("Base map"), note.baseMap, [=](bool on) { m_pCameras->SetBaseMap(screen, on); });
     menu->popup(QCursor::pos());
 }
 
