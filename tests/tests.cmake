@@ -23,9 +23,13 @@ uicomponents_test(tst_displaywall tst_displaywall.cpp)
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")
 # Catches a header, a dependency or a skin that is missing where the library is installed.
+set(sanitizer_flags "")
+if(UICOMPONENTS_SANITIZE)
+    set(sanitizer_flags "-fsanitize=${UICOMPONENTS_SANITIZE}")
+endif()
 add_test(NAME installed-package
     COMMAND "${CMAKE_COMMAND}"
         "-DBUILD_DIR=${PROJECT_BINARY_DIR}" "-DSOURCE_DIR=${CMAKE_CURRENT_SOURCE_DIR}/installed"
         "-DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/installed" "-DGENERATOR=${CMAKE_GENERATOR}"
-        "-DCXX=${CMAKE_CXX_COMPILER}" "-DCXX_FLAGS=$<$<BOOL:${UICOMPONENTS_SANITIZE}>:-fsanitize=${UICOMPONENTS_SANITIZE}>"
+        "-DCXX=${CMAKE_CXX_COMPILER}" "-DCXX_FLAGS=${sanitizer_flags}"
         -P "${CMAKE_CURRENT_SOURCE_DIR}/installed/check.cmake")

@@ -11,6 +11,7 @@ namespace UICommonMdl {
 namespace {
 
 constexpr int ButtonSize = 20; // pixels, at most: buttons shrink in a narrow window
+constexpr int IconSize = 16; // pixels
 constexpr int SmallestButton = 8; // pixels
 constexpr int TextIndent = 4; // pixels
 
@@ -24,6 +25,7 @@ public:
     {
         setObjectName(QStringLiteral("pWindowTitleText"));
         setTextFormat(Qt::PlainText);
+        setAttribute(Qt::WA_NoSystemBackground);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     }
 
@@ -113,6 +115,7 @@ QPushButton* KvTVWallDisplayTitleItem::AddButton(const QString& objectName)
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     button->setMinimumWidth(SmallestButton);
     button->setMaximumSize(ButtonSize, ButtonSize);
+    button->setIconSize(QSize(IconSize, IconSize)); // the style would compute it at each painting
     return button;
 }
 

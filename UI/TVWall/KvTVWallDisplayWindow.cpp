@@ -194,7 +194,11 @@ void KvTVWallDisplayWindow::paintEvent(QPaintEvent*)
 {
     const KvTVWallDisplayWnd* wall = m_pScreen->GetWall();
     QPainter painter(this);
-    painter.fillRect(rect(), wall->WindowColor());
+    // Not below the video, which covers it: on a full wall that would be every pixel once more.
+    const QRect video = m_pVideo != nullptr ? m_pVideo->geometry() : QRect(0, height(), width(), 0);
+    painter.fillRect(0, 0, width(), video.top(), wall->WindowColor());
+    painter.fillRect(0, video.top(), video.left(), height(), wall->WindowColor());
+    painter.fillRect(video.right() + 1, video.top(), width(), height(), wall->WindowColor());
     painter.setPen(wall->WindowFrameColor());
     if (m_bKeyboardFocus)
         painter.setPen(QPen(wall->BandColor(), 1, Qt::DashLine));
