@@ -27,6 +27,7 @@ constexpr QRgb SelectedColor = qRgb(219, 221, 225);
 constexpr QRgb CellLineColor = qRgb(74, 77, 84);
 constexpr qreal CellDash = 4.0; // pixels drawn, and pixels left out
 constexpr int ContentMargin = 12; // pixels
+constexpr int ContentPadding = 8; // pixels
 constexpr int RollInterval = 40; // milliseconds
 constexpr int NoWindow = -1;
 
@@ -752,11 +753,20 @@ void KvTVWallDisplayScreen::paintEvent(QPaintEvent* event)
     if (m_bShowBaseMap)
         PaintBaseMap(painter);
     PaintCells(painter, event->rect());
-    if (m_strContentText.isEmpty())
-        return;
+    if (!m_strContentText.isEmpty())
+        PaintContentText(painter);
+}
+
+void KvTVWallDisplayScreen::PaintContentText(QPainter& painter) const
+{
+    const int flags = Qt::AlignCenter | Qt::TextWordWrap;
     const QRect area = rect().adjusted(ContentMargin, ContentMargin, -ContentMargin, -ContentMargin);
+    const QRect text = painter.boundingRect(area, flags, m_strContentText);
+    // Keeps the lines of the cells and a base map out of the letters.
+    painter.fillRect(
+        text.adjusted(-ContentPadding, -ContentPadding, ContentPadding, ContentPadding), QColor(ScreenColor));
     painter.setPen(m_pWall->ScreenTextColor());
-    painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, m_strContentText);
+    painter.drawText(area, flags, m_strContentText);
 }
 
 // Lines between the cells, as far as they are exposed. Cells smaller than a pixel have none: the lines would

@@ -153,6 +153,7 @@ private:
     void ShowRollingOverlay(int slot, const KvGUI::StructOSDInfo& info);
     void HideOverlays();
     void UpdateRolling();
+    void PaintContentText(QPainter& painter) const;
     void PaintBaseMap(QPainter& painter);
     void PaintCells(QPainter& painter, const QRect& exposed) const;
 
