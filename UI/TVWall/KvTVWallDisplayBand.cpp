@@ -34,9 +34,11 @@ void KvTVWallDisplayBand::paintEvent(QPaintEvent*)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
+// NOLINTBEGIN(bugprone-parent-virtual-call)
 // The base class would cut the band to the mask of the platform's style, which leaves the outline only.
 void KvTVWallDisplayBand::resizeEvent(QResizeEvent* event) { QWidget::resizeEvent(event); }
 
 void KvTVWallDisplayBand::changeEvent(QEvent* event) { QWidget::changeEvent(event); }
+// NOLINTEND(bugprone-parent-virtual-call)
 
 } // namespace UICommonMdl

@@ -9,6 +9,7 @@
 #include "WallGeometry.h"
 #include "WallStacking.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QImageReader>
@@ -302,32 +303,6 @@ void KvTVWallDisplayScreen::UpdateRolling()
         m_rollClock.start();
         m_rollTimer.start(RollInterval, this);
     }
-}
-
-void KvTVWallDisplayScreen::timerEvent(QTimerEvent* event)
-{
-    if (event->timerId() != m_rollTimer.timerId()) {
-        QAbstractScrollArea::timerEvent(event);
-        return;
-    }
-    const int passed = int(m_rollClock.restart());
-    for (QOSDShowLabel* label : m_rollingLabels) {
-        if (label != nullptr)
-            label->Advance(passed);
-    }
-}
-
-void KvTVWallDisplayScreen::showEvent(QShowEvent* event)
-{
-    QAbstractScrollArea::showEvent(event);
-    UpdateRolling();
-}
-
-void KvTVWallDisplayScreen::hideEvent(QHideEvent* event)
-{
-    QAbstractScrollArea::hideEvent(event);
-    m_rollTimer.stop();
-    CancelDrawing();
 }
 
 bool KvTVWallDisplayScreen::WatchLabel(const QObject* watched, QEvent* event)
@@ -718,9 +693,9 @@ void KvTVWallDisplayScreen::SelectInBand(const QPoint& from, const QPoint& to)
         Q_EMIT SignalWindowSelectedChanged();
 }
 
-// ---- Events
+// ---- Events. Those of the base class are passed over: it would activate, raise and place windows.
 
-// Past the base class, which would activate, raise and place windows.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
 bool KvTVWallDisplayScreen::event(QEvent* event) { return QAbstractScrollArea::event(event); }
 
 bool KvTVWallDisplayScreen::viewportEvent(QEvent* event) { return QAbstractScrollArea::viewportEvent(event); }
@@ -731,6 +706,34 @@ bool KvTVWallDisplayScreen::eventFilter(QObject* watched, QEvent* event)
 }
 
 void KvTVWallDisplayScreen::childEvent(QChildEvent* event) { QAbstractScrollArea::childEvent(event); }
+
+void KvTVWallDisplayScreen::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_rollTimer.timerId()) {
+        QAbstractScrollArea::timerEvent(event);
+        return;
+    }
+    const int passed = int(m_rollClock.restart());
+    for (QOSDShowLabel* label : m_rollingLabels) {
+        if (label != nullptr)
+            label->Advance(passed);
+    }
+}
+
+void KvTVWallDisplayScreen::showEvent(QShowEvent* event)
+{
+    QAbstractScrollArea::showEvent(event);
+    UpdateRolling();
+}
+
+void KvTVWallDisplayScreen::hideEvent(QHideEvent* event)
+{
+    QAbstractScrollArea::hideEvent(event);
+    m_rollTimer.stop();
+    CancelDrawing();
+}
+
+// NOLINTEND(bugprone-parent-virtual-call)
 
 void KvTVWallDisplayScreen::scrollContentsBy(int, int) { }
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
+#include <QVariant>
 
 namespace UICommonMdl {
 

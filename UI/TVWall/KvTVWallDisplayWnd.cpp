@@ -332,6 +332,7 @@ bool KvTVWallDisplayWnd::SetScreenWindowBackgroudColor(int iScreen, const QColor
     return screen != nullptr;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes a copy
 bool KvTVWallDisplayWnd::SetScreenBaseMapShow(int iScreen, std::string path, bool bShow)
 {
     KvTVWallDisplayScreen* screen = d_func()->Screen(iScreen);

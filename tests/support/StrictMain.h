@@ -17,11 +17,11 @@ void PrepareEnvironment();
 } // namespace TestSupport
 
 /// main() of a test program with widgets.
-#define STRICT_TEST_MAIN(TestClass)                                                                           \
-    int main(int argc, char** argv)                                                                           \
-    {                                                                                                         \
-        TestSupport::PrepareEnvironment();                                                                    \
-        QApplication application(argc, argv);                                                                 \
-        TestClass test;                                                                                       \
-        return TestSupport::RunStrictly(test, argc, argv);                                                    \
+#define STRICT_TEST_MAIN(TestClass)                                                                          \
+    int main(int argc, char** argv)                                                                          \
+    {                                                                                                        \
+        TestSupport::PrepareEnvironment();                                                                   \
+        QApplication application(argc, argv);                                                                \
+        TestClass test;                                                                                      \
+        return TestSupport::RunStrictly(test, argc, argv);                                                   \
     }
