@@ -4,6 +4,9 @@
 
 namespace {
 
+/// The block that is too long is counted in blocks so many times smaller; small ones are bisected.
+constexpr int kShrink = 16;
+
 /// Counts the bytes of pieces of one text.
 class ByteCounter
 {
@@ -79,24 +82,42 @@ QString CutToByteBudget(const QString& text, int maxBytes, TextEncoding encoding
         return {};
     const ByteCounter counter(text, encoding);
     const int end = counter.WholeCharacters(std::min(text.size(), maxBytes));
-    const int step = end > block && AddsUp(encoding) ? block : end;
+    const bool inBlocks = end > block && AddsUp(encoding);
+    int step = inBlocks ? block : end;
+
+    // What is surely cut is copied block by block, while the block is still in the processor's cache; for
+    // ASCII the copy takes as long as the encoding.
+    const bool isCopied = inBlocks && end < text.size();
+    QString copy;
+    if (isCopied)
+        copy.reserve(end);
+    const auto keep = [&](int from, int to) {
+        return isCopied ? copy.append(text.constData() + from, to - from) : text.left(to);
+    };
 
     int begin = 0;
     qint64 rest = maxBytes;
     while (begin < end) {
         const int stop = end - begin > step ? begin + step : end;
         qint64 bytes = counter.Count(begin, stop);
+        if (bytes > rest && inBlocks && step >= 2 * kShrink) {
+            step /= kShrink;
+            continue;
+        }
         if (bytes > rest)
-            return text.left(LargestEnd(counter, begin, stop, rest));
+            return keep(begin, LargestEnd(counter, begin, stop, rest));
         if (stop == end)
             break;
-        begin = stop;
+        int next = stop;
         if (counter.NeedsItsSuccessor(stop - 1)) {
             // It is counted again with the next block.
-            --begin;
-            bytes -= counter.Count(begin, stop);
+            --next;
+            bytes -= counter.Count(next, stop);
         }
+        if (isCopied)
+            keep(begin, next);
         rest -= bytes;
+        begin = next;
     }
-    return text.left(end);
+    return keep(begin, end);
 }

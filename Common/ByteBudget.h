@@ -10,7 +10,7 @@ enum class TextEncoding
 };
 
 /// Units of text that are encoded at a time; a tuning figure only.
-constexpr int kByteBudgetBlock = 4096;
+constexpr int kByteBudgetBlock = 32768;
 
 /// The longest beginning of @p text that has at most @p maxBytes UTF-16 units and at most @p maxBytes
 /// bytes in @p encoding. A surrogate pair stays whole or goes whole.

@@ -178,9 +178,9 @@ void TestStrings::ByteBudgetEqualsDropping()
         QSKIP("this Qt does not have the codec");
     std::mt19937 random(905);
     for (int round = 0; round < 2000; ++round) {
-        const QString text = RandomText(random, static_cast<int>(random() % 24));
-        const int maxBytes = static_cast<int>(random() % 64);
-        const int block = 2 + static_cast<int>(random() % 7);
+        const QString text = RandomText(random, static_cast<int>(random() % 100));
+        const int maxBytes = static_cast<int>(random() % 256);
+        const int block = 2 + static_cast<int>(random() % (round % 2 == 0 ? 7 : 60));
         for (const TextEncoding encoding : {TextEncoding::Utf8, TextEncoding::Local8Bit}) {
             const QString expected = CutByDropping(text, maxBytes, encoding);
             const QString cut = CutToByteBudget(text, maxBytes, encoding, block);
