@@ -178,10 +178,11 @@ QString QCommon::PatchPath(QString dir, QString file)
 int QCommon::GetDevIdByChnlId(const std::string& chnlId, std::string& devId)
 {
     std::string device = chnlId;
-    const bool cutTwice = CutLastField(device) && CutLastField(device);
-    // The third field may be missing: old servers number their channels with two.
+    bool isChannel = CutLastField(device);
+    isChannel = CutLastField(device) && isChannel;
+    // The first of the three fields may be missing.
     CutLastField(device);
-    if (!cutTwice || device.size() > kLongestDeviceId) {
+    if (!isChannel || device.size() > kLongestDeviceId) {
         devId = chnlId;
         return -1;
     }

@@ -37,7 +37,8 @@ private slots:
     void Base64Vectors();
     void MalformedBase64_data();
     void MalformedBase64();
-    void Base64KeepsToItsBuffer();
+    void EncodingKeepsToItsBuffer();
+    void DecodingKeepsToItsBuffer();
     void RandomBytesSurviveBase64();
     void Base64OfNothing();
     void FormattingIsBounded_data();
@@ -118,24 +119,28 @@ void TestKvl::MalformedBase64()
 }
 
 /// Catches a write past the buffer, and a buffer of exactly the needed size that is refused.
-void TestKvl::Base64KeepsToItsBuffer()
+void TestKvl::EncodingKeepsToItsBuffer()
 {
     QByteArray text(9, 'x');
     QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 7), -1LL);
+    QCOMPARE(kvl::DBase64::Encode("foobar", LLONG_MAX, text.data(), 9), -1LL);
+    QCOMPARE(kvl::DBase64::Encode("foobar", -1, text.data(), 9), -1LL);
     QCOMPARE(text, QByteArray(9, 'x'));
     QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 8), 8LL);
     QCOMPARE(text, QByteArray("Zm9vYmFyx"));
     QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 9), 8LL);
     QCOMPARE(text, QByteArray("Zm9vYmFy\0", 9));
+}
 
+/// Catches the same of the other direction.
+void TestKvl::DecodingKeepsToItsBuffer()
+{
     QByteArray bytes(6, 'x');
     QCOMPARE(kvl::DBase64::Decode("Zm9vYmE=", 8, bytes.data(), 4), -1LL);
     QCOMPARE(bytes.at(4), 'x');
+    QCOMPARE(kvl::DBase64::Decode("Zm9v", -4, bytes.data(), 6), -1LL);
     QCOMPARE(kvl::DBase64::Decode("Zm9vYmE=", 8, bytes.data(), 5), 5LL);
     QCOMPARE(bytes, QByteArray("foobax"));
-    QCOMPARE(kvl::DBase64::Encode("foobar", LLONG_MAX, text.data(), 9), -1LL);
-    QCOMPARE(kvl::DBase64::Encode("foobar", -1, text.data(), 9), -1LL);
-    QCOMPARE(kvl::DBase64::Decode("Zm9v", -4, bytes.data(), 6), -1LL);
 }
 
 /// Catches a digit or a length that only some bytes bring to light.

@@ -69,6 +69,7 @@ void TestSequence::EachAnswerGoesToOneThread()
     COperSequence sequence;
     std::atomic<int> expected{0};
     std::vector<std::thread> threads;
+    threads.reserve(kThreads);
     for (int t = 0; t < kThreads; ++t) {
         threads.emplace_back([&sequence, &expected] {
             for (int i = 0; i < kNumbers; ++i) {

@@ -6,6 +6,7 @@
 #include <Platform/BasicUIComponents/KvFile.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <QtTest>
+#include <array>
 #include <memory>
 #include <new>
 
@@ -84,6 +85,7 @@ class TestSkin : public QObject
 private slots:
     void init();
     void SkinPaths();
+    void SkinPathsOfNestedModules();
     void NamesAreNoPlaceMarks();
     void SheetIsNamedByTheClass();
     void ModuleNamesTheFolder();
@@ -124,13 +126,19 @@ void TestSkin::SkinPaths()
     const QString path = QStringLiteral(":/App/UICommonModule/Skin2/UICommonModule/a.png");
     QCOMPARE(CommonFun::GetSkinPath(module, file), path);
     QCOMPARE(XCM::GetSkinPath(module, file), path);
-    const QString nested = QStringLiteral("Client/Maps");
-    QCOMPARE(
-        CommonFun::GetSkinPath(nested, file), QStringLiteral(":/App/Client/Maps/Skin2/Client/Maps/a.png"));
-    QCOMPARE(XCM::GetSkinPath(nested, file), QStringLiteral(":/App/Client/Skin2/Client/Maps/a.png"));
-    QCOMPARE(XCM::GetSkinPath(QStringLiteral("/a"), file), QStringLiteral(":/App//Skin2//a/a.png"));
     KvGUI::KvDir::SetCurrentPath(QStringLiteral("/opt/client"));
     QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx(file)), QStringLiteral("/opt/client/Skin/a.png"));
+}
+
+/// Catches the first part of a module path in place of the whole, or the other way round.
+void TestSkin::SkinPathsOfNestedModules()
+{
+    const QString nested = QStringLiteral("Client/Maps");
+    const QString file = QStringLiteral("a.png");
+    QCOMPARE(
+        CommonFun::GetSkinPath(nested, file), QStringLiteral(":/Test %2/Client/Maps/Day/Client/Maps/a.png"));
+    QCOMPARE(XCM::GetSkinPath(nested, file), QStringLiteral(":/Test %2/Client/Day/Client/Maps/a.png"));
+    QCOMPARE(XCM::GetSkinPath(QStringLiteral("/a"), file), QStringLiteral(":/Test %2//Day//a/a.png"));
 }
 
 /// Catches place marks filled one after the other: a name with "%1" would be filled as well.
@@ -275,9 +283,9 @@ void TestSkin::DeadWidgetsAreForgotten()
 /// Catches a walk over the widgets that touches one which the client deleted on the way.
 void TestSkin::RestylingSurvivesDeletions()
 {
-    std::vector<std::unique_ptr<SampleWidget>> widgets;
-    for (int i = 0; i < 20; ++i)
-        widgets.push_back(std::make_unique<SampleWidget>());
+    std::array<std::unique_ptr<SampleWidget>, 20> widgets;
+    for (auto& widget : widgets)
+        widget = std::make_unique<SampleWidget>();
     for (auto& widget : widgets) {
         widget->ensurePolished();
         auto* victim = new SampleWidget;

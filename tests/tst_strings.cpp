@@ -3,6 +3,8 @@
 #include <Common/ByteBudget.h>
 #include <Common/CommonFun.h>
 #include <Common/QCommon.h>
+#include <QTextCodec>
+#include <QToolTip>
 #include <QtTest>
 #include <algorithm>
 #include <climits>
