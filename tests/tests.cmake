@@ -33,3 +33,4 @@ add_test(NAME installed-package
         "-DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/installed" "-DGENERATOR=${CMAKE_GENERATOR}"
         "-DCXX=${CMAKE_CXX_COMPILER}" "-DCXX_FLAGS=${sanitizer_flags}"
         -P "${CMAKE_CURRENT_SOURCE_DIR}/installed/check.cmake")
+set_tests_properties(installed-package PROPERTIES ENVIRONMENT "${test_environment}")

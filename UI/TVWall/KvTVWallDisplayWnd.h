@@ -62,7 +62,7 @@ class UICOMPONENTS_EXPORT KvTVWallDisplayWnd : public QWidget
 public:
     /// What a click on a window and a left drag over a screen's empty part do. Any other value behaves
     /// like NoSelection.
-    enum SelectionMode
+    enum SelectionMode : int
     {
         NoSelection = 0, ///< clicks select nothing; a drag draws an area for a new window
         SingleSelection = 1, ///< a click selects the window alone; a drag draws an area for a new window
