@@ -167,6 +167,7 @@ private Q_SLOTS:
     void windowIsMovedByItsTitle();
     void windowIsResizedByItsEdge();
     void escapeTakesADragBack();
+    void hidingEndsADrag();
     void shiftKeepsToCells();
     void fixedWindowStays();
 
@@ -758,6 +759,25 @@ void tst_DisplayWall::escapeTakesADragBack()
     QTest::mouseRelease(window, Qt::LeftButton, {}, OnTitle + QPoint(80, 80));
     QCOMPARE(window->geometry(), QRect(100, 60, 300, 240));
     QCOMPARE(changed.count(), 0);
+}
+
+// Catches pixels left behind by a drag that was broken off, and a video widget that the client deleted.
+void tst_DisplayWall::hidingEndsADrag()
+{
+    const Fixture f;
+    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    QWidget* window = f.Window(0);
+    QTest::mousePress(window, Qt::LeftButton, {}, OnTitle);
+    Fixture::MoveHeld(window, OnTitle + QPoint(80, 80));
+    delete f.wall->GetWindowWidget(0, 0);
+    f.wall->hide();
+    f.wall->show();
+    QVERIFY(QTest::qWaitForWindowExposed(f.wall.get()));
+    Fixture::MoveHeld(window, OnTitle + QPoint(90, 90));
+    QCOMPARE(window->geometry(), QRect(100, 60, 300, 240));
+    QCOMPARE(f.wall->GetWindowWidget(0, 0), nullptr);
+    QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
+    QCOMPARE(PixelAt(*window, {150, 150}), f.wall->WindowColor().rgb());
 }
 
 void tst_DisplayWall::shiftKeepsToCells()

@@ -12,7 +12,6 @@
 #include <QLayout>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 #include <QPushButton>
 
 namespace UICommonMdl {
@@ -172,12 +171,14 @@ void KvTVWallDisplayWindow::UpdateTitle()
     setAccessibleName(text);
 }
 
+KvTVWallDisplayVideo* KvTVWallDisplayWindow::GetVideo() const { return m_pVideo; }
+
 bool KvTVWallDisplayWindow::DeleteVideo()
 {
-    if (m_pVideo == nullptr)
+    if (m_pVideo.isNull())
         return false;
     delete m_pVideo;
-    m_pVideo = nullptr;
+    update();
     return true;
 }
 
@@ -185,7 +186,7 @@ void KvTVWallDisplayWindow::resizeEvent(QResizeEvent*)
 {
     const int innerWidth = qMax(0, width() - 2 * TitleMargin);
     m_pTitle->setGeometry(TitleMargin, TitleMargin, innerWidth, TitleHeight);
-    if (m_pVideo != nullptr)
+    if (!m_pVideo.isNull())
         m_pVideo->setGeometry(1, VideoTop, innerWidth, qMax(0, height() - TitleHeight));
     if (m_pFrame != nullptr)
         m_pFrame->FitTo(size());
@@ -196,7 +197,7 @@ void KvTVWallDisplayWindow::paintEvent(QPaintEvent*)
     const KvTVWallDisplayWnd* wall = m_pScreen->GetWall();
     QPainter painter(this);
     // Not below the video, which covers it: on a full wall that would be every pixel once more.
-    const QRect video = m_pVideo != nullptr ? m_pVideo->geometry() : QRect(0, height(), width(), 0);
+    const QRect video = m_pVideo.isNull() ? QRect(0, height(), width(), 0) : m_pVideo->geometry();
     painter.fillRect(0, 0, width(), video.top(), wall->WindowColor());
     painter.fillRect(0, video.top(), video.left(), height(), wall->WindowColor());
     painter.fillRect(video.right() + 1, video.top(), width(), height(), wall->WindowColor());
@@ -216,7 +217,9 @@ Qt::Edges KvTVWallDisplayWindow::EdgesForMouse(const QPoint& pos) const
 
 void KvTVWallDisplayWindow::ShowCursorAt(const QPoint& pos)
 {
-    const Qt::CursorShape shape = CursorFor(EdgesForMouse(pos));
+    // A button wins over the edge that it touches.
+    const bool onButton = qobject_cast<QPushButton*>(childAt(pos)) != nullptr;
+    const Qt::CursorShape shape = onButton ? Qt::ArrowCursor : CursorFor(EdgesForMouse(pos));
     if (shape != Qt::ArrowCursor)
         setCursor(shape);
     else if (testAttribute(Qt::WA_SetCursor))
@@ -345,7 +348,7 @@ void KvTVWallDisplayWindow::contextMenuEvent(QContextMenuEvent* event) { event->
 
 void KvTVWallDisplayWindow::closeEvent(QCloseEvent* event) { event->ignore(); }
 
-void KvTVWallDisplayWindow::hideEvent(QHideEvent*) { m_drag.active = false; }
+void KvTVWallDisplayWindow::hideEvent(QHideEvent*) { CancelDrag(); }
 
 void KvTVWallDisplayWindow::moveEvent(QMoveEvent* event) { QWidget::moveEvent(event); }
 

@@ -3,6 +3,7 @@
 #include <Platform/BasicUIComponents/StructScaleRect.h>
 
 #include <QMdiSubWindow>
+#include <QPointer>
 #include <QVariant>
 
 namespace UICommonMdl {
@@ -48,7 +49,7 @@ public:
 
     void SetTitle(const QString& title); ///< the window's number
     void SetContentText(const QString& text); ///< shown behind the title
-    KvTVWallDisplayVideo* GetVideo() const { return m_pVideo; }
+    KvTVWallDisplayVideo* GetVideo() const; ///< null when it was deleted
     bool DeleteVideo(); ///< false when there is none
 
     /// Whether the mouse holds the window to move or resize it.
@@ -116,7 +117,7 @@ private:
 
     KvTVWallDisplayScreen* const m_pScreen;
     KvTVWallDisplayTitleItem* m_pTitle;
-    KvTVWallDisplayVideo* m_pVideo;
+    QPointer<KvTVWallDisplayVideo> m_pVideo; // the client has it in hand and may delete it
     KvTVWallDisplayFrame* m_pFrame = nullptr; // of a selected window; the video covers what lies below it
     QVariant m_userData;
     int m_iZValue = 0;
