@@ -176,6 +176,7 @@ double StepTime(QWidget& widget)
 {
     constexpr int Steps = 12;
     std::vector<double> times;
+    times.reserve(Steps);
     for (int i = 0; i < Steps; ++i) {
         times.push_back(Ratio::Milliseconds([&widget, i] {
             widget.resize(i % 2 == 0 ? WallSize * 1.1 : WallSize);

@@ -7,6 +7,8 @@ namespace OperatorClient {
 
 namespace {
 
+constexpr int Bays = 9; ///< in each row
+constexpr double FirstBay = 80; ///< left edge of the first bay
 constexpr double BayWidth = 160;
 constexpr double UpperRow = 225; ///< middle of the upper row of bays
 constexpr double LowerRow = 765;
@@ -14,8 +16,10 @@ constexpr double LowerRow = 765;
 void PaintBays(QPainter& painter, double top, double bottom)
 {
     painter.setPen(QPen(QColor(206, 209, 212), 5));
-    for (double x = 80; x <= 1520; x += BayWidth)
+    for (int line = 0; line <= Bays; ++line) {
+        const double x = FirstBay + line * BayWidth;
         painter.drawLine(QPointF(x, top), QPointF(x, bottom));
+    }
 }
 
 void PaintParkedCars(QPainter& painter)
