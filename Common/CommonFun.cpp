@@ -51,7 +51,13 @@ void ReplaceByCopy(const QString& source, const QString& target)
         QFile::setPermissions(
             target, (QFile::permissions(target) & ~kMyPermissions) | QFileDevice::WriteOwner);
     QSaveFile copy(target);
-    if (!copy.open(QIODevice::WriteOnly) || copy.write(bytes) != bytes.size())
+    if (!copy.open(QIODevice::WriteOnly)) {
+        // Somebody else's file in a folder of ours: it can be removed, if not written.
+        QFile::remove(target);
+        QFile::copy(source, target);
+        return;
+    }
+    if (copy.write(bytes) != bytes.size())
         return;
     copy.setPermissions(original.permissions() & ~kMyPermissions);
     copy.commit();

@@ -34,5 +34,7 @@ QString StyleSheetText(const QString& fileName, const QString& folder)
     if (known != sheets.constEnd())
         return *known;
     const QByteArray bytes = KvGUI::KvFile::ReadAll(fileName, folder);
+    if (bytes.isNull())
+        return {}; // not remembered: a client may register its skin later
     return *sheets.insert(key, QString::fromUtf8(bytes.constData(), bytes.size()));
 }

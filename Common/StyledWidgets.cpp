@@ -3,7 +3,7 @@
 #include <Common/SkinPath.h>
 #include <Common/StyleSheets.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
-#include <QVector>
+#include <iterator>
 
 QString StyleSheetText(const StyleSheetSource& source)
 {
@@ -30,17 +30,17 @@ StyledWidgets::StyledWidgets()
 
 void StyledWidgets::Apply(QWidget* widget, const StyleSheetSource& source)
 {
-    auto styling = m_stylings.find(widget);
-    if (styling == m_stylings.end()) {
-        styling = m_stylings.insert(widget, {widget, {}, {}});
+    Styling& styling = m_stylings[widget];
+    // Also after a client's widget->disconnect(): then the note of a dead widget may stand at this address.
+    if (styling.widget.isNull()) {
+        styling = {widget, {}};
         connect(widget, &QObject::destroyed, this, [this](QObject* gone) { m_stylings.remove(gone); });
     }
-    styling->wanted = source;
+    styling.sources.removeOne(source);
+    styling.sources.append(source);
     const QString text = StyleSheetText(source);
-    if (text.isEmpty())
-        return;
-    styling->worn = source;
-    widget->setStyleSheet(text);
+    if (!text.isEmpty())
+        widget->setStyleSheet(text);
 }
 
 void StyledWidgets::Forget(QWidget* widget)
@@ -54,24 +54,25 @@ void StyledWidgets::RestyleAll()
     // A style change may run code of the client that makes, styles and deletes widgets.
     QVector<QPointer<QWidget>> widgets;
     widgets.reserve(m_stylings.size());
-    for (const Styling& styling : qAsConst(m_stylings))
-        widgets.append(styling.widget);
+    for (auto styling = m_stylings.begin(); styling != m_stylings.end();) {
+        widgets.append(styling->widget);
+        styling = styling->widget.isNull() ? m_stylings.erase(styling) : std::next(styling);
+    }
     for (const QPointer<QWidget>& widget : qAsConst(widgets)) {
         if (widget)
             Restyle(widget);
     }
 }
 
-void StyledWidgets::Restyle(QWidget* widget)
+void StyledWidgets::Restyle(QWidget* widget) const
 {
-    const auto styling = m_stylings.find(widget);
-    if (styling == m_stylings.end())
+    const QVector<StyleSheetSource> sources = m_stylings.value(widget).sources;
+    for (auto source = sources.crbegin(); source != sources.crend(); ++source) {
+        const QString text = StyleSheetText(*source);
+        if (text.isEmpty())
+            continue;
+        if (text != widget->styleSheet())
+            widget->setStyleSheet(text);
         return;
-    QString text = StyleSheetText(styling->wanted);
-    if (!text.isEmpty())
-        styling->worn = styling->wanted;
-    else if (!styling->worn.fileName.isEmpty())
-        text = StyleSheetText(styling->worn);
-    if (!text.isEmpty() && text != widget->styleSheet())
-        widget->setStyleSheet(text);
+    }
 }

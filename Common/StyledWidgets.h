@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QVector>
 #include <QWidget>
 
 /// Where a widget's style sheet comes from, apart from the skin in use.
@@ -11,6 +12,11 @@ struct StyleSheetSource
     QString subDir;
     QString fileName; ///< never empty
     QString module; ///< empty for this library's own module
+
+    bool operator==(const StyleSheetSource& other) const
+    {
+        return subDir == other.subDir && fileName == other.fileName && module == other.module;
+    }
 };
 
 /// The text of the sheet in the skin in use; empty when that skin has none.
@@ -32,18 +38,17 @@ public:
     void Forget(QWidget* widget);
 
 private:
-    /// A widget may be given a second sheet that this skin lacks (a subclass without a sheet of its
-    /// own): the one that it wears is kept in mind for the next skin.
     struct Styling
     {
         QPointer<QWidget> widget;
-        StyleSheetSource wanted;
-        StyleSheetSource worn; ///< no file name before the first sheet is found
+        /// What it was given, each once, in the order of the calls. Of those that a skin has, the last
+        /// counts: a subclass's own sheet before its base class's.
+        QVector<StyleSheetSource> sources;
     };
 
     StyledWidgets();
     void RestyleAll();
-    void Restyle(QWidget* widget);
+    void Restyle(QWidget* widget) const;
 
     QHash<QObject*, Styling> m_stylings;
 };

@@ -236,6 +236,8 @@ void TestSkin::SheetFoundLaterWins()
     QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
     KvGUI::SetSkinVersion(kNight);
     QCOMPARE(widget.styleSheet(), SheetOf("derived.css"));
+    KvGUI::SetSkinVersion(kDay); // which has the base class's only
+    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
 }
 
 /// Catches widgets that are polished again for a sheet that both skins share.
@@ -270,6 +272,7 @@ void TestSkin::DeadWidgetsAreForgotten()
     alignas(QWidget) unsigned char place[sizeof(QWidget)];
     auto* widget = new (place) QWidget;
     CommonFun::SetStyleSheet(widget, kForms, kSample, QString());
+    widget->disconnect(); // by the client, who thinks of connections of its own
     widget->~QWidget();
     widget = new (place) QWidget;
     KvGUI::SetSkinVersion(kNight);
@@ -328,7 +331,7 @@ void TestSkin::SheetsOnDiskBelongToNoSkin()
     QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
 }
 
-/// Catches a sheet, or a missing sheet, that is read for each widget, and one that is kept for ever.
+/// Catches a sheet that is read for each widget, one that is kept for ever, and one that comes late.
 void TestSkin::SheetsAreReadOnce()
 {
     QTemporaryDir folder;
@@ -342,11 +345,13 @@ void TestSkin::SheetsAreReadOnce()
     };
     QCOMPARE(styled(), QString());
     Write(path, "QWidget { margin: 1px }");
-    QCOMPARE(styled(), QString());
+    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
+    Write(path, "QWidget { margin: 2px }");
+    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
     KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
+    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 2px }"));
     QFile::remove(path);
-    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
+    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 2px }"));
 }
 
 /// Catches bytes that are decoded as UTF-8 or end at a zero, and an output that a failure clears.
