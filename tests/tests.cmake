@@ -19,6 +19,7 @@ if(TARGET OperatorClientPages)
 endif()
 uicomponents_test(tst_wallmodel tst_wallmodel.cpp INTERNAL)
 uicomponents_test(tst_displaywall tst_displaywall.cpp)
+uicomponents_test(tst_wallstorm tst_wallstorm.cpp)
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")
