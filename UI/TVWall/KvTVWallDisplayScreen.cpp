@@ -358,6 +358,8 @@ bool KvTVWallDisplayScreen::DeleteWindow(int index)
     if (window == nullptr)
         return false;
     m_windows.removeAt(index);
+    if (m_drawing == Drawing::Site)
+        CancelDrawing(); // its release may never come
     disconnect(window, nullptr, this, nullptr);
     window->removeEventFilter(m_pWatcher);
     if (window->IsSelected())
@@ -498,8 +500,7 @@ void KvTVWallDisplayScreen::ActOnWindowEvent(KvTVWallDisplayWindow* window, QEve
         PressWindow(window, *static_cast<QMouseEvent*>(event));
         break;
     case QEvent::MouseMove:
-        if (m_drawing == Drawing::Site)
-            DrawTo(window->mapToParent(static_cast<QMouseEvent*>(event)->pos()));
+        MoveOnWindow(*static_cast<QMouseEvent*>(event));
         break;
     case QEvent::MouseButtonRelease:
         ReleaseWindow(window, *static_cast<QMouseEvent*>(event));
@@ -525,7 +526,10 @@ bool KvTVWallDisplayScreen::IsSelectable(const KvTVWallDisplayWindow* window, Qt
 
 void KvTVWallDisplayScreen::PressWindow(KvTVWallDisplayWindow* window, const QMouseEvent& event)
 {
-    m_pressPoint = window->mapToParent(event.pos());
+    if (m_drawing != Drawing::Nothing && event.button() != Qt::LeftButton)
+        return; // another button while the left one draws
+    CancelDrawing();
+    m_pressPoint = viewport()->mapFromGlobal(event.globalPos());
     if (m_bPositioning && event.button() == Qt::LeftButton)
         m_drawing = Drawing::Site;
     m_pPressed = IsSelectable(window, event.button()) ? window : nullptr;
@@ -533,9 +537,21 @@ void KvTVWallDisplayScreen::PressWindow(KvTVWallDisplayWindow* window, const QMo
         Select({IndexOf(window)}, true);
 }
 
+void KvTVWallDisplayScreen::MoveOnWindow(const QMouseEvent& event)
+{
+    // By the desktop: the window itself may just have moved.
+    const QPoint pos = viewport()->mapFromGlobal(event.globalPos());
+    if (pos != m_pressPoint)
+        m_pPressed = nullptr; // a drag is no click, also when it comes back
+    if (m_drawing == Drawing::Site && (event.buttons() & Qt::LeftButton))
+        DrawTo(pos);
+    else if (m_drawing == Drawing::Site)
+        CancelDrawing();
+}
+
 void KvTVWallDisplayScreen::ReleaseWindow(KvTVWallDisplayWindow* window, const QMouseEvent& event)
 {
-    const QPoint pos = window->mapToParent(event.pos());
+    const QPoint pos = viewport()->mapFromGlobal(event.globalPos());
     const bool isClick = m_pPressed == window && pos == m_pressPoint && IsSelectable(window, event.button());
     m_pPressed = nullptr;
     if (isClick) {
@@ -586,8 +602,9 @@ bool KvTVWallDisplayScreen::Select(const QVector<int>& targets, bool fromPress)
 void KvTVWallDisplayScreen::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
-    if (m_drawing != Drawing::Nothing)
+    if (m_drawing != Drawing::Nothing && event->button() != Qt::LeftButton)
         return; // another button while the left one draws
+    CancelDrawing(); // whose release went elsewhere
     m_pressPoint = event->pos();
     const bool draws = event->button() == Qt::LeftButton;
     const QPointer<KvTVWallDisplayScreen> alive(this);
@@ -696,7 +713,12 @@ void KvTVWallDisplayScreen::SelectInBand(const QPoint& from, const QPoint& to)
 // ---- Events. Those of the base class are passed over: it would activate, raise and place windows.
 
 // NOLINTBEGIN(bugprone-parent-virtual-call)
-bool KvTVWallDisplayScreen::event(QEvent* event) { return QAbstractScrollArea::event(event); }
+bool KvTVWallDisplayScreen::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked)
+        CancelDrawing(); // a modal dialog gets the release
+    return QAbstractScrollArea::event(event);
+}
 
 bool KvTVWallDisplayScreen::viewportEvent(QEvent* event) { return QAbstractScrollArea::viewportEvent(event); }
 
@@ -734,6 +756,13 @@ void KvTVWallDisplayScreen::hideEvent(QHideEvent* event)
 }
 
 // NOLINTEND(bugprone-parent-virtual-call)
+
+void KvTVWallDisplayScreen::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange)
+        CancelDrawing();
+    QAbstractScrollArea::changeEvent(event);
+}
 
 void KvTVWallDisplayScreen::scrollContentsBy(int, int) { }
 

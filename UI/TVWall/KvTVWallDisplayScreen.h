@@ -98,6 +98,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void childEvent(QChildEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -132,6 +133,7 @@ private:
     bool WatchWindow(KvTVWallDisplayWindow* window, QEvent* event);
     void ActOnWindowEvent(KvTVWallDisplayWindow* window, QEvent* event);
     void PressWindow(KvTVWallDisplayWindow* window, const QMouseEvent& event);
+    void MoveOnWindow(const QMouseEvent& event);
     void ReleaseWindow(KvTVWallDisplayWindow* window, const QMouseEvent& event);
     void ClickWindow(KvTVWallDisplayWindow* window);
     bool WatchLabel(const QObject* watched, QEvent* event);

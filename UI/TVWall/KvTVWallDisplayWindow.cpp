@@ -54,7 +54,9 @@ KvTVWallDisplayWindow::KvTVWallDisplayWindow(
     disconnect(qApp, nullptr, this, nullptr);
     setSystemMenu(nullptr);
     delete layout();
-    overrideWindowFlags(windowFlags() | Qt::CustomizeWindowHint); // which it takes away
+    // The base class takes the hint away. As a sub-window, which is its type, it would hold the keyboard
+    // focus and window shortcuts within itself.
+    overrideWindowFlags((windowFlags() & ~Qt::WindowType_Mask) | Qt::CustomizeWindowHint);
     setAttribute(Qt::WA_Hover);
     setAcceptDrops(true);
 
@@ -119,8 +121,8 @@ void KvTVWallDisplayWindow::OnWindowSelfAdaptionBtnClicked()
     }
     const auto snapped = WallGeometry::SnappedToCells(
         m_scale, m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan(), m_dPrecision);
-    if (snapped && !ChangeScale(*snapped, State::Snapped))
-        m_restoreScale = m_scale;
+    if (snapped)
+        ChangeScale(*snapped, State::Snapped);
 }
 
 void KvTVWallDisplayWindow::SetSelected(bool selected)
@@ -177,7 +179,10 @@ bool KvTVWallDisplayWindow::DeleteVideo()
 {
     if (m_pVideo.isNull())
         return false;
-    delete m_pVideo;
+    // An event of it may be the occasion, so it is only hidden now.
+    m_pVideo->hide();
+    m_pVideo->deleteLater();
+    m_pVideo = nullptr;
     update();
     return true;
 }
@@ -331,6 +336,7 @@ bool KvTVWallDisplayWindow::event(QEvent* event)
     case QEvent::HoverLeave:
         return true;
     case QEvent::UngrabMouse:
+    case QEvent::WindowBlocked: // by a modal dialog, which gets the release
         CancelDrag();
         break;
     default:
@@ -356,7 +362,12 @@ void KvTVWallDisplayWindow::showEvent(QShowEvent* event) { QWidget::showEvent(ev
 
 void KvTVWallDisplayWindow::leaveEvent(QEvent* event) { QWidget::leaveEvent(event); }
 
-void KvTVWallDisplayWindow::changeEvent(QEvent* event) { QWidget::changeEvent(event); }
+void KvTVWallDisplayWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange)
+        CancelDrag();
+    QWidget::changeEvent(event);
+}
 
 void KvTVWallDisplayWindow::childEvent(QChildEvent* event) { QWidget::childEvent(event); }
 

@@ -209,8 +209,9 @@ KvTVWallDisplayWnd::KvTVWallDisplayWnd(QWidget* parent)
 // The screens use the private object until their end; it is a child too and must not go first.
 KvTVWallDisplayWnd::~KvTVWallDisplayWnd()
 {
-    qDeleteAll(d_func()->screens);
-    d_func()->screens.clear();
+    QList<KvTVWallDisplayScreen*> screens;
+    screens.swap(d_func()->screens); // what their end sets off finds none
+    qDeleteAll(screens);
 }
 
 void KvTVWallDisplayWnd::SetTVWallGridCount(int iRows, int iCols)

@@ -41,7 +41,8 @@ int DraggedHigh(int high, int way, int lowest, int highest)
 
 int MovedLow(int low, int size, int way, int lowest, int end)
 {
-    return std::max(std::min(low + way, end - size), lowest);
+    // Without a way nothing moves, also where rounding lets the window stick out of the bounds by a pixel.
+    return way == 0 ? low : std::max(std::min(low + way, end - size), lowest);
 }
 
 } // namespace
