@@ -55,15 +55,6 @@ bool IsReported(QEvent::Type type)
     }
 }
 
-/// Forgets all that an overlay label showed before.
-void Reset(QLabel* label)
-{
-    label->hide();
-    label->setStyleSheet(QString());
-    label->setObjectName(QString());
-    label->setFont(QFont());
-}
-
 void SetFace(QLabel* label, const ScreenOverlay::Face& face)
 {
     label->setObjectName(face.objectName);
@@ -214,7 +205,7 @@ void KvTVWallDisplayScreen::UpdateLook()
 
 void KvTVWallDisplayScreen::SetOSDInfo(const std::vector<KvGUI::StructOSDInfo>& infos)
 {
-    HideOverlays();
+    DropOverlays();
     const ScreenOverlay::Sorted sorted = ScreenOverlay::SortedByKind(infos);
     const auto shown
         = [](const auto& records) { return qMin(int(records.size()), ScreenOverlay::SlotsOfAKind); };
@@ -229,40 +220,49 @@ void KvTVWallDisplayScreen::SetOSDInfo(const std::vector<KvGUI::StructOSDInfo>& 
 
 void KvTVWallDisplayScreen::ShowPlainOverlay(int slot, const KvGUI::StructOSDInfo& info)
 {
-    QLabel*& label = m_plainLabels.at(size_t(slot));
-    if (label == nullptr) {
-        label = new QLabel(viewport());
-        label->setTextFormat(Qt::PlainText);
-        label->installEventFilter(m_pWatcher);
-    }
+    auto* label = new QLabel(viewport());
+    m_plainLabels.at(size_t(slot)) = label;
     const ScreenOverlay::Placement placement = ScreenOverlay::Placed(info, size());
-    Reset(label);
+    label->setTextFormat(Qt::PlainText);
     SetFace(label, ScreenOverlay::FaceOf(info.strFontName));
     label->setStyleSheet(ScreenOverlay::StyleSheet(info, placement.fontPixelSize));
     label->setAlignment(ScreenOverlay::AlignmentOf(info.iAlign));
-    label->setGeometry(WallGeometry::Displayable(placement.geometry));
     label->setText(ScreenOverlay::Text(info));
-    label->show();
+    ShowOverlay(label, placement.geometry);
 }
 
 void KvTVWallDisplayScreen::ShowRollingOverlay(int slot, const KvGUI::StructOSDInfo& info)
 {
-    QOSDShowLabel*& label = m_rollingLabels.at(size_t(slot));
-    if (label == nullptr) {
-        label = new QOSDShowLabel(viewport());
-        label->installEventFilter(m_pWatcher);
-    }
+    auto* label = new QOSDShowLabel(viewport());
+    m_rollingLabels.at(size_t(slot)) = label;
     const ScreenOverlay::Placement placement = ScreenOverlay::Placed(info, size());
-    Reset(label);
     SetFace(label, ScreenOverlay::FaceOf(info.strFontName));
-    QFont font = label->font();
-    font.setPixelSize(placement.fontPixelSize);
-    label->setFont(font);
-    label->setGeometry(WallGeometry::Displayable(placement.geometry));
+    ShowOverlay(label, placement.geometry);
     label->SetContent(
-        {ScreenOverlay::Text(info), ScreenOverlay::TextColor(info), ScreenOverlay::BackColor(info),
-         info.bRoll, ScreenOverlay::AlignmentOf(info.iAlign), info.iRollMode});
+        {ScreenOverlay::Text(info), placement.fontPixelSize, ScreenOverlay::TextColor(info),
+         ScreenOverlay::BackColor(info), info.bRoll, ScreenOverlay::AlignmentOf(info.iAlign),
+         info.iRollMode});
+}
+
+void KvTVWallDisplayScreen::ShowOverlay(QLabel* label, const QRect& geometry)
+{
+    label->installEventFilter(m_pWatcher);
+    label->setGeometry(WallGeometry::Displayable(geometry));
     label->show();
+}
+
+// A label that was styled once keeps traces of its face, so every record gets a new one.
+void KvTVWallDisplayScreen::DropOverlays()
+{
+    HideOverlays();
+    const auto drop = [](QLabel* label) {
+        if (label != nullptr)
+            label->deleteLater(); // it may be the one that is emitting
+    };
+    std::for_each(m_plainLabels.begin(), m_plainLabels.end(), drop);
+    std::for_each(m_rollingLabels.begin(), m_rollingLabels.end(), drop);
+    m_plainLabels.fill(nullptr);
+    m_rollingLabels.fill(nullptr);
 }
 
 void KvTVWallDisplayScreen::HideOverlays()
@@ -509,7 +509,8 @@ void KvTVWallDisplayScreen::ActOnWindowEvent(KvTVWallDisplayWindow* window, QEve
         m_pPressed = nullptr; // the release that follows belongs to the double-click
         break;
     case QEvent::KeyPress:
-        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space && IsSelectable(window, Qt::LeftButton)) {
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space
+            && !static_cast<QKeyEvent*>(event)->isAutoRepeat() && IsSelectable(window, Qt::LeftButton)) {
             event->accept();
             ClickWindow(window);
         }

@@ -153,6 +153,8 @@ private:
     void ShowFrame();
     void ShowPlainOverlay(int slot, const KvGUI::StructOSDInfo& info);
     void ShowRollingOverlay(int slot, const KvGUI::StructOSDInfo& info);
+    void ShowOverlay(QLabel* label, const QRect& geometry);
+    void DropOverlays();
     void HideOverlays();
     void UpdateRolling();
     void PaintContentText(QPainter& painter) const;

@@ -70,6 +70,8 @@ void KvTVWallDisplayWindow::PlaceOnScreen()
 {
     m_drag.active = false;
     setGeometry(WallGeometry::Displayable(WallGeometry::WindowRect(m_pScreen->size(), m_scale)));
+    if (!isVisible())
+        LayOut(); // a hidden widget hears of its size when it is shown
 }
 
 // State, pixels and tool tips change before the report, so that a slot finds the window as it will be and
@@ -187,7 +189,9 @@ bool KvTVWallDisplayWindow::DeleteVideo()
     return true;
 }
 
-void KvTVWallDisplayWindow::resizeEvent(QResizeEvent*)
+void KvTVWallDisplayWindow::resizeEvent(QResizeEvent*) { LayOut(); }
+
+void KvTVWallDisplayWindow::LayOut()
 {
     const int innerWidth = qMax(0, width() - 2 * TitleMargin);
     m_pTitle->setGeometry(TitleMargin, TitleMargin, innerWidth, TitleHeight);
@@ -303,7 +307,7 @@ void KvTVWallDisplayWindow::mouseDoubleClickEvent(QMouseEvent* event)
     const QPointer<KvTVWallDisplayWindow> alive(this);
     if (m_scale.bEditable)
         OnShowMaxOrNormal();
-    if (!alive)
+    if (!alive || isHidden()) // deleted, or removed, by a slot
         return;
     SetSelected(true);
     m_pScreen->SelectUnlessSelected();

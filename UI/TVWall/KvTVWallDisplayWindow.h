@@ -109,6 +109,7 @@ private:
     bool ChangeScale(const KvGUI::StructScaleRect& rect, State state);
     void SetState(State state);
     void UpdateTitle();
+    void LayOut();
     Qt::Edges EdgesForMouse(const QPoint& pos) const;
     void ShowCursorAt(const QPoint& pos);
     KvGUI::StructScaleRect ScaleOfDrag(bool keepToCells) const;

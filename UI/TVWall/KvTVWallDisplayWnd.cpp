@@ -7,6 +7,7 @@
 
 #include <Common/CommonFun.h>
 
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -17,6 +18,20 @@ namespace UICommonMdl {
 namespace {
 
 constexpr int NoIndex = -1;
+
+/// Describes screens and windows to assistive technology as the plain widgets that they are here: for their
+/// base classes Qt would list registered sub-windows only, and give no names.
+QAccessibleInterface* MakeAccessible(const QString& className, QObject* object)
+{
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (widget == nullptr || !className.startsWith(QLatin1String("UICommonMdl::KvTVWallDisplay")))
+        return nullptr;
+    if (qobject_cast<KvTVWallDisplayWindow*>(widget) != nullptr)
+        return new QAccessibleWidget(widget, QAccessible::Window);
+    if (qobject_cast<KvTVWallDisplayScreen*>(widget) != nullptr)
+        return new QAccessibleWidget(widget, QAccessible::Pane);
+    return nullptr;
+}
 
 } // namespace
 
@@ -203,6 +218,7 @@ KvTVWallDisplayWnd::KvTVWallDisplayWnd(QWidget* parent)
     : QWidget(parent)
     , m_pPrivate(new KvTVWallDisplayWndPrivate(this))
 {
+    QAccessible::installFactory(MakeAccessible); // once, however many walls there are
     CommonFun::SetStyleSheet(this, QStringLiteral("TVWallOperateWnd"), QString(), QString());
 }
 

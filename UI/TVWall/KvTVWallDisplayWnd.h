@@ -39,7 +39,9 @@ class KvTVWallDisplayWndPrivate;
 /// the value given with it.
 ///
 /// <b>Signals</b> carry the indices of the moment of their emission. A slot may delete the window, its
-/// screen, all screens or the wall. A QEvent that a signal carries is valid during the emission only.
+/// screen, all screens or the wall. Only in slots of SignalWindowEvent and SignalScreenEvent the wall itself
+/// has to go by deleteLater(): Qt uses the widget under the mouse once more after a right press or a
+/// drag-enter. A QEvent that a signal carries is valid during the emission only.
 ///
 /// <b>By hand.</b> An editable window is moved by its title bar and resized by its edges, inside its screen;
 /// with Shift held it keeps to the screen's cells, Escape takes the drag back. The selection mode says what
@@ -236,7 +238,7 @@ Q_SIGNALS:
     /// The operator drew a 3D-positioning frame from the first point to the second, in 1/8192 of the
     /// screen's width (x) and height (y).
     void SignalWindow3DSite(int iScreen, int iStartX, int iStartY, int iEndX, int iEndY);
-    /// A mouse, wheel, key, context-menu or drag-and-drop event reached an overlay: 0 ... 7 the rolling ones,
+    /// A mouse, wheel, key or context-menu event reached an overlay: 0 ... 7 the rolling ones,
     /// 8 ... 15 the plain ones, each in the order of their records.
     void SignalLabelEvent(int iScreen, int iLabel, QEvent* event);
     /// A wheel event anywhere on the wall: its vertical angle in 1/8 degree, its place in wall pixels.

@@ -30,7 +30,8 @@ void QOSDShowLabel::SetContent(const Content& content)
     m_way = 0.0;
     m_lines.clear();
     int widest = 0;
-    const QFontMetrics metrics(font());
+    ensurePolished(); // the style sheet chooses the face
+    const QFontMetrics metrics(TextFont());
     const int spaceWidth = metrics.horizontalAdvance(QLatin1Char(' '));
     const QStringList lines = content.text.split(QLatin1Char('\n'));
     for (const QString& line : lines) {
@@ -44,6 +45,13 @@ void QOSDShowLabel::SetContent(const Content& content)
     setAlignment(content.alignment);
     setText(content.text); // what assistive technology reads
     update();
+}
+
+QFont QOSDShowLabel::TextFont() const
+{
+    QFont textFont = font();
+    textFont.setPixelSize(m_content.fontPixelSize);
+    return textFont;
 }
 
 // Pixels of one round. A text leaves the label wholly before it comes in again from the other side; back
@@ -97,7 +105,7 @@ void QOSDShowLabel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(rect(), m_content.backColor);
     painter.setPen(m_content.textColor);
-    painter.setFont(font());
+    painter.setFont(TextFont());
     const int lineHeight = painter.fontMetrics().lineSpacing();
     QRect line(0, (height() - m_textSize.height()) / 2, m_textSize.width(), lineHeight);
     line.translate(TextOffset());

@@ -29,6 +29,7 @@ public:
     struct Content
     {
         QString text; ///< a line feed separates lines
+        int fontPixelSize = 1; ///< whatever an application's sheet says about labels
         QColor textColor;
         QColor backColor;
         bool roll = true; ///< false: the text stands still
@@ -38,8 +39,8 @@ public:
 
     explicit QOSDShowLabel(QWidget* parent);
 
-    /// Shows @p content from the start of its way. Set the font and the size first: the text is padded to
-    /// the label's width.
+    /// Shows @p content from the start of its way. Set the font's face and the
+    /// label's size first: the text is padded to its width.
     void SetContent(const Content& content);
     /// Whether the text moves at all.
     bool IsRolling() const { return m_content.roll; }
@@ -53,6 +54,7 @@ protected:
 
 private:
     double WayLength() const;
+    QFont TextFont() const;
 
     Content m_content;
     QStringList m_lines;

@@ -11,6 +11,7 @@ namespace {
 constexpr qint64 ScreenUnits = 8192; // an overlay's rectangle is in 1/8192 of its screen
 constexpr int DescenderRoom = 5; // pixels
 constexpr int LargestSlack = 7; // pixels that may stay empty behind a rolling text
+constexpr int MostSpaces = 4096; // wider than any monitor; the text is shaped at each painting
 constexpr qint64 LargestFont = 16384; // pixels; a font engine given wild sizes takes minutes
 
 int PixelsOf(qint64 units, int screenPixels)
@@ -74,9 +75,9 @@ Qt::Alignment AlignmentOf(int iAlign)
     case 1:
         return Qt::AlignCenter;
     case 2:
-        return Qt::AlignRight | Qt::AlignVCenter;
+        return Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter;
     default:
-        return Qt::AlignLeft | Qt::AlignVCenter;
+        return Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter;
     }
 }
 
@@ -96,7 +97,7 @@ QString PaddedToWidth(const QString& text, int textWidth, int spaceWidth, int wi
     const int slack = width - textWidth;
     if (slack <= LargestSlack || spaceWidth <= 0)
         return text;
-    return text + QString(slack / spaceWidth, QLatin1Char(' '));
+    return text + QString(std::min(slack / spaceWidth, MostSpaces), QLatin1Char(' '));
 }
 
 std::string BaseMapFile(const std::string& path)

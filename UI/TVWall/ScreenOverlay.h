@@ -46,12 +46,13 @@ QString Text(const KvGUI::StructOSDInfo& info);
 QColor TextColor(const KvGUI::StructOSDInfo& info); ///< parts outside 0 ... 255 are brought into it
 QColor BackColor(const KvGUI::StructOSDInfo& info); ///< as TextColor
 Face FaceOf(const std::string& fontName);
-Qt::Alignment AlignmentOf(int iAlign); ///< any value but 1 and 2 is left
+/// Any value but 1 and 2 is left. Absolute: text of a right-to-left script stays on the record's side.
+Qt::Alignment AlignmentOf(int iAlign);
 /// Style sheet of a plain overlay's label.
 QString StyleSheet(const KvGUI::StructOSDInfo& info, int fontPixelSize);
 
 /// @p text followed by spaces of @p spaceWidth pixels that fill a label of @p width pixels, of which the
-/// text itself takes @p textWidth; unchanged when 7 pixels or less are left.
+/// text itself takes @p textWidth; unchanged when 7 pixels or less are left. At most 4096 spaces are added.
 QString PaddedToWidth(const QString& text, int textWidth, int spaceWidth, int width);
 
 /// The picture file to show for a base map: a raw video frame (a path with ".yuv" in it) stands for the

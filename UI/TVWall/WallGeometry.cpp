@@ -56,8 +56,10 @@ int Truncated(double value)
 
 bool IsEqual(const KvGUI::StructScaleRect& a, const KvGUI::StructScaleRect& b, double precision)
 {
-    const auto equal
-        = [precision](double x, double y) { return x == y || std::abs(x - y) <= precision + DecimalNoise; };
+    const auto equal = [precision](double x, double y) {
+        const bool bothUnknown = std::isnan(x) && std::isnan(y);
+        return x == y || bothUnknown || std::abs(x - y) <= precision + DecimalNoise;
+    };
     return equal(a.dLeft, b.dLeft) && equal(a.dTop, b.dTop) && equal(a.dRight, b.dRight)
         && equal(a.dBottom, b.dBottom);
 }

@@ -24,7 +24,7 @@ int Truncated(double value);
 
 /// Whether each edge of @p a and @p b differs by @p precision at most. Inclusive as one reads the numbers:
 /// 0.5 and 0.501 are equal within 0.001 although their difference as doubles is a hair larger. bEditable
-/// takes no part. A NaN edge is equal to nothing.
+/// takes no part. A NaN edge is equal to NaN only.
 bool IsEqual(const KvGUI::StructScaleRect& a, const KvGUI::StructScaleRect& b, double precision);
 
 /// How many of @p cells cells lie between the fractions @p from and @p to, rounded half up.
