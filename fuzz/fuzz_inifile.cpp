@@ -15,6 +15,7 @@ namespace {
 
 QString Path()
 {
+    // In memory: a fuzzer writes thousands of files a second.
     static const QTemporaryDir folder(QStringLiteral("/dev/shm/fuzz_inifile-XXXXXX"));
     return folder.filePath(QStringLiteral("client.ini"));
 }

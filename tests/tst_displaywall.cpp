@@ -969,6 +969,10 @@ void tst_DisplayWall::overlaysAreShown()
     QTest::mouseClick(ShownOverlays(f).last(), Qt::LeftButton);
     QCOMPARE(labels, (QList<int>{8, 8, 7, 7}));
     QCOMPARE(selected.count(), 0); // nothing falls through
+    infos.clear();
+    f.wall->SetScreenOSDInfo(0, infos);
+    QTest::keyClick(plain, Qt::Key_A); // an event still under way to a removed overlay
+    QCOMPARE(labels.size(), 4);
 }
 
 // Catches the look of the overlay that a label showed before.

@@ -255,9 +255,11 @@ void KvTVWallDisplayScreen::ShowOverlay(QLabel* label, const QRect& geometry)
 void KvTVWallDisplayScreen::DropOverlays()
 {
     HideOverlays();
-    const auto drop = [](QLabel* label) {
-        if (label != nullptr)
-            label->deleteLater(); // it may be the one that is emitting
+    const auto drop = [this](QLabel* label) {
+        if (label == nullptr)
+            return;
+        label->removeEventFilter(m_pWatcher); // it has no number any more
+        label->deleteLater(); // it may be the one that is emitting
     };
     std::for_each(m_plainLabels.begin(), m_plainLabels.end(), drop);
     std::for_each(m_rollingLabels.begin(), m_rollingLabels.end(), drop);
@@ -307,13 +309,12 @@ void KvTVWallDisplayScreen::UpdateRolling()
 
 bool KvTVWallDisplayScreen::WatchLabel(const QObject* watched, QEvent* event)
 {
-    int label = 0;
-    const auto isWatched = [watched](const QLabel* slot) { return slot == watched; };
-    const auto rolling = std::find_if(m_rollingLabels.begin(), m_rollingLabels.end(), isWatched);
-    label = int(rolling - m_rollingLabels.begin());
-    if (rolling == m_rollingLabels.end())
-        label += int(
-            std::find_if(m_plainLabels.begin(), m_plainLabels.end(), isWatched) - m_plainLabels.begin());
+    const auto slotOf = [watched](const auto& labels) {
+        return int(std::find(labels.begin(), labels.end(), watched) - labels.begin());
+    };
+    int label = slotOf(m_rollingLabels); // the plain ones are numbered behind the rolling ones
+    if (label == ScreenOverlay::SlotsOfAKind)
+        label += slotOf(m_plainLabels);
     // The wheel and keys are the wall's; a mouse event on an overlay is none on the window below.
     event->setAccepted(IsMouseEvent(event->type()) || event->type() == QEvent::ContextMenu);
     const QPointer<KvTVWallDisplayScreen> alive(this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ScreenOverlay.h"
 #include "WallSelection.h"
 
 #include <Platform/BasicUIComponents/StructOSDInfo.h>
@@ -183,8 +184,8 @@ private:
 
     bool m_bShowBackground = false;
     QColor m_background;
-    std::array<QOSDShowLabel*, 8> m_rollingLabels{};
-    std::array<QLabel*, 8> m_plainLabels{};
+    std::array<QOSDShowLabel*, ScreenOverlay::SlotsOfAKind> m_rollingLabels{};
+    std::array<QLabel*, ScreenOverlay::SlotsOfAKind> m_plainLabels{};
     QBasicTimer m_rollTimer;
     QElapsedTimer m_rollClock;
     bool m_bShowBaseMap = false;

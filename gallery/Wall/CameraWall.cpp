@@ -490,22 +490,25 @@ QString CameraWall::BaseMapPath()
     return path;
 }
 
+void CameraWall::ChangeNote(int screen, const ScreenNote& note)
+{
+    m_pWall->SetScreenUserData(screen, QVariant::fromValue(note));
+    ShowNote(screen, note);
+    Q_EMIT SignalChanged();
+}
+
 void CameraWall::SetOverlays(int screen, bool bShow)
 {
     ScreenNote note = Note(screen);
     note.overlays = bShow;
-    m_pWall->SetScreenUserData(screen, QVariant::fromValue(note));
-    ShowNote(screen, note);
-    Q_EMIT SignalChanged();
+    ChangeNote(screen, note);
 }
 
 void CameraWall::SetBaseMap(int screen, bool bShow)
 {
     ScreenNote note = Note(screen);
     note.baseMap = bShow;
-    m_pWall->SetScreenUserData(screen, QVariant::fromValue(note));
-    ShowNote(screen, note);
-    Q_EMIT SignalChanged();
+    ChangeNote(screen, note);
 }
 
 void CameraWall::SetPositioning(int screen, bool bEnable)

@@ -105,6 +105,7 @@ private:
     void OnWindowEvent(int screen, int window, QEvent* event);
     void OpenAtDrop(int screen, const QDropEvent& drop, const SourceSpec& source);
     void ShowNote(int screen, const ScreenNote& note);
+    void ChangeNote(int screen, const ScreenNote& note); ///< keeps, shows and reports it
     void ShowOverlaysAgain();
     QString BaseMapPath();
 
