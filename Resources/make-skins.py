@@ -9,6 +9,11 @@ the skin's palette. This script fills the templates for each skin:
     gallery/skins/templates/<sub folder>/<file>
         -> gallery/skins/Corvale/<skin>/<sub folder>/<file>
 
+A template named <name>.png.svg makes two pictures of fixed size, <name>.png and <name>@2x.png,
+which Qt takes for screens of twice the density. They are drawn by rsvg-convert (Debian's
+librsvg2-bin), needed only where a picture is made anew: each picture carries the checksum of the
+drawing it was made from, and as long as that is right, it is left alone.
+
     make-skins.py           writes the trees
     make-skins.py --check   writes nothing; names every file that differs from its template
 
@@ -17,9 +22,13 @@ an image that no template makes, a file in the trees that no template makes.
 """
 
 import argparse
+import hashlib
 import re
+import struct
+import subprocess
 import sys
 import xml.etree.ElementTree
+import zlib
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -158,9 +167,18 @@ def fill(template, values):
     return TOKEN.sub(lambda match: values[match.group(1)], template)
 
 
+def targets(target):
+    """The files that the template with this target makes, each with its scale (None: a text)."""
+    if target.name.endswith(".png.svg"):
+        name = target.name[: -len(".png.svg")]
+        return [(target.with_name(f"{name}.png"), 1), (target.with_name(f"{name}@2x.png"), 2)]
+    return [(target, None)]
+
+
 def make_trees():
-    """Returns the text of every file by its path, and the faults found on the way."""
-    files, resources, faults = {}, {}, []
+    """Returns the text of every file by its path, the scale of those that are pictures (whose
+    text is the drawing), the resource path of each, and the faults found on the way."""
+    files, scales, resources, faults = {}, {}, {}, []
     for templates, tree, module in TREES:
         for template in sorted(path for path in templates.rglob("*") if path.is_file()):
             relative = template.relative_to(templates)
@@ -170,12 +188,16 @@ def make_trees():
                 # @images@ is the resource folder of the file itself.
                 values = {**palette, "skin": skin, "images": folder}
                 try:
-                    files[target] = fill(template.read_text(encoding="utf-8"), values)
+                    text = fill(template.read_text(encoding="utf-8"), values)
                 except KeyError as token:
                     faults.append(f"{template.relative_to(ROOT)}: unknown token {token} in {skin}")
                     continue
-                resources[target] = f"{folder}/{relative.name}"
-    return files, resources, faults
+                for path, scale in targets(target):
+                    files[path] = text
+                    resources[path] = f"{folder}/{path.name}"
+                    if scale:
+                        scales[path] = scale
+    return files, scales, resources, faults
 
 
 def file_faults(files, resources):
@@ -183,7 +205,7 @@ def file_faults(files, resources):
     known = set(resources.values())
     for path, text in files.items():
         name = path.relative_to(ROOT)
-        if path.suffix == ".svg":
+        if path.suffix in (".svg", ".png"):
             try:
                 xml.etree.ElementTree.fromstring(text)
             except xml.etree.ElementTree.ParseError as error:
@@ -200,8 +222,31 @@ def strays(files):
                 yield f"{path.relative_to(ROOT)}: no template makes this file"
 
 
-def differs(path, text):
-    return not path.is_file() or path.read_bytes() != text.encode("utf-8")
+# A picture's drawing is known by this chunk of text in the PNG file.
+CHUNK = b"tEXt"
+KEYWORD = b"Drawing\0"
+HEADER_LENGTH = 8 + 25  # PNG's signature and its first chunk, IHDR
+
+
+def checksum(text):
+    return hashlib.sha256(text.encode("utf-8")).hexdigest().encode("ascii")
+
+
+def picture(text, scale):
+    """The drawing as the bytes of a PNG file that carries the drawing's checksum."""
+    command = ["rsvg-convert", "--format=png", f"--zoom={scale}"]
+    png = subprocess.run(command, input=text.encode("utf-8"), capture_output=True, check=True).stdout
+    data = KEYWORD + checksum(text)
+    chunk = struct.pack(">I", len(data)) + CHUNK + data + struct.pack(">I", zlib.crc32(CHUNK + data))
+    return png[:HEADER_LENGTH] + chunk + png[HEADER_LENGTH:]
+
+
+def differs(path, text, scale):
+    if not path.is_file():
+        return True
+    if scale:
+        return CHUNK + KEYWORD + checksum(text) not in path.read_bytes()[:256]
+    return path.read_bytes() != text.encode("utf-8")
 
 
 def main():
@@ -209,20 +254,21 @@ def main():
     parser.add_argument("--check", action="store_true", help="write nothing, name what differs")
     check = parser.parse_args().check
 
-    files, resources, faults = make_trees()
+    files, scales, resources, faults = make_trees()
     for skin, palette in PALETTES.items():
         faults += contrast_faults(skin, palette)
     faults += file_faults(files, resources)
     faults += strays(files)
 
     for path, text in files.items():
-        if not differs(path, text):
+        scale = scales.get(path)
+        if not differs(path, text, scale):
             continue
         if check:
             faults.append(f"{path.relative_to(ROOT)}: differs from its template; run make-skins.py")
         else:
             path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_bytes(text.encode("utf-8"))
+            path.write_bytes(picture(text, scale) if scale else text.encode("utf-8"))
             print(path.relative_to(ROOT))
 
     for fault in faults:
