@@ -1,9 +1,9 @@
 #include <Common/CommonFun.h>
 
 #include <Common/ByteBudget.h>
-#include <Common/SkinPath.h>
-#include <Common/StyleSheets.h>
-#include <Common/StyledWidgets.h>
+#include <Platform/BasicUIComponents/SkinPath.h>
+#include <Platform/BasicUIComponents/StyleSheets.h>
+#include <Platform/BasicUIComponents/StyledWidgets.h>
 #include <QFile>
 #include <QSaveFile>
 #include <QWidget>

@@ -3,7 +3,7 @@
 #include <Common/ByteBudget.h>
 #include <Common/ElidedText.h>
 #include <Common/QIniFile.h>
-#include <Common/SkinPath.h>
+#include <Platform/BasicUIComponents/SkinPath.h>
 #include <Platform/BasicUIComponents/KvDir.h>
 #include <Platform/kvl/DMD5.h>
 #include <Platform/kvl/DStr.h>

@@ -1,4 +1,4 @@
-#include <Common/StyleSheets.h>
+#include <Platform/BasicUIComponents/StyleSheets.h>
 
 #include <Platform/BasicUIComponents/KvFile.h>
 #include <Platform/BasicUIComponents/KvSkin.h>

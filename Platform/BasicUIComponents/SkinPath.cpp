@@ -1,4 +1,4 @@
-#include <Common/SkinPath.h>
+#include <Platform/BasicUIComponents/SkinPath.h>
 
 #include <Platform/BasicUIComponents/KvDir.h>
 #include <Platform/BasicUIComponents/KvSkin.h>

@@ -1,7 +1,7 @@
-#include <Common/StyledWidgets.h>
+#include <Platform/BasicUIComponents/StyledWidgets.h>
 
-#include <Common/SkinPath.h>
-#include <Common/StyleSheets.h>
+#include <Platform/BasicUIComponents/SkinPath.h>
+#include <Platform/BasicUIComponents/StyleSheets.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <iterator>
 

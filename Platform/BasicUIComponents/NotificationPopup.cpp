@@ -1,0 +1,117 @@
+#include <Platform/BasicUIComponents/NotificationPopup.h>
+
+#include <Platform/BasicUIComponents/PlatformLook.h>
+#include <QAccessibleWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace KvGUI {
+
+namespace {
+
+constexpr int kTextWidth = 340; // where lines are wrapped
+
+/// Screen readers read an alert aloud when it appears.
+QAccessibleInterface* AlertInterface(const QString& className, QObject* object)
+{
+    auto* popup = className == QLatin1String("KvGUI::NotificationPopup")
+        ? qobject_cast<NotificationPopup*>(object)
+        : nullptr;
+    return popup != nullptr ? new QAccessibleWidget(popup, QAccessible::AlertMessage, popup->Text())
+                            : nullptr;
+}
+
+void InstallAlertInterface()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(AlertInterface);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+QLabel* TextLabel(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(QStringLiteral("kvNotificationText"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+NotificationPopup::NotificationPopup(const QString& text, int milliseconds, QWidget* parent)
+    : QFrame(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus)
+    , m_pText(TextLabel(text, this))
+{
+    InstallAlertInterface();
+    setObjectName(QStringLiteral("kvNotification"));
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(text);
+    UsePlatformSheet(this, QStringLiteral("KvMessageNotify.css"));
+
+    auto* sign = new QLabel(this);
+    sign->setObjectName(QStringLiteral("kvNotificationSign"));
+    auto* close = new QToolButton(this);
+    close->setObjectName(QStringLiteral("kvNotificationClose"));
+    close->setAccessibleName(tr("Close the message"));
+    close->setToolTip(tr("Close"));
+    close->setFocusPolicy(Qt::NoFocus);
+    connect(close, &QToolButton::clicked, this, &QWidget::close);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 10, 8, 10);
+    layout->setSpacing(10);
+    layout->addWidget(sign, 0, Qt::AlignTop);
+    layout->addWidget(m_pText, 1);
+    layout->addWidget(close, 0, Qt::AlignTop);
+
+    m_time.setSingleShot(true);
+    connect(&m_time, &QTimer::timeout, this, &QWidget::close);
+    m_time.start(milliseconds);
+}
+
+QString NotificationPopup::Text() const { return m_pText->text(); }
+
+void NotificationPopup::Restart(int milliseconds)
+{
+    if (underMouse())
+        m_time.setInterval(milliseconds);
+    else
+        m_time.start(milliseconds);
+}
+
+QSize NotificationPopup::FittedSize()
+{
+    ensurePolished();
+    m_pText->ensurePolished();
+    // Otherwise a label that wraps lines takes any width.
+    const QSize text = m_pText->fontMetrics()
+                           .boundingRect(QRect(0, 0, kTextWidth, 0), Qt::TextWordWrap, m_pText->text())
+                           .size();
+    m_pText->setFixedSize(qMin(text.width(), kTextWidth) + 1, text.height());
+    return sizeHint();
+}
+
+void NotificationPopup::closeEvent(QCloseEvent* event)
+{
+    QFrame::closeEvent(event);
+    emit SignalClosed();
+}
+
+void NotificationPopup::enterEvent(QEvent* event)
+{
+    m_time.stop();
+    QFrame::enterEvent(event);
+}
+
+void NotificationPopup::leaveEvent(QEvent* event)
+{
+    m_time.start();
+    QFrame::leaveEvent(event);
+}
+
+} // namespace KvGUI

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QFrame>
+#include <QTimer>
+
+class QLabel;
+
+namespace KvGUI {
+
+/// One message: a small window with a text and a close button that closes and deletes itself in time.
+class NotificationPopup : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// @param parent the window that the message belongs to, or null
+    NotificationPopup(const QString& text, int milliseconds, QWidget* parent);
+
+    QString Text() const;
+
+    /// The time begins anew.
+    void Restart(int milliseconds);
+
+    /// Fits the label to the text, long lines wrapped, and gives the size of the whole.
+    QSize FittedSize();
+
+signals:
+    void SignalClosed(); ///< the message is gone; its object is deleted later
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    QLabel* m_pText;
+    QTimer m_time;
+};
+
+} // namespace KvGUI

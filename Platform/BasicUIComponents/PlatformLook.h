@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPalette>
+#include <QString>
+
+class QWidget;
+
+/// The look of the widgets of this folder. Each calls one of these functions in its constructor and
+/// follows the skin from then on; a subclass's own sheet replaces the one of its base class.
+
+/// Gives @p widget the sheet "BasicUIComponents/<fileName>" of the skin, now and after each change of skin.
+void UsePlatformSheet(QWidget* widget, const QString& fileName);
+
+/// Gives @p widget the palette of the skin, now and after each change of skin, so that ordinary widgets
+/// inside it are readable also where no sheet names them.
+void UseSkinPalette(QWidget* widget);
+
+/// The colours that the skin's file "BasicUIComponents/Palette.txt" gives, the application's palette for
+/// all others. A line of the file is the name of a QPalette::ColorRole and a colour; a name that begins
+/// with "Disabled" counts for disabled widgets only. Other lines are skipped.
+QPalette SkinPalette();
+
+/// @p base with the colours that the lines of @p text name.
+QPalette PaletteFromText(const QString& text, QPalette base);
+
+/// The resource path of the picture @p fileName in the skin's folder of this folder's widgets.
+QString PlatformPicture(const QString& fileName);
