@@ -1,0 +1,402 @@
+#include "KvTVWallNormalWnd_p.h"
+
+#include "KvTVWallDisplayVideo.h"
+#include "KvTVWallNormalScreen.h"
+#include "KvTVWallNormalView.h"
+#include "KvTVWallNormalWindow.h"
+#include "WallGeometry.h"
+
+#include <Common/CommonFun.h>
+
+namespace UICommonMdl {
+
+namespace {
+
+constexpr int NoIndex = -1;
+
+} // namespace
+
+// ---- The private object
+
+KvTVWallNormalWndPrivate::KvTVWallNormalWndPrivate(KvTVWallNormalWnd* wall)
+    : QObject(wall)
+    , q(wall)
+    , view(new KvTVWallNormalView(wall))
+{ }
+
+template <typename... Args>
+void KvTVWallNormalWndPrivate::Relay(
+    KvTVWallNormalScreen* screen, void (KvTVWallNormalScreen::*from)(Args...),
+    void (KvTVWallNormalWnd::*to)(int, Args...))
+{
+    connect(screen, from, this, [this, screen, to](Args... args) {
+        const int index = screens.indexOf(screen);
+        if (index != NoIndex)
+            Q_EMIT(q->*to)(index, args...);
+    });
+}
+
+KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructScaleRect& rect)
+{
+    using Screen = KvTVWallNormalScreen;
+    using Wall = KvTVWallNormalWnd;
+    auto* screen = new Screen(
+        view, WallGeometry::CellSpan(q->GetRowCount(), rect.dTop, rect.dBottom),
+        WallGeometry::CellSpan(q->GetColumnCount(), rect.dLeft, rect.dRight), rect);
+    screens.append(screen);
+    screen->PlaceOnWall(q->rect());
+    Relay(screen, &Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
+    Relay(screen, &Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
+    Relay(screen, &Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
+    Relay(screen, &Screen::SignalLabelEvent, &Wall::SignalLabelEvent);
+    Relay(screen, &Screen::SignalWindowSelectedChanged, &Wall::SignalWindowSelectedChanged);
+    Relay(screen, &Screen::SignalDrawAreaOpenWindow, &Wall::SignalDrawAreaOpenWindow);
+    Relay(screen, &Screen::SignalScreenDropEvent, &Wall::SignalScreenEvent);
+    Relay(screen, &Screen::SignalWindowVolumeBtnClicked, &Wall::SignalWindowVolumeBtnClicked);
+    Relay(screen, &Screen::SignalWindowDoubleClicked, &Wall::SignalWindowDoubleClicked);
+    Relay(screen, &Screen::Signal3DSite, &Wall::SignalWindow3DSite);
+    connect(screen, &Screen::SignalWindowClicked, q, &Wall::SignalWindowClicked);
+    connect(screen, &Screen::SignalSelected, this, [this, screen] { SelectScreen(screen); });
+    Relay(screen, &Screen::SignalSelected, &Wall::SignalScreenSelectedChanged);
+    return screen;
+}
+
+// A screen may be the one that is emitting, so it only leaves the list now.
+void KvTVWallNormalWndPrivate::DeleteAllScreen()
+{
+    const QList<KvTVWallNormalScreen*> removed = screens;
+    screens.clear();
+    for (KvTVWallNormalScreen* screen : removed) {
+        disconnect(screen, nullptr, this, nullptr);
+        disconnect(screen, nullptr, q, nullptr);
+        screen->DeleteAllWindows();
+        screen->hide();
+        screen->deleteLater();
+    }
+}
+
+KvTVWallNormalWindow* KvTVWallNormalWndPrivate::Window(int screen, int window) const
+{
+    const KvTVWallNormalScreen* found = Screen(screen);
+    return found != nullptr ? found->GetWindow(window) : nullptr;
+}
+
+int KvTVWallNormalWndPrivate::SelectedScreen() const
+{
+    for (int i = 0; i < screens.size(); ++i) {
+        if (screens.at(i)->IsSelected())
+            return i;
+    }
+    return NoIndex;
+}
+
+void KvTVWallNormalWndPrivate::SelectScreen(const KvTVWallNormalScreen* selected)
+{
+    for (KvTVWallNormalScreen* screen : qAsConst(screens))
+        screen->SetSelected(screen == selected);
+}
+
+void KvTVWallNormalWndPrivate::PlaceScreens()
+{
+    for (KvTVWallNormalScreen* screen : qAsConst(screens))
+        screen->PlaceOnWall(q->rect());
+}
+
+// ---- The wall
+
+KvTVWallNormalWnd::KvTVWallNormalWnd(QWidget* parent)
+    : QWidget(parent)
+    , m_pPrivate(new KvTVWallNormalWndPrivate(this))
+{
+    CommonFun::SetStyleSheet(this, QStringLiteral("TVWallOperateWnd"), QString(), QString());
+}
+
+KvTVWallNormalWnd::~KvTVWallNormalWnd() = default;
+
+void KvTVWallNormalWnd::SetTVWallGridCount(int iRows, int iCols)
+{
+    m_iRows = iRows;
+    m_iCols = iCols;
+}
+
+int KvTVWallNormalWnd::GetRowCount() const { return m_iRows; }
+
+int KvTVWallNormalWnd::GetColumnCount() const { return m_iCols; }
+
+void KvTVWallNormalWnd::SetWindowTitleShow(bool bShow) { d_func()->titleShow = bShow; }
+
+void KvTVWallNormalWnd::SetAudioBtnVisible(bool bVisible) { d_func()->audioButtons = bVisible; }
+
+void KvTVWallNormalWnd::SetPtzFrameSelectedEnable(bool bEnable)
+{
+    if (KvTVWallNormalScreen* screen = d_func()->Screen(GetSelectedScreenIndex()))
+        screen->SetPositioning(bEnable);
+}
+
+double KvTVWallNormalWnd::GetWindowScalePrecision() const { return WallGeometry::NormalPrecision; }
+
+void KvTVWallNormalWnd::SetWindowSelectionMode(SelectionMode mode)
+{
+    d_func()->selectionMode = mode;
+    KvTVWallNormalScreen* screen = d_func()->Screen(GetSelectedScreenIndex());
+    if (mode == SingleSelection && screen != nullptr)
+        screen->DeselectWindows();
+}
+
+KvTVWallNormalWnd::SelectionMode KvTVWallNormalWnd::GetWindowSelectionMode() const
+{
+    return d_func()->selectionMode;
+}
+
+void KvTVWallNormalWnd::RecoverEagleEye() { d_func()->PlaceScreens(); }
+
+int KvTVWallNormalWnd::AddScreen(
+    const KvGUI::StructScaleRect& rect, const QIcon& icon, const QString& title, const QVariant& userData)
+{
+    if (m_iRows < 1 || m_iCols < 1) {
+        qWarning("---KvGUI--- KvTVWallNormalWnd::AddScreen: iRows = %d, iCols = %d", m_iRows, m_iCols);
+        return NoIndex;
+    }
+    KvTVWallNormalScreen* screen = d_func()->AddScreen(rect);
+    screen->SetIcon(icon);
+    screen->SetTitle(title);
+    screen->SetUserData(userData);
+    return GetScreenCount() - 1;
+}
+
+int KvTVWallNormalWnd::AddScreen(const KvGUI::StructScaleRect& rect, const QVariant& userData)
+{
+    Q_UNUSED(userData)
+    return AddScreen(rect, QIcon(), QString(), QVariant());
+}
+
+bool KvTVWallNormalWnd::DeleteAllScreen()
+{
+    d_func()->DeleteAllScreen();
+    return true;
+}
+
+int KvTVWallNormalWnd::GetScreenCount() const { return d_func()->screens.size(); }
+
+bool KvTVWallNormalWnd::GetScreenScale(int iScreen, KvGUI::StructScaleRect& rect) const
+{
+    const KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    if (screen == nullptr)
+        return false;
+    rect = screen->GetScale();
+    return true;
+}
+
+bool KvTVWallNormalWnd::SetScreenTitle(int iScreen, const QString& title)
+{
+    KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    if (screen != nullptr)
+        screen->SetTitle(title);
+    return screen != nullptr;
+}
+
+bool KvTVWallNormalWnd::SetScreenContentText(int iScreen, const QString& text)
+{
+    KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    if (screen != nullptr)
+        screen->SetContentText(text);
+    return screen != nullptr;
+}
+
+void KvTVWallNormalWnd::SetScreenUserData(int iScreen, const QVariant& userData)
+{
+    if (KvTVWallNormalScreen* screen = d_func()->Screen(iScreen))
+        screen->SetUserData(userData);
+}
+
+QVariant KvTVWallNormalWnd::GetScreenUserData(int iScreen) const
+{
+    const KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    return screen != nullptr ? screen->GetUserData() : QVariant();
+}
+
+void KvTVWallNormalWnd::SetScreenFreeMode(int iScreen, bool bFree)
+{
+    if (KvTVWallNormalScreen* screen = d_func()->Screen(iScreen))
+        screen->SetFree(bFree);
+}
+
+bool KvTVWallNormalWnd::IsScreenFreeMode(int iScreen) const
+{
+    const KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    return screen == nullptr || screen->IsFree();
+}
+
+bool KvTVWallNormalWnd::SetScreenOSDInfo(int iScreen, std::vector<KvGUI::StructOSDInfo>& infos)
+{
+    Q_UNUSED(infos)
+    return d_func()->Screen(iScreen) != nullptr;
+}
+
+void KvTVWallNormalWnd::SetSelectedScreenIndex(int iScreen)
+{
+    if (const KvTVWallNormalScreen* screen = d_func()->Screen(iScreen))
+        d_func()->SelectScreen(screen);
+}
+
+int KvTVWallNormalWnd::GetSelectedScreenIndex() const { return d_func()->SelectedScreen(); }
+
+int KvTVWallNormalWnd::OpenWindow(int iScreen, const KvGUI::StructScaleRect& rect, const QVariant& userData)
+{
+    KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    return screen != nullptr ? screen->OpenWindow(rect, userData, d_func()->titleShow) : NoIndex;
+}
+
+bool KvTVWallNormalWnd::DeleteWindow(int iScreen, int iWindow)
+{
+    KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    return screen != nullptr && screen->DeleteWindow(iWindow);
+}
+
+void KvTVWallNormalWnd::DeleteAllWindows(int iScreen)
+{
+    if (KvTVWallNormalScreen* screen = d_func()->Screen(iScreen))
+        screen->DeleteAllWindows();
+}
+
+void KvTVWallNormalWnd::DeleteAllWindows()
+{
+    for (int screen = 0; screen < GetScreenCount(); ++screen)
+        DeleteAllWindows(screen);
+}
+
+int KvTVWallNormalWnd::GetWindowCount(int iScreen) const
+{
+    const KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    return screen != nullptr ? screen->GetWindowCount() : 0;
+}
+
+QList<int> KvTVWallNormalWnd::GetAllWindowIndexs(int iScreen) const
+{
+    QList<int> indexes;
+    for (int i = 0; i < GetWindowCount(iScreen); ++i)
+        indexes << i;
+    return indexes;
+}
+
+QList<int> KvTVWallNormalWnd::GetSelectedWindowIndexs() const
+{
+    const KvTVWallNormalScreen* screen = d_func()->Screen(GetSelectedScreenIndex());
+    return screen != nullptr ? screen->GetWindowIndexs(true) : QList<int>();
+}
+
+QList<int> KvTVWallNormalWnd::GetUnSelectedWindowIndexs() const
+{
+    const KvTVWallNormalScreen* screen = d_func()->Screen(GetSelectedScreenIndex());
+    return screen != nullptr ? screen->GetWindowIndexs(false) : QList<int>();
+}
+
+void KvTVWallNormalWnd::SetSelectedWindowIndexs(int iScreen, int iWindow, bool bSelected)
+{
+    if (KvTVWallNormalScreen* screen = d_func()->Screen(iScreen))
+        screen->SelectOnly(iWindow, bSelected);
+}
+
+bool KvTVWallNormalWnd::SetWindowScale(int iScreen, int iWindow, const KvGUI::StructScaleRect& rect)
+{
+    KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    if (window != nullptr)
+        window->SetScale(rect);
+    return window != nullptr;
+}
+
+bool KvTVWallNormalWnd::GetWindowScale(int iScreen, int iWindow, KvGUI::StructScaleRect& rect) const
+{
+    const KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    if (window == nullptr)
+        return false;
+    rect = window->GetScale();
+    return true;
+}
+
+bool KvTVWallNormalWnd::SetWindowZValue(int iScreen, int iWindow, double dZ)
+{
+    KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    return screen != nullptr && screen->SetWindowZValue(iWindow, dZ);
+}
+
+double KvTVWallNormalWnd::GetWindowZValue(int iScreen, int iWindow) const
+{
+    const KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    return window != nullptr ? window->zValue() : -1.0;
+}
+
+double KvTVWallNormalWnd::GetMaxWindowZValue(int iScreen) const
+{
+    const KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    return screen != nullptr ? screen->GetMaxWindowZValue() : 1.0;
+}
+
+void KvTVWallNormalWnd::SetWindowUserData(int iScreen, int iWindow, const QVariant& userData)
+{
+    if (KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow))
+        window->SetUserData(userData);
+}
+
+QVariant KvTVWallNormalWnd::GetWindowUserData(int iScreen, int iWindow) const
+{
+    const KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    return window != nullptr ? window->GetUserData() : QVariant();
+}
+
+bool KvTVWallNormalWnd::SetWindowContentText(int iScreen, int iWindow, const QString& text)
+{
+    KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    if (window != nullptr)
+        window->SetContentText(text);
+    return window != nullptr;
+}
+
+bool KvTVWallNormalWnd::SetWindowVolumeBtn(int iScreen, int iWindow, bool bOn)
+{
+    KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    if (window != nullptr)
+        window->SetVolumeOn(bOn);
+    return window != nullptr;
+}
+
+bool KvTVWallNormalWnd::GetWindowVolumeBtnStatus(int iScreen, int iWindow) const
+{
+    const KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    return window != nullptr && window->IsVolumeOn();
+}
+
+QWidget* KvTVWallNormalWnd::GetWindowWidget(int iScreen, int iWindow) const
+{
+    KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    return window != nullptr ? window->GetVideo() : nullptr;
+}
+
+bool KvTVWallNormalWnd::DeleteWindowWidget(int iScreen, int iWindow)
+{
+    KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    return window != nullptr && window->DeleteVideo();
+}
+
+bool KvTVWallNormalWnd::SetWindowVideoWidgetText(int iScreen, int iWindow, const QString& text)
+{
+    KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    return window != nullptr && window->SetVideoText(text);
+}
+
+bool KvTVWallNormalWnd::SetWindowUpdateEnable(int iScreen, int iWindow, bool bEnable)
+{
+    KvTVWallNormalWindow* window = d_func()->Window(iScreen, iWindow);
+    return window != nullptr && window->SetVideoUpdates(bEnable);
+}
+
+QSize KvTVWallNormalWnd::sizeHint() const { return {960, 540}; }
+
+void KvTVWallNormalWnd::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    d_func()->view->setGeometry(rect());
+    d_func()->PlaceScreens();
+}
+
+} // namespace UICommonMdl
