@@ -1,9 +1,12 @@
 include(CMakePackageConfigHelpers)
 
+# Two components, which the packages follow: Runtime is what a program needs that is linked to the
+# library, Development what building one needs. The skins are compiled into the library.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME Development)
 install(TARGETS UIComponents EXPORT UIComponentsTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime)
 install(FILES "${PROJECT_BINARY_DIR}/generated/UIComponentsExport.h"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/UIComponents)
 
@@ -26,3 +29,8 @@ install(FILES
     "${PROJECT_BINARY_DIR}/UIComponentsConfig.cmake"
     "${PROJECT_BINARY_DIR}/UIComponentsConfigVersion.cmake"
     DESTINATION "${package_dir}")
+
+set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+file(RELATIVE_PATH pc_to_prefix "/${pc_dir}" "/")
+configure_file(cmake/UIComponents.pc.in "${PROJECT_BINARY_DIR}/UIComponents.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/UIComponents.pc" DESTINATION "${pc_dir}")

@@ -1,9 +1,11 @@
 # Sourced by ./run and ./test: installs the missing packages, and builds a preset.
 
-# Installs what packaging/apt-packages.txt names and the machine has not.
+# install_packages [LIST...]: installs what the lists (packaging/apt-packages.txt if none is given)
+# name and the machine has not.
 install_packages() {
     local wanted missing="" package
-    wanted=$(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' packaging/apt-packages.txt)
+    [ $# -gt 0 ] || set -- packaging/apt-packages.txt
+    wanted=$(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$@")
     if ! command -v dpkg-query > /dev/null; then
         echo "No apt here: please install the counterparts of" $wanted >&2
         return

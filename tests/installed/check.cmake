@@ -12,3 +12,17 @@ run("${CMAKE_COMMAND}" -S "${SOURCE_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR
     "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix")
 run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
 run("${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen "${WORK_DIR}/build/installed-check")
+
+# The same program by pkg-config, which must find all by the file's own place.
+file(GLOB_RECURSE pc_file "${WORK_DIR}/prefix/UIComponents.pc")
+get_filename_component(pc_dir "${pc_file}" DIRECTORY)
+set(ENV{PKG_CONFIG_PATH} "${pc_dir}")
+execute_process(COMMAND pkg-config --cflags --libs UIComponents
+    OUTPUT_VARIABLE flags RESULT_VARIABLE result OUTPUT_STRIP_TRAILING_WHITESPACE)
+if(NOT result EQUAL 0)
+    message(FATAL_ERROR "pkg-config does not find UIComponents")
+endif()
+separate_arguments(flags UNIX_COMMAND "${flags} ${CXX_FLAGS}")
+run("${CXX}" -std=c++17 -fPIC "${SOURCE_DIR}/main.cpp" -o "${WORK_DIR}/by-pkg-config" ${flags}
+    "-Wl,-rpath,${pc_dir}/..")
+run("${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen "${WORK_DIR}/by-pkg-config")

@@ -1,0 +1,31 @@
+# Debian packages of the installed components: cpack -G DEB in a build configured for the prefix
+# /usr, which packaging/make-deb does. Each package depends on what its files are linked to.
+set(CPACK_PACKAGE_NAME uicomponents)
+set(CPACK_PACKAGE_VENDOR "UIComponents")
+set(CPACK_PACKAGE_CONTACT "UIComponents developers <developers@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+set(CPACK_PACKAGING_INSTALL_PREFIX "/usr")
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+
+set(runtime_package "libuicomponents${UICOMPONENTS_SOVERSION}")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "${runtime_package}")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Shared library with its skins, for programs that use it.")
+# The skins' icons need Qt's SVG icon engine, which is loaded at run time and linked by nobody.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt5svg5")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libuicomponents-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package and pkg-config file, for building programs.")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "${runtime_package} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.15)")
+
+include(CPack)
