@@ -47,6 +47,7 @@ ON_THE_WALL = {
     "video": "#101114",
     "video-text": "#a6abb5",
     "band": "#5aa5f2",
+    "overview-window": "#6b717c",
 }
 
 PALETTES = {
@@ -130,6 +131,7 @@ CONTRAST = [
     # from the others by the accent.
     (SHAPE, ["window-frame", "accent-line", "band"], ["screen", "video"]),
     (SHAPE, ["accent-line"], ["title-bar"]),
+    (SHAPE, ["overview-window"], ["screen"]),
 ]
 
 TOKEN = re.compile(r"@([a-z0-9-]+)@")

@@ -139,6 +139,7 @@ void KvTVWallDisplayScreen::SetSelected(bool selected)
         return;
     m_bSelected = selected;
     ShowFrame();
+    Q_EMIT SignalArrangementChanged();
 }
 
 void KvTVWallDisplayScreen::ShowFrame()
@@ -192,6 +193,17 @@ void KvTVWallDisplayScreen::SetBaseMap(const std::string& path, bool show)
     m_baseMap = QPixmap();
     m_scaledBaseMap = QPixmap();
     viewport()->update();
+}
+
+WallMiniature::Screen KvTVWallDisplayScreen::Miniature() const
+{
+    WallMiniature::Screen miniature{m_scale, m_bSelected, {}};
+    for (QObject* child : viewport()->children()) { // in stacking order
+        const auto* window = qobject_cast<KvTVWallDisplayWindow*>(child);
+        if (window != nullptr && !window->isHidden())
+            miniature.windows.append({window->GetScale(), window->IsSelected()});
+    }
+    return miniature;
 }
 
 void KvTVWallDisplayScreen::UpdateLook()
@@ -350,6 +362,7 @@ int KvTVWallDisplayScreen::OpenWindow(
     }
     RaiseOverlays();
     window->show();
+    Q_EMIT SignalArrangementChanged();
     return m_windows.size() - 1;
 }
 
@@ -365,6 +378,7 @@ bool KvTVWallDisplayScreen::DeleteWindow(int index)
     window->removeEventFilter(m_pWatcher);
     if (window->IsSelected())
         viewport()->update();
+    Q_EMIT SignalArrangementChanged();
     window->deleteLater();
     window->hide(); // moves the focus on, of which the client may hear
     return true;
@@ -429,6 +443,7 @@ bool KvTVWallDisplayScreen::SetWindowZValue(int index, int z, bool reorder)
     // The lowest window stays where it is.
     for (int k = order.size() - 2; k >= 1; --k)
         m_windows.at(order.at(k))->stackUnder(m_windows.at(order.at(k + 1)));
+    Q_EMIT SignalArrangementChanged();
     return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ScreenOverlay.h"
+#include "WallMiniature.h"
 #include "WallSelection.h"
 
 #include <Platform/BasicUIComponents/StructOSDInfo.h>
@@ -61,6 +62,7 @@ public:
     void SetBackground(const QColor& color, bool show);
     void SetBaseMap(const std::string& path, bool show);
     void SetOSDInfo(const std::vector<KvGUI::StructOSDInfo>& infos);
+    WallMiniature::Screen Miniature() const;
     void UpdateLook(); ///< paints the screen and its windows again
     /// @}
 
@@ -91,6 +93,7 @@ Q_SIGNALS:
     void SignalWindowDoubleClicked();
     void SignalWindowClicked();
     void Signal3DSite(int startX, int startY, int endX, int endY);
+    void SignalArrangementChanged(); ///< windows, their places, order or selection; for the library's own use
 
 protected:
     bool event(QEvent* event) override;

@@ -85,6 +85,7 @@ bool KvTVWallDisplayWindow::ChangeScale(const KvGUI::StructScaleRect& rect, Stat
     m_scale = changed;
     PlaceOnScreen();
     SetState(state);
+    Q_EMIT m_pScreen->SignalArrangementChanged();
     Q_EMIT SignalGeoChanged(changed);
     return true;
 }
@@ -132,6 +133,7 @@ void KvTVWallDisplayWindow::SetSelected(bool selected)
     if (m_bSelected == selected)
         return;
     m_bSelected = selected;
+    Q_EMIT m_pScreen->SignalArrangementChanged();
     if (m_pFrame == nullptr) {
         m_pFrame = new KvTVWallDisplayFrame(this, m_pScreen->GetWall()->WindowSelectedFrameColor());
         m_pFrame->FitTo(size());

@@ -67,7 +67,9 @@ KvTVWallDisplayWndPrivate::AddScreen(const KvGUI::StructScaleRect& rect, const Q
     connect(screen, SIGNAL(SignalWindowDoubleClicked()), this, SLOT(OnWindowDoubleClicked()));
     connect(screen, SIGNAL(SignalWindowClicked()), q, SIGNAL(SignalWindowClicked()));
     connect(screen, SIGNAL(Signal3DSite(int, int, int, int)), this, SLOT(OnWindow3DSite(int, int, int, int)));
+    connect(screen, SIGNAL(SignalArrangementChanged()), this, SIGNAL(SignalArrangementChanged()));
     screen->show();
+    Q_EMIT SignalArrangementChanged();
     return screen;
 }
 
@@ -83,6 +85,7 @@ void KvTVWallDisplayWndPrivate::DeleteAllScreen()
         screen->hide();
         screen->deleteLater();
     }
+    Q_EMIT SignalArrangementChanged();
 }
 
 KvTVWallDisplayWindow* KvTVWallDisplayWndPrivate::Window(int screen, int window) const
@@ -110,6 +113,14 @@ void KvTVWallDisplayWndPrivate::PlaceScreens()
 {
     for (KvTVWallDisplayScreen* screen : qAsConst(screens))
         screen->PlaceOnWall();
+}
+
+QVector<WallMiniature::Screen> KvTVWallDisplayWndPrivate::Miniature() const
+{
+    QVector<WallMiniature::Screen> miniature;
+    for (const KvTVWallDisplayScreen* screen : screens)
+        miniature << screen->Miniature();
+    return miniature;
 }
 
 void KvTVWallDisplayWndPrivate::SetColor(QColor& member, const QColor& color)

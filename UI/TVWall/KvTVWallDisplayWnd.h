@@ -250,6 +250,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class KvTVWallDisplayEagleEye;
     KvTVWallDisplayWndPrivate* d_func() const { return m_pPrivate; }
 
     KvTVWallDisplayWndPrivate* const m_pPrivate;
