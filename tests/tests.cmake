@@ -20,6 +20,18 @@ endif()
 uicomponents_test(tst_wallmodel tst_wallmodel.cpp INTERNAL)
 uicomponents_test(tst_displaywall tst_displaywall.cpp)
 uicomponents_test(tst_wallstorm tst_wallstorm.cpp)
+uicomponents_test(tst_automation tst_automation.cpp automation/ProbeObject.h)
+target_compile_definitions(tst_automation PRIVATE PROBE_PLUGINS="${CMAKE_CURRENT_BINARY_DIR}/probe-plugins")
+foreach(provider ProbeProvider OtherProvider) # asked in the order of their file names
+    add_library(${provider} MODULE automation/${provider}.cpp automation/ProbeObject.h)
+    target_link_libraries(${provider} PRIVATE UIComponents)
+    set_target_properties(${provider} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/probe-plugins")
+    uicomponents_warnings(${provider})
+    add_dependencies(tst_automation ${provider})
+endforeach()
+set_target_properties(ProbeProvider PROPERTIES OUTPUT_NAME 1-ProbeProvider)
+set_target_properties(OtherProvider PROPERTIES OUTPUT_NAME 2-OtherProvider)
+uicomponents_test(tst_excel tst_excel.cpp excel/RecordedObject.cpp excel/RecordedObject.h)
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")

@@ -1,0 +1,8 @@
+#include <Platform/Automation/AutomationObject.h>
+
+namespace Automation {
+
+AutomationObject::AutomationObject() = default;
+AutomationObject::~AutomationObject() = default;
+
+} // namespace Automation

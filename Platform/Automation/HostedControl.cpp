@@ -1,0 +1,8 @@
+#include <Platform/Automation/HostedControl.h>
+
+namespace Automation {
+
+HostedControl::HostedControl() = default;
+HostedControl::~HostedControl() = default;
+
+} // namespace Automation

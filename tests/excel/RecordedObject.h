@@ -1,0 +1,44 @@
+#pragma once
+
+#include <Platform/Automation/AutomationObject.h>
+
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+
+/// What a recorded spreadsheet application was asked, and how it shall answer.
+struct Recording
+{
+    QStringList calls; ///< one line a call, such as "book.Close (Boolean)(false)" or "font.Bold=true"
+    QSet<QString> absent; ///< sub-objects that do not exist, by member
+    QSet<QString> null; ///< sub-objects that are bound to nothing, by member; also "Excel.Application"
+    QHash<QString, QVariant> answers; ///< of calls and of properties that are read, by member
+    QVariantList blocks; ///< what SetValue got
+    int living = 0; ///< recorded objects that have not been deleted
+};
+
+/// A spreadsheet application that does nothing but write down what is asked of it.
+class RecordedObject : public Automation::AutomationObject
+{
+public:
+    RecordedObject(QString name, bool null, Recording& recording);
+    ~RecordedObject() override;
+
+    bool isNull() const override { return m_null; }
+    QVariant dynamicCall(const QString& member, const QVariantList& arguments) override;
+    std::unique_ptr<AutomationObject>
+    querySubObject(const QString& member, const QVariantList& arguments) override;
+    QVariant property(const QString& name) const override;
+    bool setProperty(const QString& name, const QVariant& value) override;
+
+    /// Makes the application objects of @p recording from now on; the factory goes with Forget().
+    static void Provide(Recording& recording);
+    static void Forget();
+
+private:
+    void Note(const QString& call) const;
+
+    const QString m_name;
+    const bool m_null;
+    Recording& m_recording;
+};

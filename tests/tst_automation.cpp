@@ -1,0 +1,88 @@
+#include "automation/ProbeObject.h"
+#include "support/StrictMain.h"
+
+#include <Platform/Automation/AutomationRegistry.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using Automation::AutomationRegistry;
+
+namespace {
+
+QString Origin(const char* programId)
+{
+    const auto object = AutomationRegistry::CreateObject(QLatin1String(programId));
+    return object ? object->property(QString()).toString() : QStringLiteral("none");
+}
+
+} // namespace
+
+class TestAutomation : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void LoadsProvidersWhenAskedFor();
+    void PrefersTheApplicationsFactory();
+    void MakesControlsInTheirParent();
+
+private:
+    QTemporaryDir m_broken;
+};
+
+void TestAutomation::initTestCase()
+{
+    // A folder that does not exist, and one with a library that is none, must do no harm.
+    QFile broken(m_broken.filePath(QStringLiteral("libbroken.so")));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
+    const QStringList folders{QStringLiteral("/nonexistent"), m_broken.path(), QStringLiteral(PROBE_PLUGINS)};
+    qputenv("UICOMPONENTS_PLUGIN_PATH", QFile::encodeName(folders.join(QDir::listSeparator())));
+}
+
+// Catches a plugin that is not found, one that is loaded for what it does not offer (a browser engine for
+// a workbook), and one whose failure hides the next.
+void TestAutomation::LoadsProvidersWhenAskedFor()
+{
+    QCOMPARE(Origin("Probe.Unknown"), QStringLiteral("none"));
+    QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
+    QVERIFY(!qApp->property("otherProviderLoaded").toBool());
+    QCOMPARE(Origin("Probe.Both"), QStringLiteral("other:Probe.Both"));
+    QVERIFY(qApp->property("otherProviderLoaded").toBool());
+    QCOMPARE(Origin("Probe.Second"), QStringLiteral("other:Probe.Second"));
+}
+
+// Catches a real office that is started behind the back of an application with a factory of its own.
+void TestAutomation::PrefersTheApplicationsFactory()
+{
+    const QString id = QStringLiteral("Probe.First");
+    AutomationRegistry::SetObjectFactory(
+        id, [] { return std::make_unique<ProbeObject>(QStringLiteral("own")); });
+    QCOMPARE(Origin("Probe.First"), QStringLiteral("own"));
+    QCOMPARE(Origin("Probe.Second"), QStringLiteral("other:Probe.Second"));
+    AutomationRegistry::SetObjectFactory(id, [] { return nullptr; });
+    QCOMPARE(Origin("Probe.First"), QStringLiteral("none"));
+    AutomationRegistry::SetObjectFactory(id, {});
+    QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
+}
+
+// Catches a control that opens in a window of its own.
+void TestAutomation::MakesControlsInTheirParent()
+{
+    QWidget parent;
+    const auto control = AutomationRegistry::CreateControl(&parent);
+    QVERIFY(control && control->widget());
+    QCOMPARE(control->widget()->parentWidget(), &parent);
+    AutomationRegistry::SetControlFactory([](QWidget*) { return nullptr; });
+    QVERIFY(!AutomationRegistry::CreateControl(&parent));
+    AutomationRegistry::SetControlFactory({});
+    QVERIFY(AutomationRegistry::CreateControl(&parent));
+}
+
+STRICT_TEST_MAIN(TestAutomation)
+
+#include "tst_automation.moc"
