@@ -2,6 +2,10 @@
 
 #include <QTemporaryFile>
 #include <QTest>
+#include <cstdlib>
+#include <string>
+#include <unistd.h>
+#include <vector>
 
 namespace TestSupport {
 
@@ -33,6 +37,25 @@ void PrepareEnvironment()
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
+}
+
+void MoveToXServer(char** argv)
+{
+    const char* mark = "TEST_ON_X_SERVER";
+    if (qEnvironmentVariableIsSet(mark))
+        return;
+    qputenv(mark, "1");
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    std::string command[] = {"xvfb-run", "-a", "-s", "-screen 0 1280x1024x24"};
+    std::vector<char*> arguments;
+    for (std::string& word : command)
+        arguments.push_back(word.data());
+    for (; *argv != nullptr; ++argv)
+        arguments.push_back(*argv);
+    arguments.push_back(nullptr);
+    execvp(arguments.front(), arguments.data());
+    perror("xvfb-run");
+    exit(1);
 }
 
 int RunStrictly(QObject& test, int argc, char** argv)

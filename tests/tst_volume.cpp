@@ -1,0 +1,423 @@
+// The volume button and its panel, by mouse and keyboard as the window system delivers them.
+
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <UI/Dialogs/KvVolumeButton.h>
+#include <UI/Dialogs/KvVolumeWidget.h>
+#include <UI/Dialogs/PopupPlacement.h>
+
+#include <QApplication>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+#include <QWindow>
+#include <functional>
+#include <limits>
+#include <memory>
+
+using UICommonMdl::KvVolumeButton;
+using UICommonMdl::KvVolumeWidget;
+using namespace UICommonMdl::PopupPlacement;
+using Screens = QVector<ScreenArea>;
+
+Q_DECLARE_METATYPE(Screens)
+Q_DECLARE_METATYPE(std::function<void(KvVolumeButton*)>)
+
+namespace {
+
+constexpr QSize ButtonSize(28, 28);
+constexpr QSize PanelSize(18, 100);
+
+// In the window.
+const QPoint OnButton(114, 134);
+const QPoint OnOther(214, 134);
+
+/// A window with a volume button and, for comparison, an ordinary button.
+struct Fixture
+{
+    Fixture()
+    {
+        window.setGeometry(200, 200, 300, 200);
+        button->setGeometry(QRect(OnButton - QPoint(14, 14), ButtonSize));
+        other->setGeometry(QRect(OnOther - QPoint(14, 14), ButtonSize));
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+
+    KvVolumeWidget* Panel() const { return button->findChild<KvVolumeWidget*>(); }
+    QSlider* Slider() const { return Panel()->findChild<QSlider*>(); }
+    QToolButton* Sound() const { return Panel()->findChild<QToolButton*>(); }
+
+    /// Through the window, as the window system does: only there Qt knows of pop-ups.
+    void Press(const QPoint& pos) { QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, pos); }
+    void Release(const QPoint& pos)
+    {
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, pos);
+        QCoreApplication::processEvents(); // a replayed press is posted
+    }
+    void Click(const QPoint& pos)
+    {
+        Press(pos);
+        Release(pos);
+    }
+
+    QWidget window;
+    KvVolumeButton* button = new KvVolumeButton(&window);
+    QPushButton* other = new QPushButton(&window);
+};
+
+/// Presses a key at the widget that the window system would choose.
+void Key(Qt::Key key)
+{
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* target = popup ? popup : QApplication::activeWindow();
+    const QPointer<QWindow> window = target->windowHandle();
+    QTest::keyPress(window, key);
+    if (window)
+        QTest::keyRelease(window, key);
+}
+
+/// Notes whether a closing pop-up lets Qt give on the press that closes it.
+class HideWatcher : public QObject
+{
+public:
+    bool m_bReplay = false;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide)
+            m_bReplay = !static_cast<QWidget*>(watched)->testAttribute(Qt::WA_NoMouseReplay);
+        return false;
+    }
+};
+
+ScreenArea Monitor(const QRect& full) { return {full, full}; }
+
+const QRect Single(0, 0, 800, 600);
+
+} // namespace
+
+class tst_Volume : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void placement_data();
+    void placement();
+    void screenHoldingAWidget_data();
+    void screenHoldingAWidget();
+
+    void newButton();
+    void stateIsShownAndNotReported();
+    void valuesAreReportedOnce();
+    void silentValuesShowOnTheToolTip();
+    void pressOpensAbove();
+    void pressOnTheButtonClosesForGood();
+    void pressElsewhereIsGivenOn();
+    void panelStaysOnTheScreen();
+    void hidingTheButtonHidesThePanel();
+    void muteByMouse();
+    void byKeyboard();
+    void keyboardTurnsTheSoundOn();
+    void slotMayDeleteTheButton_data();
+    void slotMayDeleteTheButton();
+    void looks();
+};
+
+void tst_Volume::placement_data()
+{
+    QTest::addColumn<QRect>("button");
+    QTest::addColumn<Screens>("screens");
+    QTest::addColumn<QPoint>("place");
+    const Screens single{Monitor(Single)};
+    const auto row = [&](const char* name, const QPoint& at, const Screens& screens, const QPoint& place) {
+        QTest::newRow(name) << QRect(at, ButtonSize) << screens << place;
+    };
+    row("in the middle", {400, 300}, single, {405, 200});
+    row("just on the screen", {400, 100}, single, {405, 0});
+    row("upper edge: over the button", {400, 40}, single, {405, 0});
+    row("left edge", {-12, 300}, single, {0, 200});
+    // The last pixel is 799, and the panel of 18 pixels ends one before it.
+    row("right edge", {772, 300}, single, {777, 200});
+    row("right edge, as far as it goes", {776, 300}, single, {781, 200});
+    row("right edge, beyond", {777, 300}, single, {781, 200});
+    row("lower edge", {400, 598}, single, {405, 498});
+    row("lower edge, beyond", {400, 640}, single, {405, 499});
+
+    const Screens bars{{Single, QRect(60, 30, 740, 530)}};
+    row("under a task bar at the top", {400, 110}, bars, {405, 30});
+    row("under a dock at the left", {10, 300}, bars, {60, 200});
+    // Far edges are those of the whole monitor.
+    row("over a task bar at the bottom", {400, 640}, bars, {405, 499});
+
+    const Screens twoWide{Monitor(Single), Monitor(QRect(800, -200, 1000, 1000))};
+    row("second monitor", {1000, 0}, twoWide, {1005, -100});
+    row("second monitor, upper edge", {1000, -190}, twoWide, {1005, -200});
+    row("second monitor, right edge", {1790, 0}, twoWide, {1781, -100});
+    // The point above the first monitor's upper edge is nearer to the first than to the second.
+    row("off the shorter neighbour", {600, 20}, twoWide, {605, 0});
+
+    const Screens negative{Monitor(QRect(-1280, 0, 1280, 1024)), Monitor(Single)};
+    row("negative coordinates", {-700, 400}, negative, {-695, 300});
+    row("negative, far left", {-1290, 400}, negative, {-1280, 300});
+    row("negative, right edge: not on the neighbour", {-20, 400}, negative, {-19, 300});
+    row("negative, below the neighbour", {300, 700}, negative, {305, 499});
+
+    const Screens above{Monitor(Single), Monitor(QRect(0, -600, 800, 600))};
+    row("opens on the monitor above", {400, 40}, above, {405, -60});
+    const Screens gap{Monitor(Single), Monitor(QRect(0, 700, 800, 600))};
+    row("between two monitors", {400, 750}, gap, {405, 700});
+    row("no monitor", {-5000, 9}, {}, {-4995, -91});
+}
+
+/// Catches a panel that opens off the monitors, on the wrong one, or a pixel off at an edge.
+void tst_Volume::placement()
+{
+    QFETCH(QRect, button);
+    QFETCH(Screens, screens);
+    const QRect above(CentredAbove(button, PanelSize), PanelSize);
+    QTEST(AvailableGeometry(above, button, screens).topLeft(), "place");
+}
+
+void tst_Volume::screenHoldingAWidget_data()
+{
+    QTest::addColumn<QRect>("widget");
+    QTest::addColumn<int>("index");
+    QTest::newRow("first") << QRect(10, 10, 30, 30) << 0;
+    QTest::newRow("more on the second") << QRect(790, 10, 30, 30) << 1;
+    QTest::newRow("equal halves") << QRect(785, 10, 30, 30) << 0;
+    QTest::newRow("off both, nearer to the second") << QRect(850, 700, 30, 30) << 1;
+    QTest::newRow("empty widget") << QRect(900, 10, 0, 0) << 1;
+    const int far = std::numeric_limits<int>::max() / 2;
+    QTest::newRow("very far") << QRect(-far, -far, 10, 10) << 0;
+}
+
+/// Catches a button on a window that spans two monitors counted to the window's.
+void tst_Volume::screenHoldingAWidget()
+{
+    QFETCH(QRect, widget);
+    const Screens screens{Monitor(Single), Monitor(QRect(800, 0, 800, 600))};
+    QTEST(ScreenHolding(widget, screens), "index");
+    QCOMPARE(ScreenHolding(widget, {}), -1);
+}
+
+/// Catches a first state in which button, slider and tool tip do not agree.
+void tst_Volume::newButton()
+{
+    const Fixture f;
+    QCOMPARE(f.button->objectName(), QStringLiteral("btnVolumeOff"));
+    QCOMPARE(f.Sound()->objectName(), QStringLiteral("btnVolumeOff"));
+    QVERIFY(!f.Slider()->isEnabled());
+    QCOMPARE(f.button->GetVolumeValue(), 50);
+    QCOMPARE(f.Slider()->toolTip(), QStringLiteral("50%"));
+    QCOMPARE(f.Panel()->size(), PanelSize);
+}
+
+/// Catches a state that the client sets and hears of again: players would call back and forth.
+void tst_Volume::stateIsShownAndNotReported()
+{
+    const Fixture f;
+    QSignalSpy opened(f.button, &KvVolumeButton::SignalSoundOpened);
+    for (const bool on : {true, true, false}) {
+        f.button->SetVolumeState(on);
+        const QString name = on ? QStringLiteral("btnVolumeOn") : QStringLiteral("btnVolumeOff");
+        QCOMPARE(f.button->objectName(), name);
+        QCOMPARE(f.Sound()->objectName(), name);
+        QCOMPARE(f.Slider()->isEnabled(), on);
+    }
+    QVERIFY(opened.isEmpty());
+}
+
+/// Catches values off the scale, and a report without a change.
+void tst_Volume::valuesAreReportedOnce()
+{
+    const Fixture f;
+    QSignalSpy values(f.button, &KvVolumeButton::SignalVolumeValueChanged);
+    for (const int value : {50, 70, 70, 900, -4})
+        f.button->SetVolumeValue(value);
+    QCOMPARE(values, (QList<QVariantList>{{70}, {100}, {0}}));
+    QCOMPARE(f.Slider()->toolTip(), QStringLiteral("0%"));
+}
+
+/// Catches a tool tip that keeps the old value when the signals are blocked.
+void tst_Volume::silentValuesShowOnTheToolTip()
+{
+    const Fixture f;
+    QSignalSpy values(f.button, &KvVolumeButton::SignalVolumeValueChanged);
+    f.Panel()->SetSliderValueSilently(30);
+    QCOMPARE(f.button->GetVolumeValue(), 30);
+    QCOMPARE(f.Slider()->toolTip(), QStringLiteral("30%"));
+    QVERIFY(values.isEmpty());
+    f.Panel()->SetSliderRange(0, 20);
+    QCOMPARE(values, (QList<QVariantList>{{20}}));
+}
+
+/// Catches a panel beside its button, and a button that stays down after the release.
+void tst_Volume::pressOpensAbove()
+{
+    Fixture f;
+    f.Press(OnButton);
+    QVERIFY(f.Panel()->isVisible());
+    const QPoint corner = f.button->mapToGlobal(QPoint((28 - 18) / 2, -100));
+    QCOMPARE(f.Panel()->pos(), corner);
+    f.Release(OnButton);
+    QVERIFY(f.Panel()->isVisible());
+    QVERIFY(!f.button->isDown());
+}
+
+/// Catches a press that closes the panel and, given on to the button, opens it again.
+void tst_Volume::pressOnTheButtonClosesForGood()
+{
+    Fixture f;
+    for (int round = 0; round < 3; ++round) {
+        f.Click(OnButton);
+        QVERIFY(f.Panel()->isVisible());
+        f.Click(OnButton);
+        QVERIFY(!f.Panel()->isVisible());
+        QVERIFY(!f.button->isDown());
+    }
+}
+
+/// Catches the opposite: a press elsewhere that is taken from the widget there too. Not every platform gives
+/// such presses on, so what counts is what the panel asks for when it closes.
+void tst_Volume::pressElsewhereIsGivenOn()
+{
+    Fixture f;
+    HideWatcher watcher;
+    f.Panel()->installEventFilter(&watcher);
+    for (const QPoint& pos : {OnButton, OnOther, OnButton, OnOther}) {
+        f.Click(OnButton);
+        f.Click(pos);
+        QVERIFY(!f.Panel()->isVisible());
+        QCOMPARE(watcher.m_bReplay, pos == OnOther);
+    }
+}
+
+/// Catches a panel that opens above the upper edge of the screen.
+void tst_Volume::panelStaysOnTheScreen()
+{
+    Fixture f;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    f.window.move(screen.topLeft());
+    f.button->move(0, 0);
+    f.button->PopupVolumeWidget();
+    QCOMPARE(f.Panel()->y(), screen.top());
+    f.window.move(screen.bottomRight());
+    f.button->PopupVolumeWidget();
+    QVERIFY(screen.contains(f.Panel()->geometry()));
+}
+
+/// Catches a panel that stands alone when its page is left.
+void tst_Volume::hidingTheButtonHidesThePanel()
+{
+    Fixture f;
+    f.Click(OnButton);
+    f.button->hide();
+    QVERIFY(!f.Panel()->isVisible());
+}
+
+/// Catches a click on the mute button that is reported twice, not at all, or not shown on the button.
+void tst_Volume::muteByMouse()
+{
+    Fixture f;
+    QSignalSpy opened(f.button, &KvVolumeButton::SignalSoundOpened);
+    f.Click(OnButton);
+    for (const bool on : {true, false}) {
+        const QPoint middle = f.Sound()->mapTo(f.Panel(), f.Sound()->rect().center());
+        QTest::mouseClick(f.Panel()->windowHandle(), Qt::LeftButton, {}, middle);
+        QCOMPARE(opened.takeFirst(), QVariantList{on});
+        QCOMPARE(f.Slider()->isEnabled(), on);
+        QCOMPARE(f.button->objectName() == QLatin1String("btnVolumeOn"), on);
+    }
+    QVERIFY(opened.isEmpty());
+    QVERIFY(f.Panel()->isVisible());
+}
+
+/// Catches a panel that needs the mouse.
+void tst_Volume::byKeyboard()
+{
+    Fixture f;
+    f.button->SetVolumeState(true);
+    f.button->setFocus();
+    QSignalSpy values(f.button, &KvVolumeButton::SignalVolumeValueChanged);
+    Key(Qt::Key_Space);
+    QVERIFY(f.Panel()->isVisible());
+    Key(Qt::Key_Up);
+    Key(Qt::Key_PageDown);
+    QCOMPARE(values, (QList<QVariantList>{{51}, {41}}));
+    Key(Qt::Key_Escape);
+    QVERIFY(!f.Panel()->isVisible());
+    QVERIFY(f.button->hasFocus());
+    QVERIFY(!f.button->isDown());
+}
+
+/// Catches a panel whose focus lies on the disabled slider.
+void tst_Volume::keyboardTurnsTheSoundOn()
+{
+    Fixture f;
+    f.button->setFocus();
+    QSignalSpy opened(f.button, &KvVolumeButton::SignalSoundOpened);
+    Key(Qt::Key_Space);
+    Key(Qt::Key_Space);
+    QCOMPARE(opened, (QList<QVariantList>{{true}}));
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Down);
+    QCOMPARE(f.button->GetVolumeValue(), 49);
+}
+
+void tst_Volume::slotMayDeleteTheButton_data()
+{
+    QTest::addColumn<std::function<void(KvVolumeButton*)>>("connectDeletion");
+    const auto row = [](const char* name, auto signal) {
+        QTest::newRow(name) << std::function<void(KvVolumeButton*)>([signal](KvVolumeButton* button) {
+            connect(button, signal, button, [button] { delete button; });
+        });
+    };
+    row("value", &KvVolumeButton::SignalVolumeValueChanged);
+    row("sound", &KvVolumeButton::SignalSoundOpened);
+    row("pressed", &KvVolumeButton::pressed);
+}
+
+/// Catches a button that goes on after its client deleted it.
+void tst_Volume::slotMayDeleteTheButton()
+{
+    QFETCH(std::function<void(KvVolumeButton*)>, connectDeletion);
+    Fixture f;
+    const QPointer<KvVolumeButton> button = f.button;
+    connectDeletion(button);
+    f.Click(OnButton);
+    if (button)
+        Key(Qt::Key_Space); // the sound
+    if (button) {
+        Key(Qt::Key_Tab);
+        Key(Qt::Key_Up);
+    }
+    QVERIFY(button.isNull());
+}
+
+/// Catches looks that the sheets do not tell apart: sound on and off, the dark and the light skin.
+void tst_Volume::looks()
+{
+    const Fixture f;
+    QVector<QImage> seen;
+    for (const char* skin : {"White", "Black"}) {
+        KvGUI::SetSkinVersion(QString::fromLatin1(skin));
+        for (const bool on : {false, true}) {
+            f.button->SetVolumeState(on);
+            for (QWidget* widget : {static_cast<QWidget*>(f.button), static_cast<QWidget*>(f.Panel())}) {
+                const QImage look = widget->grab().toImage();
+                QVERIFY(!seen.contains(look));
+                seen.append(look);
+            }
+        }
+    }
+}
+
+STRICT_X_TEST_MAIN(tst_Volume)
+#include "tst_volume.moc"
