@@ -32,6 +32,7 @@ foreach(provider ProbeProvider OtherProvider) # asked in the order of their file
 endforeach()
 set_target_properties(ProbeProvider PROPERTIES OUTPUT_NAME 1-ProbeProvider)
 set_target_properties(OtherProvider PROPERTIES OUTPUT_NAME 2-OtherProvider)
+uicomponents_test(tst_linkweb tst_linkweb.cpp)
 uicomponents_test(tst_excel tst_excel.cpp excel/RecordedObject.cpp excel/RecordedObject.h)
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
