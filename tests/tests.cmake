@@ -49,3 +49,4 @@ add_test(NAME installed-package
         "-DCXX=${CMAKE_CXX_COMPILER}" "-DCXX_FLAGS=${sanitizer_flags}"
         -P "${CMAKE_CURRENT_SOURCE_DIR}/installed/check.cmake")
 set_tests_properties(installed-package PROPERTIES ENVIRONMENT "${test_environment}")
+uicomponents_test(tst_basicui tst_basicui.cpp INTERNAL)

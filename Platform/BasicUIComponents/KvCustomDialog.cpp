@@ -8,8 +8,6 @@ namespace KvGUI {
 
 namespace {
 
-constexpr int kLeastButtonWidth = 84;
-
 QString StandardText(int iButton)
 {
     const auto button = static_cast<QDialogButtonBox::StandardButton>(iButton);
@@ -59,7 +57,6 @@ KvCustomDialog::KvCustomDialog(QWidget* parent, int iButtons, int iDialogFlags)
 void KvCustomDialog::AddButton(QHBoxLayout* row, int iButton, void (KvCustomDialog::*clicked)())
 {
     auto* button = new KvPushButton(StandardText(iButton), row->parentWidget());
-    button->setMinimumWidth(kLeastButtonWidth);
     connect(button, &QPushButton::clicked, this, clicked);
     row->addWidget(button);
     m_buttons.insert(iButton, button);

@@ -22,11 +22,11 @@ QVBoxLayout* LayoutWithoutGaps(QWidget* widget)
 KvDialog::KvDialog(QWidget* parent, int iDialogFlags)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
-    UseSkinPalette(this);
+    UsePlatformSheet(this, QStringLiteral("KvDialog.css"));
     auto* frame = new QWidget(this);
     frame->setObjectName(QStringLiteral("kvDialogFrame"));
     frame->setAttribute(Qt::WA_StyledBackground);
-    UsePlatformSheet(frame, QStringLiteral("KvDialog.css"));
+    UsePlatformSheet(frame, QStringLiteral("KvDialogFrame.css"));
     LayoutWithoutGaps(this)->addWidget(frame);
 
     auto* titleBar = new DialogTitleBar((iDialogFlags & CloseButton) != 0, frame);

@@ -19,10 +19,11 @@ namespace KvGUI {
 /// @endcode
 ///
 /// The dialog is dragged by its title bar and closed by the button there or by Escape; both reject it.
-/// It follows the skin. Its frame is styled by a sheet inside it, so that the sheet of the dialog itself is
-/// free for a subclass or a client. Ordinary widgets in the central widget take the skin's colours by
-/// the palette, where no sheet says otherwise. The frame's line is one pixel wide and lies below the
-/// central widget: leave a margin of 1 at the sides where it should be seen.
+/// It follows the skin. Its frame has a sheet of its own, inside the dialog; the sheet of the dialog
+/// itself gives ordinary widgets in the central widget the library's look. A subclass or a client may
+/// replace it, with CommonFun::SetStyleSheet for one that follows the skin, and then styles the content.
+/// The frame's line is one pixel wide and lies below the central widget: leave a margin of 1 at the
+/// sides where it should be seen.
 class UICOMPONENTS_EXPORT KvDialog : public QDialog
 {
     Q_OBJECT

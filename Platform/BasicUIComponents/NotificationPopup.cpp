@@ -78,7 +78,7 @@ QString NotificationPopup::Text() const { return m_pText->text(); }
 
 void NotificationPopup::Restart(int milliseconds)
 {
-    if (underMouse())
+    if (m_bPointerInside)
         m_time.setInterval(milliseconds);
     else
         m_time.start(milliseconds);
@@ -104,12 +104,14 @@ void NotificationPopup::closeEvent(QCloseEvent* event)
 
 void NotificationPopup::enterEvent(QEvent* event)
 {
+    m_bPointerInside = true;
     m_time.stop();
     QFrame::enterEvent(event);
 }
 
 void NotificationPopup::leaveEvent(QEvent* event)
 {
+    m_bPointerInside = false;
     m_time.start();
     QFrame::leaveEvent(event);
 }

@@ -34,7 +34,8 @@ protected:
 
 private:
     QLabel* m_pText;
-    QTimer m_time;
+    QTimer m_time; ///< stands still while the pointer is inside
+    bool m_bPointerInside = false;
 };
 
 } // namespace KvGUI

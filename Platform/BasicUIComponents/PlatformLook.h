@@ -11,8 +11,8 @@ class QWidget;
 /// Gives @p widget the sheet "BasicUIComponents/<fileName>" of the skin, now and after each change of skin.
 void UsePlatformSheet(QWidget* widget, const QString& fileName);
 
-/// Gives @p widget the palette of the skin, now and after each change of skin, so that ordinary widgets
-/// inside it are readable also where no sheet names them.
+/// Gives @p widget the palette of the skin, now and after each change of skin, so that it keeps the skin's
+/// colours when somebody replaces its sheet. (Children do not take it over: under a sheet none do.)
 void UseSkinPalette(QWidget* widget);
 
 /// The colours that the skin's file "BasicUIComponents/Palette.txt" gives, the application's palette for

@@ -11,6 +11,9 @@ namespace TestSupport {
 
 namespace {
 
+/// What the offscreen platform says of windows with a smallest size, tool tips and menus.
+bool IsOfThePlatform(const QByteArray& line) { return line.contains("This plugin does not support "); }
+
 int CountUnannounced(const QString& logFile)
 {
     QFile log(logFile);
@@ -19,7 +22,9 @@ int CountUnannounced(const QString& logFile)
     int count = 0;
     while (!log.atEnd()) {
         const QByteArray line = log.readLine();
-        if (line.startsWith("QWARN") || line.startsWith("QFATAL") || line.startsWith("QCRITICAL"))
+        const bool warning
+            = line.startsWith("QWARN") || line.startsWith("QFATAL") || line.startsWith("QCRITICAL");
+        if (warning && !IsOfThePlatform(line))
             ++count;
     }
     return count;

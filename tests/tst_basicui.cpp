@@ -1,0 +1,730 @@
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/KvCheckBox.h>
+#include <Platform/BasicUIComponents/KvCustomDialog.h>
+#include <Platform/BasicUIComponents/KvHorScrollBar.h>
+#include <Platform/BasicUIComponents/KvMenu.h>
+#include <Platform/BasicUIComponents/KvMessageNotify.h>
+#include <Platform/BasicUIComponents/KvPushButton.h>
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <Platform/BasicUIComponents/KvVerScrollBar.h>
+#include <Platform/BasicUIComponents/NotificationPlaces.h>
+#include <Platform/BasicUIComponents/NotificationPopup.h>
+#include <Platform/BasicUIComponents/PlatformLook.h>
+#include <QtTest>
+#include <functional>
+#include <memory>
+
+using namespace KvGUI;
+
+namespace {
+
+const QString kBlack = QStringLiteral("Black");
+const QString kWhite = QStringLiteral("White");
+
+constexpr int kOk = QDialogButtonBox::Ok;
+constexpr int kCancel = QDialogButtonBox::Cancel;
+constexpr int kOpen = QDialogButtonBox::Open;
+
+QWidget* Part(const QWidget& dialog, const char* name)
+{
+    return dialog.findChild<QWidget*>(QString::fromLatin1(name));
+}
+
+void Show(QWidget& widget)
+{
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowActive(&widget));
+}
+
+/// Runs @p act once the modal loop of @p dialog runs, and gives the loop's result.
+int ExecAnd(QDialog* dialog, const std::function<void()>& act)
+{
+    QTimer::singleShot(0, dialog, act);
+    return dialog->exec();
+}
+
+/// A mouse event through the window system, so that modality and grabs count.
+void ClickOn(QWidget* widget)
+{
+    QTest::mouseClick(
+        widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+        widget->mapTo(widget->window(), widget->rect().center()));
+}
+
+QList<NotificationPopup*> Messages()
+{
+    QList<NotificationPopup*> messages;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* popup = qobject_cast<NotificationPopup*>(widget);
+        if (popup != nullptr && popup->isVisible())
+            messages.append(popup);
+    }
+    std::sort(messages.begin(), messages.end(), [](auto* a, auto* b) { return a->y() < b->y(); });
+    return messages;
+}
+
+QStringList Texts()
+{
+    QStringList texts;
+    for (const NotificationPopup* message : Messages())
+        texts.append(message->Text());
+    return texts;
+}
+
+void Notify(const char* text, QWidget* parent)
+{
+    KvMessageNotify::Instance()->AddTextNotification(QString::fromLatin1(text), parent);
+}
+
+class NotingDialog : public KvCustomDialog
+{
+public:
+    using KvCustomDialog::KvCustomDialog;
+    int m_closes = 0;
+
+    void OnCloseBtmClicked() override { ++m_closes; }
+};
+
+} // namespace
+
+class TestBasicUi : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void TitleBarDragsTheDialog();
+    void DragEndsWithALostRelease();
+    void LongTitlesAreShortened();
+    void DialogFlags();
+    void ClosingRejects_data();
+    void ClosingRejects();
+    void ClosingCanBeOverridden();
+    void Buttons_data();
+    void Buttons();
+    void ButtonsOnlyReport();
+    void EnterPressesOk();
+    void EnterSkipsAHiddenOk();
+    void SlotDeletesTheDialog_data();
+    void SlotDeletesTheDialog();
+    void ParentDestroyedInsideTheLoop();
+    void SmallDialogsFitTheirContent();
+    void OwnSheetLeavesTheFrame();
+    void WidgetsFollowTheSkin_data();
+    void WidgetsFollowTheSkin();
+    void MenuWithAClientsSheetKeepsTheSkin();
+    void PaletteLines_data();
+    void PaletteLines();
+    void MessagePlaces_data();
+    void MessagePlaces();
+    void MessagesStackInsideTheScreen();
+    void MessagesFollowTheirWindow();
+    void MessagesGoInTime();
+    void PointerKeepsAMessage();
+    void MessageTakesNoFocus();
+    void MessageClosesInsideAModalLoop();
+    void MessageIsAnAlert();
+    void RepeatedMessages();
+    void ManyMessages();
+    void MessageOfAMenuBelongsToItsWindow();
+    void MessagesOfNoWindow();
+    void MessagesGoWithTheirWindow();
+};
+
+void TestBasicUi::init()
+{
+    KvGUI::SetSkinVersion(kBlack);
+    KvMessageNotify::Instance()->SetDisplayTime(60000);
+}
+
+void TestBasicUi::cleanup() { KvMessageNotify::Instance()->CloseAll(); }
+
+/// Catches a frameless dialog that cannot be moved, one that jumps when it is grabbed, and one that
+/// follows any button.
+void TestBasicUi::TitleBarDragsTheDialog()
+{
+    KvDialog dialog;
+    dialog.resize(300, 200);
+    dialog.move(100, 100);
+    Show(dialog);
+    QWidget* bar = Part(dialog, "kvDialogTitleBar");
+    const QPoint grip(60, 10);
+    const auto drag = [&](Qt::MouseButton button, const QPoint& by) {
+        QTest::mousePress(bar, button, Qt::NoModifier, grip);
+        QMouseEvent move(
+            QEvent::MouseMove, grip + by, bar->mapToGlobal(grip + by), Qt::NoButton, button, Qt::NoModifier);
+        QApplication::sendEvent(bar, &move);
+        QTest::mouseRelease(bar, button, Qt::NoModifier, grip);
+    };
+    drag(Qt::LeftButton, QPoint(35, -20));
+    QCOMPARE(dialog.pos(), QPoint(135, 80));
+    drag(Qt::RightButton, QPoint(10, 10));
+    QCOMPARE(dialog.pos(), QPoint(135, 80));
+}
+
+/// Catches a dialog that sticks to the pointer after the release went to another window.
+void TestBasicUi::DragEndsWithALostRelease()
+{
+    KvDialog dialog;
+    dialog.resize(300, 200);
+    Show(dialog);
+    const QPoint before = dialog.pos();
+    QWidget* bar = Part(dialog, "kvDialogTitleBar");
+    QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, QPoint(60, 10));
+    for (const Qt::MouseButton held : {Qt::NoButton, Qt::RightButton}) {
+        const QPoint to = bar->mapToGlobal(QPoint(90, 40));
+        QMouseEvent move(QEvent::MouseMove, QPoint(90, 40), to, Qt::NoButton, held, Qt::NoModifier);
+        QApplication::sendEvent(bar, &move);
+        QCOMPARE(dialog.pos(), before);
+    }
+}
+
+/// Catches a long title that makes the dialog wider, and one that stays short when there is room again.
+void TestBasicUi::LongTitlesAreShortened()
+{
+    KvDialog dialog;
+    const QString title = QStringLiteral("The title of a dialog, rather long");
+    dialog.SetTitle(title);
+    QCOMPARE(dialog.windowTitle(), title);
+    dialog.resize(150, 100);
+    Show(dialog);
+    QCOMPARE(dialog.width(), 150);
+    auto* label = qobject_cast<QLabel*>(Part(dialog, "kvDialogTitle"));
+    QVERIFY(label->text() != title);
+    dialog.resize(600, 100);
+    QTRY_COMPARE(label->text(), title);
+}
+
+/// Catches a close button that is always or never there.
+void TestBasicUi::DialogFlags()
+{
+    const KvDialog without(nullptr, KvDialog::NoFlag);
+    QVERIFY(Part(without, "kvDialogCloseButton") == nullptr);
+    const KvDialog with(nullptr, 1);
+    QVERIFY(Part(with, "kvDialogCloseButton") != nullptr);
+}
+
+void TestBasicUi::ClosingRejects_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("close button") << false;
+    QTest::newRow("Escape") << true;
+}
+
+/// Catches a dialog that its modal loop does not end, and one that ends as accepted.
+void TestBasicUi::ClosingRejects()
+{
+    QFETCH(bool, byKey);
+    KvDialog dialog;
+    QSignalSpy rejected(&dialog, &QDialog::rejected);
+    const int result = ExecAnd(&dialog, [&] {
+        if (byKey)
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else
+            ClickOn(Part(dialog, "kvDialogCloseButton"));
+    });
+    QCOMPARE(result, int(QDialog::Rejected));
+    QCOMPARE(rejected.count(), 1);
+    QVERIFY(!dialog.isVisible());
+}
+
+/// Catches a way to close the dialog that goes past a subclass's own handler.
+void TestBasicUi::ClosingCanBeOverridden()
+{
+    NotingDialog dialog;
+    Show(dialog);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    QTest::keyClick(dialog.GetButton(kOk), Qt::Key_Escape);
+    QTest::mouseClick(Part(dialog, "kvDialogCloseButton"), Qt::LeftButton);
+    QCOMPARE(dialog.m_closes, 3);
+    QVERIFY(dialog.isVisible());
+}
+
+void TestBasicUi::Buttons_data()
+{
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<QList<int>>("there");
+    QTest::newRow("none") << 0 << QList<int>{};
+    QTest::newRow("OK") << kOk << QList<int>{kOk};
+    QTest::newRow("three") << 1024 + 4194304 + 8192 << QList<int>{kOk, kCancel, kOpen};
+    QTest::newRow("another") << kCancel + int(QDialogButtonBox::Help)
+                             << QList<int>{kCancel, QDialogButtonBox::Help};
+    QTest::newRow("too many") << kOpen + int(QDialogButtonBox::Help) << QList<int>{kOpen};
+    QTest::newRow("no button's") << 1 << QList<int>{};
+}
+
+/// Catches flags that give another button, and a value without a button that crashes.
+void TestBasicUi::Buttons()
+{
+    QFETCH(int, flags);
+    QFETCH(QList<int>, there);
+    KvCustomDialog dialog(nullptr, flags);
+    QCOMPARE(dialog.findChildren<KvPushButton*>().size(), there.size());
+    for (const int value : {kOk, kCancel, kOpen, int(QDialogButtonBox::Help), 0, -1}) {
+        KvPushButton* button = dialog.GetButton(value);
+        QCOMPARE(button != nullptr, there.contains(value));
+        QVERIFY(button == nullptr || !button->text().isEmpty());
+        dialog.SetButtonVisible(value, false);
+        dialog.SetButtonText(value, QStringLiteral("x"));
+        dialog.SetButtonEnabled(value, false);
+        QVERIFY(button == nullptr || (button->isHidden() && button->text() == QLatin1String("x")));
+    }
+}
+
+/// Catches swapped signals, and buttons that close the dialog before the client has looked at its input.
+void TestBasicUi::ButtonsOnlyReport()
+{
+    KvCustomDialog dialog(nullptr, kOk | kCancel | kOpen);
+    QStringList log;
+    connect(&dialog, &KvCustomDialog::SignalOkButtonClicked, this, [&] { log << QStringLiteral("ok"); });
+    connect(
+        &dialog, &KvCustomDialog::SignalCancelButtonClicked, this, [&] { log << QStringLiteral("cancel"); });
+    connect(
+        &dialog, &KvCustomDialog::SignalOtherButtonClicked, this, [&] { log << QStringLiteral("other"); });
+    Show(dialog);
+    for (const int button : {kOpen, kOk, kCancel})
+        QTest::mouseClick(dialog.GetButton(button), Qt::LeftButton);
+    QCOMPARE(log, QStringList({QStringLiteral("other"), QStringLiteral("ok"), QStringLiteral("cancel")}));
+    QVERIFY(dialog.isVisible());
+}
+
+/// Catches an Enter key that presses nothing, or the first button of the row instead of OK.
+void TestBasicUi::EnterPressesOk()
+{
+    KvCustomDialog dialog(nullptr, kOk | kCancel | kOpen);
+    auto* edit = new QLineEdit(dialog.GetCentralWidget());
+    QSignalSpy ok(&dialog, &KvCustomDialog::SignalOkButtonClicked);
+    QSignalSpy cancel(&dialog, &KvCustomDialog::SignalCancelButtonClicked);
+    Show(dialog);
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(ok.count(), 1);
+    dialog.GetButton(kCancel)->setFocus();
+    QTest::keyClick(dialog.GetButton(kCancel), Qt::Key_Enter);
+    QCOMPARE(ok.count(), 1);
+    QCOMPARE(cancel.count(), 1);
+}
+
+/// Catches an Enter key that presses a button which the operator cannot see or press.
+void TestBasicUi::EnterSkipsAHiddenOk()
+{
+    KvCustomDialog dialog;
+    auto* edit = new QLineEdit(dialog.GetCentralWidget());
+    QSignalSpy ok(&dialog, &KvCustomDialog::SignalOkButtonClicked);
+    Show(dialog);
+    edit->setFocus();
+    dialog.SetButtonEnabled(kOk, false);
+    QTest::keyClick(edit, Qt::Key_Return);
+    dialog.SetButtonEnabled(kOk, true);
+    dialog.SetButtonVisible(kOk, false);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(ok.count(), 0);
+    dialog.SetButtonVisible(kOk, true);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(ok.count(), 1);
+}
+
+void TestBasicUi::SlotDeletesTheDialog_data()
+{
+    QTest::addColumn<QString>("what");
+    for (const char* what : {"OK clicked", "Enter", "closed", "Escape"})
+        QTest::newRow(what) << QString::fromLatin1(what);
+}
+
+/// Catches any use of the dialog after the signal in whose slot the client deleted it.
+void TestBasicUi::SlotDeletesTheDialog()
+{
+    QFETCH(QString, what);
+    auto* dialog = new KvCustomDialog;
+    const QPointer<KvCustomDialog> guard(dialog);
+    connect(dialog, &KvCustomDialog::SignalOkButtonClicked, this, [=] { delete dialog; });
+    connect(dialog, &QDialog::rejected, this, [=] { delete dialog; });
+    const int result = ExecAnd(dialog, [=] {
+        if (what == QLatin1String("OK clicked"))
+            ClickOn(dialog->GetButton(kOk));
+        else if (what == QLatin1String("closed"))
+            ClickOn(Part(*dialog, "kvDialogCloseButton"));
+        else
+            QTest::keyPress( // its release would go to a window that is gone
+                dialog->windowHandle(), what == QLatin1String("Enter") ? Qt::Key_Return : Qt::Key_Escape);
+    });
+    QCOMPARE(result, int(QDialog::Rejected));
+    QVERIFY(guard.isNull());
+}
+
+/// Catches a modal loop that touches its dialog after the parent took it along.
+void TestBasicUi::ParentDestroyedInsideTheLoop()
+{
+    auto* parent = new QWidget;
+    parent->setLayout(new QVBoxLayout);
+    Show(*parent);
+    auto* outer = new KvCustomDialog(parent);
+    auto* inner = new KvCustomDialog(outer);
+    int innerResult = -1;
+    const int outerResult = ExecAnd(outer, [&] {
+        innerResult = ExecAnd(inner, [&] {
+            Notify("about to go", inner);
+            delete parent;
+        });
+    });
+    QCOMPARE(innerResult, int(QDialog::Rejected));
+    QCOMPARE(outerResult, int(QDialog::Rejected));
+    QCOMPARE(Messages().size(), 0);
+}
+
+/// Catches a dialog that keeps its size when the client leaves the size to the layout, or cuts buttons off.
+void TestBasicUi::SmallDialogsFitTheirContent()
+{
+    KvCustomDialog dialog(nullptr, kOk | kCancel | kOpen);
+    auto* layout = new QVBoxLayout(dialog.GetCentralWidget());
+    auto* content = new QWidget;
+    content->setMinimumSize(120, 50);
+    layout->addWidget(content);
+    dialog.resize(1, 1);
+    Show(dialog);
+    QVERIFY(dialog.width() < 500 && dialog.height() < 200);
+    QVERIFY(content->height() >= 50);
+    for (const int value : {kOk, kCancel, kOpen}) {
+        const KvPushButton* button = dialog.GetButton(value);
+        QVERIFY(dialog.rect().contains(QRect(button->mapTo(&dialog, QPoint()), button->size())));
+        QVERIFY(button->width() >= button->sizeHint().width());
+    }
+}
+
+/// Catches a dialog whose title bar and buttons lose their look when a subclass sets a sheet.
+void TestBasicUi::OwnSheetLeavesTheFrame()
+{
+    KvCustomDialog dialog;
+    dialog.resize(300, 200);
+    Show(dialog);
+    const auto parts = [&] {
+        const QImage image = dialog.grab().toImage();
+        return QVector<QRgb>{image.pixel(150, 3), image.pixel(3, 197), image.pixel(0, 10)};
+    };
+    const QVector<QRgb> before = parts();
+    dialog.setStyleSheet(QStringLiteral("QLabel { color: red } QWidget { background-color: lime }"));
+    QCOMPARE(parts(), before);
+}
+
+void TestBasicUi::WidgetsFollowTheSkin_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char* kind : {"button", "check box", "menu", "bar", "bars", "dialog", "message"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+/// Catches a widget that has no look, the same in both skins, or keeps the old one.
+void TestBasicUi::WidgetsFollowTheSkin()
+{
+    QFETCH(QString, kind);
+    QWidget host;
+    host.setLayout(new QVBoxLayout);
+    std::unique_ptr<QWidget> widget;
+    if (kind == QLatin1String("button"))
+        widget = std::make_unique<KvPushButton>(QStringLiteral("OK"));
+    else if (kind == QLatin1String("check box"))
+        widget = std::make_unique<KvCheckBox>(QStringLiteral("Keep"));
+    else if (kind == QLatin1String("menu"))
+        widget = std::make_unique<KvMenu>(QStringLiteral("Menu"));
+    else if (kind == QLatin1String("bar"))
+        widget = std::make_unique<KvHorScrollBar>();
+    else if (kind == QLatin1String("bars"))
+        widget = std::make_unique<KvVerScrollBar>();
+    else if (kind == QLatin1String("dialog"))
+        widget = std::make_unique<KvDialog>();
+    else
+        widget = std::make_unique<NotificationPopup>(QStringLiteral("Saved"), 1000, nullptr);
+    widget->setAttribute(Qt::WA_DeleteOnClose, false);
+    widget->resize(300, 120);
+    const auto look = [&] {
+        QImage image(widget->size(), QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        widget->render(&image);
+        return image;
+    };
+    const QImage black = look();
+    KvGUI::SetSkinVersion(kWhite);
+    const QImage white = look();
+    QVERIFY(white != black);
+    KvGUI::SetSkinVersion(kBlack);
+    QCOMPARE(look(), black);
+}
+
+/// Catches a light menu in the dark skin: the crop canvas gives its menu a sheet for the chosen item only.
+void TestBasicUi::MenuWithAClientsSheetKeepsTheSkin()
+{
+    QWidget host;
+    host.setLayout(new QVBoxLayout);
+    for (const QString& skin : {kBlack, kWhite, kBlack}) {
+        KvGUI::SetSkinVersion(skin);
+        KvMenu menu(&host);
+        menu.setStyleSheet(QStringLiteral("QMenu::item:selected { color: red }"));
+        menu.addAction(QStringLiteral("Search"));
+        menu.ensurePolished();
+        menu.resize(200, menu.sizeHint().height());
+        const int lightness = menu.grab().toImage().pixelColor(190, menu.height() / 2).lightness();
+        QCOMPARE(lightness < 128, skin == kBlack);
+    }
+}
+
+void TestBasicUi::PaletteLines_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QColor>("active");
+    QTest::addColumn<QColor>("disabled");
+    const QColor blue(Qt::blue);
+    const QColor red(Qt::red);
+    QTest::newRow("both") << QStringLiteral("Text #ff0000") << red << red;
+    QTest::newRow("disabled only") << QStringLiteral("DisabledText red") << blue << red;
+    QTest::newRow("disabled after") << QStringLiteral("Text red\nDisabledText blue\n") << red << blue;
+    QTest::newRow("blanks") << QStringLiteral(" Text\t #ff0000 \r\n\n") << red << red;
+    QTest::newRow("no colour") << QStringLiteral("Text reddish") << blue << blue;
+    QTest::newRow("no role") << QStringLiteral("Txet red\nNColorRoles red\n red red") << blue << blue;
+    QTest::newRow("too many words") << QStringLiteral("Text red blue") << blue << blue;
+    QTest::newRow("nothing") << QString() << blue << blue;
+}
+
+/// Catches a line that changes more than it says, and a bad one that changes anything.
+void TestBasicUi::PaletteLines()
+{
+    QFETCH(QString, text);
+    QFETCH(QColor, active);
+    QFETCH(QColor, disabled);
+    QPalette base;
+    base.setColor(QPalette::Text, Qt::blue);
+    const QPalette palette = PaletteFromText(text, base);
+    QCOMPARE(palette.color(QPalette::Active, QPalette::Text), active);
+    QCOMPARE(palette.color(QPalette::Inactive, QPalette::Text), active);
+    QCOMPARE(palette.color(QPalette::Disabled, QPalette::Text), disabled);
+    QCOMPARE(palette.color(QPalette::Window), base.color(QPalette::Window));
+}
+
+void TestBasicUi::MessagePlaces_data()
+{
+    QTest::addColumn<QRect>("window");
+    QTest::addColumn<QVector<QPoint>>("places");
+    const QRect usual(100, 100, 600, 400);
+    QTest::newRow("in the window") << usual << QVector<QPoint>{{300, 144}, {350, 192}};
+    QTest::newRow("window off to the left")
+        << QRect(-500, 100, 600, 400) << QVector<QPoint>{{20, 144}, {20, 192}};
+    QTest::newRow("window off to the right")
+        << QRect(700, 100, 600, 400) << QVector<QPoint>{{620, 144}, {720, 192}};
+    QTest::newRow("window above") << QRect(100, -300, 600, 400) << QVector<QPoint>{{300, 10}, {350, 58}};
+    QTest::newRow("window below") << QRect(100, 900, 600, 400) << QVector<QPoint>{{300, 522}, {350, 570}};
+}
+
+/// Catches messages outside the screen, on each other, or far from their window.
+void TestBasicUi::MessagePlaces()
+{
+    QFETCH(QRect, window);
+    QFETCH(QVector<QPoint>, places);
+    const QRect available(20, 10, 800, 600);
+    QCOMPARE(NotificationPlaces(window, available, {QSize(200, 40), QSize(100, 40)}), places);
+    QVERIFY(NotificationPlaces(window, available, {}).isEmpty());
+    const auto huge = NotificationPlaces(window, available, {QSize(2000, 2000)});
+    QCOMPARE(huge, QVector<QPoint>{available.topLeft()});
+}
+
+/// Catches messages that cover each other, cut their text or leave the screen.
+void TestBasicUi::MessagesStackInsideTheScreen()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    window.setGeometry(500, 550, 290, 200);
+    Show(window);
+    Notify("Saved", &window);
+    Notify(
+        "A message that is a good deal longer than one line can be, so that its words are wrapped, "
+        "with\na line end of its own in it as well",
+        &window);
+    Notify("Saved too", &window);
+    const auto messages = Messages();
+    QCOMPARE(messages.size(), 3);
+    QRect before;
+    for (NotificationPopup* message : messages) {
+        QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(message->geometry()));
+        QVERIFY(message->geometry().top() > before.bottom());
+        before = message->geometry();
+        const auto* text = message->findChild<QLabel*>(QStringLiteral("kvNotificationText"));
+        QVERIFY(text->heightForWidth(text->width()) <= text->height());
+    }
+    QVERIFY(messages.at(1)->height() > messages.at(0)->height());
+    messages.at(1)->close();
+    QCOMPARE(Messages().size(), 2);
+    QVERIFY(Messages().at(1)->y() <= Messages().at(0)->geometry().bottom() + 20);
+}
+
+/// Catches messages that stay behind when the window is dragged away.
+void TestBasicUi::MessagesFollowTheirWindow()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    window.setGeometry(10, 10, 300, 200);
+    Show(window);
+    Notify("Saved", &window);
+    const QPoint before = Messages().at(0)->pos();
+    window.move(window.pos() + QPoint(200, 150));
+    QTRY_COMPARE(Messages().at(0)->pos(), before + QPoint(200, 150));
+}
+
+/// Catches messages that stay for ever, and objects that stay behind.
+void TestBasicUi::MessagesGoInTime()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    Show(window);
+    KvMessageNotify::Instance()->SetDisplayTime(30);
+    Notify("Saved", &window);
+    const QPointer<NotificationPopup> message(Messages().at(0));
+    QTRY_VERIFY(message.isNull());
+    KvMessageNotify::Instance()->SetDisplayTime(-5);
+    Notify("Saved again", &window);
+    QTRY_COMPARE(Messages().size(), 0);
+}
+
+/// Catches a message that goes while it is read.
+void TestBasicUi::PointerKeepsAMessage()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    Show(window);
+    Notify("Saved", &window);
+    const QPointer<NotificationPopup> message(Messages().at(0));
+    QVERIFY(QTest::qWaitForWindowExposed(message));
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(message, &enter);
+    KvMessageNotify::Instance()->SetDisplayTime(60);
+    Notify("Saved", &window); // the same again does not start the clock under the pointer
+    QTest::qWait(150);
+    QVERIFY(!message.isNull());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(message, &leave);
+    QTRY_VERIFY(message.isNull());
+}
+
+/// Catches a message that takes the keyboard from an operator who is typing.
+void TestBasicUi::MessageTakesNoFocus()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    auto* edit = new QLineEdit;
+    window.layout()->addWidget(edit);
+    Show(window);
+    edit->setFocus();
+    Notify("Saved", &window);
+    QVERIFY(QTest::qWaitForWindowExposed(Messages().at(0)));
+    QTest::mouseClick(Messages().at(0)->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 10));
+    QTest::qWait(20);
+    QCOMPARE(QApplication::activeWindow(), &window);
+    QCOMPARE(QApplication::focusWidget(), edit);
+    QTest::keyClick(QApplication::focusWindow(), Qt::Key_A);
+    QCOMPARE(edit->text(), QStringLiteral("a"));
+}
+
+/// Catches a message that a modal dialog makes dead.
+void TestBasicUi::MessageClosesInsideAModalLoop()
+{
+    KvCustomDialog dialog;
+    int left = -1;
+    ExecAnd(&dialog, [&] {
+        Notify("Please select a valid area to cut.", &dialog);
+        QVERIFY(QTest::qWaitForWindowExposed(Messages().at(0)));
+        ClickOn(Part(*Messages().at(0), "kvNotificationClose"));
+        left = Messages().size();
+        dialog.reject();
+    });
+    QCOMPARE(left, 0);
+}
+
+/// Catches a message that a screen reader takes for a window like any other, and one without its text.
+void TestBasicUi::MessageIsAnAlert()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    Show(window);
+    Notify("Saved", &window);
+    const QAccessibleInterface* message = QAccessible::queryAccessibleInterface(Messages().at(0));
+    QCOMPARE(message->role(), QAccessible::AlertMessage);
+    QCOMPARE(message->text(QAccessible::Name), QStringLiteral("Saved"));
+    const QAccessibleInterface* close
+        = QAccessible::queryAccessibleInterface(Part(*Messages().at(0), "kvNotificationClose"));
+    QVERIFY(!close->text(QAccessible::Name).isEmpty());
+}
+
+/// Catches a pile of equal messages after as many clicks, and equal texts that are held back elsewhere.
+void TestBasicUi::RepeatedMessages()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    KvDialog dialog(&window);
+    for (int i = 0; i < 3; ++i)
+        Notify("Saved", &window);
+    QCOMPARE(Messages().size(), 1);
+    Notify("Saved", &dialog);
+    QCOMPARE(Messages().size(), 2);
+    Notify("", &window);
+    QCOMPARE(Messages().size(), 2);
+}
+
+/// Catches a screen that fills with messages, and the newest as the one that goes.
+void TestBasicUi::ManyMessages()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    Show(window);
+    for (const char* text : {"a", "b", "c", "d", "e", "f", "g"})
+        Notify(text, &window);
+    QCOMPARE(Texts().join(QString()), QStringLiteral("cdefg"));
+}
+
+/// Catches a message that vanishes together with the menu in whose action it was shown.
+void TestBasicUi::MessageOfAMenuBelongsToItsWindow()
+{
+    QWidget window;
+    window.setLayout(new QVBoxLayout);
+    Show(window);
+    {
+        KvMenu menu(&window);
+        menu.addAction(QStringLiteral("Search"));
+        menu.popup(window.pos());
+        Notify("Nothing found", &menu);
+    }
+    QCOMPARE(Texts(), QStringList(QStringLiteral("Nothing found")));
+}
+
+/// Catches messages without a window that are lost, and a crash where no window is active.
+void TestBasicUi::MessagesOfNoWindow()
+{
+    Notify("Connected", nullptr);
+    QCOMPARE(Texts(), QStringList(QStringLiteral("Connected")));
+    {
+        QWidget window;
+        window.setLayout(new QVBoxLayout);
+        Show(window);
+        Notify("Saved", nullptr);
+        QCOMPARE(Messages().size(), 2);
+    }
+    QCOMPARE(Texts(), QStringList(QStringLiteral("Connected")));
+    KvMessageNotify::Instance()->CloseAll();
+    QCOMPARE(Messages().size(), 0);
+}
+
+/// Catches messages that outlive their window or touch it on the way out, whatever goes first.
+void TestBasicUi::MessagesGoWithTheirWindow()
+{
+    auto* window = new QWidget;
+    window->setLayout(new QVBoxLayout);
+    Show(*window);
+    Notify("a", window);
+    Notify("b", window);
+    Notify("c", window);
+    delete Messages().at(1); // as a client could that looks through the windows
+    QCOMPARE(Texts().join(QString()), QStringLiteral("ac"));
+    delete window;
+    QCOMPARE(Messages().size(), 0);
+}
+
+STRICT_TEST_MAIN(TestBasicUi)
+#include "tst_basicui.moc"
