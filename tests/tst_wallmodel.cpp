@@ -4,8 +4,10 @@
 
 #include <UI/TVWall/ScreenOverlay.h>
 #include <UI/TVWall/WallGeometry.h>
+#include <UI/TVWall/WallMiniature.h>
 #include <UI/TVWall/WallSelection.h>
 #include <UI/TVWall/WallStacking.h>
+#include <UI/TVWall/WallZoom.h>
 
 #include <QApplication>
 #include <QTest>
@@ -60,6 +62,13 @@ private Q_SLOTS:
     void drags_data();
     void drags();
     void draggedEdgesOnlyChange();
+    void zoomLimits_data();
+    void zoomLimits();
+    void zoomSteps_data();
+    void zoomSteps();
+    void zoomedPointStays();
+    void zoomedWallIsResized();
+    void miniatureIsCut();
     void stacking_data();
     void stacking();
     void clicks_data();
@@ -296,6 +305,123 @@ void tst_WallModel::draggedEdgesOnlyChange()
     const StructScaleRect dragged = WallGeometry::DraggedScale(
         scale, QRect(123, 120, 420, 240), QRect(123, 120, 430, 240), QSize(1000, 600));
     Compare(dragged, {0.12345, 0.2, 0.54321 + 0.01, 0.6, true});
+}
+
+void tst_WallModel::zoomLimits_data()
+{
+    QTest::addColumn<float>("wanted"); // extent
+    QTest::addColumn<float>("view");
+    QTest::addColumn<float>("extent");
+    QTest::newRow("smaller than the view") << 799.0F << 800.0F << 800.0F;
+    QTest::newRow("just ten times") << 8000.0F << 800.0F << 8000.0F;
+    QTest::newRow("more than ten times") << 8001.0F << 800.0F << 8000.0F;
+    QTest::newRow("no view") << 100.0F << 0.0F << 0.0F;
+    QTest::newRow("nothing at all") << 0.0F << 0.0F << 0.0F;
+    QTest::newRow("NaN") << float(NaN) << 800.0F << 800.0F;
+    QTest::newRow("infinite") << float(Infinity) << 800.0F << 8000.0F;
+}
+
+// Catches limits off by one and a division by a view without a size.
+void tst_WallModel::zoomLimits()
+{
+    QFETCH(float, wanted);
+    QFETCH(float, view);
+    QTEST(WallZoom::LimitedExtent(wanted, view), "extent");
+    QCOMPARE(WallZoom::LimitedOffset(-200.0F, 1200.0F, 800.0F), -200.0F);
+    QCOMPARE(WallZoom::LimitedOffset(-401.0F, 1200.0F, 800.0F), -400.0F);
+    QCOMPARE(WallZoom::LimitedOffset(1.0F, 1200.0F, 800.0F), 0.0F);
+    QCOMPARE(WallZoom::LimitedOffset(float(NaN), 1200.0F, 800.0F), 0.0F);
+    QCOMPARE(WallZoom::Pixel(-200.0F), -199); // towards zero, also below it
+    QCOMPARE(WallZoom::Pixel(-200.6F), -200);
+    QCOMPARE(WallZoom::Pixel(199.5F), 200);
+}
+
+void tst_WallModel::zoomSteps_data()
+{
+    QTest::addColumn<int>("wall");
+    QTest::addColumn<float>("offset");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<bool>("larger");
+    QTest::addColumn<int>("wallAfter");
+    QTest::addColumn<float>("offsetAfter");
+    QTest::newRow("about the middle") << 800 << 0.0F << 400 << true << 1200 << -200.0F;
+    QTest::newRow("about the start") << 800 << 0.0F << 0 << true << 1200 << 0.0F;
+    QTest::newRow("back") << 1200 << -200.0F << 600 << false << 800 << 0.0F;
+    QTest::newRow("out, at the smallest") << 800 << 0.0F << 700 << false << 800 << 0.0F;
+    QTest::newRow("in, at the largest") << 8000 << -7200.0F << 7900 << true << 8000 << -7200.0F;
+    QTest::newRow("the last step is shorter") << 6075 << 0.0F << 0 << true << 8000 << 0.0F;
+    QTest::newRow("rounded up") << 1001 << 0.0F << 0 << true << 1502 << 0.0F;
+    QTest::newRow("kept over its end") << 1200 << 0.0F << 1200 << false << 800 << 0.0F;
+}
+
+void tst_WallModel::zoomSteps()
+{
+    QFETCH(int, wall);
+    QFETCH(float, offset);
+    QFETCH(int, position);
+    QFETCH(bool, larger);
+    const WallZoom::Axis axis = WallZoom::Zoomed({800.0F, wall, offset}, position, larger);
+    QTEST(axis.wall, "wallAfter");
+    QTEST(axis.offset, "offsetAfter");
+    const WallZoom::Axis nothing = WallZoom::Zoomed(WallZoom::Axis(), position, larger);
+    QCOMPARE(nothing.wall, 0);
+    QCOMPARE(nothing.offset, 0.0F);
+}
+
+// Catches a point that wanders away from the cursor because rounded offsets add up.
+void tst_WallModel::zoomedPointStays()
+{
+    const int cursor = 617; // in the view
+    WallZoom::Axis axis{1000.0F, 1000, 0.0F};
+    for (const bool larger : {true, true, true, true, true, false, false, false, true, true}) {
+        const float before = (float(cursor) - axis.offset) / float(axis.wall);
+        axis = WallZoom::Zoomed(axis, qRound(float(cursor) - axis.offset), larger);
+        const float after = (float(cursor) - axis.offset) / float(axis.wall);
+        QVERIFY(std::abs(before - after) * float(axis.wall) < 1.5F);
+    }
+    QVERIFY(std::abs((float(cursor) - axis.offset) / float(axis.wall) - 0.617F) < 0.002F);
+}
+
+// Catches a zoom lost at a resize, an offset left outside its limits, and a wall that starts with a size of
+// its own instead of its view's.
+void tst_WallModel::zoomedWallIsResized()
+{
+    const WallZoom::Axis halved = WallZoom::Resized({800.0F, 2400, -1600.0F}, 400.0F);
+    QCOMPARE(halved.wall, 1200);
+    QCOMPARE(halved.offset, -800.0F); // not scaled, but limited
+    const WallZoom::Axis grown = WallZoom::Resized({800.0F, 1200, -300.0F}, 801.0F);
+    QCOMPARE(grown.wall, 1202); // 1201.5
+    QCOMPARE(grown.offset, -300.0F);
+    WallZoom::Axis gone = WallZoom::Resized({800.0F, 2400, -1600.0F}, 0.0F);
+    QCOMPARE(gone.wall, 0);
+    QCOMPARE(gone.offset, 0.0F);
+    QCOMPARE(WallZoom::ViewStart(gone), 0.0F);
+    gone = WallZoom::Resized(gone, 640.0F);
+    QCOMPARE(gone.wall, 640);
+    QCOMPARE(WallZoom::Located(halved, 0.5F).offset, -600.0F);
+    QCOMPARE(WallZoom::Located(halved, -3.0F).offset, 0.0F);
+    QCOMPARE(WallZoom::ViewStart(halved), 2.0F / 3.0F);
+    QCOMPARE(WallZoom::ViewExtent(halved), 1.0F / 3.0F);
+}
+
+// Catches wild rectangles painted over their screen, and a window hidden by a lower one.
+void tst_WallModel::miniatureIsCut()
+{
+    WallMiniature::Colors colors;
+    colors.window = Qt::red;
+    colors.selected = Qt::green;
+    const WallMiniature::Screen left{
+        {-1e300, 0.0, 0.5, Infinity}, false, {{{-1e300, 0.0, 1e300, 0.5}, false}}};
+    const WallMiniature::Screen right{
+        {0.5, 0.0, 1.0, 1.0}, false, {{{0.0, 0.0, 1.0, 1.0}, false}, {{0.0, 0.0, 1.0, 1.0}, true}}};
+    const WallMiniature::Screen unknown{{NaN, NaN, NaN, NaN}, true, {{{NaN, 0.0, 1.0, 1.0}, true}}};
+    const QImage picture
+        = WallMiniature::Picture({left, right, unknown}, QSize(100, 50), 2.0, colors).toImage();
+    QCOMPARE(picture.size(), QSize(200, 100));
+    QCOMPARE(picture.pixel(50, 20), qRgb(255, 0, 0));
+    QCOMPARE(picture.pixel(50, 80), qRgb(33, 34, 37)); // the screen below its window
+    QCOMPARE(picture.pixelColor(99, 20), QColor(Qt::transparent)); // the gutter
+    QCOMPARE(picture.pixel(150, 50), qRgb(0, 255, 0));
 }
 
 void tst_WallModel::stacking_data()

@@ -217,6 +217,20 @@ void KvTVWallDisplayEagleEye::keyPressEvent(QKeyEvent* event)
     }
 }
 
+// The overview is often the first widget that the keyboard could reach, and gets the focus with its window:
+// that alone is no reason to mark it.
+void KvTVWallDisplayEagleEye::focusInEvent(QFocusEvent* event)
+{
+    m_bFocusShown = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    QWidget::focusInEvent(event);
+}
+
+void KvTVWallDisplayEagleEye::focusOutEvent(QFocusEvent* event)
+{
+    m_bFocusShown = false;
+    QWidget::focusOutEvent(event);
+}
+
 void KvTVWallDisplayEagleEye::PaintMiniature(QPainter& painter)
 {
     const QRect content = ContentRect();
@@ -236,14 +250,14 @@ void KvTVWallDisplayEagleEye::paintEvent(QPaintEvent*)
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, Picture());
-    if (!m_bExpanded)
-        return;
-    PaintMiniature(painter);
-    const QSize button = LogicalSize(m_shrinkPicture);
-    painter.drawPixmap(width() - button.width(), height() - button.height(), m_shrinkPicture);
-    if (hasFocus()) {
+    if (m_bExpanded) {
+        PaintMiniature(painter);
+        const QSize button = LogicalSize(m_shrinkPicture);
+        painter.drawPixmap(width() - button.width(), height() - button.height(), m_shrinkPicture);
+    }
+    if (m_bFocusShown) {
         painter.setPen(m_colors.view);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        m_bExpanded ? painter.drawRect(rect().adjusted(0, 0, -1, -1)) : painter.drawPolygon(ExpandRegion());
     }
 }
 

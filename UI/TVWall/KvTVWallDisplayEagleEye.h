@@ -50,6 +50,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private Q_SLOTS:
     void OnArrangementChanged();
@@ -76,6 +78,7 @@ private:
     float m_fWidth = 1.0F;
     float m_fHeight = 1.0F;
     bool m_bPressedOnButton = false;
+    bool m_bFocusShown = false; // came by the keyboard
     WallMiniature::Colors m_colors;
     qreal m_dDensity = 1.0; // for which the pictures were loaded
     QPixmap m_areaPicture;
