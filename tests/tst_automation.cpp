@@ -28,6 +28,7 @@ class TestAutomation : public QObject
 private Q_SLOTS:
     void initTestCase();
     void LoadsProvidersWhenAskedFor();
+    void LeavesProvidersOfOtherPlatforms();
     void PrefersTheApplicationsFactory();
     void MakesControlsInTheirParent();
 
@@ -45,15 +46,26 @@ void TestAutomation::initTestCase()
 }
 
 // Catches a plugin that is not found, one that is loaded for what it does not offer (a browser engine for
-// a workbook), and one whose failure hides the next.
+// a workbook, or beside another that has delivered), and one whose failure hides the next.
 void TestAutomation::LoadsProvidersWhenAskedFor()
 {
+    QWidget parent;
+    QVERIFY(AutomationRegistry::CreateControl(&parent));
     QCOMPARE(Origin("Probe.Unknown"), QStringLiteral("none"));
     QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
     QVERIFY(!qApp->property("otherProviderLoaded").toBool());
     QCOMPARE(Origin("Probe.Both"), QStringLiteral("other:Probe.Both"));
     QVERIFY(qApp->property("otherProviderLoaded").toBool());
     QCOMPARE(Origin("Probe.Second"), QStringLiteral("other:Probe.Second"));
+}
+
+// Catches a browser engine that is loaded, and ends the program, where there is no display for it.
+void TestAutomation::LeavesProvidersOfOtherPlatforms()
+{
+    QWidget parent;
+    QVERIFY(AutomationRegistry::CreateControl(&parent));
+    QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
+    QVERIFY(!qApp->property("foreignProviderLoaded").toBool());
 }
 
 // Catches a real office that is started behind the back of an application with a factory of its own.

@@ -16,6 +16,9 @@ namespace Automation {
 /// @code
 /// { "objects": ["Excel.Application"], "controls": false }
 /// @endcode
+/// A plugin that cannot do without a real display names the Qt platforms that it runs on, and is left alone
+/// on others: "platforms": ["xcb", "wayland"].
+///
 /// AutomationRegistry tells where plugins are looked for.
 class UICOMPONENTS_EXPORT AutomationProvider
 {

@@ -38,24 +38,24 @@ std::unique_ptr<AutomationObject> AutomationRegistry::CreateObject(const QString
     // A copy: the factory may set another one.
     if (const ObjectFactory factory = ObjectFactories().value(programId))
         return factory();
-    const std::vector<AutomationProvider*> providers = ProviderPlugins::Instance().ForObject(programId);
-    for (AutomationProvider* provider : providers) {
-        if (auto object = provider->CreateObject(programId))
-            return object;
-    }
-    return nullptr;
+    std::unique_ptr<AutomationObject> object;
+    ProviderPlugins::Instance().AskForObject(programId, [&](AutomationProvider& provider) {
+        object = provider.CreateObject(programId);
+        return object != nullptr;
+    });
+    return object;
 }
 
 std::unique_ptr<HostedControl> AutomationRegistry::CreateControl(QWidget* parent)
 {
     if (const ControlFactory factory = OwnControlFactory())
         return factory(parent);
-    const std::vector<AutomationProvider*> providers = ProviderPlugins::Instance().ForControls();
-    for (AutomationProvider* provider : providers) {
-        if (auto control = provider->CreateControl(parent))
-            return control;
-    }
-    return nullptr;
+    std::unique_ptr<HostedControl> control;
+    ProviderPlugins::Instance().AskForControl([&](AutomationProvider& provider) {
+        control = provider.CreateControl(parent);
+        return control != nullptr;
+    });
+    return control;
 }
 
 } // namespace Automation

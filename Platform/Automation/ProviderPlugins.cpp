@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QLibrary>
@@ -54,6 +55,15 @@ QJsonObject Offer(const QPluginLoader& loader)
     return loader.metaData().value(QLatin1String("MetaData")).toObject();
 }
 
+/// Whether the plugin can run on the present window system; one that names none runs everywhere.
+bool RunsHere(const QJsonObject& offer)
+{
+    const QJsonArray platforms = offer.value(QLatin1String("platforms")).toArray();
+    // "wayland-egl" is a kind of "wayland".
+    const QString present = QGuiApplication::platformName().section(QLatin1Char('-'), 0, 0);
+    return platforms.isEmpty() || platforms.contains(present);
+}
+
 bool IsProvider(const QPluginLoader& loader)
 {
     return loader.metaData().value(QLatin1String("IID")).toString()
@@ -82,29 +92,30 @@ ProviderPlugins::ProviderPlugins(const QStringList& folders)
     }
 }
 
-std::vector<AutomationProvider*>
-ProviderPlugins::Load(const std::function<bool(const QJsonObject& offer)>& wanted)
+void ProviderPlugins::Ask(const Wish& wanted, const Answer& delivers)
 {
-    std::vector<AutomationProvider*> providers;
     for (const auto& loader : m_loaders) {
-        if (!wanted(Offer(*loader)))
+        const QJsonObject offer = Offer(*loader);
+        if (!wanted(offer) || !RunsHere(offer))
             continue;
-        if (auto* provider = qobject_cast<AutomationProvider*>(loader->instance()))
-            providers.push_back(provider);
+        auto* provider = qobject_cast<AutomationProvider*>(loader->instance());
+        if (provider && delivers(*provider))
+            return;
     }
-    return providers;
 }
 
-std::vector<AutomationProvider*> ProviderPlugins::ForObject(const QString& programId)
+void ProviderPlugins::AskForObject(const QString& programId, const Answer& delivers)
 {
-    return Load([&programId](const QJsonObject& offer) {
-        return offer.value(QLatin1String("objects")).toArray().contains(programId);
-    });
+    Ask(
+        [&programId](const QJsonObject& offer) {
+            return offer.value(QLatin1String("objects")).toArray().contains(programId);
+        },
+        delivers);
 }
 
-std::vector<AutomationProvider*> ProviderPlugins::ForControls()
+void ProviderPlugins::AskForControl(const Answer& delivers)
 {
-    return Load([](const QJsonObject& offer) { return offer.value(QLatin1String("controls")).toBool(); });
+    Ask([](const QJsonObject& offer) { return offer.value(QLatin1String("controls")).toBool(); }, delivers);
 }
 
 } // namespace Automation

@@ -21,14 +21,20 @@ public:
     /// Those of @p folders. Files that are no provider plugins are passed over.
     explicit ProviderPlugins(const QStringList& folders);
 
-    /// The plugins that offer objects of the kind @p programId, loaded; one that does not load is left out.
-    std::vector<AutomationProvider*> ForObject(const QString& programId);
+    /// Takes what the provider makes. @return whether it made something, so that no other is asked
+    using Answer = std::function<bool(AutomationProvider& provider)>;
 
-    /// The plugins that offer controls, loaded.
-    std::vector<AutomationProvider*> ForControls();
+    /// Asks the plugins that offer objects of the kind @p programId, one after the other. One that does
+    /// not load is passed over.
+    void AskForObject(const QString& programId, const Answer& delivers);
+
+    /// The same for the plugins that offer controls.
+    void AskForControl(const Answer& delivers);
 
 private:
-    std::vector<AutomationProvider*> Load(const std::function<bool(const QJsonObject& offer)>& wanted);
+    using Wish = std::function<bool(const QJsonObject& offer)>;
+
+    void Ask(const Wish& wanted, const Answer& delivers);
 
     std::vector<std::unique_ptr<QPluginLoader>> m_loaders;
 };
