@@ -48,6 +48,10 @@ ON_THE_WALL = {
     "video-text": "#a6abb5",
     "band": "#5aa5f2",
     "overview-window": "#6b717c",
+    # The search menu of the photo canvas marks its chosen item in this colour in every skin, so its icons
+    # must be seen on it and on the menu.
+    "search-chosen": "#29465a",
+    "menu-icon": "#8f959f",
 }
 
 PALETTES = {
@@ -131,6 +135,7 @@ CONTRAST = [
     # from the others by the accent.
     (SHAPE, ["window-frame", "accent-line", "band"], ["screen", "video"]),
     (SHAPE, ["accent-line"], ["title-bar"]),
+    (SHAPE, ["menu-icon"], ["raised", "search-chosen"]),
     (SHAPE, ["overview-window"], ["screen"]),
 ]
 

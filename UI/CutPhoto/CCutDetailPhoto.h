@@ -4,10 +4,11 @@
 #include <UIComponentsExport.h>
 
 #include <QWidget>
+#include <memory>
 
 namespace UICommonMdl {
 
-class CComTipWiget;
+class CCutDetailPhotoPrivate;
 
 /// The plain crop canvas: the operator drags a rectangle over a photo, and the host is told of every step.
 ///
@@ -107,6 +108,15 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void DragTo(const QPoint& pointer);
+    void SetCrop(const QRect& crop);
+    void HideTip();
+    void UpdateTipPos();
+    CCutDetailPhotoPrivate* d_func() const { return m_pPrivate.get(); }
+
+    const std::unique_ptr<CCutDetailPhotoPrivate> m_pPrivate;
 };
 
 } // namespace UICommonMdl

@@ -4,15 +4,12 @@
 #include <UIComponentsExport.h>
 
 #include <QColor>
-#include <QPixmap>
-#include <QPointer>
 #include <QWidget>
-
-class QMenu;
+#include <memory>
 
 namespace UICommonMdl {
 
-class CComTipWigetWithZoom;
+class CCutPhotoWithZoomPrivate;
 
 /// The canvas on which an operator frames the part of a photo that is kept as a face, human-body or vehicle
 /// picture, with handles to move and resize the frame and a search menu.
@@ -137,6 +134,11 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    CCutPhotoWithZoomPrivate* d_func() const { return m_pPrivate.get(); }
+
+    const std::unique_ptr<CCutPhotoWithZoomPrivate> m_pPrivate;
 };
 
 } // namespace UICommonMdl

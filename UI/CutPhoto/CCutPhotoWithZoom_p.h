@@ -1,0 +1,77 @@
+#pragma once
+
+#include "CCutPhotoWithZoom.h"
+#include "CropState.h"
+
+#include <Platform/BasicUIComponents/KvMenu.h>
+
+#include <QPixmap>
+#include <QPointer>
+#include <QRegion>
+
+namespace UICommonMdl {
+
+class CComTipWigetWithZoom;
+
+/// State of the crop canvas with zoom and the steps that its event handlers are made of.
+class CCutPhotoWithZoomPrivate
+{
+public:
+    explicit CCutPhotoWithZoomPrivate(CCutPhotoWithZoom* canvas);
+
+    void LoadSkin();
+    void PaintIcons(QPainter& painter);
+    void UpdateTipPos();
+    void ReadSource(const QString& path);
+
+    /// Sets the frame and paints again what that changes.
+    void SetCrop(const QRect& crop);
+    /// Sets the frame without painting; the next SetCrop() paints everything.
+    void SetCropUnpainted(const QRect& crop);
+
+    /// A button was pressed. When a menu was shown, true, and the canvas may be gone.
+    bool Press(const QPoint& pos, const QPoint& globalPos, Qt::MouseButton button);
+    void Drag(const QPoint& pos, const QPoint& globalPos);
+    void FinishCrop();
+    void EndHold(); ///< nothing is moved or resized any more
+
+    void PopupMenu(); ///< modal; the canvas may be gone when it returns
+    void CloseMenu();
+    void ReportSearch(void (CCutPhotoWithZoom::*signal)()); ///< the canvas may be gone when it returns
+
+    CCutPhotoWithZoom* const q;
+    CropState state;
+    CComTipWigetWithZoom* tip = nullptr;
+    QPoint press; ///< of the last press of a button
+    QPoint moveOffset; ///< global position of the press less the frame's corner at the time
+    QPoint anchor; ///< the frame's bottom left corner when it was last finished or moved
+    QRect draw; ///< what a selection that runs backwards covered before the present step
+    /// Signed extents of the last selection, or of the frame once it was moved or resized: the release looks
+    /// at either for the least size.
+    QSize drag = QSize(0, 0);
+    bool hasCut = false; ///< a frame was completed
+    bool moving = false;
+    bool resizing = false;
+    bool pressed = false; ///< something was pressed since the last OnClose(): the frame is painted
+    bool cropUnpainted = false; ///< the frame on the screen is not the present one
+    bool searchRequested = false; ///< the host is about to close: a resize reads no file
+    QColor background;
+    QPointer<KvGUI::KvMenu> menu;
+
+private:
+    void BeginSelection(const QPoint& pos);
+    bool TakeHandle(const QPoint& pos, const QPoint& globalPos); ///< returns as Press() does
+    void DragSelection(const QPoint& pos);
+    void MoveCrop(const QPoint& pos, const QPoint& globalPos);
+    void ResizeCrop(const QPoint& pos);
+    QRegion IconRegion(const QRect& crop) const;
+    void LoadIcons(qreal ratio);
+    void AddAction(const QString& text, const QString& picture, const char* slot);
+
+    QPixmap moveIcon;
+    QPixmap scaleIcon;
+    QPixmap searchIcon;
+    qreal iconRatio = 0.0; ///< device pixels of the icons for each pixel
+};
+
+} // namespace UICommonMdl

@@ -1,0 +1,31 @@
+#include "SearchMenu.h"
+
+namespace UICommonMdl {
+
+namespace {
+
+struct ItemColors
+{
+    const char* application;
+    const char* background;
+    const char* text;
+};
+
+constexpr ItemColors ChosenItem[] = {
+    {"Tamsin", "#29465a", "#bbbbbb"},  {"Brellow", "#1269a2", "#000000"}, {"Quorra", "#04B2DF", "#000000"},
+    {"Corvale", "#29465a", "#bbbbbb"}, {"Mendal", "#29465a", "#bbbbbb"},
+};
+
+} // namespace
+
+QString SearchMenuStyle(const QString& application)
+{
+    const QString sheet = QStringLiteral("QMenu::item:hover{background-color:%1;color:%2}"
+                                         "QMenu::item:selected{background-color:%1;color:%2}");
+    for (const ItemColors& colors : ChosenItem)
+        if (application == QLatin1String(colors.application))
+            return sheet.arg(QLatin1String(colors.background), QLatin1String(colors.text));
+    return QString();
+}
+
+} // namespace UICommonMdl
