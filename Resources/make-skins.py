@@ -217,7 +217,7 @@ def file_faults(files, resources):
                 xml.etree.ElementTree.fromstring(text)
             except xml.etree.ElementTree.ParseError as error:
                 yield f"{name}: {error}"
-        for url in URL.findall(text) if path.suffix == ".css" else []:
+        for url in URL.findall(text) if path.suffix in (".css", ".qss") else []:
             if url not in known:
                 yield f"{name}: no template makes {url}"
 
