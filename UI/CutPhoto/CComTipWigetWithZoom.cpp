@@ -1,30 +1,19 @@
-#include "CComTipWigetWithZoom.h"
+#include <UI/CutPhoto/CComTipWigetWithZoom.h>
 
-#include <QHBoxLayout>
-#include <QLabel>
+#include <Common/CommonFun.h>
+#include <UI/CutPhoto/TipBubble.h>
 
 namespace UICommonMdl {
 
-namespace {
-
-constexpr int Margins = 62; // pixels beside the text, both sides together
-
-} // namespace
-
 CComTipWigetWithZoom::CComTipWigetWithZoom(QWidget* parent)
     : QWidget(parent)
-    , m_pLabel(new QLabel(this))
+    , m_pText(BuildTipBubble(this))
 {
     setObjectName(QStringLiteral("CComTipWigetWithZoom"));
-    auto* layout = new QHBoxLayout(this);
-    layout->addWidget(m_pLabel);
+    CommonFun::SetStyleSheet(
+        this, QStringLiteral("CutPhotoWndWithZoom"), QStringLiteral("CComTipWigetWithZoom.qss"), QString());
 }
 
-void CComTipWigetWithZoom::SetTipText(const QString& strText)
-{
-    m_pLabel->setText(strText);
-    const int width = m_pLabel->fontMetrics().horizontalAdvance(strText) + Margins;
-    resize(width, height());
-}
+void CComTipWigetWithZoom::SetTipText(const QString& strText) { SetTipBubbleText(this, m_pText, strText); }
 
 } // namespace UICommonMdl

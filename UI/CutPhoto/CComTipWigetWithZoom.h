@@ -7,7 +7,10 @@ class QLabel;
 
 namespace UICommonMdl {
 
-/// The bubble with a one-line hint that lies over a CCutPhotoWithZoom canvas.
+/// A bubble with a hint of one line that CCutPhotoWithZoom shows over its photo. It follows the skin.
+///
+/// The pointer goes through it to the photo. Its owner places it; its height is fixed and its width
+/// follows the text.
 class UICOMPONENTS_EXPORT CComTipWigetWithZoom : public QWidget
 {
     Q_OBJECT
@@ -15,11 +18,11 @@ class UICOMPONENTS_EXPORT CComTipWigetWithZoom : public QWidget
 public:
     explicit CComTipWigetWithZoom(QWidget* parent = nullptr);
 
-    /// Shows @p strText and makes the bubble wide enough for it; its place and height stay.
+    /// Shows the text and makes the bubble as wide as the text and 62 pixels; place and height stay.
     void SetTipText(const QString& strText);
 
 private:
-    QLabel* const m_pLabel;
+    QLabel* m_pText;
 };
 
 } // namespace UICommonMdl
