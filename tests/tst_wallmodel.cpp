@@ -8,6 +8,8 @@
 #include <UI/TVWall/WallSelection.h>
 #include <UI/TVWall/WallStacking.h>
 #include <UI/TVWall/WallZoom.h>
+#include <UI/TVWall/WindowDrag.h>
+#include <UI/TVWall/WindowPlacement.h>
 
 #include <QApplication>
 #include <QTest>
@@ -69,6 +71,9 @@ private Q_SLOTS:
     void zoomedPointStays();
     void zoomedWallIsResized();
     void miniatureIsCut();
+    void dragsBoundToCells();
+    void placementStates();
+    void placementByItsOwnRectangle();
     void stacking_data();
     void stacking();
     void clicks_data();
@@ -422,6 +427,57 @@ void tst_WallModel::miniatureIsCut()
     QCOMPARE(picture.pixel(50, 80), qRgb(33, 34, 37)); // the screen below its window
     QCOMPARE(picture.pixelColor(99, 20), QColor(Qt::transparent)); // the gutter
     QCOMPARE(picture.pixel(150, 50), qRgb(0, 255, 0));
+}
+
+// Catches a drag that shows something else than its release sets, and one that snaps before it has moved.
+void tst_WallModel::dragsBoundToCells()
+{
+    const WindowDrag::Field field{QSize(1000, 600), 4, 2};
+    const WindowPlacement placement({0.3, 0.1, 0.45, 0.4, true}, 0.002);
+    const QRect start = WallGeometry::WindowRect(field.screen, placement.Scale());
+    WindowDrag drag;
+    drag.Begin({}, QPoint(310, 70), start);
+    QCOMPARE(drag.Shown(placement, field, true), start);
+    drag.MoveTo(QPoint(330, 80), field);
+    Compare(drag.Scale(placement, field, true), {0.25, 0.0, 0.5, 0.5, true});
+    QCOMPARE(drag.Shown(placement, field, true), QRect(250, 0, 250, 300));
+    QCOMPARE(drag.Shown(placement, field, false), start.translated(20, 10));
+    drag.MoveTo(QPoint(310, 70), field);
+    QVERIFY(!drag.HasMoved());
+}
+
+// Catches a restore to the wrong rectangle, and states that survive the client's own rectangle.
+void tst_WallModel::placementStates()
+{
+    using State = WindowPlacement::State;
+    const StructScaleRect start{0.3, 0.1, 0.45, 0.4, false};
+    WindowPlacement placement(start, 0.001);
+    QVERIFY(placement.MaximizeOrRestore());
+    Compare(placement.Scale(), {0.0, 0.0, 1.0, 1.0, true});
+    QVERIFY(placement.SnapOrRestore(4, 2) == false); // a whole screen stands on its cells
+    QVERIFY(placement.GetState() == State::Maximized);
+    QVERIFY(placement.MaximizeOrRestore());
+    Compare(placement.Scale(), start);
+    QVERIFY(placement.SnapOrRestore(4, 2));
+    Compare(placement.Scale(), {0.25, 0.0, 0.5, 0.5, false});
+    QVERIFY(placement.GetState() == State::Snapped);
+    QVERIFY(placement.Set({0.0, 0.0, 0.5, 0.5, true}));
+    QVERIFY(placement.GetState() == State::Free);
+    QVERIFY(!placement.SnapOrRestore(0, 0));
+    QVERIFY(placement.Set({0.0, 0.0, 1.0, 1.0, true}));
+    QVERIFY(!placement.MaximizeOrRestore()); // it fills the screen already
+    QVERIFY(placement.GetState() == State::Maximized);
+    QVERIFY(!placement.MaximizeOrRestore());
+    Compare(placement.Scale(), {0.0, 0.0, 1.0, 1.0, true});
+}
+
+// Catches a rectangle that is overwritten while it is still read through the reference.
+void tst_WallModel::placementByItsOwnRectangle()
+{
+    WindowPlacement placement({0.1, 0.1, 0.2, 0.2, true}, 0.001);
+    placement.Set({0.5, 0.5, 0.9, 0.9, true});
+    QVERIFY(!placement.Set(placement.Scale()));
+    Compare(placement.Scale(), {0.5, 0.5, 0.9, 0.9, true});
 }
 
 void tst_WallModel::stacking_data()

@@ -1,31 +1,23 @@
 #pragma once
 
-#include "ScreenOverlay.h"
+#include "ScreenBackdrop.h"
+#include "ScreenGestures.h"
 #include "WallMiniature.h"
-#include "WallSelection.h"
 
 #include <Platform/BasicUIComponents/StructOSDInfo.h>
 #include <Platform/BasicUIComponents/StructScaleRect.h>
 
-#include <QBasicTimer>
-#include <QElapsedTimer>
 #include <QMdiArea>
-#include <QPixmap>
-#include <QPointer>
 #include <QVariant>
-#include <array>
 #include <string>
 #include <vector>
 
-class QLabel;
-
 namespace UICommonMdl {
 
-class KvTVWallDisplayBand;
 class KvTVWallDisplayFrame;
 class KvTVWallDisplayWindow;
 class KvTVWallDisplayWnd;
-class QOSDShowLabel;
+class OverlayLabels;
 
 /// A monitor of the display wall: it holds the monitor's windows and overlays, paints its cells, selects
 /// windows by click and band, and lets the operator draw areas. The wall adds its index to its signals.
@@ -33,7 +25,7 @@ class QOSDShowLabel;
 /// Windows are children of the viewport and not registered with the base class, so that nothing of its own
 /// conduct (activation, raising, shortcuts, placement, scroll bars) touches them. A removed window is out
 /// of the list and hidden at once, and deleted later, because it may be the one that is emitting.
-class KvTVWallDisplayScreen : public QMdiArea
+class KvTVWallDisplayScreen : public QMdiArea, private ScreenGestures::Screen
 {
     Q_OBJECT
 
@@ -42,9 +34,13 @@ public:
         KvTVWallDisplayWnd* wall, int rowSpan, int columnSpan, const KvGUI::StructScaleRect& scale,
         const QVariant& userData);
     ~KvTVWallDisplayScreen() override;
+    /// The wall ends: the screen goes with it, or, when a slot of its own signals has deleted the wall, as
+    /// soon as Qt is done with the event that is being handled.
+    void DeleteWithWall();
 
     /// @name The screen itself
     /// @{
+    /// Null when the wall was deleted and the screen handles its last event.
     const KvTVWallDisplayWnd* GetWall() const { return m_pWall; }
     int GetRowSpan() const { return m_iRowSpan; } ///< rows of cells
     int GetColumnSpan() const { return m_iColumnSpan; } ///< columns of cells
@@ -53,8 +49,8 @@ public:
     void SetNoGap(bool noGap) { m_bNoGap = noGap; }
     bool IsSelected() const { return m_bSelected; }
     void SetSelected(bool selected); ///< unselecting deselects its windows
-    void SelectUnlessSelected(); ///< by the operator; reports. A slot may delete the screen.
-    bool IsPositioning() const { return m_bPositioning; } ///< drags over windows draw 3D frames
+    void SelectUnlessSelected() override; ///< by the operator; reports. A slot may delete the screen.
+    bool IsPositioning() const override { return m_bPositioning; } ///< drags over windows draw 3D frames
     void SetPositioning(bool positioning);
     const QVariant& GetUserData() const { return m_userData; }
     void SetUserData(const QVariant& userData) { m_userData = userData; }
@@ -75,7 +71,7 @@ public:
     void DeleteAllWindows();
     QList<int> GetWindowIndexs(bool selected) const; ///< positions whose selected flag is so
     void SelectOnly(int index, bool selected);
-    void DeselectWindows();
+    void DeselectWindows() override;
     bool SetWindowZValue(int index, int z, bool reorder);
     int GetMaxWindowZValue() const;
     /// @}
@@ -117,85 +113,56 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private Q_SLOTS:
+    void OnLabelEvent(int label, QEvent* event);
     void OnWindowCloseBtnClicked();
     void OnWindowVolumeBtnClicked();
     void OnWindowGeoChanged(const KvGUI::StructScaleRect& rect);
 
 private:
-    /// Watches windows and overlays. An object of its own: the screen itself is already the filter of its
-    /// viewport, and every event shall be reported once.
+    /// Watches windows. An object of its own: the screen itself is already the filter of its viewport, and
+    /// every event shall be reported once.
     class Watcher;
-    /// What the left button, held, draws from the press point.
-    enum class Drawing
-    {
-        Nothing,
-        Area,
-        Selection,
-        Site
-    };
+    class Handling;
 
     bool WatchWindow(KvTVWallDisplayWindow* window, QEvent* event);
     void ActOnWindowEvent(KvTVWallDisplayWindow* window, QEvent* event);
-    void PressWindow(KvTVWallDisplayWindow* window, const QMouseEvent& event);
-    void MoveOnWindow(const QMouseEvent& event);
-    void ReleaseWindow(KvTVWallDisplayWindow* window, const QMouseEvent& event);
-    void ClickWindow(KvTVWallDisplayWindow* window);
-    bool WatchLabel(const QObject* watched, QEvent* event);
-    bool IsSelectable(const KvTVWallDisplayWindow* window, Qt::MouseButton button) const;
-    int IndexOf(const QObject* window) const;
 
-    bool Select(const QVector<int>& targets, bool fromPress);
-    void DrawTo(const QPoint& pos);
-    void EndDrawing(const QPoint& pos);
-    void CancelDrawing();
-    void SelectInBand(const QPoint& from, const QPoint& to);
-    QPoint InsideScreen(const QPoint& pos) const;
+    int SelectionMode() const override;
+    QSize Size() const override { return size(); }
+    int WindowCount() const override { return m_windows.size(); }
+    int IndexOf(const QObject* window) const override;
+    QRect WindowGeometry(int window) const override;
+    bool IsWindowSelected(int window) const override;
+    void SetWindowSelected(int window, bool selected) override;
+    void SelectByPress() override;
+    QWidget* Canvas() override { return viewport(); }
+    QPoint OriginOnCanvas() const override { return {}; }
+    QColor BandColor() const override;
+    void ReportSelectionChanged() override { Q_EMIT SignalWindowSelectedChanged(); }
+    void ReportClick() override { Q_EMIT SignalWindowClicked(); }
+    void ReportArea(const KvGUI::StructScaleRect& rect) override { Q_EMIT SignalDrawAreaOpenWindow(rect); }
+    void ReportSite(const QPoint& from, const QPoint& to) override;
 
     void PlaceWindows();
     void RaiseWindow(KvTVWallDisplayWindow* window);
     void RaiseOverlays();
     void ShowFrame();
-    void ShowPlainOverlay(int slot, const KvGUI::StructOSDInfo& info);
-    void ShowRollingOverlay(int slot, const KvGUI::StructOSDInfo& info);
-    void ShowOverlay(QLabel* label, const QRect& geometry);
-    void DropOverlays();
-    void HideOverlays();
-    void UpdateRolling();
-    void PaintContentText(QPainter& painter) const;
-    void PaintBaseMap(QPainter& painter);
-    void PaintCells(QPainter& painter, const QRect& exposed) const;
 
-    KvTVWallDisplayWnd* const m_pWall;
+    const KvTVWallDisplayWnd* m_pWall;
+    int m_iHandling = 0; // events of Qt's on the stack
     const int m_iRowSpan;
     const int m_iColumnSpan;
     QVariant m_userData;
     const KvGUI::StructScaleRect m_scale;
-    QString m_strContentText;
     bool m_bSelected = false;
     QList<KvTVWallDisplayWindow*> m_windows;
     QSize m_placedSize; // for which the windows were placed last
     Watcher* const m_pWatcher;
 
-    QPoint m_pressPoint;
-    QPointer<KvTVWallDisplayWindow> m_pPressed; // the window that a click may end on
-    Drawing m_drawing = Drawing::Nothing;
-    bool m_bSelectOnly = false;
-    bool m_bBandDragging = false;
-    KvTVWallDisplayBand* m_pDrawBand = nullptr; // area and 3D frame
-    KvTVWallDisplayBand* m_pSelectionBand = nullptr;
     KvTVWallDisplayFrame* m_pFrame = nullptr;
-
-    bool m_bShowBackground = false;
-    QColor m_background;
-    std::array<QOSDShowLabel*, ScreenOverlay::SlotsOfAKind> m_rollingLabels{};
-    std::array<QLabel*, ScreenOverlay::SlotsOfAKind> m_plainLabels{};
-    QBasicTimer m_rollTimer;
-    QElapsedTimer m_rollClock;
-    bool m_bShowBaseMap = false;
-    std::string m_strBaseMap;
-    bool m_bBaseMapLoaded = false;
-    QPixmap m_baseMap;
-    QPixmap m_scaledBaseMap;
+    OverlayLabels* const m_pOverlays;
+    ScreenBackdrop m_backdrop;
+    ScreenGestures m_gestures;
     bool m_bNoGap = false;
     bool m_bPositioning = false;
 };

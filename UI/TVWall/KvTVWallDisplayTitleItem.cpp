@@ -1,5 +1,7 @@
 #include "KvTVWallDisplayTitleItem.h"
 
+#include "WindowTitle.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -11,10 +13,11 @@ namespace UICommonMdl {
 
 namespace {
 
+using Button = WindowTitle::Button;
+
 constexpr int ButtonSize = 20; // pixels, at most: buttons shrink in a narrow window
 constexpr int IconSize = 16; // pixels
 constexpr int SmallestButton = 8; // pixels
-constexpr int TextIndent = 4; // pixels
 
 /// A label that ends a text which does not fit with an ellipsis, and never asks for room. Painted without
 /// the style, which costs more than the text itself on a wall with hundreds of windows.
@@ -33,33 +36,12 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        const QRect area = rect().adjusted(TextIndent, 0, 0, 0);
-        if (text().isEmpty() || area.isEmpty())
-            return;
         QPainter painter(this);
-        painter.setPen(palette().color(QPalette::WindowText));
-        const QFontMetrics metrics = painter.fontMetrics();
-        const bool fits = TextWidth(metrics) <= area.width();
-        painter.drawText(
-            area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-            fits ? text() : metrics.elidedText(text(), Qt::ElideRight, area.width()));
+        m_title.Draw(painter, rect(), text(), palette().color(QPalette::WindowText));
     }
 
 private:
-    // Measured again only for another text or font.
-    int TextWidth(const QFontMetrics& metrics)
-    {
-        if (m_measuredText != text() || m_measuredFont != font()) {
-            m_measuredText = text();
-            m_measuredFont = font();
-            m_textWidth = metrics.horizontalAdvance(text());
-        }
-        return m_textWidth;
-    }
-
-    QString m_measuredText;
-    QFont m_measuredFont;
-    int m_textWidth = 0;
+    WindowTitle m_title;
 };
 
 void SetToolTip(QPushButton* button, const QString& toolTip)
@@ -76,10 +58,11 @@ void StyleAgain(QWidget* widget)
 }
 
 // The sheet selects the restoring icon by this property. A button that was never set has none.
-void SetRestore(QPushButton* button, bool restore)
+void SetRestore(QPushButton* button, bool restore, const QString& toolTip)
 {
     if (button->property("restore").toBool() == restore)
         return;
+    SetToolTip(button, toolTip);
     button->setProperty("restore", restore);
     StyleAgain(button);
 }
@@ -102,10 +85,10 @@ KvTVWallDisplayTitleItem::KvTVWallDisplayTitleItem(QWidget* parent)
     layout->addWidget(m_pText, 1);
     for (QPushButton* button : {m_btnVolume, m_btnSnap, m_btnMax, m_btnClose})
         layout->addWidget(button);
-    SetToolTip(m_btnVolume, tr("Open Volume"));
-    SetToolTip(m_btnSnap, tr("SelfAdaption"));
-    SetToolTip(m_btnMax, tr("Max"));
-    SetToolTip(m_btnClose, tr("Close"));
+    SetToolTip(m_btnVolume, WindowTitle::ToolTip(Button::Volume, false));
+    SetToolTip(m_btnSnap, WindowTitle::ToolTip(Button::Snap, false));
+    SetToolTip(m_btnMax, WindowTitle::ToolTip(Button::Max, false));
+    SetToolTip(m_btnClose, WindowTitle::ToolTip(Button::Close, false));
 }
 
 QPushButton* KvTVWallDisplayTitleItem::AddButton(const QString& objectName)
@@ -126,20 +109,18 @@ void KvTVWallDisplayTitleItem::SetVolumeOn(bool on)
 {
     m_btnVolume->setObjectName(
         on ? QStringLiteral("pWindowVolumeOnBtn") : QStringLiteral("pWindowVolumeOffBtn"));
-    SetToolTip(m_btnVolume, on ? tr("Close Volume") : tr("Open Volume"));
+    SetToolTip(m_btnVolume, WindowTitle::ToolTip(Button::Volume, on));
     StyleAgain(m_btnVolume);
 }
 
 void KvTVWallDisplayTitleItem::SetMaximized(bool maximized)
 {
-    SetToolTip(m_btnMax, maximized ? tr("Restore") : tr("Max"));
-    SetRestore(m_btnMax, maximized);
+    SetRestore(m_btnMax, maximized, WindowTitle::ToolTip(Button::Max, maximized));
 }
 
 void KvTVWallDisplayTitleItem::SetSnapped(bool snapped)
 {
-    SetToolTip(m_btnSnap, snapped ? tr("Restore") : tr("SelfAdaption"));
-    SetRestore(m_btnSnap, snapped);
+    SetRestore(m_btnSnap, snapped, WindowTitle::ToolTip(Button::Snap, snapped));
 }
 
 } // namespace UICommonMdl

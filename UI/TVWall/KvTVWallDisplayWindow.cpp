@@ -6,6 +6,7 @@
 #include "KvTVWallDisplayVideo.h"
 #include "KvTVWallDisplayWnd.h"
 #include "WallGeometry.h"
+#include "WindowTitle.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -16,27 +17,6 @@
 
 namespace UICommonMdl {
 
-namespace {
-
-constexpr int TitleHeight = 24; // pixels
-constexpr int TitleMargin = 2; // pixels
-constexpr int VideoTop = 26; // pixels
-constexpr int Grip = 5; // pixels from an edge that take hold of it
-constexpr QSize SmallestDragged(64, 48); // pixels; a drag makes no window smaller
-
-Qt::CursorShape CursorFor(Qt::Edges edges)
-{
-    if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge))
-        return Qt::SizeFDiagCursor;
-    if (edges == (Qt::RightEdge | Qt::TopEdge) || edges == (Qt::LeftEdge | Qt::BottomEdge))
-        return Qt::SizeBDiagCursor;
-    if (edges & (Qt::LeftEdge | Qt::RightEdge))
-        return Qt::SizeHorCursor;
-    return edges ? Qt::SizeVerCursor : Qt::ArrowCursor;
-}
-
-} // namespace
-
 KvTVWallDisplayWindow::KvTVWallDisplayWindow(
     KvTVWallDisplayScreen* screen, double precision, const KvGUI::StructScaleRect& rect,
     const QVariant& userData)
@@ -45,9 +25,7 @@ KvTVWallDisplayWindow::KvTVWallDisplayWindow(
     , m_pTitle(new KvTVWallDisplayTitleItem(this))
     , m_pVideo(new KvTVWallDisplayVideo(this))
     , m_userData(userData)
-    , m_scale(rect)
-    , m_restoreScale(rect)
-    , m_dPrecision(precision)
+    , m_placement(rect, precision)
 {
     // The base class activates the window under the keyboard focus, closes it by shortcuts of its system
     // menu, and lays it out by a layout for one inner widget.
@@ -68,64 +46,37 @@ KvTVWallDisplayWindow::KvTVWallDisplayWindow(
 
 void KvTVWallDisplayWindow::PlaceOnScreen()
 {
-    m_drag.active = false;
-    setGeometry(WallGeometry::Displayable(WallGeometry::WindowRect(m_pScreen->size(), m_scale)));
+    m_drag.End();
+    setGeometry(WallGeometry::Displayable(WallGeometry::WindowRect(m_pScreen->size(), GetScale())));
     if (!isVisible())
         LayOut(); // a hidden widget hears of its size when it is shown
 }
 
 // State, pixels and tool tips change before the report, so that a slot finds the window as it will be and
-// may change or delete it: nothing of the window may be used after true was returned.
-bool KvTVWallDisplayWindow::ChangeScale(const KvGUI::StructScaleRect& rect, State state)
+// may change or delete it: nothing of the window may be used afterwards.
+void KvTVWallDisplayWindow::ShowPlacement(bool changed)
 {
-    if (WallGeometry::IsEqual(m_scale, rect, m_dPrecision))
-        return false;
-    const KvGUI::StructScaleRect changed = rect; // may be a reference to a member
-    m_restoreScale = m_scale;
-    m_scale = changed;
-    PlaceOnScreen();
-    SetState(state);
+    if (changed)
+        PlaceOnScreen();
+    m_pTitle->SetMaximized(m_placement.GetState() == WindowPlacement::State::Maximized);
+    m_pTitle->SetSnapped(m_placement.GetState() == WindowPlacement::State::Snapped);
+    if (!changed)
+        return;
+    const KvGUI::StructScaleRect now = GetScale();
     Q_EMIT m_pScreen->SignalArrangementChanged();
-    Q_EMIT SignalGeoChanged(changed);
-    return true;
+    Q_EMIT SignalGeoChanged(now);
 }
 
-void KvTVWallDisplayWindow::SetScale(const KvGUI::StructScaleRect& rect) { ChangeScale(rect, State::Free); }
-
-void KvTVWallDisplayWindow::SetState(State state)
+void KvTVWallDisplayWindow::SetScale(const KvGUI::StructScaleRect& rect)
 {
-    if (m_state == state)
-        return;
-    m_state = state;
-    m_pTitle->SetMaximized(state == State::Maximized);
-    m_pTitle->SetSnapped(state == State::Snapped);
+    ShowPlacement(m_placement.Set(rect));
 }
 
-void KvTVWallDisplayWindow::OnShowMaxOrNormal()
-{
-    if (m_state != State::Free) {
-        const KvGUI::StructScaleRect restored = m_restoreScale;
-        if (!ChangeScale(restored, State::Free))
-            SetState(State::Free);
-        return;
-    }
-    // A window that fills its screen already is maximised all the same, and restored to where it is.
-    if (!ChangeScale({0.0, 0.0, 1.0, 1.0, true}, State::Maximized)) {
-        m_restoreScale = m_scale;
-        SetState(State::Maximized);
-    }
-}
+void KvTVWallDisplayWindow::OnShowMaxOrNormal() { ShowPlacement(m_placement.MaximizeOrRestore()); }
 
 void KvTVWallDisplayWindow::OnWindowSelfAdaptionBtnClicked()
 {
-    if (m_state == State::Snapped) {
-        OnShowMaxOrNormal();
-        return;
-    }
-    const auto snapped = WallGeometry::SnappedToCells(
-        m_scale, m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan(), m_dPrecision);
-    if (snapped)
-        ChangeScale(*snapped, State::Snapped);
+    ShowPlacement(m_placement.SnapOrRestore(m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan()));
 }
 
 void KvTVWallDisplayWindow::SetSelected(bool selected)
@@ -171,8 +122,7 @@ void KvTVWallDisplayWindow::SetContentText(const QString& text)
 
 void KvTVWallDisplayWindow::UpdateTitle()
 {
-    const bool both = !m_strTitle.isEmpty() && !m_strContent.isEmpty();
-    const QString text = both ? m_strTitle + QStringLiteral("  ") + m_strContent : m_strTitle + m_strContent;
+    const QString text = WindowTitle::Joined(m_strTitle, m_strContent);
     m_pTitle->SetText(text);
     setAccessibleName(text);
 }
@@ -195,10 +145,9 @@ void KvTVWallDisplayWindow::resizeEvent(QResizeEvent*) { LayOut(); }
 
 void KvTVWallDisplayWindow::LayOut()
 {
-    const int innerWidth = qMax(0, width() - 2 * TitleMargin);
-    m_pTitle->setGeometry(TitleMargin, TitleMargin, innerWidth, TitleHeight);
+    m_pTitle->setGeometry(WindowTitle::BarRect(size()));
     if (!m_pVideo.isNull())
-        m_pVideo->setGeometry(1, VideoTop, innerWidth, qMax(0, height() - TitleHeight));
+        m_pVideo->setGeometry(WindowTitle::VideoRect(size()));
     if (m_pFrame != nullptr)
         m_pFrame->FitTo(size());
 }
@@ -223,69 +172,60 @@ void KvTVWallDisplayWindow::paintEvent(QPaintEvent*)
 
 Qt::Edges KvTVWallDisplayWindow::EdgesForMouse(const QPoint& pos) const
 {
-    return m_scale.bEditable ? WallGeometry::EdgesAt(size(), pos, Grip) : Qt::Edges();
+    return GetScale().bEditable ? WindowDrag::EdgesAt(size(), pos) : Qt::Edges();
 }
 
 void KvTVWallDisplayWindow::ShowCursorAt(const QPoint& pos)
 {
     // A button wins over the edge that it touches.
     const bool onButton = qobject_cast<QPushButton*>(childAt(pos)) != nullptr;
-    const Qt::CursorShape shape = onButton ? Qt::ArrowCursor : CursorFor(EdgesForMouse(pos));
+    const Qt::CursorShape shape = onButton ? Qt::ArrowCursor : WindowDrag::CursorFor(EdgesForMouse(pos));
     if (shape != Qt::ArrowCursor)
         setCursor(shape);
     else if (testAttribute(Qt::WA_SetCursor))
         unsetCursor();
 }
 
-KvGUI::StructScaleRect KvTVWallDisplayWindow::ScaleOfDrag(bool keepToCells) const
+WindowDrag::Field KvTVWallDisplayWindow::Field() const
 {
-    const KvGUI::StructScaleRect dragged
-        = WallGeometry::DraggedScale(m_scale, m_drag.start, m_drag.pixels, m_pScreen->size());
-    if (!keepToCells)
-        return dragged;
-    return WallGeometry::SnappedToCells(
-               dragged, m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan(), m_dPrecision)
-        .value_or(dragged);
+    return {m_pScreen->size(), m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan()};
 }
 
 void KvTVWallDisplayWindow::DragTo(const QPoint& globalPos, bool keepToCells)
 {
-    m_drag.pixels = WallGeometry::DraggedRect(
-        m_drag.start, globalPos - m_drag.press, m_drag.edges, m_pScreen->rect(), SmallestDragged);
-    if (keepToCells && m_drag.pixels != m_drag.start)
-        setGeometry(WallGeometry::WindowRect(m_pScreen->size(), ScaleOfDrag(true)));
-    else
-        setGeometry(m_drag.pixels);
+    m_drag.MoveTo(globalPos, Field());
+    setGeometry(m_drag.Shown(m_placement, Field(), keepToCells));
 }
 
 void KvTVWallDisplayWindow::EndDrag(const QPoint& globalPos, bool keepToCells)
 {
     DragTo(globalPos, keepToCells);
-    const bool moved = m_drag.pixels != m_drag.start;
-    if (!moved || !ChangeScale(ScaleOfDrag(keepToCells), State::Free))
+    if (m_drag.HasMoved() && m_placement.Set(m_drag.Scale(m_placement, Field(), keepToCells)))
+        ShowPlacement(true);
+    else
         PlaceOnScreen(); // the way was too short to count
 }
 
 void KvTVWallDisplayWindow::CancelDrag()
 {
-    if (m_drag.active)
+    if (m_drag.IsActive())
         PlaceOnScreen();
 }
 
 void KvTVWallDisplayWindow::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
-    if (event->button() != Qt::LeftButton || !m_scale.bEditable || m_pScreen->IsPositioning())
+    if (event->button() != Qt::LeftButton || !GetScale().bEditable || m_pScreen->IsPositioning())
         return;
     const Qt::Edges edges = EdgesForMouse(event->pos());
     if (edges || m_pTitle->geometry().contains(event->pos()))
-        m_drag = Drag{true, edges, event->globalPos(), geometry(), geometry()};
+        m_drag.Begin(edges, event->globalPos(), geometry());
 }
 
 void KvTVWallDisplayWindow::mouseMoveEvent(QMouseEvent* event)
 {
     event->accept();
-    if (!m_drag.active)
+    if (!m_drag.IsActive())
         return;
     if (event->buttons() & Qt::LeftButton)
         DragTo(event->globalPos(), event->modifiers() & Qt::ShiftModifier);
@@ -296,7 +236,7 @@ void KvTVWallDisplayWindow::mouseMoveEvent(QMouseEvent* event)
 void KvTVWallDisplayWindow::mouseReleaseEvent(QMouseEvent* event)
 {
     event->accept();
-    if (m_drag.active && event->button() == Qt::LeftButton)
+    if (m_drag.IsActive() && event->button() == Qt::LeftButton)
         EndDrag(event->globalPos(), event->modifiers() & Qt::ShiftModifier);
 }
 
@@ -305,9 +245,9 @@ void KvTVWallDisplayWindow::mouseDoubleClickEvent(QMouseEvent* event)
     event->accept();
     if (event->button() != Qt::LeftButton)
         return;
-    m_drag.active = false;
+    m_drag.End();
     const QPointer<KvTVWallDisplayWindow> alive(this);
-    if (m_scale.bEditable)
+    if (GetScale().bEditable)
         OnShowMaxOrNormal();
     if (!alive || isHidden()) // deleted, or removed, by a slot
         return;
@@ -319,7 +259,7 @@ void KvTVWallDisplayWindow::mouseDoubleClickEvent(QMouseEvent* event)
 
 void KvTVWallDisplayWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && m_drag.active) {
+    if (event->key() == Qt::Key_Escape && m_drag.IsActive()) {
         CancelDrag();
         event->accept();
         return;
@@ -336,7 +276,7 @@ bool KvTVWallDisplayWindow::event(QEvent* event)
     switch (event->type()) {
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
-        if (!m_drag.active)
+        if (!m_drag.IsActive())
             ShowCursorAt(static_cast<QHoverEvent*>(event)->pos());
         return true;
     case QEvent::HoverLeave:

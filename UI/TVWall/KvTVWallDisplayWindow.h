@@ -1,6 +1,7 @@
 #pragma once
 
-#include <Platform/BasicUIComponents/StructScaleRect.h>
+#include "WindowDrag.h"
+#include "WindowPlacement.h"
 
 #include <QMdiSubWindow>
 #include <QPointer>
@@ -30,7 +31,7 @@ public:
         KvTVWallDisplayScreen* screen, double precision, const KvGUI::StructScaleRect& rect,
         const QVariant& userData);
 
-    const KvGUI::StructScaleRect& GetScale() const { return m_scale; }
+    const KvGUI::StructScaleRect& GetScale() const { return m_placement.Scale(); }
     /// Makes @p rect the window's rectangle, by the client or the operator: unless it is equal within the
     /// precision, the window is placed there, is no longer maximised or snapped, and reports it.
     void SetScale(const KvGUI::StructScaleRect& rect);
@@ -53,7 +54,7 @@ public:
     bool DeleteVideo(); ///< false when there is none
 
     /// Whether the mouse holds the window to move or resize it.
-    bool IsDragged() const { return m_drag.active; }
+    bool IsDragged() const { return m_drag.IsActive(); }
     /// Gives a drag up: the window goes back to its rectangle.
     void CancelDrag();
 
@@ -90,29 +91,12 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    enum class State
-    {
-        Free,
-        Maximized,
-        Snapped
-    };
-
-    struct Drag
-    {
-        bool active = false;
-        Qt::Edges edges; // none: the window is moved
-        QPoint press; // on the desktop
-        QRect start; // in the screen
-        QRect pixels; // where the mouse has brought it, in the screen
-    };
-
-    bool ChangeScale(const KvGUI::StructScaleRect& rect, State state);
-    void SetState(State state);
+    void ShowPlacement(bool changed);
     void UpdateTitle();
     void LayOut();
     Qt::Edges EdgesForMouse(const QPoint& pos) const;
     void ShowCursorAt(const QPoint& pos);
-    KvGUI::StructScaleRect ScaleOfDrag(bool keepToCells) const;
+    WindowDrag::Field Field() const;
     void DragTo(const QPoint& globalPos, bool keepToCells);
     void EndDrag(const QPoint& globalPos, bool keepToCells);
 
@@ -122,16 +106,13 @@ private:
     KvTVWallDisplayFrame* m_pFrame = nullptr; // of a selected window; the video covers what lies below it
     QVariant m_userData;
     int m_iZValue = 0;
-    KvGUI::StructScaleRect m_scale;
-    KvGUI::StructScaleRect m_restoreScale;
-    const double m_dPrecision;
+    WindowPlacement m_placement;
     bool m_bSelected = false;
     bool m_bVolumeOn = false;
     bool m_bKeyboardFocus = false; // the focus came by keyboard, so the eye has to find it
-    State m_state = State::Free;
     QString m_strTitle;
     QString m_strContent;
-    Drag m_drag;
+    WindowDrag m_drag;
 };
 
 } // namespace UICommonMdl

@@ -233,12 +233,14 @@ KvTVWallDisplayWnd::KvTVWallDisplayWnd(QWidget* parent)
     CommonFun::SetStyleSheet(this, QStringLiteral("TVWallOperateWnd"), QString(), QString());
 }
 
-// The screens use the private object until their end; it is a child too and must not go first.
+// The screens use the private object until their end; it is a child too and must not go first. Removed ones
+// may be among them that still handle an event.
 KvTVWallDisplayWnd::~KvTVWallDisplayWnd()
 {
-    QList<KvTVWallDisplayScreen*> screens;
-    screens.swap(d_func()->screens); // what their end sets off finds none
-    qDeleteAll(screens);
+    d_func()->screens.clear(); // what their end sets off finds none
+    const auto screens = findChildren<KvTVWallDisplayScreen*>(QString(), Qt::FindDirectChildrenOnly);
+    for (KvTVWallDisplayScreen* screen : screens)
+        screen->DeleteWithWall();
 }
 
 void KvTVWallDisplayWnd::SetTVWallGridCount(int iRows, int iCols)

@@ -39,8 +39,8 @@ class KvTVWallDisplayWndPrivate;
 /// the value given with it.
 ///
 /// <b>Signals</b> carry the indices of the moment of their emission. A slot may delete the window, its
-/// screen, all screens or the wall. Only in slots of SignalWindowEvent and SignalScreenEvent the wall itself
-/// has to go by deleteLater(): Qt uses the widget under the mouse once more after a right press or a
+/// screen, all screens or the wall. Only a wall that is a window by itself has to go by deleteLater() in
+/// slots of SignalWindowEvent and SignalScreenEvent: Qt uses the window once more after a right press or a
 /// drag-enter. A QEvent that a signal carries is valid during the emission only.
 ///
 /// <b>By hand.</b> An editable window is moved by its title bar and resized by its edges, inside its screen;

@@ -1,0 +1,162 @@
+#include "OverlayLabels.h"
+
+#include "QOSDShowLabel.h"
+#include "WallEvents.h"
+#include "WallGeometry.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QTimerEvent>
+#include <algorithm>
+
+namespace UICommonMdl {
+
+namespace {
+
+constexpr int RollInterval = 40; // milliseconds
+
+void SetFace(QLabel* label, const ScreenOverlay::Face& face)
+{
+    label->setObjectName(face.objectName);
+    QFont font = label->font();
+    font.setBold(face.bold);
+    label->setFont(font);
+}
+
+bool IsShown(const QLabel* label) { return label != nullptr && !label->isHidden(); }
+
+} // namespace
+
+OverlayLabels::OverlayLabels(QWidget* canvas)
+    : QObject(canvas)
+    , m_pCanvas(canvas)
+{ }
+
+// A label that was styled once keeps traces of its face, so every record gets a new one.
+void OverlayLabels::Show(const std::vector<KvGUI::StructOSDInfo>& infos, const QSize& screen)
+{
+    Drop();
+    const ScreenOverlay::Sorted sorted = ScreenOverlay::SortedByKind(infos);
+    const auto make = [&](const auto& records, int firstSlot, auto maker) {
+        const int count = std::min(int(records.size()), ScreenOverlay::SlotsOfAKind);
+        for (int i = 0; i < count; ++i) {
+            const KvGUI::StructOSDInfo& info = records.at(size_t(i));
+            QLabel* label = (this->*maker)(info, ScreenOverlay::Placed(info, screen));
+            label->installEventFilter(this);
+            label->show();
+            m_labels.at(size_t(firstSlot + i)) = label;
+        }
+    };
+    make(sorted.plain, PlainSlot, &OverlayLabels::MakePlain);
+    make(sorted.rolling, 0, &OverlayLabels::MakeRolling);
+    Raise();
+    UpdateRolling();
+}
+
+QLabel* OverlayLabels::MakePlain(const KvGUI::StructOSDInfo& info, const ScreenOverlay::Placement& placement)
+{
+    auto* label = new QLabel(m_pCanvas);
+    label->setTextFormat(Qt::PlainText);
+    SetFace(label, ScreenOverlay::FaceOf(info.strFontName));
+    label->setStyleSheet(ScreenOverlay::StyleSheet(info, placement.fontPixelSize));
+    label->setAlignment(ScreenOverlay::AlignmentOf(info.iAlign));
+    label->setText(ScreenOverlay::Text(info));
+    label->setGeometry(WallGeometry::Displayable(placement.geometry));
+    return label;
+}
+
+QLabel*
+OverlayLabels::MakeRolling(const KvGUI::StructOSDInfo& info, const ScreenOverlay::Placement& placement)
+{
+    auto* label = new QOSDShowLabel(m_pCanvas);
+    SetFace(label, ScreenOverlay::FaceOf(info.strFontName));
+    label->setGeometry(WallGeometry::Displayable(placement.geometry));
+    label->SetContent(
+        {ScreenOverlay::Text(info), placement.fontPixelSize, ScreenOverlay::TextColor(info),
+         ScreenOverlay::BackColor(info), info.bRoll, ScreenOverlay::AlignmentOf(info.iAlign),
+         info.iRollMode});
+    return label;
+}
+
+void OverlayLabels::Drop()
+{
+    Hide();
+    for (QLabel* label : m_labels) {
+        if (label == nullptr)
+            continue;
+        label->removeEventFilter(this); // it has no number any more
+        label->deleteLater(); // it may be the one that is emitting
+    }
+    m_labels.fill(nullptr);
+}
+
+void OverlayLabels::Hide()
+{
+    for (QLabel* label : m_labels) {
+        if (label != nullptr)
+            label->hide();
+    }
+    m_rollTimer.stop();
+}
+
+void OverlayLabels::Raise()
+{
+    const auto raise = [](QLabel* label) {
+        if (IsShown(label))
+            label->raise();
+    };
+    // The rolling ones lie over the plain ones.
+    std::for_each(m_labels.begin() + PlainSlot, m_labels.end(), raise);
+    std::for_each(m_labels.begin(), m_labels.begin() + PlainSlot, raise);
+}
+
+QRegion OverlayLabels::Region() const
+{
+    QRegion region;
+    for (const QLabel* label : m_labels) {
+        if (IsShown(label))
+            region += label->geometry();
+    }
+    return region;
+}
+
+void OverlayLabels::UpdateRolling()
+{
+    const bool rolls = std::any_of(m_labels.begin(), m_labels.begin() + PlainSlot, [](const QLabel* label) {
+        return label != nullptr && label->isVisible()
+            && static_cast<const QOSDShowLabel*>(label)->IsRolling();
+    });
+    if (!rolls) {
+        m_rollTimer.stop();
+    } else if (!m_rollTimer.isActive()) {
+        m_rollClock.start();
+        m_rollTimer.start(RollInterval, this);
+    }
+}
+
+void OverlayLabels::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_rollTimer.timerId())
+        return QObject::timerEvent(event);
+    const int passed = int(m_rollClock.restart());
+    std::for_each(m_labels.begin(), m_labels.begin() + PlainSlot, [passed](QLabel* label) {
+        if (label != nullptr)
+            static_cast<QOSDShowLabel*>(label)->Advance(passed);
+    });
+}
+
+bool OverlayLabels::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!WallEvents::IsReported(event->type()))
+        return false;
+    const int label = int(std::find(m_labels.begin(), m_labels.end(), watched) - m_labels.begin());
+    // The wheel and keys are the wall's; a mouse event on an overlay is none on the window below.
+    event->setAccepted(WallEvents::IsMouse(event->type()) || event->type() == QEvent::ContextMenu);
+    const QPointer<OverlayLabels> alive(this);
+    Q_EMIT SignalLabelEvent(label, event);
+    if (!alive)
+        event->accept(); // or it would go on to the parent of a widget that is gone
+    return true;
+}
+
+} // namespace UICommonMdl
