@@ -1,6 +1,7 @@
 #include <gallery/Wall/CameraWall.h>
 
 #include <gallery/Pictures/CameraTile.h>
+#include <gallery/SkinIcon.h>
 #include <gallery/Wall/SampleOverlays.h>
 #include <gallery/Wall/SiteMap.h>
 #include <gallery/Wall/WallRules.h>
@@ -58,10 +59,9 @@ CameraWall::CameraWall(SourcePool& pool, FrameClock& clock, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pWall);
     m_pWall->setAccessibleName(tr("Video wall"));
-    m_pWall->installEventFilter(this);
-    m_pWall->SetWindowTitleShow(m_bTitles);
-    // Overlays keep the pixels of the moment in which they were set; they are set again when a resize
-    // has come to rest.
+    ShowFamily(m_iFamily);
+    // Overlays keep the pixels of the moment in which they were set; they are set again when a resize or
+    // a zoom has come to rest.
     m_resized.setSingleShot(true);
     m_resized.setInterval(100);
     connect(&m_resized, &QTimer::timeout, this, &CameraWall::ShowOverlaysAgain);
@@ -120,20 +120,41 @@ void CameraWall::ConnectReports()
         if (event->type() == QEvent::MouseButtonPress)
             Q_EMIT SignalReport(tr("Screen %1: press on overlay %2").arg(screen + 1).arg(label + 1));
     });
-    connect(m_pWall, &WallWidget::SignalWheelEvent, this, [this](int delta, const QPoint& pos) {
-        Q_EMIT SignalReport(tr("Wheel turned by %1 at %2, %3").arg(delta).arg(pos.x()).arg(pos.y()));
-    });
 }
 
 bool CameraWall::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_pWall && event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize)
         m_resized.start();
     return QWidget::eventFilter(watched, event);
 }
 
+void CameraWall::ShowFamily(int family)
+{
+    m_iFamily = family;
+    m_pWall->SetShowMode(family);
+    const QWidgetList walls = m_pWall->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* wall : walls)
+        wall->installEventFilter(this);
+}
+
+void CameraWall::SetFamily(int family)
+{
+    WallLayout layout = Layout();
+    layout.family = family;
+    SilenceAll();
+    Apply(layout);
+    Q_EMIT SignalReport(
+        family == WallLayout::DisplayFamily ? tr("The wall is built from widgets now")
+                                            : tr("The wall is drawn in a scene now"));
+    Q_EMIT SignalChanged();
+}
+
+void CameraWall::ShowWholeWall() { m_pWall->RecoverEagleEye(); }
+
 void CameraWall::Apply(const WallLayout& layout)
 {
+    ShowFamily(layout.family);
     m_pWall->DeleteAllScreen();
     m_pWall->SetTVWallGridCount(layout.rows, layout.columns);
     for (const ScreenLayout& screen : layout.screens)
@@ -151,7 +172,10 @@ void CameraWall::AddScreenFor(const ScreenLayout& layout)
     note.text = layout.text;
     note.overlays = layout.overlays;
     note.baseMap = layout.baseMap;
-    const int screen = m_pWall->AddScreen(layout.rect, QIcon(), QString(), QVariant::fromValue(note));
+    note.cellBound = layout.cellBound;
+    const QString title = tr("Screen %1").arg(m_pWall->GetScreenCount() + 1);
+    const int screen = m_pWall->AddScreen(
+        layout.rect, SkinIcon(QStringLiteral("Screen")), title, QVariant::fromValue(note));
     ShowNote(screen, note);
     RestoreWindows(screen, layout.windows);
 }
@@ -174,6 +198,7 @@ WallLayout CameraWall::Layout() const
     WallLayout layout;
     layout.rows = m_pWall->GetRowCount();
     layout.columns = m_pWall->GetColumnCount();
+    layout.family = m_iFamily;
     layout.selectionMode = m_pWall->GetWindowSelectionMode();
     layout.titles = m_bTitles;
     layout.gutter = m_bGutter;
@@ -183,6 +208,7 @@ WallLayout CameraWall::Layout() const
         stored.text = note.text;
         stored.overlays = note.overlays;
         stored.baseMap = note.baseMap;
+        stored.cellBound = note.cellBound;
         m_pWall->GetScreenScale(screen, stored.rect);
         for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window) {
             const auto windowNote = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
@@ -466,7 +492,8 @@ ScreenNote CameraWall::Note(int screen) const
 void CameraWall::ShowNote(int screen, const ScreenNote& note)
 {
     m_pWall->SetScreenContentText(screen, note.text);
-    m_pWall->SetScreenBaseMapShow(
+    m_pWall->SetScreenFreeMode(screen, !note.cellBound);
+    m_pWall->SetScreenBaseMap(
         screen, note.baseMap ? BaseMapPath().toStdString() : std::string(), note.baseMap);
     std::vector<KvGUI::StructOSDInfo> infos;
     if (note.overlays)
@@ -508,6 +535,13 @@ void CameraWall::SetBaseMap(int screen, bool bShow)
 {
     ScreenNote note = Note(screen);
     note.baseMap = bShow;
+    ChangeNote(screen, note);
+}
+
+void CameraWall::SetCellBound(int screen, bool bBound)
+{
+    ScreenNote note = Note(screen);
+    note.cellBound = bBound;
     ChangeNote(screen, note);
 }
 
@@ -566,8 +600,9 @@ void CameraWall::OpenAtDrop(int screen, const QDropEvent& drop, const SourceSpec
     KvGUI::StructScaleRect scale;
     if (!m_pWall->GetScreenScale(screen, scale))
         return;
+    const QRect wall = m_pWall->GetTVWallRect();
     const QSizeF size(
-        m_pWall->width() * (scale.dRight - scale.dLeft), m_pWall->height() * (scale.dBottom - scale.dTop));
+        wall.width() * (scale.dRight - scale.dLeft), wall.height() * (scale.dBottom - scale.dTop));
     OpenWindow(
         screen, PlaceAround({drop.posF().x() / size.width(), drop.posF().y() / size.height()}), source);
 }

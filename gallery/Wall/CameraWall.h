@@ -22,6 +22,7 @@ struct ScreenNote
     bool overlays = false;
     bool baseMap = false;
     bool positioning = false; ///< drags over its windows draw 3D frames
+    bool cellBound = false; ///< drags end on its cells; in the normal family
 };
 
 /// What the page keeps with each window of the wall.
@@ -47,6 +48,11 @@ public:
     void Apply(const WallLayout& layout);
     /// The wall as it is, without the skin.
     WallLayout Layout() const;
+
+    /// Shows the same wall in another family (WallLayout::NormalFamily or DisplayFamily).
+    void SetFamily(int family);
+    int Family() const { return m_iFamily; }
+    void ShowWholeWall(); ///< of the normal family: ends zooming and panning
 
     /// Files that the next windows show, before cameras come.
     void SetWaitingFiles(const QVector<SourceSpec>& files) { m_waitingFiles = files; }
@@ -77,6 +83,7 @@ public:
     void SetOverlays(int screen, bool bShow);
     void SetBaseMap(int screen, bool bShow);
     void SetPositioning(int screen, bool bEnable); ///< for the selected screen only
+    void SetCellBound(int screen, bool bBound);
 
 Q_SIGNALS:
     void SignalChanged(); ///< something that a layout holds is another one now
@@ -90,6 +97,7 @@ protected:
 private:
     void ConnectReports();
     void ConnectHands();
+    void ShowFamily(int family);
     void AddScreenFor(const ScreenLayout& layout);
     void RestoreWindows(int screen, const QVector<WindowLayout>& windows);
     void Stack(int screen, const QVector<int>& order);
@@ -112,6 +120,7 @@ private:
     SourcePool& m_pool;
     FrameClock& m_clock;
     WallWidget* m_pWall;
+    int m_iFamily = WallLayout::DisplayFamily;
     QVector<SourceSpec> m_waitingFiles;
     bool m_bTitles = true;
     bool m_bGutter = true;

@@ -68,12 +68,9 @@ QJsonObject ScreenToJson(const ScreenLayout& screen)
     QJsonArray windows;
     for (const WindowLayout& window : screen.windows)
         windows.append(WindowToJson(window));
-    return {
-        {QStringLiteral("rect"), RectToJson(screen.rect)},
-        {QStringLiteral("text"), screen.text},
-        {QStringLiteral("overlays"), screen.overlays},
-        {QStringLiteral("baseMap"), screen.baseMap},
-        {QStringLiteral("windows"), windows}};
+    return {{QStringLiteral("rect"), RectToJson(screen.rect)}, {QStringLiteral("text"), screen.text},
+            {QStringLiteral("overlays"), screen.overlays},     {QStringLiteral("baseMap"), screen.baseMap},
+            {QStringLiteral("cellBound"), screen.cellBound},   {QStringLiteral("windows"), windows}};
 }
 
 bool ScreenFromJson(const QJsonObject& object, int mostWindows, ScreenLayout& screen)
@@ -83,6 +80,7 @@ bool ScreenFromJson(const QJsonObject& object, int mostWindows, ScreenLayout& sc
     screen.text = object.value(QLatin1String("text")).toString().left(LongestScreenText);
     screen.overlays = object.value(QLatin1String("overlays")).toBool();
     screen.baseMap = object.value(QLatin1String("baseMap")).toBool();
+    screen.cellBound = object.value(QLatin1String("cellBound")).toBool();
     const QJsonArray windows = object.value(QLatin1String("windows")).toArray();
     for (const QJsonValue& value : windows) {
         if (screen.windows.size() >= mostWindows)
@@ -118,13 +116,10 @@ QString WallLayout::ToText() const
     for (const ScreenLayout& screen : screens)
         screenArray.append(ScreenToJson(screen));
     const QJsonObject wall{
-        {QStringLiteral("rows"), rows},
-        {QStringLiteral("columns"), columns},
-        {QStringLiteral("selectionMode"), selectionMode},
-        {QStringLiteral("titles"), titles},
-        {QStringLiteral("gutter"), gutter},
-        {QStringLiteral("skin"), skin},
-        {QStringLiteral("screens"), screenArray}};
+        {QStringLiteral("rows"), rows},     {QStringLiteral("columns"), columns},
+        {QStringLiteral("family"), family}, {QStringLiteral("selectionMode"), selectionMode},
+        {QStringLiteral("titles"), titles}, {QStringLiteral("gutter"), gutter},
+        {QStringLiteral("skin"), skin},     {QStringLiteral("screens"), screenArray}};
     return QString::fromUtf8(QJsonDocument(wall).toJson(QJsonDocument::Compact));
 }
 
@@ -138,6 +133,8 @@ std::optional<WallLayout> WallLayout::FromText(const QString& text)
     WallLayout layout;
     layout.rows = IntFromJson(wall.value(QLatin1String("rows")), 1, MaxGrid, layout.rows);
     layout.columns = IntFromJson(wall.value(QLatin1String("columns")), 1, MaxGrid, layout.columns);
+    layout.family
+        = IntFromJson(wall.value(QLatin1String("family")), NormalFamily, DisplayFamily, layout.family);
     layout.selectionMode = IntFromJson(wall.value(QLatin1String("selectionMode")), 0, 2, 0);
     layout.titles = wall.value(QLatin1String("titles")).toBool(true);
     layout.gutter = wall.value(QLatin1String("gutter")).toBool(true);

@@ -25,18 +25,22 @@ struct ScreenLayout
     QString text; ///< shown in the middle of the screen
     bool overlays = false;
     bool baseMap = false;
+    bool cellBound = false;
     QVector<WindowLayout> windows;
 };
 
 /// All that a wall needs to come back as it was left.
 struct WallLayout
 {
+    static constexpr int NormalFamily = 0; ///< drawn in a scene
+    static constexpr int DisplayFamily = 1; ///< built from widgets
     static constexpr int MaxGrid = 16; ///< rows, columns
     static constexpr int MaxScreens = MaxGrid * MaxGrid;
     static constexpr int MaxWindows = 1024; ///< on the whole wall
 
     int rows = 2;
     int columns = 2;
+    int family = DisplayFamily;
     int selectionMode = 0; ///< 0 ... 2
     bool titles = true;
     bool gutter = true;

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace OperatorClient {
 
@@ -49,6 +50,23 @@ void Drag(QWidget& wall, const QPoint& from, const QPoint& to)
     send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
     send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+}
+
+/// Turns the wheel by a number of steps over a point of the wall, as an operator would.
+void TurnWheel(QWidget& wall, const QPoint& at, int steps)
+{
+    const QPoint turn(0, steps > 0 ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep);
+    for (int step = 0; step < qAbs(steps); ++step) {
+        bool accepted = false;
+        for (QWidget* target = wall.childAt(at); target && target != &wall && !accepted;
+             target = target->parentWidget()) {
+            QWheelEvent event(
+                target->mapFrom(&wall, at), wall.mapToGlobal(at), {}, turn, Qt::NoButton, Qt::NoModifier,
+                Qt::NoScrollPhase, false);
+            QApplication::sendEvent(target, &event);
+            accepted = event.isAccepted();
+        }
+    }
 }
 
 } // namespace
@@ -129,6 +147,11 @@ void WallPage::ConnectTools()
     On(Command::Raise, [this](bool) { m_pCameras->StackSelected(true); });
     On(Command::Lower, [this](bool) { m_pCameras->StackSelected(false); });
     On(Command::CloseSelected, [this](bool) { m_pCameras->CloseSelected(); });
+    On(Command::SceneFamily, [this](bool checked) {
+        m_pCameras->SetFamily(checked ? WallLayout::NormalFamily : WallLayout::DisplayFamily);
+        ShowStates();
+    });
+    On(Command::WholeWall, [this](bool) { m_pCameras->ShowWholeWall(); });
     On(Command::Skin, [this](bool) { ChangeSkin(); });
 }
 
@@ -141,10 +164,13 @@ void WallPage::ConnectScreenTools()
        [=](bool checked) { m_pCameras->SetBaseMap(wall->GetSelectedScreenIndex(), checked); });
     On(Command::Positioning,
        [=](bool checked) { m_pCameras->SetPositioning(wall->GetSelectedScreenIndex(), checked); });
+    On(Command::CellBound,
+       [=](bool checked) { m_pCameras->SetCellBound(wall->GetSelectedScreenIndex(), checked); });
 }
 
 void WallPage::ShowStart()
 {
+    TurnWheel(*m_pCameras->Wall(), QPoint(0, 0), -6); // the whole wall, whatever the zoom
     m_pCameras->SetWaitingFiles(m_files);
     m_pCameras->Apply(m_start);
     m_pCameras->ShowWaitingFiles();
@@ -156,6 +182,10 @@ void WallPage::ShowStates()
     const WallLayout layout = m_pCameras->Layout();
     const Command modes[] = {Command::SelectNone, Command::SelectOne, Command::SelectMany};
     m_pTools->ShowGrid(layout.rows, layout.columns);
+    const bool inScene = layout.family == WallLayout::NormalFamily;
+    m_pTools->Action(Command::SceneFamily)->setChecked(inScene);
+    m_pTools->Action(Command::WholeWall)->setEnabled(inScene);
+    m_pTools->Action(Command::Gutter)->setEnabled(!inScene);
     m_pTools->Action(Command::Gutter)->setChecked(layout.gutter);
     m_pTools->Action(Command::Titles)->setChecked(layout.titles);
     m_pTools->Action(modes[qBound(0, layout.selectionMode, 2)])->setChecked(true);
@@ -166,13 +196,15 @@ void WallPage::ShowScreenStates()
 {
     const int screen = m_pCameras->Wall()->GetSelectedScreenIndex();
     const ScreenNote note = m_pCameras->Note(screen);
-    const auto show = [&](Command command, bool checked) {
-        m_pTools->Action(command)->setEnabled(screen >= 0);
+    const bool inScene = m_pCameras->Family() == WallLayout::NormalFamily;
+    const auto show = [&](Command command, bool checked, bool possible) {
+        m_pTools->Action(command)->setEnabled(screen >= 0 && possible);
         m_pTools->Action(command)->setChecked(checked);
     };
-    show(Command::Overlays, note.overlays);
-    show(Command::BaseMap, note.baseMap);
-    show(Command::Positioning, note.positioning);
+    show(Command::Overlays, note.overlays, true);
+    show(Command::BaseMap, note.baseMap, !inScene);
+    show(Command::Positioning, note.positioning, !inScene);
+    show(Command::CellBound, note.cellBound, inScene);
 }
 
 void WallPage::ShowMenu(int screen)
@@ -226,7 +258,9 @@ QVector<Page::Picture> WallPage::Pictures()
     return {
         {QString(), [this] { ShowStart(); }},
         {QStringLiteral("overlays"), [this] { EnterOverlays(); }},
-        {QStringLiteral("selection"), [this] { EnterSelection(); }}};
+        {QStringLiteral("selection"), [this] { EnterSelection(); }},
+        {QStringLiteral("zoomed"), [this] { EnterZoomed(); }},
+        {QStringLiteral("scene"), [this] { EnterScene(); }}};
 }
 
 void WallPage::EnterOverlays()
@@ -236,8 +270,9 @@ void WallPage::EnterOverlays()
         m_pCameras->SetOverlays(screen, true);
         m_pCameras->SetBaseMap(screen, true);
     }
-    m_pCameras->Wall()->SetSelectedScreenIndex(2);
-    ShowScreenStates();
+    const QSize wall = m_pCameras->Wall()->size();
+    const QPoint onThird(wall.width() * 28 / 100, wall.height() * 6 / 10); // between its windows
+    Drag(*m_pCameras->Wall(), onThird, onThird); // selects it
 }
 
 void WallPage::EnterSelection()
@@ -250,6 +285,20 @@ void WallPage::EnterSelection()
     Drag(
         *m_pCameras->Wall(), QPoint(wall.width() / 50, wall.height() * 49 / 50),
         QPoint(wall.width() / 4, wall.height() * 7 / 10));
+}
+
+void WallPage::EnterZoomed()
+{
+    ShowStart();
+    const QSize wall = m_pCameras->Wall()->size();
+    TurnWheel(*m_pCameras->Wall(), QPoint(wall.width() * 2 / 5, wall.height() * 7 / 10), 2);
+}
+
+void WallPage::EnterScene()
+{
+    ShowStart();
+    m_pCameras->SetFamily(WallLayout::NormalFamily);
+    ShowStates();
 }
 
 } // namespace OperatorClient

@@ -39,6 +39,8 @@ private:
     void Save();
     void EnterOverlays();
     void EnterSelection();
+    void EnterZoomed();
+    void EnterScene();
 
     const WallLayoutFile m_file;
     const WallLayout m_start;

@@ -65,6 +65,12 @@ const CommandEntry Entries[] = {
         QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show the site map behind the windows of the selected screen"), "Ctrl+B", Command::BaseMap, true, false},
     {"Positioning3D", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "3D positioning"),
         QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Draw 3D-positioning frames over the windows of the selected screen"), "Ctrl+D", Command::Positioning, true, false},
+    {"Snap", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Keep to the cells"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "End the drags of the selected screen's windows on its cells"), "Ctrl+E", Command::CellBound, true, false},
+    {"SceneFamily", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Draw in a scene"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Draw the wall in a scene instead of building it from widgets"), "Ctrl+F", Command::SceneFamily, true, true},
+    {"WholeWall", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Whole wall"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show the whole wall again after zooming into it"), "Ctrl+0", Command::WholeWall, false, false},
     {"SkinLight", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change the skin"),
         QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change between the dark and the light skin"), "Ctrl+K", Command::Skin, false, true},
 };

@@ -33,6 +33,9 @@ public:
         Overlays,
         BaseMap,
         Positioning,
+        CellBound,
+        SceneFamily,
+        WholeWall,
         Skin
     };
 

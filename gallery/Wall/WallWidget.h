@@ -1,11 +1,10 @@
 #pragma once
 
-#include <UI/TVWall/KvTVWallDisplayWnd.h>
+#include <UI/TVWall/KvTVWallOperateWnd.h>
 
 namespace OperatorClient {
 
-/// The wall that the wall page shows. Named here only, so that another wall with the same operations can
-/// take its place.
-using WallWidget = UICommonMdl::KvTVWallDisplayWnd;
+/// The wall that the wall page shows.
+using WallWidget = UICommonMdl::KvTVWallOperateWnd;
 
 } // namespace OperatorClient
