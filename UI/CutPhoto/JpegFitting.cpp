@@ -1,5 +1,7 @@
 #include "JpegFitting.h"
 
+#include "JpegForecast.h"
+
 #include <QBuffer>
 
 namespace UICommonMdl {
@@ -7,28 +9,38 @@ namespace UICommonMdl {
 namespace {
 
 constexpr int HighestQuality = 100;
+constexpr int LowestQuality = 0;
 
 } // namespace
 
 int NextLowerQuality(int quality) { return quality < 10 ? quality - 1 : quality - quality / 10; }
 
-int JpegBytes(const QImage& image, int quality)
+QByteArray JpegBytes(const QImage& image, int quality)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "JPG", quality);
-    return bytes.size();
+    return bytes;
 }
 
 JpegFit FitJpeg(const QImage& image, int maximum)
 {
-    int quality = HighestQuality;
+    const int largest = JpegBytes(image, HighestQuality).size();
+    int quality = NextLowerQuality(HighestQuality);
+    if (largest <= maximum)
+        return {largest, quality};
+
+    JpegForecast forecast(image);
     while (true) {
-        const int bytes = JpegBytes(image, quality);
-        quality = NextLowerQuality(quality);
-        if (quality < 0 || bytes <= maximum)
-            return {bytes, quality};
+        const int next = NextLowerQuality(quality);
+        // The size at the lowest quality is a result also when it does not fit.
+        if (quality == LowestQuality || !forecast.Exceeds(quality, maximum)) {
+            const int bytes = JpegBytes(image, quality).size();
+            if (quality == LowestQuality || bytes <= maximum)
+                return {bytes, next};
+        }
+        quality = next;
     }
 }
 
