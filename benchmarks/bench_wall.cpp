@@ -1,8 +1,10 @@
-// The display wall with 36 screens of 25 windows against the same widgets in bare MDI areas.
+// The display wall, alone and in the operate wall, with 36 screens of 25 windows against the same widgets in
+// bare MDI areas.
 
 #include "Ratio.h"
 
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
+#include <UI/TVWall/KvTVWallOperateWnd.h>
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -11,6 +13,8 @@
 #include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QWheelEvent>
+#include <functional>
 #include <memory>
 
 namespace {
@@ -36,11 +40,17 @@ void DeliverAll()
 }
 
 using Wall = UICommonMdl::KvTVWallDisplayWnd;
+using OperateWall = UICommonMdl::KvTVWallOperateWnd;
 
-std::unique_ptr<Wall> MakeWall()
+void ChooseFamily(Wall&) { }
+void ChooseFamily(OperateWall& wall) { wall.SetShowMode(OperateWall::DisplayMode); }
+
+template <typename AnyWall = Wall>
+std::unique_ptr<AnyWall> MakeWall()
 {
-    auto wall = std::make_unique<Wall>();
+    auto wall = std::make_unique<AnyWall>();
     wall->resize(WallSize);
+    ChooseFamily(*wall);
     wall->SetTVWallGridCount(ScreensAcross, ScreensAcross);
     wall->SetWindowTitleShow(true);
     wall->show();
@@ -49,7 +59,8 @@ std::unique_ptr<Wall> MakeWall()
     return wall;
 }
 
-void OpenWindows(Wall& wall)
+template <typename AnyWall>
+void OpenWindows(AnyWall& wall)
 {
     for (int s = 0; s < wall.GetScreenCount(); ++s) {
         for (int w = 0; w < WindowsAcross * WindowsAcross; ++w)
@@ -171,19 +182,25 @@ void BenchmarkOpening()
     Ratio::PrintMedians("open_900_windows", ours, theirs);
 }
 
-/// Median time of one step of a widget that is resized to and fro, with all events delivered.
-double StepTime(QWidget& widget)
+/// Median time of one of many steps, with all events delivered.
+double StepTime(const std::function<void(int step)>& act)
 {
     constexpr int Steps = 12;
     std::vector<double> times;
     times.reserve(Steps);
     for (int i = 0; i < Steps; ++i) {
-        times.push_back(Ratio::Milliseconds([&widget, i] {
-            widget.resize(i % 2 == 0 ? WallSize * 1.1 : WallSize);
+        times.push_back(Ratio::Milliseconds([&act, i] {
+            act(i);
             DeliverAll();
         }));
     }
     return Ratio::MedianMilliseconds(times);
+}
+
+/// Of a widget that is resized to and fro.
+double ResizeTime(QWidget& widget)
+{
+    return StepTime([&widget](int step) { widget.resize(step % 2 == 0 ? WallSize * 1.1 : WallSize); });
 }
 
 // Never both at once: each bare area filters the events of the whole application.
@@ -197,7 +214,7 @@ void BenchmarkResizing()
             const auto wall = MakeWall();
             OpenWindows(*wall);
             DeliverAll();
-            ours.push_back(StepTime(*wall));
+            ours.push_back(ResizeTime(*wall));
             sheet = wall->styleSheet();
         }
         BareWall bare(sheet);
@@ -205,9 +222,55 @@ void BenchmarkResizing()
         bare.show();
         bare.OpenWindows();
         DeliverAll();
-        theirs.push_back(StepTime(bare));
+        theirs.push_back(ResizeTime(bare));
     }
     Ratio::PrintMedians("resize_900_windows", ours, theirs);
+}
+
+/// Of an operate wall into which the wheel zooms about its middle, and out again.
+double ZoomTime(OperateWall& wall)
+{
+    QWidget* zoomed = wall.GetWindowWidget(0, 0);
+    while (zoomed->parentWidget() != &wall)
+        zoomed = zoomed->parentWidget();
+    return StepTime([&wall, zoomed](int step) {
+        const QPoint middle = zoomed->rect().center();
+        QWheelEvent turn(
+            middle, zoomed->mapToGlobal(middle), {}, {0, step % 2 == 0 ? 120 : -120}, Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(zoomed, &turn);
+        if (wall.GetTVWallRect().size() != (step % 2 == 0 ? WallSize * 1.5 : WallSize))
+            qFatal("the wall was not zoomed");
+    });
+}
+
+void BenchmarkZooming()
+{
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    QString sheet;
+    for (int i = 0; i < Rounds; ++i) {
+        {
+            const auto wall = MakeWall<OperateWall>();
+            OpenWindows(*wall);
+            DeliverAll();
+            ours.push_back(ZoomTime(*wall));
+            sheet = wall->findChild<Wall*>()->styleSheet();
+        }
+        QWidget view;
+        view.resize(WallSize);
+        auto* bare = new BareWall(sheet);
+        bare->setParent(&view);
+        bare->resize(WallSize);
+        view.show();
+        bare->OpenWindows();
+        DeliverAll();
+        theirs.push_back(StepTime([bare](int step) {
+            const QRect zoomed(QPoint(-WallSize.width(), -WallSize.height()) / 4, WallSize * 1.5);
+            bare->setGeometry(step % 2 == 0 ? zoomed : QRect(QPoint(0, 0), WallSize));
+        }));
+    }
+    Ratio::PrintMedians("zoom_900_windows", ours, theirs);
 }
 
 void SendMouse(QWidget* receiver, QEvent::Type type, const QPoint& global, Qt::MouseButtons buttons)
@@ -256,6 +319,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     BenchmarkOpening();
     BenchmarkResizing();
+    BenchmarkZooming();
     BenchmarkDragging();
     return 0;
 }
