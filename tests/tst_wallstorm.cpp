@@ -1,10 +1,11 @@
-// Storms of events and calls against the display wall: whatever an operator does and whatever a client calls,
-// also from inside a slot, the wall must stay consistent. A seed is one storm and always the same one.
-// UICOMPONENTS_STORM_SECONDS=600 in the environment makes more of them, for a run by hand.
+// Storms of events and calls against the operate wall and the walls in it: whatever an operator does and
+// whatever a client calls, also from inside a slot, the wall must stay consistent. A seed is one storm and
+// always the same. UICOMPONENTS_STORM_SECONDS=600 in the environment makes more of them, for a run by hand.
 
 #include "support/StrictMain.h"
 
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
+#include <UI/TVWall/KvTVWallOperateWnd.h>
 
 #include <QApplication>
 #include <QMdiArea>
@@ -21,11 +22,11 @@
 #include <utility>
 
 using KvGUI::StructScaleRect;
-using Wall = UICommonMdl::KvTVWallDisplayWnd;
+using Wall = UICommonMdl::KvTVWallOperateWnd;
 
 namespace {
 
-constexpr int StepsPerSeed = 250;
+constexpr int StepsPerSeed = 1500;
 
 /// Whether a window has its pixels. Wild rectangles have no plain rule: true.
 bool IsInPlace(const QWidget& window, const QSize& screen, const StructScaleRect& r)
@@ -81,7 +82,12 @@ public:
             return QStringLiteral("selected windows");
         if (!m_held && !Shown<QRubberBand>(m_wall.get(), Qt::FindChildrenRecursively).isEmpty())
             return QStringLiteral("a band that nobody draws");
-        const QList<QMdiArea*> screens = Shown<QMdiArea>(m_wall.get());
+        const auto* display = m_wall->findChild<UICommonMdl::KvTVWallDisplayWnd*>();
+        if (display == nullptr || m_mode != Wall::DisplayMode)
+            return QString();
+        if (!display->geometry().contains(m_wall->rect()) && !m_wall->rect().isEmpty())
+            return QStringLiteral("a view that the wall does not cover");
+        const QList<QMdiArea*> screens = Shown<QMdiArea>(display);
         bool right = screens.size() == m_wall->GetScreenCount();
         for (int s = 0; right && s < screens.size(); ++s)
             right = IsRight(s, *screens.at(s));
@@ -120,7 +126,7 @@ private:
         auto* wall = new Wall;
         m_wall.reset(wall);
         wall->resize(300 + Below(900), 200 + Below(500));
-        wall->SetTVWallGridCount(1 + Below(4), 1 + Below(4));
+        SetMode(OneIn(3) ? Wall::NormalMode : Wall::DisplayMode);
         wall->show();
         const auto screen = [this](int s) { InSlot(s >= 0 && s < m_wall->GetScreenCount()); };
         const auto window = [this](int s, int w) { InSlot(w >= 0 && w < m_wall->GetWindowCount(s)); };
@@ -136,12 +142,19 @@ private:
         QObject::connect(wall, &Wall::SignalWindowVolumeBtnClicked, wall, window);
         QObject::connect(wall, &Wall::SignalWindowGeoChanged, wall, window);
         QObject::connect(wall, &Wall::SignalWindowClicked, wall, [this] { InSlot(true); });
-        QObject::connect(wall, &Wall::SignalWheelEvent, wall, [this] { InSlot(true); });
+    }
+
+    void SetMode(int mode)
+    {
+        m_mode = mode;
+        m_wall->SetShowMode(mode);
+        m_wall->SetTVWallGridCount(1 + Below(4), 1 + Below(4));
     }
 
     void InSlot(bool indexesNameSomething)
     {
-        m_badSignal = m_badSignal || !indexesNameSomething;
+        const bool unknownMode = m_mode != Wall::NormalMode && m_mode != Wall::DisplayMode; // finds nothing
+        m_badSignal = m_badSignal || !(indexesNameSomething || unknownMode);
         if (m_depth == 3 || !OneIn(4)) // slots inside slots
             return;
         ++m_depth;
@@ -179,6 +192,10 @@ private:
             [&] { wall.SetScreenOSDInfo(s, infos); },
             [&] { wall.DeleteWindowWidget(s, w); },
             [&] { wall.SetTVWallGridCount(1 + Below(5), yes ? 1 << 30 : 3); },
+            [&] { wall.SetScreenFreeMode(s, yes); },
+            [&] { wall.SetAudioBtnVisible(yes); },
+            [&] { wall.RecoverEagleEye(); },
+            [&] { OneIn(3) ? SetMode(OneIn(9) ? number : number & 1) : void(); },
         };
         OneIn(5) ? calls[1]() : calls[Below(int(std::size(calls)))]();
     }
@@ -223,7 +240,8 @@ private:
         const QPoint pos = PointIn(widget->size());
         const QPoint global = widget->mapToGlobal(pos);
         const Qt::Key keys[] = {Qt::Key_Space, Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_F4};
-        QWheelEvent wheel(pos, global, {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        const QPoint turn(0, OneIn(3) ? -120 : 120);
+        QWheelEvent wheel(pos, global, {}, turn, Qt::NoButton, {}, Qt::NoScrollPhase, false);
         QContextMenuEvent menu(QContextMenuEvent::Reason(Below(3)), pos, global);
         QKeyEvent key(OneIn(3) ? QEvent::KeyRelease : QEvent::KeyPress, keys[Below(5)], {});
         QEvent* const events[] = {&wheel, &menu, &key, &key};
@@ -238,7 +256,7 @@ private:
         QWidget dialog;
         dialog.setWindowModality(Qt::ApplicationModal);
         if (kind == 0)
-            m_wall->resize(100 + Below(1200), 80 + Below(700));
+            m_wall->resize(OneIn(9) ? 0 : 100 + Below(1200), OneIn(9) ? 1 : 80 + Below(700));
         for (const bool on : {false, true})
             kind == 1 ? m_wall->setVisible(on) : kind == 2 ? m_wall->setEnabled(on) : dialog.setVisible(!on);
     }
@@ -263,6 +281,7 @@ private:
     QPointer<QWidget> m_grabber; // got the press, and gets all until the release
     Qt::MouseButton m_held = Qt::NoButton;
     QPoint m_globalPos;
+    int m_mode = Wall::NormalMode;
     int m_depth = 0;
     bool m_badSignal = false;
 };
@@ -277,7 +296,7 @@ private Q_SLOTS:
     void storm_data()
     {
         QTest::addColumn<int>("seed");
-        const int byHand = 10 * qEnvironmentVariableIntValue("UICOMPONENTS_STORM_SECONDS"); // about
+        const int byHand = 6 * qEnvironmentVariableIntValue("UICOMPONENTS_STORM_SECONDS"); // about
         for (int seed = 1; seed <= qMax(40, byHand); ++seed)
             QTest::addRow("seed %d", seed) << seed; // of a crash: the one after the last that passed
     }
