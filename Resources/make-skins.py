@@ -2,7 +2,8 @@
 """Makes the skin trees of the library and of the gallery.
 
 Style sheets and icons are drawn once, as templates in which "@token@" stands for a value of
-the skin's palette. This script fills the templates for each skin:
+the skin's palette, and "@include <file>@" for the text of another template of the same tree. This
+script fills the templates for each skin:
 
     Resources/templates/<sub folder>/<file>
         -> Resources/UICommonModule/Corvale/<skin>/<sub folder>/<file>
@@ -77,6 +78,10 @@ PALETTES = {
         "danger": "#c2352b",
         "danger-pressed": "#a02a22",
         "danger-text": "#ffffff",
+        "danger-line": "#f0766c",  # outline of a wrong input
+        "weak": "#f0766c",  # levels of a strength meter
+        "medium": "#e0a63a",
+        "strong": "#4fb477",
         "gutter": "#0b0c0e",
         "title-bar": "#2e3138",
         "title-hover": "#434851",
@@ -105,6 +110,10 @@ PALETTES = {
         "danger": "#c2352b",
         "danger-pressed": "#a02a22",
         "danger-text": "#ffffff",
+        "danger-line": "#c2352b",
+        "weak": "#c2352b",
+        "medium": "#a86a00",
+        "strong": "#2d8a55",
         "gutter": "#cdd1d8",
         "title-bar": "#eceef1",
         "title-hover": "#d4d8de",
@@ -121,6 +130,7 @@ CONTRAST = [
     (TEXT, ["text", "text-secondary"], ["background", "surface", "raised"]),
     (TEXT, ["text"], ["hover", "pressed", "selection", "title-bar"]),
     (TEXT, ["accent-text"], ["accent", "accent-hover", "accent-pressed"]),
+    (SHAPE, ["danger-line", "weak", "medium", "strong"], ["background", "surface", "raised"]),
     (TEXT, ["danger-text"], ["danger", "danger-pressed"]),
     (TEXT, ["screen-text"], ["screen"]),
     (TEXT, ["video-text"], ["video"]),
@@ -140,6 +150,7 @@ CONTRAST = [
 ]
 
 TOKEN = re.compile(r"@([a-z0-9-]+)@")
+INCLUDE = re.compile(r"@include ([A-Za-z0-9./-]+)@\n")
 URL = re.compile(r"url\(([^)]*)\)")
 
 
@@ -174,6 +185,12 @@ def fill(template, values):
     return TOKEN.sub(lambda match: values[match.group(1)], template)
 
 
+def template_text(path, templates):
+    """The template's text with each "@include <file>@" line replaced by that template's text."""
+    text = path.read_text(encoding="utf-8")
+    return INCLUDE.sub(lambda match: template_text(templates / match.group(1), templates), text)
+
+
 def targets(target):
     """The files that the template with this target makes, each with its scale (None: a text)."""
     if target.name.endswith(".png.svg"):
@@ -195,7 +212,7 @@ def make_trees():
                 # @images@ is the resource folder of the file itself.
                 values = {**palette, "skin": skin, "images": folder}
                 try:
-                    text = fill(template.read_text(encoding="utf-8"), values)
+                    text = fill(template_text(template, templates), values)
                 except KeyError as token:
                     faults.append(f"{template.relative_to(ROOT)}: unknown token {token} in {skin}")
                     continue

@@ -26,6 +26,17 @@ function(uicomponents_skin_resources target root module)
             string(APPEND qrc "    <file alias=\"${file}\">${root}/${skin}/${file}</file>\n")
         endforeach()
         string(APPEND qrc "  </qresource>\n")
+        # A client that passes a complete resource folder to XCM::GetSkinPath gets it nested in a second
+        # prefix. Sheets that are asked for so end with .qss and lie there too.
+        list(FILTER files INCLUDE REGEX "[.]qss$")
+        foreach(file IN LISTS files)
+            get_filename_component(folder "${file}" DIRECTORY)
+            get_filename_component(name "${file}" NAME)
+            set(nested "${application}/${module}/${version}/${module}/${folder}")
+            string(APPEND qrc "  <qresource prefix=\"/${application}/:/${version}/:/${nested}\">\n")
+            string(APPEND qrc "    <file alias=\"${name}\">${root}/${skin}/${file}</file>\n")
+            string(APPEND qrc "  </qresource>\n")
+        endforeach()
     endforeach()
     string(APPEND qrc "</RCC>\n")
     # Written now, because qt5_add_resources reads it for the dependencies; and only when it

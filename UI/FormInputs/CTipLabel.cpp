@@ -1,0 +1,230 @@
+#include <UI/FormInputs/CTipLabel.h>
+
+#include "TipPlacement.h"
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPropertyAnimation>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QTextEdit>
+#include <QTimerEvent>
+#include <QWindow>
+#include <cmath>
+
+namespace UICommonMdl {
+
+namespace {
+
+constexpr int FadeTime = 1000; // milliseconds
+constexpr int ShortestDisplayTime = 300; // milliseconds
+constexpr int WidestPadding = 6; // pixels between the text and the box's edge, where there is room
+/// Pixels of room above and below the letters that a text which fills the box can do without.
+constexpr int RoomAbove = 3;
+constexpr int RoomBelow = 1;
+constexpr QRgb BodyColor = qRgb(102, 47, 47);
+constexpr QRgb ArrowColor = qRgb(229, 57, 53);
+
+QRect GlobalRect(const QWidget* widget) { return {widget->mapToGlobal(QPoint(0, 0)), widget->size()}; }
+
+QRect ScreenAround(const QWidget* anchor)
+{
+    const QScreen* screen = QGuiApplication::screenAt(GlobalRect(anchor).center());
+    if (!screen) // the middle of the anchor may be off every screen
+        screen = anchor->screen();
+    return screen->availableGeometry();
+}
+
+} // namespace
+
+CTipLabel* CTipLabel::Instance()
+{
+    static auto* const label = new CTipLabel;
+    return label;
+}
+
+CTipLabel::CTipLabel()
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::ToolTip | Qt::BypassGraphicsProxyWidget)
+    , m_pTextBox(new QTextEdit(this))
+    , m_pFadeIn(MakeFade(0.0, 1.0))
+    , m_pFadeOut(MakeFade(1.0, 0.0))
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setFocusPolicy(Qt::NoFocus);
+    m_pTextBox->setObjectName(QStringLiteral("m_tipLabel"));
+    m_pTextBox->setStyleSheet(
+        QStringLiteral("QTextEdit#m_tipLabel{border-radius:%1px;background-color:#662f2f;color:#abb2bd;}")
+            .arg(TipCornerRadius));
+    m_pTextBox->setFrameShape(QFrame::NoFrame);
+    m_pTextBox->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_pTextBox->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_pTextBox->setReadOnly(true);
+    m_pTextBox->setFocusPolicy(Qt::NoFocus);
+    m_pTextBox->setContextMenuPolicy(Qt::NoContextMenu);
+    m_pTextBox->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_pTextBox->document()->setDocumentMargin(0);
+    connect(m_pFadeOut, &QPropertyAnimation::finished, this, &CTipLabel::OnFadeOutFinished);
+    // The attribute works inside this program only; the window system must let clicks through as well.
+    create();
+    windowHandle()->setFlag(Qt::WindowTransparentForInput);
+}
+
+QPropertyAnimation* CTipLabel::MakeFade(double from, double to)
+{
+    auto* fade = new QPropertyAnimation(this, QByteArrayLiteral("windowOpacity"), this);
+    fade->setDuration(FadeTime);
+    fade->setStartValue(from);
+    fade->setEndValue(to);
+    return fade;
+}
+
+void CTipLabel::ShowTip(const QString& text, QWidget* anchor, DisplayPosition position)
+{
+    if (text.isEmpty() || !anchor) {
+        HideTip();
+        return;
+    }
+    const bool hasArrow = position >= Left && position <= Bottom;
+    const TipPlacement place
+        = PlaceTip(GlobalRect(anchor), BodySize(text), hasArrow ? position : None, ScreenAround(anchor));
+    m_iDisplayPosition = place.side;
+    m_iArrowStart = place.arrowStart;
+    SetAnchor(anchor);
+    m_pFadeOut->stop();
+    setGeometry(place.bubble);
+    m_pTextBox->setGeometry(TipBody(place.bubble.size(), place.side).adjusted(1, 1, -1, -1));
+    SetText(text);
+    update();
+    show();
+    raise();
+    m_hideTimer.start(m_iDisplayTime, this);
+    m_pFadeIn->start();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+QSize CTipLabel::BodySize(const QString& text) const
+{
+    m_pTextBox->ensurePolished();
+    const QFontMetrics metrics(m_pTextBox->font());
+    // Below zero it is no room between lines but what rounding the font's heights up has added.
+    const int leading = qMax(0, metrics.leading());
+    return TipBodySize(metrics.boundingRect(text).width(), metrics.lineSpacing(), leading);
+}
+
+/// The text stands in the middle of the box's height. The box was measured without padding and as if every
+/// line were full: where the text would need another line, the padding goes first and then the rule that
+/// words stay whole. Of a box that is a little too low, the room around the letters is left out.
+void CTipLabel::SetText(const QString& text)
+{
+    setAccessibleName(text);
+    m_pTextBox->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_pTextBox->setPlainText(text);
+    const int room = m_pTextBox->height() + RoomAbove + RoomBelow;
+    int padding = WidestPadding;
+    int needed = SetMargins(padding, 0);
+    while (padding > 0 && needed > room)
+        needed = SetMargins(--padding, 0);
+    if (needed > room) {
+        m_pTextBox->setWordWrapMode(QTextOption::WrapAnywhere);
+        needed = SetMargins(0, 0);
+    }
+    SetMargins(padding, qMax(0, (m_pTextBox->height() - needed) / 2));
+    m_pTextBox->verticalScrollBar()->setValue(
+        needed > room ? 0 : qMin(RoomAbove, needed - m_pTextBox->height()));
+}
+
+/// Returns the height that the text needs then.
+int CTipLabel::SetMargins(int beside, int above)
+{
+    QTextDocument* document = m_pTextBox->document();
+    QTextFrameFormat format = document->rootFrame()->frameFormat();
+    format.setLeftMargin(beside);
+    format.setRightMargin(beside);
+    format.setTopMargin(above);
+    document->rootFrame()->setFrameFormat(format);
+    document->setTextWidth(m_pTextBox->width());
+    return static_cast<int>(std::ceil(document->size().height()));
+}
+
+void CTipLabel::SetAnchor(QWidget* anchor)
+{
+    const auto watch = [this](QWidget* widget, bool on) {
+        if (!widget)
+            return;
+        if (on)
+            widget->installEventFilter(this);
+        else
+            widget->removeEventFilter(this);
+    };
+    watch(m_pAnchor, false);
+    watch(m_pAnchorWindow, false);
+    disconnect(m_anchorDestroyed);
+    if (anchor)
+        m_anchorDestroyed = connect(anchor, &QObject::destroyed, this, [this] { HideTip(); });
+    m_pAnchor = anchor;
+    m_pAnchorWindow = anchor ? anchor->window() : nullptr;
+    watch(m_pAnchorWindow, true);
+    watch(m_pAnchor, true);
+}
+
+void CTipLabel::HideTip(const QWidget* anchor)
+{
+    if (anchor && anchor != m_pAnchor)
+        return;
+    m_hideTimer.stop();
+    m_pFadeIn->stop();
+    m_pFadeOut->stop();
+    SetAnchor(nullptr);
+    hide();
+}
+
+void CTipLabel::SetDisplayTime(int milliseconds)
+{
+    if (milliseconds > ShortestDisplayTime)
+        m_iDisplayTime = milliseconds;
+}
+
+void CTipLabel::OnFadeOutFinished() { HideTip(); }
+
+void CTipLabel::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != m_hideTimer.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
+    m_hideTimer.stop();
+    m_pFadeIn->stop();
+    m_pFadeOut->start();
+}
+
+bool CTipLabel::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool windowMoved = watched == m_pAnchorWindow && event->type() == QEvent::Move;
+    if (event->type() == QEvent::Hide || windowMoved)
+        HideTip();
+    return QWidget::eventFilter(watched, event);
+}
+
+void CTipLabel::paintEvent(QPaintEvent*)
+{
+    const auto side = static_cast<DisplayPosition>(m_iDisplayPosition);
+    const QRect body = TipBody(size(), side);
+    QLinearGradient fill(body.topLeft(), body.bottomLeft());
+    for (const double stop : {0.0, 0.5, 1.0})
+        fill.setColorAt(stop, QColor(BodyColor));
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(body, TipCornerRadius, TipCornerRadius);
+    painter.setBrush(QColor(ArrowColor));
+    painter.drawPolygon(TipArrow(size(), side, m_iArrowStart));
+}
+
+} // namespace UICommonMdl

@@ -1,0 +1,83 @@
+#include <UI/FormInputs/KvLineEditWithDirButton.h>
+
+#include <Common/CommonFun.h>
+#include <QStyle>
+#include <QToolButton>
+
+namespace UICommonMdl {
+
+namespace {
+
+constexpr int ButtonSize = 20; // pixels
+
+} // namespace
+
+KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
+    : KvLineEdit(parent)
+    , m_btnDir(new QToolButton(this))
+{
+    m_btnDir->setIcon(style()->standardIcon(QStyle::SP_DirIcon));
+    m_btnDir->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    // Qt skips the last property, which has no hyphen, with a debug message.
+    m_btnDir->setStyleSheet(QStringLiteral("background:transparent;borderstyle:solid;"));
+    m_btnDir->setAutoRaise(true);
+    m_btnDir->setIconSize(QSize(ButtonSize, ButtonSize));
+    m_btnDir->setCursor(Qt::ArrowCursor);
+    m_btnDir->setToolTip(tr("Choose"));
+    m_btnDir->setAccessibleName(tr("Choose a file"));
+    connect(m_btnDir, &QToolButton::clicked, this, &KvLineEditWithDirButton::onDirButtonClicked);
+    setTextMargins(0, 0, ButtonSize, 0);
+    CommonFun::SetStyleSheet(this, QStringLiteral("LineEdit"), QString(), QString());
+}
+
+void KvLineEditWithDirButton::SetOpenFile(QString caption, QString directory, QString filter)
+{
+    m_strCaption = std::move(caption);
+    m_strDirectory = std::move(directory);
+    m_strFilter = std::move(filter);
+}
+
+void KvLineEditWithDirButton::SetSaveFile(QString caption, QString directory, QString filter)
+{
+    SetOpenFile(std::move(caption), std::move(directory), std::move(filter));
+}
+
+void KvLineEditWithDirButton::SetSelectDirectory(
+    QString caption, QString directory, QFileDialog::Option option)
+{
+    m_strCaption = std::move(caption);
+    m_strDirectory = std::move(directory);
+    m_option = option;
+}
+
+void KvLineEditWithDirButton::resizeEvent(QResizeEvent* event)
+{
+    KvLineEdit::resizeEvent(event);
+    QRect place = rect();
+    const int middle = place.center().y();
+    place.setLeft(place.right() - ButtonSize);
+    place.setTop(middle - ButtonSize / 2);
+    place.setBottom(middle + ButtonSize / 2);
+    m_btnDir->setGeometry(place);
+}
+
+QString KvLineEditWithDirButton::AskForPath()
+{
+    switch (m_iDialogMode) {
+    case SaveFile:
+        return QFileDialog::getSaveFileName(this, m_strCaption, m_strDirectory, m_strFilter);
+    case SelectDirectory:
+        return QFileDialog::getExistingDirectory(this, m_strCaption, m_strDirectory, m_option);
+    default:
+        return QFileDialog::getOpenFileName(this, m_strCaption, m_strDirectory, m_strFilter);
+    }
+}
+
+void KvLineEditWithDirButton::onDirButtonClicked()
+{
+    const QString path = AskForPath();
+    if (!path.isEmpty())
+        setText(path);
+}
+
+} // namespace UICommonMdl

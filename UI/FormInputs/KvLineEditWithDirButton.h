@@ -1,0 +1,58 @@
+#pragma once
+
+#include <Platform/BasicUIComponents/KvLineEdit.h>
+
+#include <QFileDialog>
+
+class QToolButton;
+
+namespace UICommonMdl {
+
+/// A line edit for a path, with a folder button inside its right end that fills it from a file dialog.
+///
+/// The button always opens the dialog for opening a file: the three setters store what a dialog needs, and
+/// none of them chooses the kind of dialog.
+class UICOMPONENTS_EXPORT KvLineEditWithDirButton : public KvGUI::KvLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit KvLineEditWithDirButton(QWidget* parent = nullptr);
+
+    /// Stores what the dialog shows.
+    /// @param caption of the dialog
+    /// @param directory that the dialog begins with; a file in it is preselected
+    /// @param filter of names, as QFileDialog takes it: "Pictures (*.png *.jpg);;All files (*)"
+    void SetOpenFile(QString caption, QString directory, QString filter);
+
+    /// Stores the same as SetOpenFile().
+    void SetSaveFile(QString caption, QString directory, QString filter);
+
+    /// Stores the dialog's caption, the folder it begins with, and an option for a folder dialog.
+    void SetSelectDirectory(QString caption, QString directory, QFileDialog::Option option);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private slots:
+    void onDirButtonClicked();
+
+private:
+    enum DialogMode
+    {
+        OpenFile = 0,
+        SaveFile = 1,
+        SelectDirectory = 2
+    };
+
+    QString AskForPath();
+
+    int m_iDialogMode = OpenFile;
+    QString m_strCaption;
+    QString m_strFilter;
+    QString m_strDirectory;
+    QFileDialog::Option m_option = QFileDialog::ShowDirsOnly;
+    QToolButton* m_btnDir;
+};
+
+} // namespace UICommonMdl

@@ -1,0 +1,198 @@
+// The marked line edits, the edit with a folder button and the push buttons.
+
+#include "support/StrictMain.h"
+
+#include <UI/FormInputs/CRequiredEdit.h>
+#include <UI/FormInputs/KvImpPushButton.h>
+#include <UI/FormInputs/KvLineEditEx.h>
+#include <UI/FormInputs/KvLineEditWithDirButton.h>
+#include <UI/FormInputs/WmNoImpPushButton.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QWindow>
+#include <functional>
+
+using namespace UICommonMdl;
+
+namespace {
+
+/// The folder button's file dialog, answered as soon as it is open.
+struct DialogAnswer
+{
+    explicit DialogAnswer(std::function<void(QFileDialog&)> answer)
+        : act(std::move(answer))
+    {
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            timer.stop();
+            ++shown;
+            act(*dialog);
+        });
+        timer.start(20);
+    }
+
+    std::function<void(QFileDialog&)> act;
+    QTimer timer;
+    int shown = 0;
+};
+
+} // namespace
+
+class TestLineEdits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void AsteriskFollowsTheHeight();
+    void MarkerFollowsTheHeight();
+    void ClickOnTheAsteriskEdits();
+    void FolderButtonStaysAtTheEnd_data();
+    void FolderButtonStaysAtTheEnd();
+    void ChosenFileIsTaken();
+    void CancelledDialogChangesNothing();
+    void AlwaysOpensAFile();
+    void ButtonsTakeTheirOwnSheets();
+};
+
+void TestLineEdits::initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+/// Catches an asterisk that keeps the height of the edit's birth.
+void TestLineEdits::AsteriskFollowsTheHeight()
+{
+    CRequiredEdit edit;
+    const auto* symbol = edit.findChild<QLabel*>(QStringLiteral("CRequiredEdit--m_pSymbolRequired"));
+    edit.show();
+    for (const int height : {60, 34}) {
+        edit.resize(200, height);
+        QCOMPARE(symbol->height(), height);
+        QCOMPARE(symbol->pos(), QPoint(5, 0));
+    }
+    QVERIFY(symbol->width() >= 10);
+    QCOMPARE(edit.textMargins(), QMargins(10, 0, 0, 0));
+}
+
+/// The same for the other marked edit.
+void TestLineEdits::MarkerFollowsTheHeight()
+{
+    KvLineEditEx edit;
+    const auto* marker = edit.findChild<QLabel*>();
+    edit.show();
+    for (const int height : {60, 34}) {
+        edit.resize(200, height);
+        QCOMPARE(marker->height(), height);
+        QCOMPARE(marker->pos(), QPoint(5, 0));
+    }
+    QCOMPARE(edit.textMargins(), QMargins(15, 0, 0, 0));
+}
+
+/// Catches a mark that keeps clicks from the edit below it.
+void TestLineEdits::ClickOnTheAsteriskEdits()
+{
+    CRequiredEdit edit;
+    edit.setText(QStringLiteral("abc"));
+    edit.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    QCOMPARE(edit.cursorPosition(), 3);
+    QTest::mouseClick(edit.windowHandle(), Qt::LeftButton, {}, QPoint(7, edit.height() / 2));
+    QCOMPARE(edit.cursorPosition(), 0);
+}
+
+void TestLineEdits::FolderButtonStaysAtTheEnd_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRect>("place");
+    QTest::newRow("usual") << QSize(200, 30) << QRect(179, 4, 21, 21);
+    QTest::newRow("odd height") << QSize(301, 41) << QRect(280, 10, 21, 21);
+    QTest::newRow("lower than the button") << QSize(200, 16) << QRect(179, -3, 21, 21);
+}
+
+/// Catches a button that stays where the edit ended before.
+void TestLineEdits::FolderButtonStaysAtTheEnd()
+{
+    QFETCH(QSize, size);
+    KvLineEditWithDirButton edit;
+    edit.setMinimumSize(1, 1);
+    edit.setStyleSheet(QString());
+    edit.resize(size);
+    edit.show();
+    QTEST(edit.findChild<QToolButton*>()->geometry(), "place");
+}
+
+/// Catches a button without effect, and a caption, folder or filter that does not reach the dialog.
+void TestLineEdits::ChosenFileIsTaken()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("camera.cfg"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    KvLineEditWithDirButton edit;
+    edit.SetOpenFile(QStringLiteral("Camera list"), folder.path(), QStringLiteral("Lists (*.cfg)"));
+    edit.show();
+    DialogAnswer answer([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Camera list"));
+        QCOMPARE(dialog.directory().absolutePath(), folder.path());
+        QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("Lists (*.cfg)")));
+        dialog.selectFile(path);
+        dialog.findChild<QLineEdit*>()->setText(path);
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+    QCOMPARE(answer.shown, 1);
+    QCOMPARE(edit.text(), path);
+}
+
+/// Catches a cancelled dialog that clears the edit.
+void TestLineEdits::CancelledDialogChangesNothing()
+{
+    KvLineEditWithDirButton edit;
+    edit.setText(QStringLiteral("/before"));
+    edit.show();
+    DialogAnswer answer([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QTest::keyClick(edit.findChild<QToolButton*>(), Qt::Key_Space);
+    QCOMPARE(answer.shown, 1);
+    QCOMPARE(edit.text(), QStringLiteral("/before"));
+}
+
+/// Catches a setter that changes the kind of dialog.
+void TestLineEdits::AlwaysOpensAFile()
+{
+    KvLineEditWithDirButton edit;
+    edit.show();
+    DialogAnswer answer([](QFileDialog& dialog) {
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        QCOMPARE(dialog.fileMode(), QFileDialog::ExistingFile);
+        dialog.reject();
+    });
+    edit.SetSaveFile(QStringLiteral("Save"), QDir::tempPath(), QString());
+    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+    answer.timer.start();
+    edit.SetSelectDirectory(QStringLiteral("Folder"), QDir::tempPath(), QFileDialog::ShowDirsOnly);
+    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+    QCOMPARE(answer.shown, 2);
+}
+
+/// Catches buttons styled by their base class's sheet alone.
+void TestLineEdits::ButtonsTakeTheirOwnSheets()
+{
+    const KvGUI::KvPushButton plain(QStringLiteral("Plain"));
+    const KvImpPushButton important(QStringLiteral("Save"));
+    const WmNoImpPushButton other(QIcon(), QStringLiteral("Cancel"));
+    QCOMPARE(important.text(), QStringLiteral("Save"));
+    QCOMPARE(other.text(), QStringLiteral("Cancel"));
+    QVERIFY(important.styleSheet() != plain.styleSheet());
+    QVERIFY(other.styleSheet() != plain.styleSheet());
+    QVERIFY(important.styleSheet() != other.styleSheet());
+}
+
+STRICT_TEST_MAIN(TestLineEdits)
+#include "tst_lineedits.moc"
