@@ -60,3 +60,5 @@ add_test(NAME installed-package
         -P "${CMAKE_CURRENT_SOURCE_DIR}/installed/check.cmake")
 set_tests_properties(installed-package PROPERTIES ENVIRONMENT "${test_environment}")
 uicomponents_test(tst_basicui tst_basicui.cpp INTERNAL)
+uicomponents_test(tst_cutdialogs tst_cutdialogs.cpp INTERNAL)
+uicomponents_test(tst_personimage tst_personimage.cpp)

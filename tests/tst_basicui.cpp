@@ -1,5 +1,6 @@
 #include "support/StrictMain.h"
 
+#include <Common/CommonFun.h>
 #include <Platform/BasicUIComponents/KvCheckBox.h>
 #include <Platform/BasicUIComponents/KvCustomDialog.h>
 #include <Platform/BasicUIComponents/KvHorScrollBar.h>
@@ -114,6 +115,8 @@ private slots:
     void OwnSheetLeavesTheFrame();
     void WidgetsFollowTheSkin_data();
     void WidgetsFollowTheSkin();
+    void OwnSheetsTakeThePlace();
+    void SecondSheetReachesTheChildren();
     void MenuWithAClientsSheetKeepsTheSkin();
     void PaletteLines_data();
     void PaletteLines();
@@ -450,6 +453,42 @@ void TestBasicUi::WidgetsFollowTheSkin()
     QVERIFY(white != black);
     KvGUI::SetSkinVersion(kBlack);
     QCOMPARE(look(), black);
+}
+
+/// Catches a base class's look that comes over a client's own sheet, at first or with the next skin.
+void TestBasicUi::OwnSheetsTakeThePlace()
+{
+    const QString own = QStringLiteral("QPushButton { color: red }");
+    KvPushButton before(QStringLiteral("OK"));
+    before.setStyleSheet(own);
+    before.ensurePolished();
+    QCOMPARE(before.styleSheet(), own);
+    KvPushButton after(QStringLiteral("OK"));
+    after.ensurePolished();
+    QVERIFY(!after.styleSheet().isEmpty());
+    after.setStyleSheet(own);
+    KvGUI::SetSkinVersion(kWhite);
+    QCOMPARE(before.styleSheet(), own);
+    QCOMPARE(after.styleSheet(), own);
+    before.setStyleSheet(QString()); // back to the library's
+    KvGUI::SetSkinVersion(kBlack);
+    QVERIFY(!before.styleSheet().isEmpty());
+}
+
+/// Catches a dialog in the look of its base class: Qt does not parse a second sheet by itself when children
+/// have asked for the first before the dialog is shown.
+void TestBasicUi::SecondSheetReachesTheChildren()
+{
+    QWidget widget;
+    UICommonMdl::CommonFun::SetStyleSheet(
+        &widget, QStringLiteral("BasicUIComponents"), QStringLiteral("KvMenu.css"), QString());
+    QLabel label(QStringLiteral("x"), &widget);
+    label.setObjectName(QStringLiteral("hint"));
+    label.ensurePolished();
+    UICommonMdl::CommonFun::SetStyleSheet(
+        &widget, QStringLiteral("CutPhotoWnd"), QStringLiteral("CCutPhotoDlg.qss"), QString());
+    widget.show();
+    QCOMPARE(label.font().pixelSize(), 12);
 }
 
 /// Catches a light menu in the dark skin: the crop canvas gives its menu a sheet for the chosen item only.

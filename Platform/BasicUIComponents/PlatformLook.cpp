@@ -36,7 +36,7 @@ void ReadColour(const QString& line, QPalette& palette)
 
 void UsePlatformSheet(QWidget* widget, const QString& fileName)
 {
-    StyledWidgets::Instance().Apply(widget, {SubDir(), fileName, QString()});
+    StyledWidgets::Instance().ApplyBase(widget, {SubDir(), fileName, QString()});
 }
 
 void UseSkinPalette(QWidget* widget)

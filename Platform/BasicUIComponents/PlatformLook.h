@@ -6,9 +6,10 @@
 class QWidget;
 
 /// The look of the widgets of this folder. Each calls one of these functions in its constructor and
-/// follows the skin from then on; a subclass's own sheet replaces the one of its base class.
+/// follows the skin from then on.
 
-/// Gives @p widget the sheet "BasicUIComponents/<fileName>" of the skin, now and after each change of skin.
+/// Gives @p widget the sheet "BasicUIComponents/<fileName>" of the skin when it is polished and after each
+/// change of skin, unless it has been given another: a subclass's or a client's own sheet takes its place.
 void UsePlatformSheet(QWidget* widget, const QString& fileName);
 
 /// Gives @p widget the palette of the skin, now and after each change of skin, so that it keeps the skin's

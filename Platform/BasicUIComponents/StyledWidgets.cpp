@@ -1,8 +1,9 @@
 #include <Platform/BasicUIComponents/StyledWidgets.h>
 
+#include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <Platform/BasicUIComponents/SkinPath.h>
 #include <Platform/BasicUIComponents/StyleSheets.h>
-#include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <QEvent>
 #include <iterator>
 
 QString StyleSheetText(const StyleSheetSource& source)
@@ -14,6 +15,20 @@ QString StyleSheetText(const StyleSheetSource& source)
         : SkinResourcePath(FirstSegment(source.module), source.module, source.subDir);
     return StyleSheetText(source.fileName, folder);
 }
+
+namespace {
+
+void SetSheet(QWidget* widget, const QString& text)
+{
+    if (text == widget->styleSheet())
+        return;
+    // Qt does not parse a second sheet where children have asked for the first before the widget is polished.
+    if (!widget->styleSheet().isEmpty())
+        widget->ensurePolished();
+    widget->setStyleSheet(text);
+}
+
+} // namespace
 
 StyledWidgets& StyledWidgets::Instance()
 {
@@ -28,19 +43,42 @@ StyledWidgets::StyledWidgets()
         &StyledWidgets::RestyleAll);
 }
 
-void StyledWidgets::Apply(QWidget* widget, const StyleSheetSource& source)
+StyledWidgets::Styling& StyledWidgets::StylingOf(QWidget* widget)
 {
     Styling& styling = m_stylings[widget];
     // Also after a client's widget->disconnect(): then the note of a dead widget may stand at this address.
     if (styling.widget.isNull()) {
-        styling = {widget, {}};
+        styling = {widget, {}, {}, {}};
         connect(widget, &QObject::destroyed, this, [this](QObject* gone) { m_stylings.remove(gone); });
     }
-    styling.sources.removeOne(source);
-    styling.sources.append(source);
+    return styling;
+}
+
+void StyledWidgets::Apply(QWidget* widget, const StyleSheetSource& source)
+{
+    QVector<StyleSheetSource>& sources = StylingOf(widget).sources;
+    sources.removeOne(source);
+    sources.append(source);
     const QString text = StyleSheetText(source);
     if (!text.isEmpty())
-        widget->setStyleSheet(text);
+        SetSheet(widget, text);
+}
+
+void StyledWidgets::ApplyBase(QWidget* widget, const StyleSheetSource& source)
+{
+    StylingOf(widget).base = {source};
+    widget->installEventFilter(this);
+}
+
+bool StyledWidgets::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Polish) {
+        watched->removeEventFilter(this);
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (widget != nullptr && widget->styleSheet().isEmpty())
+            Restyle(widget);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void StyledWidgets::Forget(QWidget* widget)
@@ -64,15 +102,26 @@ void StyledWidgets::RestyleAll()
     }
 }
 
-void StyledWidgets::Restyle(QWidget* widget) const
+void StyledWidgets::Restyle(QWidget* widget)
 {
-    const QVector<StyleSheetSource> sources = m_stylings.value(widget).sources;
-    for (auto source = sources.crbegin(); source != sources.crend(); ++source) {
+    const auto found = m_stylings.find(widget);
+    if (found == m_stylings.end())
+        return;
+    Styling& styling = *found;
+    for (auto source = styling.sources.crbegin(); source != styling.sources.crend(); ++source) {
         const QString text = StyleSheetText(*source);
         if (text.isEmpty())
             continue;
-        if (text != widget->styleSheet())
-            widget->setStyleSheet(text);
+        SetSheet(widget, text);
         return;
     }
+    // A sheet that the client set by hand stays.
+    if (styling.base.isEmpty()
+        || (!widget->styleSheet().isEmpty() && widget->styleSheet() != styling.baseText))
+        return;
+    const QString text = StyleSheetText(styling.base.first());
+    if (text.isEmpty())
+        return;
+    styling.baseText = text;
+    SetSheet(widget, text);
 }

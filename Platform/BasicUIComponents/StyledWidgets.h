@@ -34,8 +34,17 @@ public:
     /// Gives @p widget the sheet of @p source when there is one, and notes the source in any case.
     void Apply(QWidget* widget, const StyleSheetSource& source);
 
+    /// Notes the sheet that @p widget has while it is given no other, by Apply() or by hand.
+    ///
+    /// For base classes: the sheet is set when the widget is polished, just before it is shown. A subclass
+    /// that styles itself in its constructor so costs one sheet and not two.
+    void ApplyBase(QWidget* widget, const StyleSheetSource& source);
+
     /// The widget no longer follows the skin.
     void Forget(QWidget* widget);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Styling
@@ -44,11 +53,14 @@ private:
         /// What it was given, each once, in the order of the calls. Of those that a skin has, the last
         /// counts: a subclass's own sheet before its base class's.
         QVector<StyleSheetSource> sources;
+        QVector<StyleSheetSource> base; ///< one or none
+        QString baseText; ///< the text of `base` that was set last
     };
 
     StyledWidgets();
+    Styling& StylingOf(QWidget* widget);
     void RestyleAll();
-    void Restyle(QWidget* widget) const;
+    void Restyle(QWidget* widget);
 
     QHash<QObject*, Styling> m_stylings;
 };

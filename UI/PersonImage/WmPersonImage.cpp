@@ -1,0 +1,157 @@
+#include <UI/PersonImage/WmPersonImage.h>
+
+#include <Common/CommonFun.h>
+
+#include <QPushButton>
+#include <QResizeEvent>
+
+namespace UICommonMdl {
+
+namespace {
+
+constexpr int kStripHeight = 20;
+constexpr int kMargin = 1; // left and right of a strip
+
+constexpr int kAvatar = 1;
+constexpr int kFirstFace = 2;
+
+QSize StripSize(const QWidget* panel) { return {qMax(0, panel->width() - 2 * kMargin), kStripHeight}; }
+
+/// Enabled is the mark of a child that is in use.
+void SetInUse(QWidget* child, bool bInUse)
+{
+    child->setEnabled(bInUse);
+    if (!bInUse)
+        child->hide();
+}
+
+} // namespace
+
+WmPersonImage::WmPersonImage(QWidget* parent)
+    : QLabel(parent)
+    , m_btnUpLoad(AddButton("m_btnUpLoad", tr("Upload Pic"), &WmPersonImage::SignalClickUploadPicBtn))
+    , m_btnCapture(AddButton("m_btnCapture", tr("CameraCaptchPicture"), &WmPersonImage::SignalCameraBtnClick))
+    , m_btnVistorCapture(
+          AddButton("m_btnVistorCapture", tr("ACHCaptchPicture"), &WmPersonImage::SignalVistorSnapBtnClick))
+    , m_btnIDCard(AddButton("m_btnIDCard", tr("ID card reading"), &WmPersonImage::SignalIDCardBtnClick))
+    , m_btnPhotoDelete(AddButton("m_btnPhotoDelete", tr("Delete"), &WmPersonImage::SignalDeleteBtnClick))
+    , m_btnTurnPage(AddButton("m_btnTurnPage", tr("Next Picture"), &WmPersonImage::SignalTurnPageBtnClick))
+    , m_lbAvatarOrFace(new QLabel(this))
+{
+    setObjectName(QStringLiteral("WmPersonImage"));
+    m_lbAvatarOrFace->setObjectName(QStringLiteral("m_lbAvatarOrFace"));
+    m_lbAvatarOrFace->setAlignment(Qt::AlignCenter);
+    m_lbAvatarOrFace->setFixedSize(StripSize(this));
+    CommonFun::SetStyleSheet(this, QStringLiteral("PersonImage"), QString(), QString());
+    SetPhotoBtnVisible(false);
+}
+
+QPushButton* WmPersonImage::AddButton(const char* name, const QString& text, void (WmPersonImage::*clicked)())
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setCursor(Qt::PointingHandCursor);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setFixedSize(StripSize(this));
+    connect(button, &QPushButton::clicked, this, clicked);
+    return button;
+}
+
+void WmPersonImage::SetShowUpLoadButton(bool bShow) { SetInUse(m_btnUpLoad, bShow); }
+
+void WmPersonImage::SetShowCaptureButton(bool bShow) { SetInUse(m_btnCapture, bShow); }
+
+void WmPersonImage::SetShowVistorCaptureButton(bool bShow) { SetInUse(m_btnVistorCapture, bShow); }
+
+void WmPersonImage::SetShowIDCardButton(bool bShow) { SetInUse(m_btnIDCard, bShow); }
+
+void WmPersonImage::SetShowDeleteButton(bool bShow) { SetInUse(m_btnPhotoDelete, bShow); }
+
+void WmPersonImage::SetShowTurnPageButton(bool bShow) { SetInUse(m_btnTurnPage, bShow); }
+
+void WmPersonImage::SetShowAvatarOrFaceLabel(bool bShow, int type)
+{
+    m_iCaptionType = type;
+    if (type == kAvatar)
+        m_lbAvatarOrFace->setText(tr("Avatar"));
+    else // the numbers are one below the types
+        m_lbAvatarOrFace->setText(tr("Face") + QLatin1String(type == kFirstFace ? "1" : "2"));
+    SetInUse(m_lbAvatarOrFace, bShow);
+}
+
+int WmPersonImage::CaptionType() const { return m_iCaptionType; }
+
+void WmPersonImage::RefreshUIButton()
+{
+    m_bSecondPage = !m_bSecondPage;
+    m_btnTurnPage->setText(m_bSecondPage ? tr("Previous Picture") : tr("Next Picture"));
+    SetPhotoBtnVisible(true);
+    repaint();
+}
+
+void WmPersonImage::ResetUI()
+{
+    m_bSecondPage = false;
+    m_btnTurnPage->setText(tr("Next Picture"));
+}
+
+void WmPersonImage::SetPhotoBtnAlwaysShow(bool bAlways)
+{
+    if (m_bAlwaysShow == bAlways)
+        return;
+    m_bAlwaysShow = bAlways;
+    SetPhotoBtnVisible(bAlways);
+}
+
+void WmPersonImage::SetPhotoBtnVisible(bool bVisible)
+{
+    QWidget* const children[] = {m_btnUpLoad,      m_btnCapture,  m_btnVistorCapture, m_btnIDCard,
+                                 m_btnPhotoDelete, m_btnTurnPage, m_lbAvatarOrFace};
+    for (QWidget* child : children)
+        child->setVisible(bVisible && child->isEnabledTo(this));
+    SetButtonSize();
+}
+
+void WmPersonImage::SetButtonSize()
+{
+    QWidget* const stack[] = {m_btnPhotoDelete, m_btnUpLoad, m_btnCapture, m_btnVistorCapture, m_btnIDCard};
+    int used = 0;
+    for (QWidget* button : stack) {
+        if (!button->isEnabledTo(this))
+            continue;
+        button->setFixedSize(StripSize(this));
+        button->move(kMargin, height() - button->height() - used);
+        used += button->height();
+    }
+    if (m_btnTurnPage->isEnabledTo(this)) {
+        m_btnTurnPage->setFixedSize(width() / 4, kStripHeight);
+        m_btnTurnPage->move(width() * 3 / 4, 0);
+    }
+    if (m_lbAvatarOrFace->isEnabledTo(this)) {
+        m_lbAvatarOrFace->setFixedSize(StripSize(this));
+        m_lbAvatarOrFace->move(kMargin, 0);
+    }
+}
+
+void WmPersonImage::enterEvent(QEvent* event)
+{
+    if (!m_bAlwaysShow)
+        SetPhotoBtnVisible(true);
+    // Not enterEvent(): the base class treats the pointer as gone.
+    QLabel::leaveEvent(event);
+}
+
+void WmPersonImage::leaveEvent(QEvent* event)
+{
+    if (!m_bAlwaysShow)
+        SetPhotoBtnVisible(false);
+    QLabel::leaveEvent(event);
+}
+
+void WmPersonImage::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    SetButtonSize();
+}
+
+} // namespace UICommonMdl

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <QLabel>
+#include <UIComponentsExport.h>
+
+class QPushButton;
+
+namespace UICommonMdl {
+
+/// The picture box of a person record: the person's photo, with slim buttons over it.
+///
+/// The panel shows what it is given and tells which button was clicked; the client does the work:
+/// @code
+///     auto* photo = new UICommonMdl::WmPersonImage(this);
+///     photo->setFixedSize(150, 200);
+///     photo->setPixmap(picture);
+///     photo->SetShowVistorCaptureButton(false);
+///     connect(photo, &UICommonMdl::WmPersonImage::SignalClickUploadPicBtn, this, &MyRecord::UploadPicture);
+/// @endcode
+///
+/// The buttons stack upwards from the lower edge, "Delete" lowest; the page button is at the top right and
+/// the caption at the top. They are there while the pointer is over the picture, or always with
+/// SetPhotoBtnAlwaysShow(). A button that is switched off is never shown and takes no room. The buttons
+/// take no keyboard focus: offer their actions by keyboard elsewhere, or by the shortcuts of QAction.
+///
+/// A slot may delete the panel.
+class UICOMPONENTS_EXPORT WmPersonImage : public QLabel
+{
+    Q_OBJECT
+    /// The type that the caption was set with, for style sheets; 0 until it is set.
+    Q_PROPERTY(int captionType READ CaptionType)
+
+public:
+    /// Makes a panel with all buttons and the caption switched on, and hidden.
+    explicit WmPersonImage(QWidget* parent = nullptr);
+
+    /// @name Which buttons are in use
+    ///
+    /// A button that is switched off is hidden and disabled. One that is switched on again appears with the
+    /// next hover.
+    /// @{
+    void SetShowUpLoadButton(bool bShow);
+    void SetShowCaptureButton(bool bShow);
+    void SetShowVistorCaptureButton(bool bShow);
+    void SetShowIDCardButton(bool bShow);
+    void SetShowDeleteButton(bool bShow);
+    void SetShowTurnPageButton(bool bShow);
+    /// @}
+
+    /// Sets the caption.
+    /// @param type 1 "Avatar", 2 "Face1", any other "Face2"
+    void SetShowAvatarOrFaceLabel(bool bShow, int type);
+    int CaptionType() const;
+
+    /// Turns the page: the page button offers the previous picture, or again the next one. Shows the
+    /// buttons.
+    void RefreshUIButton();
+
+    /// Back to the first page: the page button offers the next picture.
+    void ResetUI();
+
+    /// Shows the buttons whether or not the pointer is over the picture, or no longer. At first not.
+    void SetPhotoBtnAlwaysShow(bool bAlways);
+
+    /// Shows or hides the buttons in use, until the pointer comes or goes; the others are hidden.
+    void SetPhotoBtnVisible(bool bVisible);
+
+    /// Lays the buttons out for the panel's present size; called by each resize.
+    void SetButtonSize();
+
+signals:
+    void SignalClickUploadPicBtn();
+    void SignalCameraBtnClick();
+    void SignalVistorSnapBtnClick();
+    void SignalIDCardBtnClick();
+    void SignalDeleteBtnClick();
+    void SignalTurnPageBtnClick();
+
+protected:
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QPushButton* AddButton(const char* name, const QString& text, void (WmPersonImage::*clicked)());
+
+    QPushButton* m_btnUpLoad;
+    QPushButton* m_btnCapture;
+    QPushButton* m_btnVistorCapture;
+    QPushButton* m_btnIDCard;
+    QPushButton* m_btnPhotoDelete;
+    QPushButton* m_btnTurnPage;
+    QLabel* m_lbAvatarOrFace;
+    int m_iCaptionType = 0;
+    bool m_bSecondPage = false;
+    bool m_bAlwaysShow = false;
+};
+
+} // namespace UICommonMdl

@@ -1,0 +1,571 @@
+// The crop dialogs as a client and an operator use them: real modal loops, real mouse and key events.
+
+#include "support/CropCanvas.h"
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/KvMessageNotify.h>
+#include <Platform/BasicUIComponents/KvPushButton.h>
+#include <QtTest>
+#include <UI/CutPhoto/CComTipWiget.h>
+#include <UI/CutPhoto/CComTipWigetWithZoom.h>
+#include <UI/CutPhoto/CCutDetailPhoto.h>
+#include <UI/CutPhoto/CCutPhotoDlg.h>
+#include <UI/CutPhoto/CCutPhotoDlgWithZoom.h>
+#include <UI/CutPhoto/CCutPhotoWithZoom.h>
+#include <UI/CutPhoto/CutPhotoForm.h>
+#include <functional>
+#include <memory>
+
+using namespace UICommonMdl;
+
+namespace {
+
+constexpr QSize kPhoto(1600, 1040); // twice the canvas that a dialog has at first
+constexpr int kLoadTime = 60; // milliseconds; longer than a dialog takes to read its picture
+
+/// A photo in four colours, one a quarter.
+QImage Quarters()
+{
+    QImage image(kPhoto, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QSize half = kPhoto / 2;
+    painter.fillRect(QRect(QPoint(), half), Qt::red);
+    painter.fillRect(QRect(QPoint(half.width(), 0), half), Qt::green);
+    painter.fillRect(QRect(QPoint(0, half.height()), half), Qt::blue);
+    painter.fillRect(QRect(QPoint(half.width(), half.height()), half), Qt::white);
+    return image;
+}
+
+QImage Noise(const QSize& size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    QRandomGenerator random(7);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, random.generate() | 0xff000000U);
+    }
+    return image;
+}
+
+int JpegSize(const QImage& image, int quality)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "JPG", quality);
+    return bytes.size();
+}
+
+void Drag(QWidget* canvas, const QPoint& from, const QPoint& to)
+{
+    QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, from);
+    for (const QPoint& at : {(from + to) / 2, to}) {
+        QMouseEvent move(
+            QEvent::MouseMove, at, canvas->mapToGlobal(at), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(canvas, &move);
+    }
+    QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+std::unique_ptr<CCutPhotoDlgWithZoom> ZoomDialog(QWidget* parent = nullptr)
+{
+    TestSupport::AnnounceCropCanvases();
+    return std::make_unique<CCutPhotoDlgWithZoom>(parent);
+}
+
+/// Runs @p act when the loop of @p dialog runs and its picture is there; gives the loop's result.
+template <typename Dialog>
+int ExecAnd(Dialog* dialog, const std::function<void()>& act)
+{
+    QTimer::singleShot(kLoadTime, dialog, act);
+    return dialog->exec();
+}
+
+/// Opens the search menu and chooses its item @p index, counted without the separator.
+void ChooseInMenu(QWidget* canvas, int index)
+{
+    QTimer::singleShot(kLoadTime, [index] {
+        QWidget* menu = QApplication::activePopupWidget();
+        QVERIFY(menu != nullptr);
+        for (int i = 0; i <= index; ++i)
+            QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::mousePress(canvas, Qt::RightButton, Qt::NoModifier, canvas->rect().center());
+}
+
+QString Message()
+{
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String("kvNotification") && widget->isVisible())
+            return widget->accessibleName();
+    }
+    return QString();
+}
+
+} // namespace
+
+class TestCutDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void Resolution_data();
+    void Resolution();
+    void WildResolutions();
+    void FirstSizeNeedsNoScrollBars();
+    void HintNeverCoversButtons_data();
+    void HintNeverCoversButtons();
+    void PictureIsReadAfterLayout();
+    void PictureInMemoryStays();
+    void EnterAcceptsTheCut();
+    void SavedCutKeepsTheLimit();
+    void OkWithoutAFrameStaysOpen_data();
+    void OkWithoutAFrameStaysOpen();
+    void WaysToReject_data();
+    void WaysToReject();
+    void SearchAccepts_data();
+    void SearchAccepts();
+    void SearchWithoutAPictureStaysOpen();
+    void CancelInTheMenuStaysOpen();
+    void SlotDeletesTheDialog_data();
+    void SlotDeletesTheDialog();
+    void ParentDestroyedBeforeThePictureIsRead();
+    void FollowedScrollValues_data();
+    void FollowedScrollValues();
+    void DragScrollsTheCanvas();
+    void BubbleFitsItsText_data();
+    void BubbleFitsItsText();
+    void BubbleLetsThePointerThrough();
+
+private:
+    QTemporaryDir m_folder;
+    QString m_photo;
+};
+
+void TestCutDialogs::initTestCase()
+{
+    m_photo = m_folder.filePath(QStringLiteral("photo.png"));
+    QVERIFY(Quarters().save(m_photo));
+}
+
+void TestCutDialogs::cleanup() { KvGUI::KvMessageNotify::Instance()->CloseAll(); }
+
+void TestCutDialogs::Resolution_data()
+{
+    QTest::addColumn<QSize>("canvas");
+    QTest::addColumn<QSize>("dialog");
+    QTest::newRow("wider than high") << QSize(800, 600) << QSize(800, 600);
+    QTest::newRow("higher than wide") << QSize(400, 600) << QSize(906, 680);
+    QTest::newRow("as wide as high and 80") << QSize(480, 400) << QSize(640, 480);
+    QTest::newRow("one pixel wider") << QSize(481, 400) << QSize(481, 360);
+    QTest::newRow("4:3 with the bars") << QSize(960, 640) << QSize(960, 720);
+}
+
+/// Catches another order of the steps, rounding, and bottom items placed by the old size.
+void TestCutDialogs::Resolution()
+{
+    QFETCH(QSize, canvas);
+    QFETCH(QSize, dialog);
+    const auto zoom = ZoomDialog();
+    CCutPhotoDlg plain;
+    const auto check = [&](auto& tested) {
+        tested.SetPhotoResolution(canvas.width(), canvas.height());
+        QCOMPARE(tested.size(), dialog);
+        auto* container = tested.template findChild<QWidget*>(QStringLiteral("canvasContainer"));
+        QCOMPARE(container->size(), canvas);
+        const auto place = [&](const char* name) {
+            return tested.template findChild<QLabel*>(QLatin1String(name))->mapTo(&tested, QPoint());
+        };
+        QCOMPARE(place("hintSign"), QPoint(20, dialog.height() - 45));
+        QCOMPARE(place("hint"), QPoint(42, dialog.height() - 45));
+        tested.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&tested));
+        QCOMPARE(tested.size(), dialog);
+        QCOMPARE(tested.GetCanvas()->size(), canvas);
+    };
+    check(*zoom);
+    check(plain);
+}
+
+/// Catches arithmetic that overflows and sizes below zero.
+void TestCutDialogs::WildResolutions()
+{
+    CCutPhotoDlg dialog;
+    const int most = std::numeric_limits<int>::max();
+    const int least = std::numeric_limits<int>::min();
+    for (const QSize& size : {QSize(most, most), QSize(least, least), QSize(most, least), QSize(-1, 0)}) {
+        dialog.SetPhotoResolution(size.width(), size.height());
+        QVERIFY(dialog.width() > 0 && dialog.height() > 0);
+    }
+}
+
+/// Catches bars that take more of the height than the dialog allows for: the photo would have to be
+/// scrolled by a few pixels.
+void TestCutDialogs::FirstSizeNeedsNoScrollBars()
+{
+    CCutPhotoDlg dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const auto* area = dialog.findChild<QScrollArea*>();
+    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(area->verticalScrollBar()->maximum(), 0);
+    QCOMPARE(dialog.GetCanvas()->size(), area->viewport()->size());
+}
+
+void TestCutDialogs::HintNeverCoversButtons_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("wide") << 800 << true;
+    QTest::newRow("narrow") << 500 << false;
+}
+
+/// Catches a hint over the buttons of a narrow dialog, and one that stays away.
+void TestCutDialogs::HintNeverCoversButtons()
+{
+    QFETCH(int, width);
+    QFETCH(bool, shown);
+    CCutPhotoDlg dialog;
+    dialog.SetPhotoResolution(width, width * 3 / 4 - 80);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const auto* hint = dialog.findChild<QLabel*>(QStringLiteral("hint"));
+    QVERIFY(hint->width() >= 500);
+    QCOMPARE(hint->isVisible(), shown);
+    const KvGUI::KvPushButton* ok = dialog.GetButton(QDialogButtonBox::Ok);
+    QVERIFY(!shown || hint->geometry().right() < ok->mapTo(&dialog, QPoint()).x());
+    QVERIFY(!shown || hint->heightForWidth(hint->width()) <= hint->height());
+}
+
+/// Catches a picture that is read before the dialog has its size: the canvas would stretch it over another.
+void TestCutDialogs::PictureIsReadAfterLayout()
+{
+    CCutPhotoDlg dialog;
+    dialog.SetSrcPhoto(m_photo);
+    QVERIFY(!dialog.GetCutPhoto().bHasImage);
+    ExecAnd(&dialog, [&] {
+        QCOMPARE(dialog.GetCutPhoto().strFilePath, m_photo);
+        const QImage shown = dialog.GetCanvas()->grab().toImage();
+        QCOMPARE(shown.pixelColor(shown.width() - 20, shown.height() - 20), QColor(Qt::white));
+        dialog.reject();
+    });
+}
+
+/// Catches the late reading of no file that clears the picture which the client has handed over.
+void TestCutDialogs::PictureInMemoryStays()
+{
+    const auto dialog = ZoomDialog();
+    QTimer::singleShot(0, dialog.get(), [&] { dialog->GetCanvas()->SetSrcImage(Quarters()); });
+    ExecAnd(dialog.get(), [&] {
+        QVERIFY(dialog->GetCutPhoto().bHasImage);
+        dialog->reject();
+    });
+}
+
+/// Catches an Enter key that does not end the dialog, and a dialog that gives back the whole photo.
+void TestCutDialogs::EnterAcceptsTheCut()
+{
+    const auto zoom = ZoomDialog();
+    CCutPhotoDlg plain;
+    const auto check = [&](auto& dialog) {
+        dialog.SetSrcPhoto(m_photo);
+        const int result = ExecAnd(&dialog, [&] {
+            Drag(dialog.GetCanvas(), QPoint(20, 280), QPoint(380, 480)); // in the lower left quarter
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        QCOMPARE(result, int(QDialog::Accepted));
+        const QImage cut = dialog.GetCutPhoto().image;
+        QVERIFY(qAbs(cut.width() - 720) <= 2 && qAbs(cut.height() - 400) <= 2);
+        for (const QPoint& corner : {QPoint(0, 0), QPoint(cut.width() - 1, cut.height() - 1)})
+            QCOMPARE(cut.pixelColor(corner), QColor(Qt::blue));
+    };
+    check(*zoom);
+    check(plain);
+    QCOMPARE(zoom->GetSavePictureType(), 0);
+}
+
+/// Catches limits that do not reach the canvas, and a quality that belongs to another picture.
+void TestCutDialogs::SavedCutKeepsTheLimit()
+{
+    const QString noise = m_folder.filePath(QStringLiteral("noise.png"));
+    QVERIFY(Noise(QSize(640, 480)).save(noise));
+    CCutPhotoDlg dialog;
+    dialog.SetSrcPhoto(noise);
+    dialog.SetImageMaxCapacity(20000);
+    dialog.SetPicMaxSize(320, 320);
+    dialog.SetKeepAspectRatio(true);
+    const int result = ExecAnd(&dialog, [&] { dialog.OnBtnOkClicked(); });
+    QCOMPARE(result, int(QDialog::Accepted));
+    const QImage cut = dialog.GetCutPhoto().image;
+    QCOMPARE(cut.size(), QSize(320, 240));
+    const int quality = dialog.GetCanvas()->GetCompressRatio();
+    QVERIFY(quality > 0 && quality < 90);
+    QVERIFY(JpegSize(cut, quality) <= 20000);
+}
+
+void TestCutDialogs::OkWithoutAFrameStaysOpen_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("nothing framed") << QString();
+    QTest::newRow("unreadable picture") << m_folder.filePath(QStringLiteral("none.png"));
+    QTest::newRow("no picture") << m_folder.path();
+}
+
+/// Catches a dialog that is accepted without a cut, and an operator who is not told why it is not.
+void TestCutDialogs::OkWithoutAFrameStaysOpen()
+{
+    QFETCH(QString, path);
+    const auto zoom = ZoomDialog();
+    CCutPhotoDlg plain;
+    const auto check = [&](auto& dialog) {
+        dialog.SetSrcPhoto(path);
+        const int result = ExecAnd(&dialog, [&] {
+            QTest::mouseClick(dialog.GetButton(QDialogButtonBox::Ok), Qt::LeftButton);
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(Message(), QStringLiteral("Please select a valid area to cut."));
+            KvGUI::KvMessageNotify::Instance()->CloseAll();
+            dialog.reject();
+        });
+        QCOMPARE(result, int(QDialog::Rejected));
+    };
+    check(*zoom);
+    check(plain);
+}
+
+void TestCutDialogs::WaysToReject_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"Cancel", "Escape", "title bar", "canvas"})
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+/// Catches a way out that does nothing or that accepts.
+void TestCutDialogs::WaysToReject()
+{
+    QFETCH(QString, way);
+    const auto dialog = ZoomDialog();
+    dialog->SetSrcPhoto(m_photo);
+    const int result = ExecAnd(dialog.get(), [&] {
+        if (way == QLatin1String("Cancel"))
+            QTest::mouseClick(dialog->GetButton(QDialogButtonBox::Cancel), Qt::LeftButton);
+        else if (way == QLatin1String("Escape"))
+            QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        else if (way == QLatin1String("title bar"))
+            QTest::mouseClick(
+                dialog->findChild<QWidget*>(QStringLiteral("kvDialogCloseButton")), Qt::LeftButton);
+        else
+            dialog->GetCanvas()->OnKeyPressed();
+    });
+    QCOMPARE(result, int(QDialog::Rejected));
+}
+
+void TestCutDialogs::SearchAccepts_data()
+{
+    QTest::addColumn<int>("item");
+    QTest::addColumn<int>("type");
+    QTest::newRow("vehicle") << 0 << 1;
+    QTest::newRow("face") << 1 << 2;
+    QTest::newRow("human body") << 2 << 3;
+}
+
+/// Catches crossed types, and a choice in the menu that does not end the dialog.
+void TestCutDialogs::SearchAccepts()
+{
+    QFETCH(int, item);
+    QFETCH(int, type);
+    const auto dialog = ZoomDialog();
+    dialog->SetSrcPhoto(m_photo);
+    const int result = ExecAnd(dialog.get(), [&] {
+        Drag(dialog->GetCanvas(), QPoint(100, 100), QPoint(300, 200));
+        ChooseInMenu(dialog->GetCanvas(), item);
+    });
+    QCOMPARE(result, int(QDialog::Accepted));
+    QCOMPARE(dialog->GetSavePictureType(), type);
+}
+
+/// Catches a search that is forgotten, or accepted without a cut.
+void TestCutDialogs::SearchWithoutAPictureStaysOpen()
+{
+    const auto dialog = ZoomDialog();
+    ExecAnd(dialog.get(), [&] {
+        ChooseInMenu(dialog->GetCanvas(), 1);
+        QTRY_COMPARE(dialog->GetSavePictureType(), 2);
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(Message(), QStringLiteral("Please select a valid area to cut."));
+        dialog->reject();
+    });
+}
+
+/// Catches the menu's "Cancel" that closes the dialog or counts as a search.
+void TestCutDialogs::CancelInTheMenuStaysOpen()
+{
+    const auto dialog = ZoomDialog();
+    dialog->SetSrcPhoto(m_photo);
+    ExecAnd(dialog.get(), [&] {
+        Drag(dialog->GetCanvas(), QPoint(100, 100), QPoint(300, 200));
+        ChooseInMenu(dialog->GetCanvas(), 3);
+        QTest::qWait(kLoadTime);
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(dialog->GetSavePictureType(), 0);
+        dialog->reject();
+    });
+}
+
+void TestCutDialogs::SlotDeletesTheDialog_data()
+{
+    QTest::addColumn<QString>("signal");
+    for (const char* signal : {"search", "accepted", "drag"})
+        QTest::newRow(signal) << QString::fromLatin1(signal);
+}
+
+/// Catches any use of the dialog or its canvas after a slot of the client deleted the dialog.
+void TestCutDialogs::SlotDeletesTheDialog()
+{
+    QFETCH(QString, signal);
+    CCutPhotoDlgWithZoom* zoom = ZoomDialog().release();
+    const QPointer<QDialog> zoomGuard(zoom);
+    auto* plain = new CCutPhotoDlg;
+    const QPointer<QDialog> plainGuard(plain);
+    plain->SetSrcPhoto(m_photo);
+    if (signal == QLatin1String("search")) {
+        // Before the dialog's own slot, by a canvas that is asked first.
+        zoom->GetCanvas()->disconnect(zoom);
+        connect(zoom->GetCanvas(), &CCutPhotoWithZoom::SignClickFaceSearch, this, [=] { delete zoom; });
+        ExecAnd(zoom, [=] { ChooseInMenu(zoom->GetCanvas(), 1); });
+        QVERIFY(zoomGuard.isNull());
+    } else if (signal == QLatin1String("accepted")) {
+        connect(plain, &QDialog::accepted, this, [=] { delete plain; });
+        ExecAnd(plain, [=] { QTest::keyPress(plain, Qt::Key_Return); });
+        QVERIFY(plainGuard.isNull());
+    } else {
+        connect(plain->GetCanvas(), &CCutDetailPhoto::SignalUpdateCutRect, this, [=] { delete plain; });
+        ExecAnd(plain, [=] {
+            QWidget* canvas = plain->GetCanvas();
+            QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+            QMouseEvent move(
+                QEvent::MouseMove, QPoint(60, 60), canvas->mapToGlobal(QPoint(60, 60)), Qt::NoButton,
+                Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(canvas, &move);
+        });
+        QVERIFY(plainGuard.isNull());
+    }
+    delete zoomGuard;
+    delete plainGuard;
+}
+
+/// Catches a late reading of the picture in a dialog that is gone, and a loop that does not end.
+void TestCutDialogs::ParentDestroyedBeforeThePictureIsRead()
+{
+    auto* parent = new QWidget;
+    parent->setLayout(new QVBoxLayout);
+    CCutPhotoDlgWithZoom* dialog = ZoomDialog(parent).release();
+    dialog->SetSrcPhoto(m_photo);
+    QTimer::singleShot(0, [&] { delete parent; });
+    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
+    QTest::qWait(kLoadTime);
+}
+
+void TestCutDialogs::FollowedScrollValues_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("forward");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<int>("result");
+    // A container of 600 pixels with a margin of 12.
+    QTest::newRow("grows, seen already") << 20 << true << 100 << 300 << 20;
+    QTest::newRow("grows to the end") << 5 << true << 100 << 500 << 12;
+    QTest::newRow("grows, never back") << 40 << true << 100 << 500 << 40;
+    QTest::newRow("shrinks before the view") << 50 << false << 30 << 200 << 30;
+    QTest::newRow("shrinks inside the view") << 50 << false << 60 << 200 << 50;
+}
+
+/// Catches a bar that is moved when it need not be, or in the wrong direction.
+void TestCutDialogs::FollowedScrollValues()
+{
+    QFETCH(int, value);
+    QFETCH(bool, forward);
+    QFETCH(int, start);
+    QFETCH(int, length);
+    QFETCH(int, result);
+    QCOMPARE(FollowedScrollValue(value, forward, start, length, 600, 12), result);
+}
+
+/// Catches a canvas that does not report its drag to the dialog, and swapped axes.
+void TestCutDialogs::DragScrollsTheCanvas()
+{
+    CCutPhotoDlg dialog;
+    dialog.SetPhotoResolution(800, 900); // too high and too wide for its view
+    dialog.resize(700, 500);
+    dialog.SetSrcPhoto(m_photo);
+    ExecAnd(&dialog, [&] {
+        const auto* area = dialog.findChild<QScrollArea*>();
+        QScrollBar* across = area->horizontalScrollBar();
+        QScrollBar* down = area->verticalScrollBar();
+        QVERIFY(across->maximum() > 60 && down->maximum() > 60);
+        across->setValue(60);
+        down->setValue(60);
+        Drag(dialog.GetCanvas(), QPoint(400, 400), QPoint(30, 450)); // to the left and down
+        QCOMPARE(across->value(), 30);
+        QCOMPARE(down->value(), 60);
+        across->setValue(60);
+        Drag(dialog.GetCanvas(), QPoint(400, 400), QPoint(450, 20)); // to the right and up
+        QCOMPARE(across->value(), 60);
+        QCOMPARE(down->value(), 20);
+        dialog.reject();
+    });
+}
+
+void TestCutDialogs::BubbleFitsItsText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("text") << QStringLiteral("Please select the area to be cropped.");
+    QTest::newRow("wide characters") << QStringLiteral("\u8BF7\u9009\u62E9");
+    QTest::newRow("no markup") << QStringLiteral("<b>bold</b>");
+}
+
+/// Catches a bubble that cuts its text, moves when its text changes, or takes the text for markup.
+void TestCutDialogs::BubbleFitsItsText()
+{
+    QFETCH(QString, text);
+    const auto check = [&](auto* bubble) {
+        bubble->ensurePolished();
+        bubble->setStyleSheet(QStringLiteral("QLabel { font-size: 21px }"));
+        bubble->move(7, 9);
+        const int height = bubble->height();
+        bubble->SetTipText(text);
+        const auto* label = bubble->template findChild<QLabel*>(QStringLiteral("tipText"));
+        QCOMPARE(label->fontInfo().pixelSize(), 21);
+        QCOMPARE(bubble->geometry(), QRect(7, 9, label->fontMetrics().horizontalAdvance(text) + 62, height));
+        bubble->show();
+        QVERIFY(QTest::qWaitForWindowExposed(bubble->window()));
+        QCOMPARE(label->width(), label->fontMetrics().horizontalAdvance(text));
+    };
+    QWidget host;
+    host.setLayout(new QVBoxLayout);
+    host.resize(900, 300);
+    host.show();
+    check(new CComTipWiget(&host));
+    check(new CComTipWigetWithZoom(&host));
+}
+
+/// Catches a drag that cannot begin where the bubble lies.
+void TestCutDialogs::BubbleLetsThePointerThrough()
+{
+    CCutPhotoDlg dialog;
+    dialog.SetSrcPhoto(m_photo);
+    ExecAnd(&dialog, [&] {
+        auto* bubble = dialog.findChild<CComTipWiget*>();
+        QVERIFY(bubble->isVisible());
+        const QPoint middle = bubble->mapTo(&dialog, bubble->rect().center());
+        QCOMPARE(dialog.childAt(middle), static_cast<QWidget*>(dialog.GetCanvas()));
+        dialog.reject();
+    });
+}
+
+STRICT_TEST_MAIN(TestCutDialogs)
+#include "tst_cutdialogs.moc"
