@@ -121,6 +121,7 @@ void TestLineEdits::FolderButtonStaysAtTheEnd()
     QFETCH(QSize, size);
     KvLineEditWithDirButton edit;
     edit.setMinimumSize(1, 1);
+    edit.ensurePolished(); // afterwards no base class sets its sheet
     edit.setStyleSheet(QString());
     edit.resize(size);
     edit.show();
