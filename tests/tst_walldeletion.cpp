@@ -115,7 +115,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("normal");
         QTest::addColumn<QString>("action");
-        for (const bool normal : {false}) {
+        for (const bool normal : {false, true}) {
             for (const QString& action : Actions.keys())
                 QTest::addRow("%s: %s", normal ? "normal" : "display", qPrintable(action))
                     << normal << action;

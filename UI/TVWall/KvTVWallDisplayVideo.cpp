@@ -34,8 +34,12 @@ void KvTVWallDisplayVideo::paintEvent(QPaintEvent*)
     if (m_text.isEmpty())
         return;
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(
-        rect().adjusted(TextMargin, 0, -TextMargin, 0), Qt::AlignCenter | Qt::TextWordWrap, m_text);
+    PaintText(painter, rect(), m_text);
+}
+
+void KvTVWallDisplayVideo::PaintText(QPainter& painter, const QRect& area, const QString& text)
+{
+    painter.drawText(area.adjusted(TextMargin, 0, -TextMargin, 0), Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 
 } // namespace UICommonMdl

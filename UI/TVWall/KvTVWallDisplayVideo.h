@@ -14,6 +14,8 @@ public:
     explicit KvTVWallDisplayVideo(QWidget* parent);
 
     void SetText(const QString& text);
+    /// Paints such a text in the middle of an area.
+    static void PaintText(QPainter& painter, const QRect& area, const QString& text);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

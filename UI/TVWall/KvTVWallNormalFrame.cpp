@@ -17,6 +17,11 @@ KvTVWallNormalFrame::KvTVWallNormalFrame(QGraphicsItem* parent)
     setAcceptedMouseButtons(Qt::NoButton);
 }
 
+QRect KvTVWallNormalFrame::Inside(const QSize& size)
+{
+    return QRect(QPoint(0, 0), size).adjusted(LineWidth, LineWidth, -LineWidth, -LineWidth);
+}
+
 void KvTVWallNormalFrame::FitTo(const QSize& size)
 {
     if (m_size == size)

@@ -3,18 +3,23 @@
 #include "KvTVWallNormalFrame.h"
 #include "KvTVWallNormalView.h"
 #include "KvTVWallNormalWindow.h"
+#include "OverlayLabels.h"
 #include "WallGeometry.h"
 
-#include <QGraphicsScene>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionGraphicsItem>
+#include <algorithm>
 #include <cmath>
 
 namespace UICommonMdl {
 
 namespace {
 
-constexpr QRgb ScreenColor = qRgb(33, 34, 37);
-constexpr QRgb SelectedColor = qRgb(219, 221, 225);
+constexpr int HeadingMargin = 8; // pixels
+constexpr int HeadingHeight = 20; // pixels
+constexpr int HeadingIcon = 16; // pixels
 constexpr int NoWindow = -1;
 
 /// Holds the windows of a screen and cuts them at its edges.
@@ -25,8 +30,10 @@ public:
         : QGraphicsItem(parent)
     {
         setFlags(ItemHasNoContents | ItemClipsChildrenToShape);
+        setAcceptedMouseButtons(Qt::NoButton);
     }
 
+    using QGraphicsItem::prepareGeometryChange;
     QRectF boundingRect() const override { return parentItem()->boundingRect(); }
     void paint(QPainter*, const QStyleOptionGraphicsItem*, QWidget*) override { }
 };
@@ -40,26 +47,49 @@ KvTVWallNormalScreen::KvTVWallNormalScreen(
     , m_iColumnSpan(columnSpan)
     , m_scale(scale)
     , m_pPane(new Pane(this))
+    , m_backdrop(rowSpan, columnSpan)
+    , m_gestures(*this, this)
 {
-    m_pView->scene()->addItem(this);
+    setFlag(ItemUsesExtendedStyleOption); // paints what is exposed
+    setAcceptedMouseButtons(Qt::NoButton);
+}
+
+KvTVWallNormalScreen::~KvTVWallNormalScreen() { delete m_pCover; }
+
+void KvTVWallNormalScreen::Remove()
+{
+    disconnect();
+    DeleteAllWindows();
+    CancelDrawing();
+    if (m_pCover != nullptr)
+        m_pCover->hide();
+    hide();
+    deleteLater();
 }
 
 // ---- The screen itself
 
 const NormalWallLook& KvTVWallNormalScreen::Look() const { return m_pView->Look(); }
 
-void KvTVWallNormalScreen::PlaceOnWall(const QRect& wall)
+void KvTVWallNormalScreen::PlaceOnWall(const QSize& wall, const QPoint& origin)
 {
-    const QRect place = WallGeometry::Displayable(WallGeometry::ScreenRect(wall, m_scale, false));
+    const QRect place = WallGeometry::Displayable(
+        WallGeometry::ScreenRect(QRect(QPoint(0, 0), wall), m_scale, false).translated(origin));
+    const bool moved = pos() != QPointF(place.topLeft());
     setPos(place.topLeft());
-    if (m_size == place.size())
+    if (m_size != place.size()) {
+        prepareGeometryChange();
+        static_cast<Pane*>(m_pPane)->prepareGeometryChange();
+        m_size = place.size();
+        for (KvTVWallNormalWindow* window : qAsConst(m_windows))
+            window->PlaceOnScreen();
+        if (m_pFrame != nullptr)
+            m_pFrame->FitTo(m_size);
+    } else if (!moved) {
         return;
-    prepareGeometryChange();
-    m_size = place.size();
-    for (KvTVWallNormalWindow* window : qAsConst(m_windows))
-        window->PlaceOnScreen();
-    if (m_pFrame != nullptr)
-        m_pFrame->FitTo(m_size);
+    }
+    CancelDrawing();
+    PlaceCover();
 }
 
 void KvTVWallNormalScreen::SetSelected(bool selected)
@@ -71,28 +101,106 @@ void KvTVWallNormalScreen::SetSelected(bool selected)
     m_bSelected = selected;
     if (m_pFrame == nullptr) {
         m_pFrame = new KvTVWallNormalFrame(this);
-        m_pFrame->SetColor(QColor(SelectedColor));
+        m_pFrame->SetColor(ScreenBackdrop::SelectedColor());
         m_pFrame->FitTo(m_size);
     }
     m_pFrame->setVisible(selected);
+    PlaceCover();
+    Q_EMIT SignalArrangementChanged();
+}
+
+void KvTVWallNormalScreen::SelectUnlessSelected()
+{
+    if (!m_bSelected)
+        SelectByPress();
+}
+
+void KvTVWallNormalScreen::SelectByPress()
+{
+    SetSelected(true);
+    Q_EMIT SignalSelected();
+}
+
+void KvTVWallNormalScreen::SetPositioning(bool positioning)
+{
+    m_bPositioning = positioning;
+    if (!positioning)
+        m_gestures.CancelSite();
 }
 
 void KvTVWallNormalScreen::SetIcon(const QIcon& icon)
 {
     m_icon = icon;
-    update();
+    update(HeadingRect());
 }
 
+// The tool tip tells it where windows cover it.
 void KvTVWallNormalScreen::SetTitle(const QString& title)
 {
     m_strTitle = title;
-    update();
+    setToolTip(title.toHtmlEscaped());
+    update(HeadingRect());
 }
 
 void KvTVWallNormalScreen::SetContentText(const QString& text)
 {
-    m_strContentText = text;
+    m_backdrop.SetText(text);
     update();
+}
+
+void KvTVWallNormalScreen::SetAudioButtonsVisible(bool visible)
+{
+    for (KvTVWallNormalWindow* window : qAsConst(m_windows))
+        window->SetAudioButtonVisible(visible);
+}
+
+void KvTVWallNormalScreen::UpdateLook()
+{
+    for (KvTVWallNormalWindow* window : qAsConst(m_windows))
+        window->UpdateLook();
+}
+
+WallMiniature::Screen KvTVWallNormalScreen::Miniature() const
+{
+    QVector<const KvTVWallNormalWindow*> ascending(m_windows.begin(), m_windows.end());
+    std::stable_sort(ascending.begin(), ascending.end(), [](const auto* a, const auto* b) {
+        return a->zValue() < b->zValue();
+    });
+    WallMiniature::Screen miniature{m_scale, m_bSelected, {}};
+    for (const KvTVWallNormalWindow* window : qAsConst(ascending))
+        miniature.windows.append({window->GetScale(), window->IsSelected()});
+    return miniature;
+}
+
+// ---- Overlays
+
+void KvTVWallNormalScreen::SetOSDInfo(const std::vector<KvGUI::StructOSDInfo>& infos)
+{
+    if (m_pCover == nullptr) {
+        m_pCover = new QWidget(m_pView->viewport());
+        m_pOverlays = new OverlayLabels(m_pCover);
+        connect(m_pOverlays, &OverlayLabels::SignalLabelEvent, this, [this](int label, QEvent* event) {
+            const KvTVWallNormalView::Handling handling(m_pView);
+            Q_EMIT SignalLabelEvent(label, event);
+        });
+    }
+    m_pOverlays->Show(infos, m_size);
+    PlaceCover();
+}
+
+// The cover is there where an overlay is, and not where the frame of a selected screen runs.
+void KvTVWallNormalScreen::PlaceCover()
+{
+    if (m_pCover == nullptr)
+        return;
+    QRegion covered = m_pOverlays->Region();
+    if (m_bSelected)
+        covered &= KvTVWallNormalFrame::Inside(m_size);
+    m_pCover->setGeometry(QRect(pos().toPoint(), m_size));
+    m_pCover->setVisible(!covered.isEmpty());
+    if (!covered.isEmpty())
+        m_pCover->setMask(covered);
+    m_pOverlays->UpdateRolling();
 }
 
 // ---- Windows
@@ -100,40 +208,41 @@ void KvTVWallNormalScreen::SetContentText(const QString& text)
 int KvTVWallNormalScreen::OpenWindow(
     const KvGUI::StructScaleRect& scale, const QVariant& userData, bool showTitle)
 {
-    auto* window = new KvTVWallNormalWindow(this, m_pPane, WallGeometry::NormalPrecision, scale, userData);
+    auto* window
+        = new KvTVWallNormalWindow(this, m_pView, m_pPane, WallGeometry::NormalPrecision, scale, userData);
     m_windows.append(window);
     if (showTitle)
-        window->SetTitle(QStringLiteral("%1 %2").arg(tr("Window"), QString::number(m_windows.size())));
+        window->SetTitle(WindowTitle::Numbered(m_windows.size()));
+    if (!m_pView->AreAudioButtonsVisible())
+        window->SetAudioButtonVisible(false);
     window->PlaceOnScreen();
+    Connect(window, scale.bEditable);
+    Q_EMIT SignalArrangementChanged();
+    return m_windows.size() - 1;
+}
+
+void KvTVWallNormalScreen::Connect(KvTVWallNormalWindow* window, bool editable)
+{
     using Window = KvTVWallNormalWindow;
-    const auto with = [this, window](const auto& report) {
-        return [this, window, report] {
-            const int index = IndexOf(window);
-            if (index != NoWindow)
-                report(index);
-        };
-    };
-    if (scale.bEditable) {
-        connect(window, &Window::SignalCloseBtnClicked, this, with([this](int index) {
-                    Q_EMIT SignalWindowCloseBtnClicked(index);
-                }));
-        connect(window, &Window::SignalVolemeBtnClicked, this, with([this](int index) {
-                    Q_EMIT SignalWindowVolumeBtnClicked(index);
-                }));
-        connect(window, &Window::SignalGeoChanged, this, [this, window](const KvGUI::StructScaleRect& rect) {
-            const int index = IndexOf(window);
-            if (index != NoWindow)
-                Q_EMIT SignalWindowGeoChanged(index, rect);
-        });
-        connect(
-            window, &Window::SignalDoubleClickedSelectedChanged, this,
-            &KvTVWallNormalScreen::SignalWindowSelectedChanged);
-    } else {
+    connect(window, &Window::SignalArrangementChanged, this, &KvTVWallNormalScreen::SignalArrangementChanged);
+    if (!editable) {
         connect(
             window, &Window::SignalDoubleClickedSelectedChanged, this,
             &KvTVWallNormalScreen::SignalWindowDoubleClicked);
+        return;
     }
-    return m_windows.size() - 1;
+    connect(window, &Window::SignalCloseBtnClicked, this, [this, window] {
+        Q_EMIT SignalWindowCloseBtnClicked(IndexOf(window));
+    });
+    connect(window, &Window::SignalVolemeBtnClicked, this, [this, window] {
+        Q_EMIT SignalWindowVolumeBtnClicked(IndexOf(window));
+    });
+    connect(window, &Window::SignalGeoChanged, this, [this, window](const KvGUI::StructScaleRect& rect) {
+        Q_EMIT SignalWindowGeoChanged(IndexOf(window), rect);
+    });
+    connect(
+        window, &Window::SignalDoubleClickedSelectedChanged, this,
+        &KvTVWallNormalScreen::SignalWindowSelectedChanged);
 }
 
 bool KvTVWallNormalScreen::DeleteWindow(int index)
@@ -142,9 +251,11 @@ bool KvTVWallNormalScreen::DeleteWindow(int index)
     if (window == nullptr)
         return false;
     m_windows.removeAt(index);
+    m_gestures.CancelSite(); // its release may never come
     disconnect(window, nullptr, this, nullptr);
     window->deleteLater();
-    window->hide();
+    window->hide(); // moves the focus on, of which the client may hear
+    Q_EMIT SignalArrangementChanged();
     return true;
 }
 
@@ -185,6 +296,7 @@ bool KvTVWallNormalScreen::SetWindowZValue(int index, double z)
     if (window == nullptr || std::isnan(z))
         return false;
     window->setZValue(z);
+    Q_EMIT SignalArrangementChanged();
     return true;
 }
 
@@ -196,17 +308,144 @@ double KvTVWallNormalScreen::GetMaxWindowZValue() const
     return largest;
 }
 
+void KvTVWallNormalScreen::AddFocusStops(QVector<QGraphicsItem*>& stops) const
+{
+    for (KvTVWallNormalWindow* window : m_windows)
+        window->AddFocusStops(stops);
+}
+
 int KvTVWallNormalScreen::IndexOf(const QObject* window) const
 {
     const auto found = std::find(m_windows.begin(), m_windows.end(), window);
     return found == m_windows.end() ? NoWindow : int(found - m_windows.begin());
 }
 
+// ---- Events on a window. It acts first and the client hears of it last, so that what a slot does is not
+// undone by the wall.
+
+void KvTVWallNormalScreen::HandleWindowEvent(KvTVWallNormalWindow* window, QEvent* event)
+{
+    if (IndexOf(window) == NoWindow)
+        return; // removed, but the mouse is still held
+    window->HandleEvent(event);
+    if (IndexOf(window) != NoWindow)
+        ActOnWindowEvent(window, event);
+    const int index = IndexOf(window);
+    if (index != NoWindow)
+        Q_EMIT SignalWindowEvent(index, event);
+}
+
+void KvTVWallNormalScreen::ActOnWindowEvent(KvTVWallNormalWindow* window, QEvent* event)
+{
+    // By the view: the window itself may just have moved.
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto inScreen
+        = [this, mouse] { return m_pView->viewport()->mapFromGlobal(mouse->globalPos()) - pos().toPoint(); };
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        m_gestures.PressWindow(window, inScreen(), mouse->button());
+        break;
+    case QEvent::MouseMove:
+        m_gestures.MoveOnWindow(inScreen(), mouse->buttons());
+        break;
+    case QEvent::MouseButtonRelease:
+        m_gestures.ReleaseWindow(window, inScreen(), mouse->button());
+        break;
+    case QEvent::MouseButtonDblClick:
+        m_gestures.DoubleClickWindow();
+        break;
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool clicks = key->key() == Qt::Key_Space && !key->isAutoRepeat();
+        if (clicks && m_gestures.ClickByKey(window))
+            event->accept();
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+int KvTVWallNormalScreen::SelectionMode() const { return m_pView->SelectionMode(); }
+
+QWidget* KvTVWallNormalScreen::Canvas() { return m_pView->viewport(); }
+
+QColor KvTVWallNormalScreen::BandColor() const { return Look().bandColor; }
+
+QRect KvTVWallNormalScreen::WindowGeometry(int window) const { return m_windows.at(window)->Geometry(); }
+
+bool KvTVWallNormalScreen::IsWindowSelected(int window) const { return m_windows.at(window)->IsSelected(); }
+
+void KvTVWallNormalScreen::SetWindowSelected(int window, bool selected)
+{
+    m_windows.at(window)->SetSelected(selected);
+}
+
+void KvTVWallNormalScreen::ReportSite(const QPoint& from, const QPoint& to)
+{
+    Q_EMIT Signal3DSite(from.x(), from.y(), to.x(), to.y());
+}
+
+// ---- Events on the empty part
+
+void KvTVWallNormalScreen::HandleEvent(QEvent* event)
+{
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_gestures.PressEmpty(mouse->pos(), mouse->button());
+        break;
+    case QEvent::MouseMove:
+        m_gestures.MoveOnEmpty(mouse->pos(), mouse->buttons());
+        break;
+    case QEvent::MouseButtonRelease:
+        m_gestures.ReleaseEmpty(mouse->pos(), mouse->button());
+        break;
+    case QEvent::ContextMenu:
+        Q_EMIT SignalRightClick();
+        break;
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        Q_EMIT SignalScreenDropEvent(event);
+        break;
+    default:
+        break;
+    }
+}
+
+bool KvTVWallNormalScreen::CancelDrawing()
+{
+    const bool drew = m_gestures.IsDrawing();
+    m_gestures.Cancel();
+    return drew;
+}
+
 // ---- Painting
 
-void KvTVWallNormalScreen::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
+void KvTVWallNormalScreen::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*)
 {
-    painter->fillRect(boundingRect(), QColor(ScreenColor));
+    const QRect exposed = option->exposedRect.toAlignedRect() & QRect(QPoint(0, 0), m_size);
+    m_backdrop.Paint(
+        *painter, m_size, exposed, painter->device()->devicePixelRatioF(), Look().screenTextColor);
+    if (exposed.intersects(HeadingRect()))
+        PaintHeading(*painter);
+}
+
+QRect KvTVWallNormalScreen::HeadingRect() const
+{
+    return {HeadingMargin, HeadingMargin, qMax(0, m_size.width() - 2 * HeadingMargin), HeadingHeight};
+}
+
+void KvTVWallNormalScreen::PaintHeading(QPainter& painter)
+{
+    QRect rest = HeadingRect();
+    if (!m_icon.isNull()) {
+        const QRect icon(rest.topLeft(), QSize(HeadingIcon, HeadingHeight));
+        m_icon.paint(&painter, icon & rest);
+        rest.setLeft(icon.right() + 1);
+    }
+    m_heading.Draw(painter, rest, m_strTitle, Look().screenTextColor);
 }
 
 } // namespace UICommonMdl

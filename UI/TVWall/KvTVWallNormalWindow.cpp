@@ -1,37 +1,39 @@
 #include "KvTVWallNormalWindow.h"
 
 #include "KvTVWallDisplayVideo.h"
+#include "KvTVWallNormalButton.h"
 #include "KvTVWallNormalFrame.h"
 #include "KvTVWallNormalScreen.h"
-#include "NormalWallLook.h"
+#include "KvTVWallNormalTitleItem.h"
+#include "KvTVWallNormalView.h"
 #include "WallGeometry.h"
 
 #include <QGraphicsProxyWidget>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace UICommonMdl {
 
-namespace {
-
-constexpr int TitleHeight = 24; // pixels
-constexpr int TitleMargin = 2; // pixels
-constexpr int VideoTop = 26; // pixels
-
-} // namespace
-
 KvTVWallNormalWindow::KvTVWallNormalWindow(
-    KvTVWallNormalScreen* screen, QGraphicsItem* parent, double precision, const KvGUI::StructScaleRect& rect,
-    const QVariant& userData)
+    KvTVWallNormalScreen* screen, KvTVWallNormalView* view, QGraphicsItem* parent, double precision,
+    const KvGUI::StructScaleRect& rect, const QVariant& userData)
     : QGraphicsObject(parent)
     , m_pScreen(screen)
+    , m_pView(view)
+    , m_pTitle(new KvTVWallNormalTitleItem(this, view))
     , m_placement(rect, precision)
     , m_userData(userData)
-{ }
+{
+    setFlag(ItemIsFocusable);
+    setAcceptedMouseButtons(Qt::NoButton);
+}
 
 // ---- Place and state
 
 void KvTVWallNormalWindow::PlaceOnScreen()
 {
+    m_drag.End();
     SetGeometry(WallGeometry::Displayable(WallGeometry::WindowRect(m_pScreen->Size(), GetScale())));
 }
 
@@ -40,24 +42,28 @@ void KvTVWallNormalWindow::SetGeometry(const QRect& geometry)
     if (m_size != geometry.size()) {
         prepareGeometryChange();
         m_size = geometry.size();
+        m_pTitle->FitTo(m_size);
         if (m_pFrame != nullptr)
             m_pFrame->FitTo(m_size);
         if (m_pProxy != nullptr)
-            m_pProxy->setGeometry(VideoRect());
+            m_pProxy->setGeometry(WindowTitle::VideoRect(m_size));
     }
     setPos(geometry.topLeft());
 }
 
-// Pixels change before the report, so that a slot finds the window as it will be and may change or delete
-// it: nothing of the window may be used after the emission.
+// State, pixels and tool tips change before the report, so that a slot finds the window as it will be and
+// may change or delete it: nothing of the window may be used afterwards.
 void KvTVWallNormalWindow::ShowPlacement(bool changed)
 {
     if (changed)
         PlaceOnScreen();
-    update();
+    m_pTitle->SetMaximized(m_placement.GetState() == WindowPlacement::State::Maximized);
+    m_pTitle->SetSnapped(m_placement.GetState() == WindowPlacement::State::Snapped);
+    if (!changed)
+        return;
     const KvGUI::StructScaleRect now = GetScale();
-    if (changed)
-        Q_EMIT SignalGeoChanged(now);
+    Q_EMIT SignalArrangementChanged();
+    Q_EMIT SignalGeoChanged(now);
 }
 
 void KvTVWallNormalWindow::SetScale(const KvGUI::StructScaleRect& rect)
@@ -72,48 +78,91 @@ void KvTVWallNormalWindow::SetSelected(bool selected)
     m_bSelected = selected;
     if (m_pFrame == nullptr) {
         m_pFrame = new KvTVWallNormalFrame(this);
+        m_pFrame->SetColor(m_pView->Look().windowSelectedFrameColor);
         m_pFrame->FitTo(m_size);
     }
-    m_pFrame->SetColor(m_pScreen->Look().windowSelectedFrameColor);
     m_pFrame->setVisible(selected);
+    Q_EMIT SignalArrangementChanged();
 }
 
 void KvTVWallNormalWindow::SetVolumeOn(bool on)
 {
     m_bVolumeOn = on;
-    update();
+    m_pTitle->SetVolumeOn(on);
 }
 
 void KvTVWallNormalWindow::SetTitle(const QString& title)
 {
     m_strTitle = title;
-    update();
+    UpdateTitle();
 }
 
 void KvTVWallNormalWindow::SetContentText(const QString& text)
 {
     m_strContent = text;
-    update();
+    UpdateTitle();
+}
+
+void KvTVWallNormalWindow::UpdateTitle() { m_pTitle->SetText(WindowTitle::Joined(m_strTitle, m_strContent)); }
+
+void KvTVWallNormalWindow::SetAudioButtonVisible(bool visible) { m_pTitle->SetAudioButtonVisible(visible); }
+
+void KvTVWallNormalWindow::UpdateLook()
+{
+    if (m_pFrame != nullptr)
+        m_pFrame->SetColor(m_pView->Look().windowSelectedFrameColor);
+    ColorVideo();
+}
+
+void KvTVWallNormalWindow::AddFocusStops(QVector<QGraphicsItem*>& stops)
+{
+    stops << this;
+    for (KvTVWallNormalButton* button : m_pTitle->Buttons()) {
+        if (button->isVisible())
+            stops << button;
+    }
 }
 
 // ---- The video area
 
+bool KvTVWallNormalWindow::HasVideo() const { return !m_bVideoDeleted && (m_pProxy == nullptr || m_pVideo); }
+
 KvTVWallDisplayVideo* KvTVWallNormalWindow::GetVideo()
 {
-    if (m_pVideo.isNull() && !m_bVideoDeleted && m_pProxy == nullptr) {
-        m_pVideo = new KvTVWallDisplayVideo(nullptr);
-        m_pVideo->SetText(m_strVideoText);
-        m_pVideo->setUpdatesEnabled(m_bVideoUpdates);
-        m_pProxy = new QGraphicsProxyWidget(this);
-        m_pProxy->setWidget(m_pVideo);
-        m_pProxy->setGeometry(VideoRect());
-    }
+    if (m_pVideo || m_bVideoDeleted)
+        return m_pVideo;
+    m_pVideo = new KvTVWallDisplayVideo(nullptr);
+    m_pVideo->SetText(m_strVideoText);
+    m_pVideo->setAutoFillBackground(true);
+    m_pVideo->setUpdatesEnabled(m_bVideoUpdates);
+    ColorVideo();
+    // The client may delete it: then there is none, as in a wall of widgets.
+    connect(m_pVideo, &QObject::destroyed, this, [this] {
+        m_bVideoDeleted = true;
+        update();
+    });
+    m_pProxy = new QGraphicsProxyWidget(this);
+    m_pProxy->setWidget(m_pVideo);
+    m_pProxy->setGeometry(WindowTitle::VideoRect(m_size));
+    setFlag(ItemClipsChildrenToShape); // the video reaches over the lower edge
     return m_pVideo;
+}
+
+// It has no parent widget to take colours and style sheet from.
+void KvTVWallNormalWindow::ColorVideo()
+{
+    if (m_pVideo.isNull())
+        return;
+    QPalette palette = m_pVideo->palette();
+    palette.setColor(QPalette::Window, m_pView->Look().videoColor);
+    palette.setColor(QPalette::WindowText, m_pView->Look().videoTextColor);
+    m_pVideo->setPalette(palette);
 }
 
 bool KvTVWallNormalWindow::DeleteVideo()
 {
-    const bool had = !m_bVideoDeleted && (m_pProxy == nullptr || !m_pVideo.isNull());
+    if (m_bVideoDeleted)
+        return false;
     m_bVideoDeleted = true;
     if (!m_pVideo.isNull()) {
         // An event of it may be the occasion, so it is only hidden now.
@@ -122,12 +171,12 @@ bool KvTVWallNormalWindow::DeleteVideo()
         m_pVideo = nullptr;
     }
     update();
-    return had;
+    return true;
 }
 
 bool KvTVWallNormalWindow::SetVideoText(const QString& text)
 {
-    if (m_bVideoDeleted || (m_pProxy != nullptr && m_pVideo.isNull()))
+    if (m_bVideoDeleted)
         return false;
     m_strVideoText = text;
     if (!m_pVideo.isNull())
@@ -138,7 +187,7 @@ bool KvTVWallNormalWindow::SetVideoText(const QString& text)
 
 bool KvTVWallNormalWindow::SetVideoUpdates(bool enable)
 {
-    if (m_bVideoDeleted || (m_pProxy != nullptr && m_pVideo.isNull()))
+    if (m_bVideoDeleted)
         return false;
     m_bVideoUpdates = enable;
     if (!m_pVideo.isNull())
@@ -146,29 +195,168 @@ bool KvTVWallNormalWindow::SetVideoUpdates(bool enable)
     return true;
 }
 
+// ---- Moving and resizing by the mouse. While the drag lasts only pixels move; the rectangle is set once, at
+// the release.
+
+Qt::Edges KvTVWallNormalWindow::EdgesForMouse(const QPoint& pos) const
+{
+    return GetScale().bEditable ? WindowDrag::EdgesAt(m_size, pos) : Qt::Edges();
+}
+
+Qt::CursorShape KvTVWallNormalWindow::CursorAt(const QPoint& pos) const
+{
+    return WindowDrag::CursorFor(EdgesForMouse(pos));
+}
+
+WindowDrag::Field KvTVWallNormalWindow::Field() const
+{
+    return {m_pScreen->Size(), m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan()};
+}
+
+bool KvTVWallNormalWindow::KeepsToCells(const QMouseEvent& event) const
+{
+    return !m_pScreen->IsFree() || (event.modifiers() & Qt::ShiftModifier);
+}
+
+void KvTVWallNormalWindow::Press(const QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton || !GetScale().bEditable || m_pScreen->IsPositioning())
+        return;
+    const Qt::Edges edges = EdgesForMouse(event.pos());
+    if (edges || WindowTitle::BarRect(m_size).contains(event.pos()))
+        m_drag.Begin(edges, event.globalPos(), Geometry());
+}
+
+void KvTVWallNormalWindow::DragTo(const QMouseEvent& event)
+{
+    m_drag.MoveTo(event.globalPos(), Field());
+    SetGeometry(m_drag.Shown(m_placement, Field(), KeepsToCells(event)));
+}
+
+void KvTVWallNormalWindow::EndDrag(const QMouseEvent& event)
+{
+    DragTo(event);
+    if (m_drag.HasMoved() && m_placement.Set(m_drag.Scale(m_placement, Field(), KeepsToCells(event))))
+        ShowPlacement(true);
+    else
+        PlaceOnScreen(); // the way was too short to count
+}
+
+void KvTVWallNormalWindow::CancelDrag()
+{
+    if (m_drag.IsActive())
+        PlaceOnScreen();
+}
+
+void KvTVWallNormalWindow::DoubleClick(const QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton)
+        return;
+    m_drag.End();
+    const QPointer<KvTVWallNormalWindow> alive(this);
+    if (GetScale().bEditable)
+        ShowPlacement(m_placement.MaximizeOrRestore());
+    if (!alive || !isVisible()) // deleted, or removed, by a slot
+        return;
+    SetSelected(true);
+    m_pScreen->SelectUnlessSelected();
+    if (alive)
+        Q_EMIT SignalDoubleClickedSelectedChanged();
+}
+
+void KvTVWallNormalWindow::HandleEvent(QEvent* event)
+{
+    const auto& mouse = *static_cast<QMouseEvent*>(event);
+    event->accept();
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        Press(mouse);
+        break;
+    case QEvent::MouseMove:
+        if (m_drag.IsActive() && (mouse.buttons() & Qt::LeftButton))
+            DragTo(mouse);
+        else
+            CancelDrag(); // the release went elsewhere
+        break;
+    case QEvent::MouseButtonRelease:
+        if (m_drag.IsActive() && mouse.button() == Qt::LeftButton)
+            EndDrag(mouse);
+        break;
+    case QEvent::MouseButtonDblClick:
+        DoubleClick(mouse);
+        break;
+    case QEvent::KeyPress:
+        event->setAccepted(m_drag.IsActive() && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape);
+        if (event->isAccepted())
+            CancelDrag();
+        break;
+    case QEvent::ContextMenu:
+        break;
+    default:
+        event->ignore(); // the wheel, other keys and what is dragged here are the client's or the wall's
+        break;
+    }
+}
+
+void KvTVWallNormalWindow::ClickButton(WindowTitle::Button button)
+{
+    switch (button) {
+    case WindowTitle::Button::Volume:
+        Q_EMIT SignalVolemeBtnClicked();
+        break;
+    case WindowTitle::Button::Snap:
+        ShowPlacement(m_placement.SnapOrRestore(m_pScreen->GetColumnSpan(), m_pScreen->GetRowSpan()));
+        break;
+    case WindowTitle::Button::Max:
+        ShowPlacement(m_placement.MaximizeOrRestore());
+        break;
+    case WindowTitle::Button::Close:
+        Q_EMIT SignalCloseBtnClicked();
+        break;
+    }
+}
+
+// ---- The keyboard
+
+void KvTVWallNormalWindow::keyPressEvent(QKeyEvent* event) { m_pScreen->HandleWindowEvent(this, event); }
+
+void KvTVWallNormalWindow::keyReleaseEvent(QKeyEvent* event) { m_pScreen->HandleWindowEvent(this, event); }
+
+void KvTVWallNormalWindow::focusInEvent(QFocusEvent* event)
+{
+    m_bKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    update();
+}
+
+void KvTVWallNormalWindow::focusOutEvent(QFocusEvent*)
+{
+    m_bKeyboardFocus = false;
+    update();
+}
+
 // ---- Painting
-
-QRect KvTVWallNormalWindow::TitleRect() const
-{
-    return {TitleMargin, TitleMargin, qMax(0, m_size.width() - 2 * TitleMargin), TitleHeight};
-}
-
-QRect KvTVWallNormalWindow::VideoRect() const
-{
-    return {1, VideoTop, qMax(0, m_size.width() - 2 * TitleMargin), qMax(0, m_size.height() - TitleHeight)};
-}
 
 void KvTVWallNormalWindow::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
-    const NormalWallLook& look = m_pScreen->Look();
+    const NormalWallLook& look = m_pView->Look();
     const QRect whole(QPoint(0, 0), m_size);
-    painter->fillRect(whole, look.windowColor);
+    const QRect video = HasVideo() ? WindowTitle::VideoRect(m_size) & whole : QRect(0, m_size.height(), 0, 0);
+    // Not below the video, which covers it: on a full wall that would be every pixel once more.
+    painter->fillRect(QRect(0, 0, whole.width(), video.top()) & whole, look.windowColor);
+    painter->fillRect(QRect(0, video.top(), video.left(), whole.height()) & whole, look.windowColor);
+    painter->fillRect(
+        QRect(video.right() + 1, video.top(), whole.width(), whole.height()) & whole, look.windowColor);
     painter->setPen(look.windowFrameColor);
+    if (m_bKeyboardFocus)
+        painter->setPen(QPen(look.bandColor, 1, Qt::DashLine));
     painter->drawRect(whole.adjusted(0, 0, -1, -1));
-    painter->fillRect(VideoRect() & whole, look.videoColor);
-    painter->fillRect(TitleRect() & whole, look.titleColor);
-    painter->setPen(look.titleTextColor);
-    painter->drawText(TitleRect(), m_strTitle + QStringLiteral("  ") + m_strContent);
+    if (!HasVideo() || m_pVideo)
+        return;
+    painter->fillRect(video, look.videoColor);
+    if (m_strVideoText.isEmpty())
+        return;
+    painter->setPen(look.videoTextColor);
+    KvTVWallDisplayVideo::PaintText(*painter, WindowTitle::VideoRect(m_size), m_strVideoText);
 }
 
 } // namespace UICommonMdl

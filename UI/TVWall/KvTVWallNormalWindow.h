@@ -1,6 +1,8 @@
 #pragma once
 
+#include "WindowDrag.h"
 #include "WindowPlacement.h"
+#include "WindowTitle.h"
 
 #include <QGraphicsObject>
 #include <QPointer>
@@ -13,26 +15,36 @@ namespace UICommonMdl {
 class KvTVWallDisplayVideo;
 class KvTVWallNormalFrame;
 class KvTVWallNormalScreen;
+class KvTVWallNormalTitleItem;
+class KvTVWallNormalView;
 
 /// A video window on a screen of the normal wall: an item with a title bar and a video area.
 ///
-/// The video area is painted until the client asks for its widget, which then lies over it in a proxy.
+/// The window keeps its place and its states and is moved and resized by the mouse; selection is the
+/// screen's business. The video area is painted until the client asks for its widget, which then lies over
+/// it in a proxy.
 class KvTVWallNormalWindow : public QGraphicsObject
 {
     Q_OBJECT
 
 public:
+    enum
+    {
+        Type = UserType + 2
+    };
+
     KvTVWallNormalWindow(
-        KvTVWallNormalScreen* screen, QGraphicsItem* parent, double precision,
+        KvTVWallNormalScreen* screen, KvTVWallNormalView* view, QGraphicsItem* parent, double precision,
         const KvGUI::StructScaleRect& rect, const QVariant& userData);
 
+    KvTVWallNormalScreen* Screen() const { return m_pScreen; }
     const KvGUI::StructScaleRect& GetScale() const { return m_placement.Scale(); }
     /// Makes @p rect the window's rectangle, by the client or the operator: unless it is equal within the
     /// precision, the window is placed there, is no longer maximised or snapped, and reports it.
     void SetScale(const KvGUI::StructScaleRect& rect);
     /// Computes the window's pixels from its rectangle and the screen's present size.
     void PlaceOnScreen();
-    QRect Geometry() const { return QRect(pos().toPoint(), m_size); } ///< in the screen
+    QRect Geometry() const { return {pos().toPoint(), m_size}; } ///< in the screen
 
     bool IsSelected() const { return m_bSelected; }
     void SetSelected(bool selected);
@@ -42,6 +54,9 @@ public:
     void SetUserData(const QVariant& userData) { m_userData = userData; }
     void SetTitle(const QString& title); ///< the window's number
     void SetContentText(const QString& text); ///< shown behind the title
+    void SetAudioButtonVisible(bool visible);
+    void UpdateLook(); ///< in the view's present colours
+    void AddFocusStops(QVector<QGraphicsItem*>& stops); ///< the window and its buttons
 
     /// @name The video area; null or false when it was deleted
     /// @{
@@ -51,6 +66,14 @@ public:
     bool SetVideoUpdates(bool enable);
     /// @}
 
+    /// Does what the event means to the window itself: drags, a double-click. Positions are the window's. A
+    /// slot may remove the window.
+    void HandleEvent(QEvent* event);
+    void CancelDrag(); ///< gives a drag up: the window goes back to its rectangle
+    Qt::CursorShape CursorAt(const QPoint& pos) const;
+    void ClickButton(WindowTitle::Button button); ///< as above
+
+    int type() const override { return Type; }
     QRectF boundingRect() const override { return QRectF(QPointF(0, 0), m_size); }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
@@ -59,26 +82,45 @@ Q_SIGNALS:
     void SignalVolemeBtnClicked();
     void SignalGeoChanged(const KvGUI::StructScaleRect& rect);
     void SignalDoubleClickedSelectedChanged();
+    void SignalArrangementChanged(); ///< place or selection; for the library's own use
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void ShowPlacement(bool changed);
     void SetGeometry(const QRect& geometry);
-    QRect TitleRect() const;
-    QRect VideoRect() const;
+    void UpdateTitle();
+    bool HasVideo() const;
+    void ColorVideo();
+    Qt::Edges EdgesForMouse(const QPoint& pos) const;
+    WindowDrag::Field Field() const;
+    bool KeepsToCells(const QMouseEvent& event) const;
+    void Press(const QMouseEvent& event);
+    void DragTo(const QMouseEvent& event);
+    void EndDrag(const QMouseEvent& event);
+    void DoubleClick(const QMouseEvent& event);
 
     KvTVWallNormalScreen* const m_pScreen;
+    KvTVWallNormalView* const m_pView;
+    KvTVWallNormalTitleItem* const m_pTitle;
     WindowPlacement m_placement;
+    WindowDrag m_drag;
     QSize m_size;
     QVariant m_userData;
     bool m_bSelected = false;
     bool m_bVolumeOn = false;
+    bool m_bKeyboardFocus = false; // the focus came by keyboard, so the eye has to find it
     QString m_strTitle;
     QString m_strContent;
     KvTVWallNormalFrame* m_pFrame = nullptr; // of a selected window
     QString m_strVideoText;
     bool m_bVideoDeleted = false;
     bool m_bVideoUpdates = true;
-    QGraphicsProxyWidget* m_pProxy = nullptr;
+    QPointer<QGraphicsProxyWidget> m_pProxy; // goes with the video
     QPointer<KvTVWallDisplayVideo> m_pVideo; // the client has it in hand and may delete it
 };
 

@@ -22,7 +22,9 @@ KvTVWallNormalWndPrivate::KvTVWallNormalWndPrivate(KvTVWallNormalWnd* wall)
     : QObject(wall)
     , q(wall)
     , view(new KvTVWallNormalView(wall))
-{ }
+{
+    connect(view, &KvTVWallNormalView::SignalWheel, this, &KvTVWallNormalWndPrivate::OnWheel);
+}
 
 template <typename... Args>
 void KvTVWallNormalWndPrivate::Relay(
@@ -30,7 +32,7 @@ void KvTVWallNormalWndPrivate::Relay(
     void (KvTVWallNormalWnd::*to)(int, Args...))
 {
     connect(screen, from, this, [this, screen, to](Args... args) {
-        const int index = screens.indexOf(screen);
+        const int index = view->Screens().indexOf(screen);
         if (index != NoIndex)
             Q_EMIT(q->*to)(index, args...);
     });
@@ -43,12 +45,13 @@ KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructSca
     auto* screen = new Screen(
         view, WallGeometry::CellSpan(q->GetRowCount(), rect.dTop, rect.dBottom),
         WallGeometry::CellSpan(q->GetColumnCount(), rect.dLeft, rect.dRight), rect);
-    screens.append(screen);
-    screen->PlaceOnWall(q->rect());
+    view->AddScreen(screen);
+    PlaceOnWall(screen);
     Relay(screen, &Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
     Relay(screen, &Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
     Relay(screen, &Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
     Relay(screen, &Screen::SignalLabelEvent, &Wall::SignalLabelEvent);
+    Relay(screen, &Screen::SignalRightClick, &Wall::SignalScreenRightClick);
     Relay(screen, &Screen::SignalWindowSelectedChanged, &Wall::SignalWindowSelectedChanged);
     Relay(screen, &Screen::SignalDrawAreaOpenWindow, &Wall::SignalDrawAreaOpenWindow);
     Relay(screen, &Screen::SignalScreenDropEvent, &Wall::SignalScreenEvent);
@@ -61,18 +64,9 @@ KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructSca
     return screen;
 }
 
-// A screen may be the one that is emitting, so it only leaves the list now.
-void KvTVWallNormalWndPrivate::DeleteAllScreen()
+KvTVWallNormalScreen* KvTVWallNormalWndPrivate::Screen(int screen) const
 {
-    const QList<KvTVWallNormalScreen*> removed = screens;
-    screens.clear();
-    for (KvTVWallNormalScreen* screen : removed) {
-        disconnect(screen, nullptr, this, nullptr);
-        disconnect(screen, nullptr, q, nullptr);
-        screen->DeleteAllWindows();
-        screen->hide();
-        screen->deleteLater();
-    }
+    return view->Screens().value(screen);
 }
 
 KvTVWallNormalWindow* KvTVWallNormalWndPrivate::Window(int screen, int window) const
@@ -83,6 +77,7 @@ KvTVWallNormalWindow* KvTVWallNormalWndPrivate::Window(int screen, int window) c
 
 int KvTVWallNormalWndPrivate::SelectedScreen() const
 {
+    const QList<KvTVWallNormalScreen*>& screens = view->Screens();
     for (int i = 0; i < screens.size(); ++i) {
         if (screens.at(i)->IsSelected())
             return i;
@@ -92,14 +87,49 @@ int KvTVWallNormalWndPrivate::SelectedScreen() const
 
 void KvTVWallNormalWndPrivate::SelectScreen(const KvTVWallNormalScreen* selected)
 {
-    for (KvTVWallNormalScreen* screen : qAsConst(screens))
+    for (KvTVWallNormalScreen* screen : view->Screens())
         screen->SetSelected(screen == selected);
+}
+
+// ---- Zoom
+
+void KvTVWallNormalWndPrivate::PlaceOnWall(KvTVWallNormalScreen* screen)
+{
+    screen->PlaceOnWall(
+        {horizontal.wall, vertical.wall},
+        {WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset)});
 }
 
 void KvTVWallNormalWndPrivate::PlaceScreens()
 {
-    for (KvTVWallNormalScreen* screen : qAsConst(screens))
-        screen->PlaceOnWall(q->rect());
+    for (KvTVWallNormalScreen* screen : view->Screens())
+        PlaceOnWall(screen);
+}
+
+void KvTVWallNormalWndPrivate::LayOut()
+{
+    view->setGeometry(q->rect());
+    horizontal = WallZoom::Resized(horizontal, float(q->width()));
+    vertical = WallZoom::Resized(vertical, float(q->height()));
+    PlaceScreens();
+}
+
+void KvTVWallNormalWndPrivate::ShowWholeWall()
+{
+    horizontal = {};
+    vertical = {};
+    LayOut();
+}
+
+void KvTVWallNormalWndPrivate::OnWheel(int delta, const QPoint& pos)
+{
+    const bool larger = delta >= 1;
+    const auto onWall
+        = [](int position, const WallZoom::Axis& axis) { return position - WallZoom::Pixel(axis.offset); };
+    horizontal = WallZoom::Zoomed(horizontal, onWall(pos.x(), horizontal), larger);
+    vertical = WallZoom::Zoomed(vertical, onWall(pos.y(), vertical), larger);
+    PlaceScreens();
+    Q_EMIT q->SignalWheelEvent(delta, pos);
 }
 
 // ---- The wall
@@ -111,7 +141,13 @@ KvTVWallNormalWnd::KvTVWallNormalWnd(QWidget* parent)
     CommonFun::SetStyleSheet(this, QStringLiteral("TVWallOperateWnd"), QString(), QString());
 }
 
-KvTVWallNormalWnd::~KvTVWallNormalWnd() = default;
+KvTVWallNormalWnd::~KvTVWallNormalWnd()
+{
+    d_func()->view->disconnect(); // what its end sets off reaches nobody
+    for (KvTVWallNormalScreen* screen : d_func()->view->Screens())
+        screen->disconnect();
+    d_func()->view->DeleteWithWall();
+}
 
 void KvTVWallNormalWnd::SetTVWallGridCount(int iRows, int iCols)
 {
@@ -125,7 +161,10 @@ int KvTVWallNormalWnd::GetColumnCount() const { return m_iCols; }
 
 void KvTVWallNormalWnd::SetWindowTitleShow(bool bShow) { d_func()->titleShow = bShow; }
 
-void KvTVWallNormalWnd::SetAudioBtnVisible(bool bVisible) { d_func()->audioButtons = bVisible; }
+void KvTVWallNormalWnd::SetAudioBtnVisible(bool bVisible)
+{
+    d_func()->view->SetAudioButtonsVisible(bVisible);
+}
 
 void KvTVWallNormalWnd::SetPtzFrameSelectedEnable(bool bEnable)
 {
@@ -137,7 +176,7 @@ double KvTVWallNormalWnd::GetWindowScalePrecision() const { return WallGeometry:
 
 void KvTVWallNormalWnd::SetWindowSelectionMode(SelectionMode mode)
 {
-    d_func()->selectionMode = mode;
+    d_func()->view->SetSelectionMode(mode);
     KvTVWallNormalScreen* screen = d_func()->Screen(GetSelectedScreenIndex());
     if (mode == SingleSelection && screen != nullptr)
         screen->DeselectWindows();
@@ -145,10 +184,10 @@ void KvTVWallNormalWnd::SetWindowSelectionMode(SelectionMode mode)
 
 KvTVWallNormalWnd::SelectionMode KvTVWallNormalWnd::GetWindowSelectionMode() const
 {
-    return d_func()->selectionMode;
+    return SelectionMode(d_func()->view->SelectionMode());
 }
 
-void KvTVWallNormalWnd::RecoverEagleEye() { d_func()->PlaceScreens(); }
+void KvTVWallNormalWnd::RecoverEagleEye() { d_func()->ShowWholeWall(); }
 
 int KvTVWallNormalWnd::AddScreen(
     const KvGUI::StructScaleRect& rect, const QIcon& icon, const QString& title, const QVariant& userData)
@@ -172,11 +211,11 @@ int KvTVWallNormalWnd::AddScreen(const KvGUI::StructScaleRect& rect, const QVari
 
 bool KvTVWallNormalWnd::DeleteAllScreen()
 {
-    d_func()->DeleteAllScreen();
+    d_func()->view->DeleteAllScreens();
     return true;
 }
 
-int KvTVWallNormalWnd::GetScreenCount() const { return d_func()->screens.size(); }
+int KvTVWallNormalWnd::GetScreenCount() const { return d_func()->view->Screens().size(); }
 
 bool KvTVWallNormalWnd::GetScreenScale(int iScreen, KvGUI::StructScaleRect& rect) const
 {
@@ -229,8 +268,10 @@ bool KvTVWallNormalWnd::IsScreenFreeMode(int iScreen) const
 
 bool KvTVWallNormalWnd::SetScreenOSDInfo(int iScreen, std::vector<KvGUI::StructOSDInfo>& infos)
 {
-    Q_UNUSED(infos)
-    return d_func()->Screen(iScreen) != nullptr;
+    KvTVWallNormalScreen* screen = d_func()->Screen(iScreen);
+    if (screen != nullptr)
+        screen->SetOSDInfo(infos);
+    return screen != nullptr;
 }
 
 void KvTVWallNormalWnd::SetSelectedScreenIndex(int iScreen)
@@ -395,8 +436,7 @@ QSize KvTVWallNormalWnd::sizeHint() const { return {960, 540}; }
 void KvTVWallNormalWnd::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    d_func()->view->setGeometry(rect());
-    d_func()->PlaceScreens();
+    d_func()->LayOut();
 }
 
 } // namespace UICommonMdl

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "KvTVWallNormalWnd.h"
+#include "WallZoom.h"
+
+#include <QPointer>
 
 namespace UICommonMdl {
 
@@ -8,8 +11,8 @@ class KvTVWallNormalScreen;
 class KvTVWallNormalView;
 class KvTVWallNormalWindow;
 
-/// State of the normal wall, and the relay of its screens' signals, to which it adds the sending screen's
-/// present index.
+/// State of the normal wall, its zoom, and the relay of its screens' signals, to which it adds the sending
+/// screen's present index.
 class KvTVWallNormalWndPrivate : public QObject
 {
     Q_OBJECT
@@ -18,20 +21,19 @@ public:
     explicit KvTVWallNormalWndPrivate(KvTVWallNormalWnd* wall);
 
     KvTVWallNormalScreen* AddScreen(const KvGUI::StructScaleRect& rect);
-    void DeleteAllScreen();
     /// Null for an index that names nothing.
-    KvTVWallNormalScreen* Screen(int screen) const { return screens.value(screen); }
+    KvTVWallNormalScreen* Screen(int screen) const;
     KvTVWallNormalWindow* Window(int screen, int window) const;
     int SelectedScreen() const; ///< lowest index of a selected screen, or -1
     void SelectScreen(const KvTVWallNormalScreen* selected); ///< and unselects all others
-    void PlaceScreens();
+    void LayOut(); ///< for the wall's present size
+    void ShowWholeWall();
 
     KvTVWallNormalWnd* const q;
     KvTVWallNormalView* const view;
-    KvTVWallNormalWnd::SelectionMode selectionMode = KvTVWallNormalWnd::NoSelection;
-    QList<KvTVWallNormalScreen*> screens;
+    WallZoom::Axis horizontal;
+    WallZoom::Axis vertical;
     bool titleShow = false;
-    bool audioButtons = true;
 
 private:
     /// Emits @p to of the wall, with the screen's index in front, whenever @p screen emits @p from.
@@ -39,6 +41,9 @@ private:
     void Relay(
         KvTVWallNormalScreen* screen, void (KvTVWallNormalScreen::*from)(Args...),
         void (KvTVWallNormalWnd::*to)(int, Args...));
+    void PlaceOnWall(KvTVWallNormalScreen* screen);
+    void PlaceScreens();
+    void OnWheel(int delta, const QPoint& pos);
 };
 
 } // namespace UICommonMdl
