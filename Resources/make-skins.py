@@ -41,7 +41,7 @@ TREES = [
     (ROOT / "gallery/skins/templates", ROOT / "gallery/skins", "OperatorClient"),
 ]
 
-# Monitors and video are dark in every skin, so what lies on them does not change with it.
+# What does not change with the skin: monitors and video are dark in each, and what lies on them fits that.
 ON_THE_WALL = {
     "screen": "#212225",  # painted by the screen itself, here for the contrast check only
     "screen-text": "#c9cdd5",
@@ -53,6 +53,8 @@ ON_THE_WALL = {
     # must be seen on it and on the menu.
     "search-chosen": "#29465a",
     "menu-icon": "#8f959f",
+    # Behind codes that a camera reads.
+    "paper": "#ffffff",
 }
 
 PALETTES = {

@@ -1,0 +1,345 @@
+// QR codes, read by a real reader, and the dialog that shows them.
+
+#include "support/QrReader.h"
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <UI/Dialogs/CDisplayQRcodeDlg.h>
+#include <UI/Dialogs/QRCodePicture.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using TestSupport::ReadQrCode;
+using UICommonMdl::CDisplayQRcodeDlg;
+using namespace UICommonMdl;
+
+namespace {
+
+/// Bytes that versions 2 to 40 hold at level H in byte mode.
+constexpr int Capacities[]
+    = {14,  24,  34,  44,  58,  64,  84,  98,  119, 137, 155, 177, 194, 220, 250,  280,  310,  338,  382, 403,
+       439, 461, 511, 535, 593, 625, 658, 698, 742, 790, 842, 898, 958, 983, 1051, 1093, 1139, 1219, 1273};
+constexpr int FirstVersion = 2;
+
+/// Up to here the reader can tell the modules apart in 200 pixels, always; of the larger ones in some.
+constexpr int LastReadableVersion = 19;
+
+/// Small letters, which only the byte mode holds.
+QString Letters(int count)
+{
+    QString text;
+    for (int i = 0; i < count; ++i)
+        text.append(QLatin1Char(char('a' + i * 7 % 26)));
+    return text;
+}
+
+/// On white with a margin, which a reader needs.
+QImage OnPaper(const QImage& code)
+{
+    const int margin = 40;
+    QImage paper(code.size() + QSize(2 * margin, 2 * margin), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter(&paper).drawImage(margin, margin, code);
+    return paper;
+}
+
+QImage Enlarged(const QImage& modules) { return modules.scaled(modules.size() * 4); }
+
+/// Coordinates of the modules whose picture, 200 pixels wide, the middle of pixel @p i falls into: one, or
+/// two when it comes very near to a border between them.
+QVector<int> ModulesUnder(int i, int side)
+{
+    const double place = (i + 0.5) * side / 200;
+    const int module = int(place);
+    return place - module < 0.04 && module > 0 ? QVector<int>{module - 1, module} : QVector<int>{module};
+}
+
+/// The colours that pixel (@p x, @p y) of the picture may have.
+QVector<QRgb> ModulesAt(const QImage& modules, int x, int y)
+{
+    QVector<QRgb> colours;
+    for (const int row : ModulesUnder(y, modules.width())) {
+        for (const int column : ModulesUnder(x, modules.width()))
+            colours.append(modules.pixel(column, row));
+    }
+    return colours;
+}
+
+/// The headless platform cannot tell a window manager the smallest size.
+void Show(QWidget& dialog)
+{
+    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+}
+
+/// A dialog with what a test looks at inside.
+struct Fixture
+{
+    QLabel* Label() const { return dialog->findChild<QLabel*>(QStringLiteral("m_labQRcode")); }
+    QTimer* Timer() const { return dialog->findChild<QTimer*>(); }
+    QImage Picture() const
+    {
+        const QPixmap* pixmap = Label()->pixmap();
+        return pixmap ? pixmap->toImage() : QImage();
+    }
+
+    QPointer<CDisplayQRcodeDlg> dialog = new CDisplayQRcodeDlg;
+    ~Fixture() { delete dialog; }
+};
+
+const QString Token = QStringLiteral("token-7f3a91c2");
+const QString OtherToken = QStringLiteral("token-00b1d8e5");
+const QString Device = QStringLiteral("device");
+
+} // namespace
+
+class tst_QrCode : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void versions_data();
+    void versions();
+    void texts_data();
+    void texts();
+    void eightPixelsAModule();
+
+    void firstState();
+    void showsTheCode();
+    void codeIsReadFromTheDialog_data();
+    void codeIsReadFromTheDialog();
+    void emptyValueStopsTheRenewal();
+    void tooLongValueKeepsTheCode();
+    void asksForRenewalAgainAndAgain();
+    void newValueBeginsThePeriodAnew();
+    void slotMayDeleteTheDialog();
+    void escapeCloses();
+};
+
+void tst_QrCode::versions_data()
+{
+    QTest::addColumn<int>("version");
+    QTest::addColumn<int>("capacity");
+    int version = FirstVersion;
+    for (const int capacity : Capacities) {
+        QTest::addRow("version %d", version) << version << capacity;
+        ++version;
+    }
+}
+
+/// Catches swapped rows and columns, a wrong bit of the modules, another level or mode, and a picture whose
+/// pixels are not those of their modules.
+void tst_QrCode::versions()
+{
+    QFETCH(int, version);
+    QFETCH(int, capacity);
+    const QString text = Letters(capacity);
+    const QImage modules = QRCodePicture::Modules(text);
+    const int side = 17 + 4 * version;
+    QCOMPARE(modules.size(), QSize(side, side));
+    QCOMPARE(ReadQrCode(OnPaper(Enlarged(modules))), text.toUtf8());
+    const QImage next = QRCodePicture::Modules(Letters(capacity + 1));
+    QCOMPARE(next.width(), version == 40 ? 0 : side + 4);
+
+    const QImage picture = QRCodePicture::Scaled(text);
+    QCOMPARE(picture.size(), QSize(200, 200));
+    for (int y = 0; y < 200; ++y) {
+        for (int x = 0; x < 200; ++x)
+            QVERIFY(ModulesAt(modules, x, y).contains(picture.pixel(x, y)));
+    }
+    if (version <= LastReadableVersion)
+        QCOMPARE(ReadQrCode(OnPaper(picture)), text.toUtf8());
+}
+
+void tst_QrCode::texts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("side");
+    QTest::addColumn<QByteArray>("read");
+    const auto row = [](const char* name, const QString& text, int side) {
+        QTest::newRow(name) << text << side << text.toUtf8();
+    };
+    row("one byte", QStringLiteral("a"), 25);
+    row("capitals stay capitals", QStringLiteral("Ab:aB"), 25);
+    row("two bytes a character", QString(7, QChar(0x00E9)), 25);
+    row("one byte too many", QString(7, QChar(0x00E9)) + QLatin1Char('a'), 29);
+    row("three bytes a character", QStringLiteral("\u914D\u5BF9\u624B\u673A"), 25);
+    row("four bytes a character", QStringLiteral("\U0001F4F7\U0001F512"), 25);
+    // Digits take less room than their bytes.
+    row("3000 digits", QString(3000, QLatin1Char('4')), 177);
+    QTest::newRow("null character ends the text")
+        << QStringLiteral("ab\0cd").left(5) << 25 << QByteArray("ab");
+    QTest::newRow("half a surrogate pair") << QString(QChar(0xD83D)) << 25 << QByteArray("?");
+    QTest::newRow("empty") << QString() << 0 << QByteArray();
+    QTest::newRow("only a null character") << QString(QChar(0)) << 0 << QByteArray();
+}
+
+/// Catches another encoding than UTF-8, lengths counted in characters, and a crash where there is no code.
+void tst_QrCode::texts()
+{
+    QFETCH(QString, text);
+    QFETCH(int, side);
+    const QImage modules = QRCodePicture::Modules(text);
+    QCOMPARE(modules.width(), side);
+    QCOMPARE(QRCodePicture::Scaled(text).isNull(), side == 0);
+    if (side > 0)
+        QTEST(ReadQrCode(OnPaper(Enlarged(modules))), "read");
+}
+
+/// Catches a margin inside the picture and colours other than black and white.
+void tst_QrCode::eightPixelsAModule()
+{
+    const QImage picture = QRCodePicture::Scaled(Letters(14)).convertToFormat(QImage::Format_RGB32);
+    // The upper left finder: seven dark modules, a light ring inside, dark three times three within.
+    const auto module = [&](int column, int row) {
+        const QImage square = picture.copy(column * 8, row * 8, 8, 8);
+        QImage plain(8, 8, QImage::Format_RGB32);
+        plain.fill(square.pixel(0, 0));
+        return square == plain ? square.pixel(0, 0) : qRgb(255, 0, 0);
+    };
+    for (int i = 0; i < 7; ++i) {
+        QCOMPARE(module(i, 0), qRgb(0, 0, 0));
+        QCOMPARE(module(0, i), qRgb(0, 0, 0));
+        QCOMPARE(module(i, 7), qRgb(255, 255, 255));
+    }
+    QCOMPARE(module(1, 1), qRgb(255, 255, 255));
+    QCOMPARE(module(2, 2), qRgb(0, 0, 0));
+    QCOMPARE(module(24, 0), qRgb(0, 0, 0));
+}
+
+/// Catches a dialog that runs before it shows anything, or comes in another form.
+void tst_QrCode::firstState()
+{
+    const Fixture f;
+    QCOMPARE(f.dialog->size(), QSize(400, 300));
+    QCOMPARE(f.dialog->windowTitle(), QStringLiteral("Display QRcode"));
+    QVERIFY(f.Picture().isNull());
+    QVERIFY(!f.Timer()->isActive());
+    QCOMPARE(f.Timer()->interval(), 120000);
+    QVERIFY(!f.Timer()->isSingleShot());
+    Show(*f.dialog);
+    QCOMPARE(f.Label()->size(), QSize(200, 200));
+    QCOMPARE(f.Label()->parentWidget()->objectName(), QStringLiteral("wgtBk"));
+}
+
+/// Catches a picture of another text, and one that is scaled again.
+void tst_QrCode::showsTheCode()
+{
+    const Fixture f;
+    for (const QString& token : {Token, OtherToken}) {
+        f.dialog->SetQRCodeValue(token, Device);
+        QCOMPARE(f.Picture().size(), QSize(200, 200));
+        QCOMPARE(ReadQrCode(OnPaper(f.Picture())), token.toUtf8());
+        QVERIFY(f.Timer()->isActive());
+    }
+}
+
+void tst_QrCode::codeIsReadFromTheDialog_data()
+{
+    QTest::addColumn<QString>("skin");
+    QTest::newRow("dark") << QStringLiteral("Black");
+    QTest::newRow("light") << QStringLiteral("White");
+}
+
+/// Catches a dialog without the light margin that readers need, above all in the dark skin, also when a
+/// client's own sheet colours its dialogs.
+void tst_QrCode::codeIsReadFromTheDialog()
+{
+    QFETCH(QString, skin);
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("QDialog, QWidget { background-color: #17181b; }"));
+    CDisplayQRcodeDlg dialog(&window);
+    KvGUI::SetSkinVersion(skin);
+    dialog.SetQRCodeValue(Token, Device);
+    Show(dialog);
+    const QImage picture = dialog.grab().toImage();
+    KvGUI::SetSkinVersion(QStringLiteral("Black"));
+    QCOMPARE(ReadQrCode(picture), Token.toUtf8());
+    // Four modules on each side.
+    const QPoint corner = dialog.findChild<QLabel*>(QStringLiteral("m_labQRcode"))->mapTo(&dialog, {0, 0});
+    const int margin = 4 * 8;
+    for (const QPoint& at :
+         {QPoint(-margin, 100), QPoint(199 + margin, 100), QPoint(100, 199 + margin), QPoint(100, -margin)})
+        QCOMPARE(picture.pixelColor(corner + at), QColor(Qt::white));
+}
+
+/// Catches a code that disappears, or is renewed for ever after the client has stopped.
+void tst_QrCode::emptyValueStopsTheRenewal()
+{
+    const Fixture f;
+    f.dialog->SetQRCodeValue(Token, Device);
+    const QImage picture = f.Picture();
+    f.dialog->SetQRCodeValue(QString(), QStringLiteral("other"));
+    QCOMPARE(f.Picture(), picture);
+    QVERIFY(!f.Timer()->isActive());
+}
+
+/// Catches a failed encoding that clears the code, or ends the renewal that could mend it.
+void tst_QrCode::tooLongValueKeepsTheCode()
+{
+    const Fixture f;
+    f.dialog->SetQRCodeValue(Token, Device);
+    const QImage picture = f.Picture();
+    f.dialog->SetQRCodeValue(Letters(1274), Device);
+    QCOMPARE(f.Picture(), picture);
+    QVERIFY(f.Timer()->isActive());
+    f.dialog->SetQRCodeValue(Letters(1273), Device);
+    QVERIFY(f.Picture() != picture);
+}
+
+/// Catches a request that comes once only, or with an init value of before.
+void tst_QrCode::asksForRenewalAgainAndAgain()
+{
+    const Fixture f;
+    QSignalSpy asked(f.dialog, &CDisplayQRcodeDlg::SignalRefreshTimeout);
+    for (const int bad : {0, -1})
+        f.dialog->SetRefreshInterval(bad);
+    QCOMPARE(f.dialog->RefreshInterval(), 120000);
+    f.dialog->SetRefreshInterval(5);
+    f.dialog->SetQRCodeValue(Token, QStringLiteral("before"));
+    f.dialog->SetQRCodeValue(Token, Device);
+    QTRY_VERIFY(asked.count() >= 3);
+    for (const QVariantList& arguments : asked)
+        QCOMPARE(arguments, QVariantList{Device});
+}
+
+/// Catches a renewal that comes too early for the new code.
+void tst_QrCode::newValueBeginsThePeriodAnew()
+{
+    const Fixture f;
+    f.dialog->SetQRCodeValue(Token, Device);
+    QTRY_VERIFY(f.Timer()->remainingTime() <= 119950);
+    f.dialog->SetQRCodeValue(OtherToken, Device);
+    QVERIFY(f.Timer()->remainingTime() > 119950);
+}
+
+/// Catches a dialog that goes on after its client deleted it.
+void tst_QrCode::slotMayDeleteTheDialog()
+{
+    const Fixture f;
+    connect(f.dialog, &CDisplayQRcodeDlg::SignalRefreshTimeout, this, [&] { delete f.dialog; });
+    f.dialog->SetRefreshInterval(5);
+    f.dialog->SetQRCodeValue(Token, Device);
+    QTRY_VERIFY(f.dialog.isNull());
+}
+
+/// Catches a dialog that the keyboard cannot close.
+void tst_QrCode::escapeCloses()
+{
+    const Fixture f;
+    QSignalSpy rejected(f.dialog, &QDialog::rejected);
+    Show(*f.dialog);
+    QTest::keyClick(f.dialog, Qt::Key_Escape);
+    QCOMPARE(rejected.count(), 1);
+    QVERIFY(!f.dialog->isVisible());
+}
+
+STRICT_TEST_MAIN(tst_QrCode)
+#include "tst_qrcode.moc"
