@@ -18,6 +18,8 @@ public:
     {
         QString suffix; ///< of the file name; empty for the page as it opens
         std::function<void()> enter; ///< brings the page into the state, whatever the one before
+        /// Ends the state. For states with a dialog or a menu: `enter` may return only after this.
+        std::function<void()> leave = [] {};
     };
 
     using QWidget::QWidget;

@@ -4,20 +4,24 @@
 #include <gallery/MainWindow.h>
 #include <gallery/Pictures/SourcePool.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPainter>
 #include <QPixmap>
 #include <QStatusBar>
 #include <QThread>
+#include <QTimer>
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace OperatorClient {
 
 namespace {
 
 constexpr int LongestWaitForVideos = 5000; // milliseconds
-constexpr int TimeToSettle = 250; // for debounced layouts, milliseconds
+constexpr int TimeToSettle = 400; // for debounced layouts and dialogs that open, milliseconds
 
 void RunEvents(int milliseconds)
 {
@@ -37,12 +41,46 @@ void WaitForVideos(const SourcePool& pool)
         RunEvents(20);
 }
 
+/// Whatever is open over the main window, from the dialogs up to the menus and messages.
+QWidgetList OpenOver(const MainWindow& window)
+{
+    QWidgetList open;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    std::copy_if(all.begin(), all.end(), std::back_inserter(open), [&](const QWidget* widget) {
+        return widget != &window && widget->isVisible();
+    });
+    const auto layer = [](const QWidget* widget) {
+        const Qt::WindowType type = widget->windowType();
+        return type == Qt::ToolTip ? 2 : type == Qt::Popup ? 1 : 0;
+    };
+    std::stable_sort(
+        open.begin(), open.end(), [&](const auto* a, const auto* b) { return layer(a) < layer(b); });
+    return open;
+}
+
+QPixmap PictureOf(MainWindow& window)
+{
+    QPixmap picture = window.grab();
+    QPainter painter(&picture);
+    const QWidgetList open = OpenOver(window);
+    for (QWidget* widget : open)
+        painter.drawPixmap(widget->pos() - window.pos(), widget->grab());
+    return picture;
+}
+
 bool SavePicture(MainWindow& window, const QString& path)
 {
-    if (window.grab().save(path))
+    if (PictureOf(window).save(path))
         return true;
     std::fprintf(stderr, "%s\n", qPrintable(QStringLiteral("The picture %1 cannot be saved.").arg(path)));
     return false;
+}
+
+QString FileName(const Page& page, const Page::Picture& picture)
+{
+    const QString name = page.Name() + QLatin1Char('-') + KvGUI::GetSkinVersion().toLower();
+    const QString suffix = picture.suffix.isEmpty() ? QString() : QLatin1Char('-') + picture.suffix;
+    return name + suffix + QLatin1String(".png");
 }
 
 bool SavePage(MainWindow& window, Page& page, const SourcePool& pool, const QDir& folder)
@@ -50,14 +88,18 @@ bool SavePage(MainWindow& window, Page& page, const SourcePool& pool, const QDir
     bool saved = true;
     const QVector<Page::Picture> pictures = page.Pictures();
     for (const Page::Picture& picture : pictures) {
+        bool done = false;
+        // By a timer: a state with a modal dialog is inside the dialog's own loop.
+        QTimer::singleShot(TimeToSettle, &window, [&] {
+            WaitForVideos(pool);
+            window.statusBar()->clearMessage();
+            saved = SavePicture(window, folder.filePath(FileName(page, picture))) && saved;
+            picture.leave();
+            done = true;
+        });
         picture.enter();
-        window.statusBar()->clearMessage();
-        RunEvents(TimeToSettle);
-        WaitForVideos(pool);
-        QString name = page.Name() + QLatin1Char('-') + KvGUI::GetSkinVersion().toLower();
-        if (!picture.suffix.isEmpty())
-            name += QLatin1Char('-') + picture.suffix;
-        saved = SavePicture(window, folder.filePath(name + QLatin1String(".png"))) && saved;
+        while (!done)
+            RunEvents(20);
     }
     return saved;
 }
