@@ -41,6 +41,8 @@ void ScreenBackdrop::SetPicture(const std::string& file, bool show)
 void ScreenBackdrop::Paint(
     QPainter& painter, const QSize& size, const QRect& exposed, qreal density, const QColor& textColor)
 {
+    if (size.isEmpty() || exposed.isEmpty())
+        return;
     painter.fillRect(exposed, QColor(ScreenColor));
     if (m_bShowBackground)
         painter.fillRect(exposed, m_background);
