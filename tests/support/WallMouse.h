@@ -4,10 +4,13 @@
 #include <QPointer>
 #include <QWidget>
 
+class QMimeData;
+
 namespace TestSupport {
 
-/// A mouse over a widget and its children, as the window system moves it: an event goes to the widget under
-/// the cursor, while a button is held to the one that got the press. Places are pixels of the widget.
+/// A mouse over a widget and its children. Events go in where the window system puts them, into the native
+/// window, so that Qt finds the widget under the cursor, and keeps to it while a button is held. Places are
+/// pixels of the widget; a widget that is gone takes no more events.
 class WallMouse
 {
 public:
@@ -15,24 +18,22 @@ public:
 
     void Press(const QPoint& at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {});
     void Move(const QPoint& to, Qt::KeyboardModifiers keys = {});
-    void Release(const QPoint& at, Qt::KeyboardModifiers keys = {});
+    void Release(const QPoint& at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {});
     void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
     void DoubleClick(const QPoint& at);
     /// Presses the left button, moves half the way and all of it, and releases.
     void Drag(const QPoint& from, const QPoint& to, Qt::KeyboardModifiers keys = {});
-    /// @return whether the event was accepted
-    bool Wheel(const QPoint& at, int angle);
+    void Wheel(const QPoint& at, int angle);
     void ContextMenu(const QPoint& at);
     bool DragEnter(const QPoint& at, const QMimeData& data); ///< @return whether it was accepted
+    void DragLeave();
     void Drop(const QPoint& at, const QMimeData& data);
 
 private:
-    void Send(QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::KeyboardModifiers keys = {});
-    QWidget* Under(const QPoint& at) const;
+    QWindow* Window() const; ///< null when the widget is gone
+    QPoint InWindow(const QPoint& at) const { return m_pWall->mapTo(m_pWall->window(), at); }
 
     QPointer<QWidget> m_pWall;
-    QPointer<QWidget> m_pGrabber; // got the press
-    Qt::MouseButton m_held = Qt::NoButton;
 };
 
 } // namespace TestSupport
