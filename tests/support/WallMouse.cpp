@@ -1,7 +1,6 @@
 #include "WallMouse.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QTest>
 #include <QWheelEvent>
@@ -12,9 +11,17 @@ namespace TestSupport {
 
 WallMouse::WallMouse(QWidget* wall)
     : m_pWall(wall)
+    , m_pTopLevel(wall->window())
 { }
 
-QWindow* WallMouse::Window() const { return m_pWall ? m_pWall->window()->windowHandle() : nullptr; }
+QWindow* WallMouse::Window() const { return m_pTopLevel ? m_pTopLevel->windowHandle() : nullptr; }
+
+QPoint WallMouse::InWindow(const QPoint& at)
+{
+    if (m_pWall)
+        m_offset = m_pWall->mapTo(m_pTopLevel, QPoint(0, 0));
+    return at + m_offset;
+}
 
 void WallMouse::Press(const QPoint& at, Qt::MouseButton button, Qt::KeyboardModifiers keys)
 {
@@ -57,18 +64,10 @@ void WallMouse::Drag(const QPoint& from, const QPoint& to, Qt::KeyboardModifiers
 void WallMouse::Wheel(const QPoint& at, int angle)
 {
     QWheelEvent event(
-        InWindow(at), m_pWall->mapToGlobal(at), {}, QPoint(0, angle), Qt::NoButton, Qt::NoModifier,
-        Qt::NoScrollPhase, false);
+        InWindow(at), m_pTopLevel->mapToGlobal(InWindow(at)), {}, QPoint(0, angle), Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&event); // Qt passes an event made by a program to no parent
     qApp->notify(Window(), &event);
-}
-
-void WallMouse::ContextMenu(const QPoint& at)
-{
-    QWidget* widget = m_pWall->childAt(at);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, widget->mapFrom(m_pWall, at), m_pWall->mapToGlobal(at));
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(widget, &event);
 }
 
 bool WallMouse::DragEnter(const QPoint& at, const QMimeData& data)

@@ -10,7 +10,7 @@ namespace TestSupport {
 
 /// A mouse over a widget and its children. Events go in where the window system puts them, into the native
 /// window, so that Qt finds the widget under the cursor, and keeps to it while a button is held. Places are
-/// pixels of the widget; a widget that is gone takes no more events.
+/// pixels of the widget, which may be deleted in any event: they are then pixels of where it was.
 class WallMouse
 {
 public:
@@ -19,21 +19,23 @@ public:
     void Press(const QPoint& at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {});
     void Move(const QPoint& to, Qt::KeyboardModifiers keys = {});
     void Release(const QPoint& at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {});
+    /// With the right button Qt adds the event that asks for a context menu.
     void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
     void DoubleClick(const QPoint& at);
     /// Presses the left button, moves half the way and all of it, and releases.
     void Drag(const QPoint& from, const QPoint& to, Qt::KeyboardModifiers keys = {});
     void Wheel(const QPoint& at, int angle);
-    void ContextMenu(const QPoint& at);
     bool DragEnter(const QPoint& at, const QMimeData& data); ///< @return whether it was accepted
     void DragLeave();
     void Drop(const QPoint& at, const QMimeData& data);
 
 private:
-    QWindow* Window() const; ///< null when the widget is gone
-    QPoint InWindow(const QPoint& at) const { return m_pWall->mapTo(m_pWall->window(), at); }
+    QWindow* Window() const; ///< null when it is gone
+    QPoint InWindow(const QPoint& at);
 
-    QPointer<QWidget> m_pWall;
+    const QPointer<QWidget> m_pWall;
+    const QPointer<QWidget> m_pTopLevel;
+    QPoint m_offset; // of the widget in the window
 };
 
 } // namespace TestSupport
