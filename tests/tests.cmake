@@ -47,7 +47,6 @@ set_target_properties(ProbeProvider PROPERTIES OUTPUT_NAME 1-ProbeProvider)
 set_target_properties(OtherProvider PROPERTIES OUTPUT_NAME 2-OtherProvider)
 uicomponents_test(tst_linkweb tst_linkweb.cpp)
 uicomponents_test(tst_excel tst_excel.cpp excel/RecordedObject.cpp excel/RecordedObject.h)
-uicomponents_test(tst_walldeletion tst_walldeletion.cpp)
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")

@@ -892,7 +892,20 @@ const QVector<QPair<const char*, Action>> Occasions = {
          f.mouse.DragLeave();
      }},
     {"a call", [](Fixture& f) { f.wall->SetWindowScale(0, 0, Whole); }},
+    {"a press on an overlay",
+     [](Fixture& f) {
+         std::vector<KvGUI::StructOSDInfo> infos{Overlay(true)};
+         f.wall->SetScreenOSDInfo(0, infos);
+         f.mouse.Click(OnOverlay);
+     }},
+    {"a 3D frame",
+     [](Fixture& f) {
+         f.SelectScreen();
+         f.wall->SetPtzFrameSelectedEnable(true);
+         f.mouse.Drag(f.OnVideo(0), f.OnVideo(0) + QPoint(50, 50));
+     }},
 };
+constexpr int DisplayOccasions = 2; // the last ones; the normal family does not report them
 
 /// Calls @p slot for whatever the wall emits.
 void ConnectAll(Wall* wall, const std::function<void()>& slot)
@@ -909,6 +922,7 @@ void ConnectAll(Wall* wall, const std::function<void()>& slot)
     QObject::connect(wall, &Wall::SignalWindowGeoChanged, slot);
     QObject::connect(wall, &Wall::SignalDrawAreaOpenWindow, slot);
     QObject::connect(wall, &Wall::SignalLabelEvent, slot);
+    QObject::connect(wall, &Wall::SignalWindow3DSite, slot);
 }
 
 } // namespace
@@ -917,8 +931,10 @@ void tst_Walls::slotsMayDeleteAnything_data()
 {
     QTest::addColumn<int>("deletion");
     QTest::addColumn<int>("occasion");
+    QFETCH_GLOBAL(int, family);
+    const int occasions = Occasions.size() - (family == Wall::DisplayMode ? 0 : DisplayOccasions);
     for (int d = 0; d < Deletions.size(); ++d) {
-        for (int o = 0; o < Occasions.size(); ++o)
+        for (int o = 0; o < occasions; ++o)
             QTest::addRow("%s in %s", Deletions.at(d).first, Occasions.at(o).first) << d << o;
     }
 }
