@@ -47,7 +47,8 @@ QWidgetList OpenOver(const MainWindow& window)
     QWidgetList open;
     const QWidgetList all = QApplication::topLevelWidgets();
     std::copy_if(all.begin(), all.end(), std::back_inserter(open), [&](const QWidget* widget) {
-        return widget != &window && widget->isVisible();
+        const bool inScene = widget->graphicsProxyWidget() != nullptr; // drawn by its view
+        return widget != &window && widget->isVisible() && !inScene;
     });
     const auto layer = [](const QWidget* widget) {
         const Qt::WindowType type = widget->windowType();
