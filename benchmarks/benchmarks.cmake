@@ -1,2 +1,3 @@
 uicomponents_benchmark(bench_wall bench_wall.cpp)
 uicomponents_benchmark(bench_foundation bench_foundation.cpp)
+uicomponents_benchmark(bench_photo bench_photo.cpp)
