@@ -13,7 +13,7 @@ constexpr int LowestQuality = 0;
 
 /// Qualities at which most pictures fit into the bits for each pixel.
 constexpr int FineQuality = 90;
-constexpr qint64 FineBits = 3;
+constexpr qint64 FineBits = 2;
 
 /// Whether it is not worth while to look whether @p image is too large before it is encoded.
 bool IsLikelyToFit(const QImage& image, int quality, int maximum)

@@ -94,12 +94,16 @@ void JpegSamples::ConvertColored(int row, int bandRow)
     quint8* const redness = m_redness.Row(bandRow);
     const int width = m_image.width();
     for (int x = 0; x < width; ++x) {
-        const int red = qRed(pixels[x]);
-        const int green = qGreen(pixels[x]);
-        const int blue = qBlue(pixels[x]);
-        const int y = 19595 * red + 38470 * green + 7471 * blue + Half;
-        const int cb = 32768 * blue - 11059 * red - 21709 * green + ChromaOffset;
-        const int cr = 32768 * red - 27439 * green - 5329 * blue + ChromaOffset;
+        // Factors and colours of 16 bits, some doubled for it, are multiplied eight at a time.
+        const auto red = static_cast<qint16>(qRed(pixels[x]));
+        const auto green = static_cast<qint16>(qGreen(pixels[x]));
+        const auto blue = static_cast<qint16>(qBlue(pixels[x]));
+        const auto red2 = static_cast<qint16>(2 * red);
+        const auto green2 = static_cast<qint16>(2 * green);
+        const auto blue2 = static_cast<qint16>(2 * blue);
+        const int y = 19595 * red + 19235 * green2 + 7471 * blue + Half;
+        const int cb = 16384 * blue2 - 11059 * red - 21709 * green + ChromaOffset;
+        const int cr = 16384 * red2 - 27439 * green - 5329 * blue + ChromaOffset;
         luminance[x] = static_cast<quint8>(y >> ColorBits);
         blueness[x] = static_cast<quint8>(cb >> ColorBits);
         redness[x] = static_cast<quint8>(cr >> ColorBits);
