@@ -1,3 +1,2 @@
 uicomponents_benchmark(bench_wall bench_wall.cpp)
 uicomponents_benchmark(bench_foundation bench_foundation.cpp)
-uicomponents_benchmark(bench_photo bench_photo.cpp)

@@ -28,4 +28,9 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package and pkg-conf
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${runtime_package} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.15)")
 
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME uicomponents-designer)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
+set(CPACK_COMPONENT_DESIGNER_DESCRIPTION "Plugin that offers the library's widgets in Qt Designer.")
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
+
 include(CPack)

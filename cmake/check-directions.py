@@ -9,7 +9,7 @@ import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-ORDER = ["Platform/kvl", "Platform/BasicUIComponents", "Common", "UI", "gallery"]
+ORDER = ["Platform/kvl", "Platform/BasicUIComponents", "Common", "UI", "gallery", "designer"]
 AUTOMATION = "Platform/Automation"
 AUTOMATION_USERS = {"UI/Spreadsheet", "UI/LinkWeb"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^">]+)[">]', re.MULTILINE)

@@ -47,8 +47,7 @@ QWidgetList OpenOver(const MainWindow& window)
     QWidgetList open;
     const QWidgetList all = QApplication::topLevelWidgets();
     std::copy_if(all.begin(), all.end(), std::back_inserter(open), [&](const QWidget* widget) {
-        const bool inScene = widget->graphicsProxyWidget() != nullptr; // drawn by its view
-        return widget != &window && widget->isVisible() && !inScene;
+        return widget != &window && widget->isVisible();
     });
     const auto layer = [](const QWidget* widget) {
         const Qt::WindowType type = widget->windowType();

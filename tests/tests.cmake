@@ -47,6 +47,17 @@ set_target_properties(ProbeProvider PROPERTIES OUTPUT_NAME 1-ProbeProvider)
 set_target_properties(OtherProvider PROPERTIES OUTPUT_NAME 2-OtherProvider)
 uicomponents_test(tst_linkweb tst_linkweb.cpp)
 uicomponents_test(tst_excel tst_excel.cpp excel/RecordedObject.cpp excel/RecordedObject.h)
+if(TARGET UIComponentsDesigner)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS UiPlugin UiTools)
+    uicomponents_test(tst_designer tst_designer.cpp)
+    target_link_libraries(tst_designer PRIVATE Qt5::UiTools Qt5::UiPlugin)
+    add_dependencies(tst_designer UIComponentsDesigner)
+    get_property(public_headers GLOBAL PROPERTY UICOMPONENTS_PUBLIC_HEADERS)
+    list(JOIN public_headers "|" public_headers)
+    target_compile_definitions(tst_designer PRIVATE
+        DESIGNER_PLUGINS="$<TARGET_FILE_DIR:UIComponentsDesigner>" PUBLIC_HEADERS="${public_headers}"
+        SOURCE_TREE="${PROJECT_SOURCE_DIR}" FORM="${CMAKE_CURRENT_SOURCE_DIR}/designer/AllWidgets.ui")
+endif()
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")
