@@ -26,7 +26,7 @@ void AddOptions(QCommandLineParser& parser)
     parser.addVersionOption();
     parser.addOptions(
         {TextOption("video", "Show the video file in a window.", "file"),
-         TextOption("photo", "Show the picture file in a window.", "file"),
+         TextOption("photo", "Show the picture file in a window, and crop the first one.", "file"),
          TextOption(
              "screenshots", "Save pictures of all pages in both skins to the folder, and end.", "folder"),
          TextOption("layout", "Keep the wall in this file instead of the user's own.", "file"),
@@ -62,6 +62,8 @@ bool ParseOptions(const QStringList& arguments, ClientOptions& options, QString&
     }
     options.files = Sources(parser.values(QStringLiteral("video")), &SourceSpec::Video)
         + Sources(parser.values(QStringLiteral("photo")), &SourceSpec::Photo);
+    const QStringList photos = parser.values(QStringLiteral("photo"));
+    options.photo = photos.isEmpty() ? QString() : QFileInfo(photos.first()).absoluteFilePath();
     options.screenshotFolder = parser.value(QStringLiteral("screenshots"));
     options.layoutFile = parser.value(QStringLiteral("layout"));
     return true;
@@ -71,6 +73,11 @@ QString UsersLayoutFile()
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
         + QLatin1String("/operator-client.ini");
+}
+
+QString UsersRecordFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QLatin1String("/person");
 }
 
 } // namespace OperatorClient

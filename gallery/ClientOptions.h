@@ -12,6 +12,7 @@ namespace OperatorClient {
 struct ClientOptions
 {
     QVector<SourceSpec> files; ///< videos, then photos, for the first windows
+    QString photo; ///< the first photo, to be cropped; empty: a drawn one
     QString screenshotFolder; ///< empty: run as usual
     QString layoutFile; ///< empty: the user's own
     QString skin; ///< empty: the one of the layout
@@ -23,5 +24,8 @@ bool ParseOptions(const QStringList& arguments, ClientOptions& options, QString&
 
 /// The file in which the user's wall is kept when none is named.
 QString UsersLayoutFile();
+
+/// The folder in which the user's person record is kept.
+QString UsersRecordFolder();
 
 } // namespace OperatorClient

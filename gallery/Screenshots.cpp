@@ -47,7 +47,7 @@ QWidgetList OpenOver(const MainWindow& window)
     QWidgetList open;
     const QWidgetList all = QApplication::topLevelWidgets();
     std::copy_if(all.begin(), all.end(), std::back_inserter(open), [&](const QWidget* widget) {
-        return widget != &window && widget->isVisible();
+        return widget != &window && widget->isVisible() && widget->graphicsProxyWidget() == nullptr;
     });
     const auto layer = [](const QWidget* widget) {
         const Qt::WindowType type = widget->windowType();
@@ -64,7 +64,7 @@ QPixmap PictureOf(MainWindow& window)
     QPainter painter(&picture);
     const QWidgetList open = OpenOver(window);
     for (QWidget* widget : open)
-        painter.drawPixmap(widget->pos() - window.pos(), widget->grab());
+        painter.drawPixmap(widget->geometry().topLeft() - window.geometry().topLeft(), widget->grab());
     return picture;
 }
 

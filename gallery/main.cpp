@@ -1,6 +1,8 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/ClientOptions.h>
 #include <gallery/MainWindow.h>
+#include <gallery/Photo/PhotoPage.h>
+#include <gallery/Photo/RecordPage.h>
 #include <gallery/Pictures/FrameClock.h>
 #include <gallery/Pictures/SourcePool.h>
 #include <gallery/Screenshots.h>
@@ -45,6 +47,9 @@ int Run(const ClientOptions& options)
 
     MainWindow window;
     window.AddPage(new WallPage(pool, clock, file, layout, options.files, &window));
+    window.AddPage(new PhotoPage(options.photo, &window));
+    window.AddPage(new RecordPage(
+        pictures ? pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder(), &window));
     if (pictures)
         return SaveScreenshots(window, pool, options.screenshotFolder) ? 0 : 1;
     window.show();

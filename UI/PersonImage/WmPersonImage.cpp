@@ -42,6 +42,9 @@ WmPersonImage::WmPersonImage(QWidget* parent)
     m_lbAvatarOrFace->setObjectName(QStringLiteral("m_lbAvatarOrFace"));
     m_lbAvatarOrFace->setAlignment(Qt::AlignCenter);
     m_lbAvatarOrFace->setFixedSize(StripSize(this));
+    // The caption is as wide as the panel and would take the clicks.
+    m_btnTurnPage->raise();
+    ShowTurnText();
     CommonFun::SetStyleSheet(this, QStringLiteral("PersonImage"), QString(), QString());
     SetPhotoBtnVisible(false);
 }
@@ -84,7 +87,7 @@ int WmPersonImage::CaptionType() const { return m_iCaptionType; }
 void WmPersonImage::RefreshUIButton()
 {
     m_bSecondPage = !m_bSecondPage;
-    m_btnTurnPage->setText(m_bSecondPage ? tr("Previous Picture") : tr("Next Picture"));
+    ShowTurnText();
     SetPhotoBtnVisible(true);
     repaint();
 }
@@ -92,7 +95,14 @@ void WmPersonImage::RefreshUIButton()
 void WmPersonImage::ResetUI()
 {
     m_bSecondPage = false;
-    m_btnTurnPage->setText(tr("Next Picture"));
+    ShowTurnText();
+}
+
+void WmPersonImage::ShowTurnText()
+{
+    const QString text = m_bSecondPage ? tr("Previous Picture") : tr("Next Picture");
+    m_btnTurnPage->setText(text);
+    m_btnTurnPage->setToolTip(text);
 }
 
 void WmPersonImage::SetPhotoBtnAlwaysShow(bool bAlways)

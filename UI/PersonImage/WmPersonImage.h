@@ -83,6 +83,7 @@ protected:
 
 private:
     QPushButton* AddButton(const char* name, const QString& text, void (WmPersonImage::*clicked)());
+    void ShowTurnText();
 
     QPushButton* m_btnUpLoad;
     QPushButton* m_btnCapture;

@@ -1,0 +1,308 @@
+#include <gallery/Photo/PhotoPage.h>
+
+#include <Platform/BasicUIComponents/KvCheckBox.h>
+#include <Platform/BasicUIComponents/KvPushButton.h>
+#include <gallery/OperatorHand.h>
+#include <gallery/Photo/PhotoView.h>
+#include <gallery/Photo/Visitors.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLocale>
+#include <QSpinBox>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace OperatorClient {
+
+namespace {
+
+constexpr int SideWidth = 320;
+constexpr int BytesOfKilobyte = 1024;
+constexpr int DialogIsThere = 150; // milliseconds; the dialog is open and shows its photo
+
+QString SearchText(Search search)
+{
+    switch (search) {
+    case Search::Vehicle:
+        return PhotoPage::tr("vehicle images");
+    case Search::Face:
+        return PhotoPage::tr("face images");
+    case Search::HumanBody:
+        return PhotoPage::tr("human body images");
+    case Search::None:
+        break;
+    }
+    return PhotoPage::tr("none");
+}
+
+QString SizeText(const QSize& size)
+{
+    return PhotoPage::tr("%1 \u00d7 %2 pixels").arg(size.width()).arg(size.height());
+}
+
+QWidget* FirstCanvas(QDialog* dialog)
+{
+    return dialog->findChild<QWidget*>(QStringLiteral("canvasContainer"));
+}
+
+} // namespace
+
+PhotoPage::PhotoPage(const QString& file, QWidget* parent)
+    : Page(parent)
+{
+    auto* page = new QHBoxLayout(this);
+    page->setContentsMargins(24, 20, 24, 20);
+    page->setSpacing(24);
+    page->addWidget(BuildPhotoSide(), 1);
+    auto* side = new QVBoxLayout;
+    side->setSpacing(12);
+    side->addWidget(BuildLimits());
+    side->addWidget(BuildCommands());
+    side->addWidget(BuildCut(), 1);
+    page->addLayout(side);
+    ShowDrawn();
+    if (!file.isEmpty())
+        OpenFile(file);
+}
+
+QString PhotoPage::Title() const { return tr("Photo cropping"); }
+
+QString PhotoPage::Name() const { return QStringLiteral("photo"); }
+
+QWidget* PhotoPage::BuildPhotoSide()
+{
+    auto* side = new QWidget(this);
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    auto* title = new QLabel(Title(), side);
+    title->setObjectName(QStringLiteral("pageTitle"));
+    m_pPhotoText = new QLabel(side);
+    m_pPhotoText->setObjectName(QStringLiteral("hint"));
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    texts->addWidget(title);
+    texts->addWidget(m_pPhotoText);
+    auto* open = new KvGUI::KvPushButton(tr("&Open a photo\u2026"), side);
+    auto* drawn = new KvGUI::KvPushButton(tr("&Drawn photo"), side);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(8);
+    head->addLayout(texts, 1);
+    head->addWidget(drawn, 0, Qt::AlignBottom);
+    head->addWidget(open, 0, Qt::AlignBottom);
+    m_pView = new PhotoView(side);
+    m_pView->setAcceptDrops(true);
+    m_pView->setToolTip(tr("Drop a photo here"));
+    column->addLayout(head);
+    column->addWidget(m_pView, 1);
+    connect(open, &QPushButton::clicked, this, &PhotoPage::AskForFile);
+    connect(drawn, &QPushButton::clicked, this, &PhotoPage::ShowDrawn);
+    connect(m_pView, &PhotoView::SignalFileDropped, this, &PhotoPage::OpenFile);
+    connect(m_pView, &PhotoView::SignalPictureDropped, this, [this](const QImage& picture) {
+        if (!picture.isNull())
+            ShowPhoto({tr("Dropped picture"), QString(), picture});
+    });
+    return side;
+}
+
+QSpinBox*
+PhotoPage::AddLimit(QFormLayout* form, const QString& label, int most, int value, const QString& unit)
+{
+    auto* box = new QSpinBox(this);
+    box->setRange(0, most);
+    box->setSuffix(unit);
+    box->setSpecialValueText(tr("no limit"));
+    box->setValue(value);
+    form->addRow(label, box); // makes the label's text the box's accessible name, and its letter a shortcut
+    return box;
+}
+
+QWidget* PhotoPage::BuildLimits()
+{
+    auto* group = new QGroupBox(tr("Limits of the cut"), this);
+    group->setFixedWidth(SideWidth);
+    auto* form = new QFormLayout(group);
+    form->setVerticalSpacing(8);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_pKilobytes = AddLimit(form, tr("&JPEG size"), 100000, 60, tr(" kB"));
+    m_pWidth = AddLimit(form, tr("&Width"), 20000, 640, tr(" pixels"));
+    m_pHeight = AddLimit(form, tr("&Height"), 20000, 640, tr(" pixels"));
+    m_pHalve = new KvGUI::KvCheckBox(tr("Hal&ve a cut with more pixels"), group);
+    m_pHalve->setChecked(true);
+    m_pHalve->setToolTip(tr("Otherwise a cut with more pixels is refused"));
+    form->addRow(m_pHalve);
+    return group;
+}
+
+QWidget* PhotoPage::BuildCommands()
+{
+    auto* group = new QGroupBox(tr("Crop"), this);
+    auto* column = new QVBoxLayout(group);
+    column->setSpacing(8);
+    auto* zoom = new KvGUI::KvPushButton(tr("With handles and &search\u2026"), group);
+    auto* plain = new KvGUI::KvPushButton(tr("By a &plain frame\u2026"), group);
+    zoom->setToolTip(tr("Frame a part, move and resize the frame, or search for what is in it"));
+    plain->setToolTip(tr("Drag a frame over the photo"));
+    column->addWidget(zoom);
+    column->addWidget(plain);
+    connect(zoom, &QPushButton::clicked, this, &PhotoPage::CropWithZoom);
+    connect(plain, &QPushButton::clicked, this, &PhotoPage::CropPlain);
+    return group;
+}
+
+QWidget* PhotoPage::BuildCut()
+{
+    auto* group = new QGroupBox(tr("Cut"), this);
+    auto* column = new QVBoxLayout(group);
+    column->setSpacing(8);
+    m_pCutView = new PhotoView(group);
+    m_pCutView->SetHint(tr("Crop the photo to see the cut here."));
+    m_pCutView->setMinimumHeight(140);
+    m_pCutText = new QLabel(group);
+    m_pCutText->setTextFormat(Qt::PlainText);
+    m_pCutText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_pCutText->setAccessibleName(tr("Facts of the cut"));
+    m_pSave = new KvGUI::KvPushButton(tr("Sa&ve as JPEG\u2026"), group);
+    column->addWidget(m_pCutView, 1);
+    column->addWidget(m_pCutText);
+    column->addWidget(m_pSave);
+    connect(m_pSave, &QPushButton::clicked, this, &PhotoPage::SaveCut);
+    return group;
+}
+
+void PhotoPage::AskForFile()
+{
+    const QString path = PhotoCrop::AskForFile(this);
+    if (!path.isEmpty())
+        OpenFile(path);
+}
+
+void PhotoPage::OpenFile(const QString& path)
+{
+    const QImage image = PhotoCrop::Read(path, this);
+    if (!image.isNull())
+        ShowPhoto({QFileInfo(path).fileName(), path, image});
+}
+
+void PhotoPage::ShowDrawn() { ShowPhoto({tr("Drawn photo of the entrance"), QString(), EntrancePhoto()}); }
+
+void PhotoPage::ShowPhoto(const Photo& photo)
+{
+    m_photo = photo;
+    m_pView->SetPicture(photo.image);
+    const QString text = QStringLiteral("%1, %2").arg(photo.title, SizeText(photo.image.size()));
+    m_pPhotoText->setText(text);
+    m_pView->setAccessibleName(text);
+    ShowCut(std::nullopt);
+}
+
+CutLimits PhotoPage::Limits() const
+{
+    return {
+        m_pKilobytes->value() * BytesOfKilobyte, m_pWidth->value(), m_pHeight->value(),
+        m_pHalve->isChecked()};
+}
+
+void PhotoPage::CropWithZoom()
+{
+    const QPointer<PhotoPage> guard(this);
+    const auto cut = PhotoCrop::WithZoom(m_photo, Limits(), tr("Crop: %1").arg(m_photo.title), this);
+    if (guard && cut)
+        ShowCut(cut);
+}
+
+void PhotoPage::CropPlain()
+{
+    const QPointer<PhotoPage> guard(this);
+    const auto cut = PhotoCrop::Plain(m_photo, Limits(), tr("Crop: %1").arg(m_photo.title), this);
+    if (guard && cut)
+        ShowCut(cut);
+}
+
+void PhotoPage::ShowCut(const std::optional<PhotoCut>& cut)
+{
+    m_cut = cut;
+    m_pSave->setEnabled(cut.has_value());
+    m_pCutView->SetPicture(cut ? cut->image : QImage());
+    m_pCutText->setVisible(cut.has_value());
+    if (!cut) {
+        m_pCutView->setAccessibleName(tr("No cut yet"));
+        return;
+    }
+    m_pCutView->setAccessibleName(tr("The cut"));
+    m_pCutText->setText(
+        tr("%1\nJPEG of %2 at quality %3\nSearch: %4")
+            .arg(
+                SizeText(cut->image.size()),
+                QLocale().formattedDataSize(cut->jpeg.size(), 1, QLocale::DataSizeTraditionalFormat),
+                QString::number(cut->quality), SearchText(cut->search)));
+    Q_EMIT SignalReport(tr("The photo was cropped"));
+}
+
+void PhotoPage::SaveCut()
+{
+    if (m_cut)
+        PhotoCrop::AskAndSave(*m_cut, this);
+}
+
+QVector<Page::Picture> PhotoPage::Pictures()
+{
+    const auto drag = [](QDialog* dialog) {
+        QWidget* canvas = FirstCanvas(dialog);
+        DragOver(
+            *canvas, QPoint(canvas->width() * 24 / 100, canvas->height() * 22 / 100),
+            QPoint(canvas->width() * 46 / 100, canvas->height() * 74 / 100));
+    };
+    const auto accept = [drag](QDialog* dialog) {
+        drag(dialog);
+        QMetaObject::invokeMethod(dialog, "OnBtnOkClicked");
+    };
+    const auto openMenu = [drag](QDialog* dialog) {
+        drag(dialog);
+        QWidget* canvas = FirstCanvas(dialog);
+        const QPoint corner(canvas->width() * 46 / 100, canvas->height() * 74 / 100);
+        QCursor::setPos(canvas->mapToGlobal(corner));
+        ClickAt(*canvas, corner);
+    };
+    const auto refuse = [](QDialog* dialog) { QMetaObject::invokeMethod(dialog, "OnBtnOkClicked"); };
+    const auto with = [this](void (PhotoPage::*crop)(), const std::function<void(QDialog*)>& act) {
+        return [=] { ShowWithDialog(crop, act); };
+    };
+    const auto close = [this] { CloseDialogs(); };
+    return {
+        {QString(), [this] { ShowDrawn(); }},
+        {QStringLiteral("cut"), with(&PhotoPage::CropWithZoom, accept)},
+        {QStringLiteral("zoom"), with(&PhotoPage::CropWithZoom, drag), close},
+        {QStringLiteral("menu"), with(&PhotoPage::CropWithZoom, openMenu), close},
+        {QStringLiteral("message"), with(&PhotoPage::CropWithZoom, refuse), close},
+        {QStringLiteral("plain"), with(&PhotoPage::CropPlain, drag), close}};
+}
+
+void PhotoPage::ShowWithDialog(void (PhotoPage::*crop)(), const std::function<void(QDialog*)>& act)
+{
+    ShowDrawn();
+    QTimer::singleShot(DialogIsThere, this, [this, act] {
+        auto* dialog = findChild<QDialog*>();
+        if (dialog == nullptr)
+            return;
+        const QRect room = window()->geometry();
+        dialog->move(room.center() - dialog->rect().center());
+        act(dialog);
+    });
+    (this->*crop)();
+}
+
+void PhotoPage::CloseDialogs()
+{
+    if (QWidget* menu = QApplication::activePopupWidget())
+        menu->close();
+    if (auto* dialog = findChild<QDialog*>())
+        dialog->reject();
+}
+
+} // namespace OperatorClient

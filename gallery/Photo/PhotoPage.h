@@ -1,0 +1,67 @@
+#pragma once
+
+#include <gallery/Page.h>
+#include <gallery/Photo/PhotoCrop.h>
+
+class QDialog;
+class QLabel;
+class QSpinBox;
+
+namespace KvGUI {
+class KvCheckBox;
+class KvPushButton;
+} // namespace KvGUI
+
+namespace OperatorClient {
+
+class PhotoView;
+
+/// Opens a photo, has it cropped in either dialog within limits set here, and shows and saves the cut.
+class PhotoPage : public Page
+{
+    Q_OBJECT
+
+public:
+    /// @param file the photo to begin with; empty for a drawn one
+    explicit PhotoPage(const QString& file, QWidget* parent = nullptr);
+
+    QString Title() const override;
+    QString Name() const override;
+    QVector<Picture> Pictures() override;
+
+    void OpenFile(const QString& path);
+    void CropWithZoom();
+    void CropPlain();
+
+    const std::optional<PhotoCut>& Cut() const { return m_cut; }
+
+private:
+    QWidget* BuildPhotoSide();
+    QWidget* BuildLimits();
+    QWidget* BuildCommands();
+    QWidget* BuildCut();
+    QSpinBox*
+    AddLimit(class QFormLayout* form, const QString& label, int most, int value, const QString& unit);
+    void AskForFile();
+    void ShowDrawn();
+    void ShowPhoto(const Photo& photo);
+    void ShowCut(const std::optional<PhotoCut>& cut);
+    void SaveCut();
+    CutLimits Limits() const;
+    void ShowWithDialog(void (PhotoPage::*crop)(), const std::function<void(QDialog*)>& act);
+    void CloseDialogs();
+
+    Photo m_photo;
+    std::optional<PhotoCut> m_cut;
+    PhotoView* m_pView;
+    QLabel* m_pPhotoText;
+    QSpinBox* m_pKilobytes;
+    QSpinBox* m_pWidth;
+    QSpinBox* m_pHeight;
+    KvGUI::KvCheckBox* m_pHalve;
+    PhotoView* m_pCutView;
+    QLabel* m_pCutText;
+    KvGUI::KvPushButton* m_pSave;
+};
+
+} // namespace OperatorClient
