@@ -1,2 +1,8 @@
 uicomponents_benchmark(bench_wall bench_wall.cpp)
 uicomponents_benchmark(bench_foundation bench_foundation.cpp)
+if(TARGET OfficeProvider)
+    find_library(XLSXWRITER xlsxwriter REQUIRED)
+    uicomponents_benchmark(bench_sheets bench_sheets.cpp)
+    target_link_libraries(bench_sheets PRIVATE "${XLSXWRITER}")
+    add_dependencies(bench_sheets OfficeProvider)
+endif()

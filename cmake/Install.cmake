@@ -1,5 +1,8 @@
 include(CMakePackageConfigHelpers)
 
+# Where the library looks for provider plugins, beside itself.
+set(UICOMPONENTS_AUTOMATION_FOLDER "UIComponents/automation")
+
 # Two components, which the packages follow: Runtime is what a program needs that is linked to the
 # library, Development what building one needs. The skins are compiled into the library.
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME Development)

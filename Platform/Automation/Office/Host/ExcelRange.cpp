@@ -1,0 +1,159 @@
+#include <Platform/Automation/Office/Host/ExcelRange.h>
+
+#include <Platform/Automation/Office/Host/CellValues.h>
+#include <Platform/Automation/Office/Host/ExcelLook.h>
+#include <Platform/Automation/Office/Host/ExcelUnits.h>
+#include <Platform/Automation/Office/Host/RangeKinds.h>
+#include <Platform/Automation/Office/Host/UnoText.h>
+
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/util/NumberFormat.hpp>
+#include <com/sun/star/util/XMergeable.hpp>
+
+namespace Office {
+
+using namespace com::sun::star;
+using uno::Any;
+using uno::Reference;
+
+namespace {
+
+// A sheet with two far cells is no table, and too much for a client's memory.
+constexpr qint64 MostCells = 20000000;
+
+table::CellRangeAddress AddressOf(const ExcelRange::Range& range)
+{
+    return Reference<sheet::XCellRangeAddressable>(range, uno::UNO_QUERY_THROW)->getRangeAddress();
+}
+
+Reference<sheet::XCellRangeData> Data(const ExcelRange::Range& range)
+{
+    return {range, uno::UNO_QUERY_THROW};
+}
+
+} // namespace
+
+ExcelRange::ExcelRange(std::shared_ptr<ExcelWorkbook> workbook, const Range& range)
+    : m_pWorkbook(std::move(workbook))
+    , m_range(range)
+    , m_properties(range, uno::UNO_QUERY_THROW)
+    , m_address(AddressOf(range))
+{ }
+
+int ExcelRange::Rows() const { return m_address.EndRow - m_address.StartRow + 1; }
+
+int ExcelRange::Columns() const { return m_address.EndColumn - m_address.StartColumn + 1; }
+
+QVariant ExcelRange::Call(const QString& member, const QVariantList& arguments)
+{
+    if (member == QLatin1String("value"))
+        return Value();
+    if (member != QLatin1String("setvalue") || arguments.isEmpty())
+        return ExcelObject::Call(member, arguments);
+    SetValue(arguments.first());
+    return QVariant();
+}
+
+std::shared_ptr<ExcelObject> ExcelRange::SubObject(const QString& member, const QVariantList& arguments)
+{
+    if (member == QLatin1String("interior"))
+        return std::make_shared<ExcelInterior>(m_pWorkbook, m_properties);
+    if (member == QLatin1String("borders"))
+        return std::make_shared<ExcelBorders>(m_pWorkbook, m_properties);
+    if (member == QLatin1String("font"))
+        return std::make_shared<ExcelFont>(m_pWorkbook, m_properties);
+    return ExcelObject::SubObject(member, arguments);
+}
+
+void ExcelRange::Write(const QString& name, const QVariant& value)
+{
+    if (name == QLatin1String("rowheight"))
+        SetSize(true, FromPoints(value.toInt()));
+    else if (name == QLatin1String("columnwidth"))
+        SetSize(false, FromCharacters(value.toInt()));
+    else if (name == QLatin1String("horizontalalignment"))
+        SetHorizontalAlignment(m_properties, value.toInt());
+    else if (name == QLatin1String("verticalalignment"))
+        SetVerticalAlignment(m_properties, value.toInt());
+    else if (name == QLatin1String("wraptext"))
+        SetProperty(m_properties, "IsTextWrapped", Any(value.toBool()));
+    else if (name == QLatin1String("mergecells"))
+        Reference<util::XMergeable>(m_range, uno::UNO_QUERY_THROW)->merge(value.toBool());
+    else if (name == QLatin1String("numberformatlocal"))
+        SetProperty(
+            m_properties, "NumberFormat", Any(sal_Int32(m_pWorkbook->Open().FormatOfCode(value.toString()))));
+    else
+        ExcelObject::Write(name, value);
+}
+
+void ExcelRange::SetSize(bool rows, int size)
+{
+    const Reference<table::XColumnRowRange> range(m_range, uno::UNO_QUERY_THROW);
+    if (rows)
+        SetProperty(
+            Reference<beans::XPropertySet>(range->getRows(), uno::UNO_QUERY_THROW), "Height",
+            Any(sal_Int32(size)));
+    else
+        SetProperty(
+            Reference<beans::XPropertySet>(range->getColumns(), uno::UNO_QUERY_THROW), "Width",
+            Any(sal_Int32(size)));
+}
+
+QVariant ExcelRange::Value() const
+{
+    if (qint64(Rows()) * Columns() > MostCells)
+        throw Refused("too many cells");
+    const QDate nullDate = m_pWorkbook->Open().NullDate();
+    const UnoBlock block = Data(m_range)->getDataArray();
+    const RangeKinds kinds(m_pWorkbook->Open(), m_range, m_address);
+    const auto cell = [&](int r, int c) { return FromCell(block[r][c], kinds.At(r, c), nullDate); };
+    if (Rows() == 1 && Columns() == 1)
+        return cell(0, 0);
+    QVariantList rows;
+    rows.reserve(Rows());
+    for (int r = 0; r < Rows(); ++r) {
+        QVariantList row;
+        row.reserve(Columns());
+        for (int c = 0; c < Columns(); ++c)
+            row << cell(r, c);
+        rows << QVariant(row);
+    }
+    return rows;
+}
+
+void ExcelRange::SetValue(const QVariant& value)
+{
+    if (qint64(Rows()) * Columns() > MostCells)
+        throw Refused("too many cells");
+    Data(m_range)->setDataArray(ToBlock(value, Rows(), Columns(), m_pWorkbook->Open().NullDate()));
+    const QVariantList rows
+        = value.type() == QVariant::List ? value.toList() : QVariantList{QVariantList{value}};
+    for (int column = 0; column < Columns(); ++column)
+        FormatColumn(rows, column, qMin(Rows(), rows.size()));
+}
+
+/// Dates and truth values are numbers with a format, given to each run of them in the column.
+void ExcelRange::FormatColumn(const QVariantList& rows, int column, int count)
+{
+    const auto kindAt = [&](int row) { return KindOf(rows.at(row).toList().value(column)); };
+    int start = 0;
+    while (start < count) {
+        const CellKind kind = kindAt(start);
+        int end = start + 1;
+        while (end < count && kindAt(end) == kind)
+            ++end;
+        if (kind != CellKind::Number) {
+            const sal_Int16 type
+                = kind == CellKind::Boolean ? util::NumberFormat::LOGICAL : util::NumberFormat::DATETIME;
+            const Range run = m_range->getCellRangeByPosition(column, start, column, end - 1);
+            SetProperty(
+                Reference<beans::XPropertySet>(run, uno::UNO_QUERY_THROW), "NumberFormat",
+                Any(sal_Int32(m_pWorkbook->Open().StandardFormat(type))));
+        }
+        start = end;
+    }
+}
+
+} // namespace Office

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+#include <QVariant>
+#include <optional>
+
+/// What the plugin and its host process tell each other over their socket: frames of a length (four bytes
+/// in the machine's order; both ends run on it) and a message.
+namespace Office {
+
+using Handle = quint32; ///< names an object of the host; 0 is none
+
+/// From the plugin to the host.
+struct Request
+{
+    enum Kind : quint8
+    {
+        Create, ///< an application object
+        Call,
+        SubObject,
+        Read, ///< a property
+        Write, ///< a property
+        Release, ///< forgets the object; has no answer
+    };
+
+    Kind kind = Create;
+    Handle object = 0;
+    QString member;
+    QVariantList arguments; ///< of Write: the value
+};
+
+/// From the host to the plugin.
+struct Answer
+{
+    enum Kind : quint8
+    {
+        Started, ///< comes once, before the first result
+        Working, ///< the office is busy with the request, and not hung
+        Result,
+    };
+    enum Status : quint8
+    {
+        Done,
+        Failed, ///< the office refused
+        Gone, ///< the object belongs to an application that has quit
+    };
+
+    Kind kind = Result;
+    Status status = Done;
+    QVariant value; ///< of a call or a property
+    Handle object = 0; ///< that was made
+    qint64 officeProcess = 0; ///< of Started: process id
+    QStringList officeFiles; ///< of Started: what a killed office leaves outside of its profile
+};
+
+QByteArray ToFrame(const Request& request);
+QByteArray ToFrame(const Answer& answer);
+Request ToRequest(const QByteArray& message);
+Answer ToAnswer(const QByteArray& message);
+
+/// Puts frames together from the pieces in which they arrive.
+class FrameBuffer
+{
+public:
+    void Add(const char* data, int size) { m_data.append(data, size); }
+    std::optional<QByteArray> Take(); ///< the next message, when it is complete
+
+private:
+    QByteArray m_data;
+};
+
+} // namespace Office
