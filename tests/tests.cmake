@@ -60,6 +60,13 @@ if(TARGET UIComponentsDesigner)
     target_compile_definitions(tst_designer PRIVATE
         DESIGNER_PLUGINS="$<TARGET_FILE_DIR:UIComponentsDesigner>" PUBLIC_HEADERS="${public_headers}"
         SOURCE_TREE="${PROJECT_SOURCE_DIR}" FORM="${CMAKE_CURRENT_SOURCE_DIR}/designer/AllWidgets.ui")
+if(TARGET OfficeProvider)
+    find_library(XLSXWRITER xlsxwriter REQUIRED)
+    uicomponents_test(tst_office tst_office.cpp office/Processes.cpp office/Processes.h)
+    target_link_libraries(tst_office PRIVATE "${XLSXWRITER}")
+    target_compile_definitions(tst_office PRIVATE OFFICE_PROGRAM="${UICOMPONENTS_OFFICE_PROGRAM}"
+        OFFICE_READER="${CMAKE_CURRENT_SOURCE_DIR}/office/read_workbook.py")
+    add_dependencies(tst_office OfficeProvider)
 endif()
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions

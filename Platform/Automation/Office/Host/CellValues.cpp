@@ -18,7 +18,7 @@ Any ToCell(const QVariant& value, QDate nullDate)
 {
     switch (static_cast<QMetaType::Type>(value.type())) {
     case QMetaType::UnknownType:
-        return Any();
+        return Any(rtl::OUString()); // nothing at all would be an error value
     case QMetaType::Bool:
         return Any(value.toBool() ? 1.0 : 0.0);
     case QMetaType::Int:
@@ -30,7 +30,8 @@ Any ToCell(const QVariant& value, QDate nullDate)
         return Any(value.toDouble());
     case QMetaType::QDate:
     case QMetaType::QDateTime:
-        return value.toDateTime().isValid() ? Any(ToSerial(value.toDateTime(), nullDate)) : Any();
+        return value.toDateTime().isValid() ? Any(ToSerial(value.toDateTime(), nullDate))
+                                            : Any(rtl::OUString());
     default: {
         const QString text = value.toString();
         return Any(ToUno(text.startsWith(TextMark) ? text.mid(1) : text));
@@ -57,7 +58,7 @@ UnoBlock ToBlock(const QVariant& value, int rows, int columns, QDate nullDate)
 {
     const bool isBlock = value.type() == QVariant::List;
     const QVariantList lines = isBlock ? value.toList() : QVariantList();
-    const Any same = isBlock ? Any() : ToCell(value, nullDate);
+    const Any same = ToCell(isBlock ? QVariant() : value, nullDate);
     UnoBlock block(rows);
     UnoRow* row = block.getArray();
     for (int r = 0; r < rows; ++r, ++row) {

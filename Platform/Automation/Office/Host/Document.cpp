@@ -230,9 +230,9 @@ void Document::Save(
     if (format == FileFormat::Pdf)
         FitPagesToColumns();
     const QString scratch = scratchFolder + QLatin1String("/stored");
-    const Arguments arguments{
-        Argument("FilterName", Text(FilterName(format))), Argument("FilterOptions", Text(CsvOptions)),
-        Argument("Overwrite", Any(true))};
+    Arguments arguments{Argument("FilterName", Text(FilterName(format))), Argument("Overwrite", Any(true))};
+    if (format == FileFormat::Csv)
+        arguments << Argument("FilterOptions", Text(CsvOptions));
     As<frame::XStorable>(m_model)->storeToURL(FileUrl(scratch), ToSequence(arguments));
     const std::lock_guard<std::timed_mutex> lock(saving);
     MoveToPlace(scratch, path, format == FileFormat::Csv ? QByteArray(ByteOrderMark) : QByteArray());

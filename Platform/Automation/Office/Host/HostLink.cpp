@@ -65,7 +65,16 @@ void HostLink::Send(const Answer& answer)
     }
 }
 
-void HostLink::OfficeIsReady() { m_officeReady = true; }
+void HostLink::OfficeIsReady()
+{
+    m_officeFiles = m_office.SocketFiles();
+    Answer started;
+    started.kind = Answer::Started;
+    started.officeProcess = m_office.Id();
+    started.officeFiles = m_officeFiles;
+    Send(started);
+    m_officeReady = true;
+}
 
 void HostLink::Watch()
 {
@@ -95,11 +104,12 @@ bool HostLink::Receive()
     return true;
 }
 
-/// A hung office uses no processor time, and neither does a main thread that waits for it.
+/// A hung office uses no processor time, and neither does a main thread that waits for it. While the office
+/// starts, the main thread looks for it all the time, which is no progress.
 void HostLink::ReportActivity()
 {
     const long long office = m_office.Activity();
-    const long long activity = office + ThreadTime(m_mainThread);
+    const long long activity = office + (m_officeReady ? ThreadTime(m_mainThread) : 0);
     if (office >= 0 && activity == m_activity)
         return;
     m_activity = activity;
@@ -114,14 +124,12 @@ void HostLink::End()
     m_endMutex.lock();
     const bool saved = m_saving.try_lock_for(TimeToSave);
     Q_UNUSED(saved)
-    const QStringList files = m_office.SocketFiles();
+    const QStringList files = m_officeReady ? m_officeFiles : m_office.SocketFiles();
     m_office.Kill();
     for (const QString& file : files)
         QFile::remove(file);
-    RemoveFolder();
+    QDir(m_profile).removeRecursively();
     _exit(0);
 }
-
-void HostLink::RemoveFolder() const { QDir(m_profile).removeRecursively(); }
 
 } // namespace Office

@@ -25,7 +25,7 @@ public:
 
     void Send(const Answer& answer);
 
-    /// From now on the office is watched: its end is the host's.
+    /// Tells the client that the office has started. From now on it is watched: its end is the host's.
     void OfficeIsReady();
 
     /// Kills the office, removes its profile and what else it leaves, and ends this process.
@@ -38,12 +38,12 @@ private:
     void Watch();
     bool Receive();
     void ReportActivity();
-    void RemoveFolder() const;
 
     const int m_socket;
     OfficeProcess& m_office;
     const QString m_profile;
     const pthread_t m_mainThread;
+    QStringList m_officeFiles; ///< of the office that is ready; a dead one does not tell them
     std::atomic<bool> m_officeReady{false};
     std::atomic<bool> m_busy{true}; // starting the office is work, too
     long long m_activity = 0;

@@ -50,12 +50,16 @@ uno::Reference<XDesktop2> ConnectOffice(OfficeProcess& process, const QString& p
     if (!process.Start())
         return {};
     const uno::Reference<uno::XComponentContext> context = cppu::defaultBootstrap_InitialComponentContext();
+    bool restarted = false;
     while (timer.elapsed() < LongestStart) {
         const uno::Reference<XDesktop2> desktop = TryToConnect(context, process.PipeName());
         if (desktop.is())
             return desktop;
-        if (process.HasEnded() && !(process.WantsRestart() && process.Start()))
-            return {};
+        if (process.HasEnded()) {
+            if (restarted || !process.WantsRestart() || !process.Start())
+                return {};
+            restarted = true;
+        }
         QThread::msleep(Pause);
     }
     return {};

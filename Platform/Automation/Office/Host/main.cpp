@@ -166,11 +166,6 @@ int main(int argc, char** argv)
         if (!context.desktop.is())
             link.End();
         link.OfficeIsReady();
-        Answer started;
-        started.kind = Answer::Started;
-        started.officeProcess = process.Id();
-        started.officeFiles = process.SocketFiles();
-        link.Send(started);
         Run(link, context);
     } catch (const com::sun::star::uno::Exception&) {
         link.End();
