@@ -11,12 +11,12 @@
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/document/MacroExecMode.hpp>
 #include <com/sun/star/document/UpdateDocMode.hpp>
-#include <com/sun/star/document/XActionLockable.hpp>
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/util/Date.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
 #include <com/sun/star/util/XNumberFormatTypes.hpp>
@@ -111,14 +111,19 @@ void MoveToPlace(const QString& from, const QString& to, const QByteArray& head)
         throw Refused("not written");
 }
 
-int UsedWidth(const Reference<sheet::XSpreadsheet>& sheet)
+Reference<sheet::XSheetCellCursor> UsedArea(const Reference<sheet::XSpreadsheet>& sheet)
 {
     const Reference<sheet::XSheetCellCursor> cursor = sheet->createCursor();
-    As<sheet::XUsedAreaCursor>(cursor)->gotoEndOfUsedArea(false);
-    const Reference<sheet::XUsedAreaCursor> area(cursor, uno::UNO_QUERY_THROW);
-    area->gotoStartOfUsedArea(true);
+    const auto area = As<sheet::XUsedAreaCursor>(cursor);
+    area->gotoStartOfUsedArea(false);
+    area->gotoEndOfUsedArea(true);
+    return cursor;
+}
+
+int UsedWidth(const Reference<sheet::XSpreadsheet>& sheet)
+{
     awt::Size size;
-    Properties(cursor)->getPropertyValue(ToUno(QStringLiteral("Size"))) >>= size;
+    Properties(UsedArea(sheet))->getPropertyValue(ToUno(QStringLiteral("Size"))) >>= size;
     return size.Width;
 }
 
@@ -144,7 +149,7 @@ std::unique_ptr<Document> Document::New(const Desktop& desktop)
 {
     auto document = std::unique_ptr<Document>(new Document(
         Load(desktop, ToUno(QStringLiteral("private:factory/scalc")), {Argument("Hidden", Any(true))})));
-    document->StopUndo();
+    document->SetUpForWriting();
     return document;
 }
 
@@ -177,8 +182,35 @@ Document::~Document()
     }
 }
 
-/// What is written is not taken back: remembering it would double time and memory.
-void Document::StopUndo() { As<document::XUndoManagerSupplier>(m_model)->getUndoManager()->lock(); }
+/// What is written is not taken back, and remembering it takes time and memory. Row heights are fitted once,
+/// when all is written: the office would fit them anew after every change.
+void Document::SetUpForWriting()
+{
+    SetProperty(Properties(m_model), "IsUndoEnabled", Any(false));
+    SetProperty(Properties(m_model), "IsAdjustHeightEnabled", Any(false));
+}
+
+void Document::KeepRowHeights(const table::CellRangeAddress& rows)
+{
+    m_keptRows[rows.Sheet].Add(rows.StartRow, rows.EndRow);
+}
+
+void Document::FitRowHeights()
+{
+    SetProperty(Properties(m_model), "IsAdjustHeightEnabled", Any(true));
+    const Reference<container::XIndexAccess> sheets(m_model->getSheets(), uno::UNO_QUERY_THROW);
+    for (sal_Int32 i = 0; i < sheets->getCount(); ++i) {
+        const Reference<sheet::XSpreadsheet> sheet(sheets->getByIndex(i), uno::UNO_QUERY_THROW);
+        const int last = As<sheet::XCellRangeAddressable>(UsedArea(sheet))->getRangeAddress().EndRow;
+        const QVector<RowRuns::Run> runs = m_keptRows.value(i).Gaps(last);
+        for (const RowRuns::Run& run : runs) {
+            const Reference<table::XColumnRowRange> rows(
+                sheet->getCellRangeByPosition(0, run.first, 0, run.last), uno::UNO_QUERY_THROW);
+            SetProperty(Properties(rows->getRows()), "OptimalHeight", Any(true));
+        }
+    }
+    SetProperty(Properties(m_model), "IsAdjustHeightEnabled", Any(false));
+}
 
 int Document::FormatOfCode(const QString& code) const
 {
@@ -227,6 +259,8 @@ void Document::FitPagesToColumns()
 void Document::Save(
     const QString& path, FileFormat format, const QString& scratchFolder, std::timed_mutex& saving)
 {
+    if (format != FileFormat::Csv)
+        FitRowHeights();
     if (format == FileFormat::Pdf)
         FitPagesToColumns();
     const QString scratch = scratchFolder + QLatin1String("/stored");

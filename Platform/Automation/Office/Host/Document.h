@@ -1,9 +1,13 @@
 #pragma once
 
+#include <Platform/Automation/Office/Host/RowRuns.h>
+
 #include <QDate>
+#include <QMap>
 #include <QString>
 #include <com/sun/star/frame/XDesktop2.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/table/CellRangeAddress.hpp>
 #include <memory>
 #include <mutex>
 
@@ -47,6 +51,10 @@ public:
     /// The bits of com.sun.star.util.NumberFormat that tell what a number format is for.
     sal_Int16 TypeOfFormat(int format) const;
 
+    /// The rows keep the height that they have been given; all others are fitted to their texts when the
+    /// workbook is stored.
+    void KeepRowHeights(const com::sun::star::table::CellRangeAddress& rows);
+
     /// Stores the workbook as the file @p path: it is written in @p scratchFolder, and then replaces what is
     /// at its place in one step, under the lock.
     void Save(const QString& path, FileFormat format, const QString& scratchFolder, std::timed_mutex& saving);
@@ -55,11 +63,13 @@ public:
 
 private:
     explicit Document(Model model);
-    void StopUndo();
+    void SetUpForWriting();
+    void FitRowHeights();
     void FitPagesToColumns();
 
     Model m_model;
     QDate m_nullDate;
+    QMap<int, RowRuns> m_keptRows; ///< by sheet
 };
 
 } // namespace Office

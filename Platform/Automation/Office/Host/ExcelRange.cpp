@@ -70,9 +70,9 @@ std::shared_ptr<ExcelObject> ExcelRange::SubObject(const QString& member, const 
 void ExcelRange::Write(const QString& name, const QVariant& value)
 {
     if (name == QLatin1String("rowheight"))
-        SetSize(true, FromPoints(value.toInt()));
+        SetRowHeight(value.toInt());
     else if (name == QLatin1String("columnwidth"))
-        SetSize(false, FromCharacters(value.toInt()));
+        SetColumnWidth(value.toInt());
     else if (name == QLatin1String("horizontalalignment"))
         SetHorizontalAlignment(m_properties, value.toInt());
     else if (name == QLatin1String("verticalalignment"))
@@ -88,17 +88,19 @@ void ExcelRange::Write(const QString& name, const QVariant& value)
         ExcelObject::Write(name, value);
 }
 
-void ExcelRange::SetSize(bool rows, int size)
+void ExcelRange::SetRowHeight(int points)
 {
     const Reference<table::XColumnRowRange> range(m_range, uno::UNO_QUERY_THROW);
-    if (rows)
-        SetProperty(
-            Reference<beans::XPropertySet>(range->getRows(), uno::UNO_QUERY_THROW), "Height",
-            Any(sal_Int32(size)));
-    else
-        SetProperty(
-            Reference<beans::XPropertySet>(range->getColumns(), uno::UNO_QUERY_THROW), "Width",
-            Any(sal_Int32(size)));
+    const Reference<beans::XPropertySet> rows(range->getRows(), uno::UNO_QUERY_THROW);
+    SetProperty(rows, "Height", Any(sal_Int32(FromPoints(points))));
+    m_pWorkbook->Open().KeepRowHeights(m_address);
+}
+
+void ExcelRange::SetColumnWidth(int characters)
+{
+    const Reference<table::XColumnRowRange> range(m_range, uno::UNO_QUERY_THROW);
+    const Reference<beans::XPropertySet> columns(range->getColumns(), uno::UNO_QUERY_THROW);
+    SetProperty(columns, "Width", Any(sal_Int32(FromCharacters(characters))));
 }
 
 QVariant ExcelRange::Value() const

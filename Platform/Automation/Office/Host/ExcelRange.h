@@ -25,7 +25,8 @@ private:
     QVariant Value() const;
     void SetValue(const QVariant& value);
     void FormatColumn(const QVariantList& rows, int column, int count);
-    void SetSize(bool rows, int size);
+    void SetRowHeight(int points);
+    void SetColumnWidth(int characters);
     int Rows() const;
     int Columns() const;
 

@@ -77,7 +77,7 @@ QVariant ExcelWorkbook::Read(const QString& name)
 
 void ExcelWorkbook::Close() { m_pDocument.reset(); }
 
-const Document& ExcelWorkbook::Open() const
+Document& ExcelWorkbook::Open() const
 {
     if (!m_pDocument)
         throw Refused("closed");

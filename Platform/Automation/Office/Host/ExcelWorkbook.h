@@ -16,7 +16,7 @@ public:
     QVariant Read(const QString& name) override; ///< of the sheets
 
     void Close();
-    const Document& Open() const; ///< the open document; throws Refused when it is closed
+    Document& Open() const; ///< the open document; throws Refused when it is closed
 
 private:
     bool Save(const QVariant& path, FileFormat format);
