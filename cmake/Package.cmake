@@ -33,4 +33,10 @@ set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
 set(CPACK_COMPONENT_DESIGNER_DESCRIPTION "Plugin that offers the library's widgets in Qt Designer.")
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
 
+set(CPACK_DEBIAN_OFFICE_PACKAGE_NAME uicomponents-office)
+set(CPACK_DEBIAN_OFFICE_PACKAGE_SECTION libs)
+set(CPACK_COMPONENT_OFFICE_DESCRIPTION "Plugin that writes and reads spreadsheets with LibreOffice.")
+set(CPACK_DEBIAN_OFFICE_PACKAGE_DEPENDS
+    "${runtime_package} (= ${PROJECT_VERSION}), libreoffice-calc-nogui | libreoffice-calc, fonts-liberation")
+
 include(CPack)

@@ -60,6 +60,7 @@ if(TARGET UIComponentsDesigner)
     target_compile_definitions(tst_designer PRIVATE
         DESIGNER_PLUGINS="$<TARGET_FILE_DIR:UIComponentsDesigner>" PUBLIC_HEADERS="${public_headers}"
         SOURCE_TREE="${PROJECT_SOURCE_DIR}" FORM="${CMAKE_CURRENT_SOURCE_DIR}/designer/AllWidgets.ui")
+endif()
 if(TARGET OfficeProvider)
     find_library(XLSXWRITER xlsxwriter REQUIRED)
     uicomponents_test(tst_office tst_office.cpp office/Processes.cpp office/Processes.h)
