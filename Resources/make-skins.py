@@ -187,10 +187,19 @@ def fill(template, values):
     return TOKEN.sub(lambda match: values[match.group(1)], template)
 
 
-def template_text(path, templates):
-    """The template's text with each "@include <file>@" line replaced by that template's text."""
-    text = path.read_text(encoding="utf-8")
-    return INCLUDE.sub(lambda match: template_text(templates / match.group(1), templates), text)
+def filled(template, templates, module, skin):
+    """The template's text for a skin; each "@include <file>@" line is replaced by that template's
+    filled text. A KeyError names an unknown token."""
+    folder = image_folder(template, templates, module, skin)
+    # @images@ is the resource folder of the template itself.
+    text = fill(template.read_text(encoding="utf-8"), {**PALETTES[skin], "skin": skin, "images": folder})
+    return INCLUDE.sub(lambda match: filled(templates / match.group(1), templates, module, skin), text)
+
+
+def image_folder(template, templates, module, skin):
+    """The resource folder of the files that the template makes."""
+    relative = template.relative_to(templates).parent.as_posix()
+    return f":/{APPLICATION}/{module}/{skin}/{module}/{relative}"
 
 
 def targets(target):
@@ -208,13 +217,11 @@ def make_trees():
     for templates, tree, module in TREES:
         for template in sorted(path for path in templates.rglob("*") if path.is_file()):
             relative = template.relative_to(templates)
-            for skin, palette in PALETTES.items():
+            for skin in PALETTES:
                 target = tree / APPLICATION / skin / relative
-                folder = f":/{APPLICATION}/{module}/{skin}/{module}/{relative.parent.as_posix()}"
-                # @images@ is the resource folder of the file itself.
-                values = {**palette, "skin": skin, "images": folder}
+                folder = image_folder(template, templates, module, skin)
                 try:
-                    text = fill(template_text(template, templates), values)
+                    text = filled(template, templates, module, skin)
                 except KeyError as token:
                     faults.append(f"{template.relative_to(ROOT)}: unknown token {token} in {skin}")
                     continue

@@ -1,40 +1,20 @@
+#include "support/LocaleCodec.h"
 #include "support/StrictMain.h"
 
 #include <Common/ByteBudget.h>
 #include <Common/CommonFun.h>
 #include <Common/QCommon.h>
-#include <QTextCodec>
 #include <QToolTip>
 #include <QtTest>
 #include <algorithm>
 #include <climits>
 #include <random>
 
+using TestSupport::LocaleCodec;
 using UICommonMdl::CommonFun;
 using XCM::QCommon;
 
 namespace {
-
-/// Another codec for the process, for the length of a scope.
-class LocaleCodec
-{
-public:
-    explicit LocaleCodec(const QByteArray& name)
-        : m_before(QTextCodec::codecForLocale())
-        , m_codec(QTextCodec::codecForName(name))
-    {
-        if (m_codec != nullptr)
-            QTextCodec::setCodecForLocale(m_codec);
-    }
-    ~LocaleCodec() { QTextCodec::setCodecForLocale(m_before); }
-    Q_DISABLE_COPY(LocaleCodec)
-
-    bool IsKnown() const { return m_codec != nullptr; }
-
-private:
-    QTextCodec* m_before;
-    QTextCodec* m_codec;
-};
 
 int ByteLength(const QString& text, TextEncoding encoding)
 {

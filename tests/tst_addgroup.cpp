@@ -1,0 +1,359 @@
+// The dialog for a new group's name, typed by keys, under different codecs of the process.
+
+#include "support/LocaleCodec.h"
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/KvPushButton.h>
+#include <UI/FormInputs/GroupName.h>
+#include <UI/FormInputs/WmAddGroup.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <QToolTip>
+#include <memory>
+
+using namespace UICommonMdl;
+using TestSupport::LocaleCodec;
+
+namespace {
+
+const QString Cjk = QStringLiteral("\u4E2D");
+
+/// The dialog with what it reports, in order.
+struct Dialog
+{
+    Dialog()
+    {
+        QObject::connect(
+            dialog, QOverload<const QString&>::of(&WmAddGroup::SignalNewName), dialog,
+            [this](const QString& name) { reports << QStringLiteral("name ") + name; });
+        QObject::connect(
+            dialog, QOverload<qint64, const QString&>::of(&WmAddGroup::SignalNewName), dialog,
+            [this](qint64 parent, const QString& name) {
+                reports << QStringLiteral("name below %1 ").arg(parent) + name;
+            });
+        QObject::connect(
+            dialog, &WmAddGroup::SignalSaveAndNew, dialog, [this](qint64 parent, const QString& name) {
+                reports << QStringLiteral("next below %1 ").arg(parent) + name;
+            });
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+    }
+    ~Dialog() { delete dialog; }
+
+    QLineEdit* Edit() const { return dialog->findChild<QLineEdit*>(QStringLiteral("edtName")); }
+    void Click(int button) const { QTest::mouseClick(dialog->GetButton(button), Qt::LeftButton); }
+    void Type(const QString& text) const
+    {
+        for (const QChar character : text) {
+            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+            QApplication::sendEvent(Edit(), &press);
+        }
+    }
+
+    QPointer<WmAddGroup> dialog = new WmAddGroup;
+    QStringList reports;
+};
+
+constexpr int Save = QDialogButtonBox::Ok;
+constexpr int Cancel = QDialogButtonBox::Cancel;
+constexpr int SaveAndNew = QDialogButtonBox::Open;
+
+} // namespace
+
+class TestAddGroup : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void SaveReportsAndCloses();
+    void EnterSaves();
+    void SaveAndNewStays();
+    void SaveWaitsForTheClient();
+    void BlankNames_data();
+    void BlankNames();
+    void Budgets_data();
+    void Budgets();
+    void CutKeepsTheCursor();
+    void LengthOfTheEdit();
+    void Characters_data();
+    void Characters();
+    void OwnExpression();
+    void CancelClears_data();
+    void CancelClears();
+    void DeletedByItsSlot_data();
+    void DeletedByItsSlot();
+    void RunsModally();
+};
+
+/// Catches signals in the wrong order, names with blanks around them, and a dialog that stays.
+void TestAddGroup::SaveReportsAndCloses()
+{
+    Dialog form;
+    form.dialog->SetParentGroupID(42);
+    form.Type(QStringLiteral("  North gate "));
+    form.Click(Save);
+    const QStringList expected{QStringLiteral("name North gate"), QStringLiteral("name below 42 North gate")};
+    QCOMPARE(form.reports, expected);
+    QVERIFY(!form.dialog->isVisible());
+    QCOMPARE(form.Edit()->text(), QString());
+}
+
+/// Catches a dialog that cannot be used by the keyboard alone.
+void TestAddGroup::EnterSaves()
+{
+    Dialog form;
+    QVERIFY(form.Edit()->hasFocus());
+    form.Type(QStringLiteral("North gate"));
+    QTest::keyClick(form.Edit(), Qt::Key_Return);
+    QCOMPARE(form.reports.first(), QStringLiteral("name North gate"));
+    QVERIFY(!form.dialog->isVisible());
+}
+
+/// Catches the other button's signals, and a text in the way of the next name.
+void TestAddGroup::SaveAndNewStays()
+{
+    Dialog form;
+    form.Type(QStringLiteral("A"));
+    form.Click(SaveAndNew);
+    QCOMPARE(form.reports, QStringList(QStringLiteral("next below -1 A")));
+    QVERIFY(form.dialog->isVisible());
+    QCOMPARE(form.Edit()->text(), QString());
+    form.dialog->SetIsCloseAfterSave(false);
+    form.Type(QStringLiteral("B"));
+    form.Click(SaveAndNew);
+    QCOMPARE(form.Edit()->text(), QStringLiteral("B"));
+    form.dialog->CanCloseDialog(); // no save is pending
+    QVERIFY(form.dialog->isVisible());
+    form.dialog->SetSaveAndNewVisible(false);
+    QVERIFY(!form.dialog->GetButton(SaveAndNew)->isVisible());
+}
+
+/// Catches a dialog that closes before the client knows, or more than once for one save.
+void TestAddGroup::SaveWaitsForTheClient()
+{
+    Dialog form;
+    form.dialog->SetIsCloseAfterSave(false);
+    form.Type(QStringLiteral("A"));
+    form.Click(Save);
+    QCOMPARE(form.reports.size(), 2);
+    QVERIFY(form.dialog->isVisible());
+    QCOMPARE(form.Edit()->text(), QStringLiteral("A"));
+    form.dialog->CanCloseDialog();
+    QVERIFY(!form.dialog->isVisible());
+    QCOMPARE(form.Edit()->text(), QString());
+    form.dialog->show();
+    form.dialog->CanCloseDialog();
+    QVERIFY(form.dialog->isVisible());
+}
+
+void TestAddGroup::BlankNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("spaces") << QStringLiteral("   ");
+    QTest::newRow("ideographic spaces") << QStringLiteral("\u3000\u3000");
+    QTest::newRow("what a codec could not read") << QStringLiteral("\uFFFD");
+}
+
+/// Catches a group without a name, and an operator who is not told.
+void TestAddGroup::BlankNames()
+{
+    QFETCH(QString, name);
+    Dialog form;
+    form.dialog->SetToolTip(QStringLiteral("Enter a name"));
+    for (const int button : {Save, SaveAndNew}) {
+        QToolTip::hideText();
+        form.Edit()->setText(name);
+        form.Click(button);
+        QCOMPARE(QToolTip::text(), QStringLiteral("Enter a name"));
+        QVERIFY(form.dialog->isVisible());
+    }
+    QVERIFY(form.reports.isEmpty());
+    QToolTip::hideText();
+}
+
+void TestAddGroup::Budgets_data()
+{
+    QTest::addColumn<QByteArray>("codec");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("kept"); // characters
+    const QByteArray utf8("UTF-8");
+    const QByteArray gbk("GBK");
+    const QString letters(40, QLatin1Char('a'));
+    const QString chinese(40, Cjk.at(0));
+    QTest::newRow("letters") << utf8 << 0 << letters << 32;
+    QTest::newRow("letters, GBK") << gbk << 0 << letters << 32;
+    QTest::newRow("three bytes each") << utf8 << 0 << chinese << 10;
+    QTest::newRow("two bytes each") << gbk << 0 << chinese << 16;
+    QTest::newRow("mixed, ends below the budget") << utf8 << 0 << QStringLiteral("abc") + chinese << 12;
+    QTest::newRow("letters counted") << utf8 << 1 << letters << 31;
+    QTest::newRow("characters counted") << utf8 << 1 << chinese << 31;
+    QTest::newRow("characters counted, GBK") << gbk << 1 << chinese << 31;
+    QTest::newRow("other type counts, UTF-8 cuts") << utf8 << 2 << chinese << 10 + 8;
+    QTest::newRow("other type, letters") << gbk << 2 << letters << 31;
+}
+
+/// Catches the encodings of counting and cutting mixed up, and a budget that ends inside a character.
+void TestAddGroup::Budgets()
+{
+    QFETCH(QByteArray, codec);
+    QFETCH(int, type);
+    QFETCH(QString, typed);
+    QFETCH(int, kept);
+    const LocaleCodec locale(codec);
+    QVERIFY(locale.IsKnown());
+    Dialog form;
+    form.dialog->SetLenCheckType(static_cast<WmAddGroup::NameLenCheckType_e>(type));
+    form.Type(typed);
+    QCOMPARE(form.Edit()->text(), typed.left(kept));
+}
+
+/// Catches a cursor that jumps to the end when a name is cut.
+void TestAddGroup::CutKeepsTheCursor()
+{
+    const LocaleCodec locale("GBK");
+    QVERIFY(locale.IsKnown());
+    Dialog form;
+    form.Edit()->setText(QString(16, Cjk.at(0)));
+    form.Edit()->setCursorPosition(3);
+    form.Type(QStringLiteral("ab"));
+    QCOMPARE(form.Edit()->cursorPosition(), 5);
+    QCOMPARE(form.Edit()->text(), QString(3, Cjk.at(0)) + QStringLiteral("ab") + QString(12, Cjk.at(0)));
+}
+
+/// Catches a limit that does not follow its kind, and one that vanishes when it falls below zero.
+void TestAddGroup::LengthOfTheEdit()
+{
+    Dialog form;
+    QCOMPARE(form.Edit()->maxLength(), 32);
+    form.dialog->SetLenCheckType(WmAddGroup::NameLenCheckCharacters);
+    QCOMPARE(form.Edit()->maxLength(), 31);
+    form.Edit()->setMaxLength(7);
+    form.dialog->SetMaxLen(32); // the value that it has
+    QCOMPARE(form.Edit()->maxLength(), 7);
+    form.dialog->SetMaxLen(8);
+    QCOMPARE(form.Edit()->maxLength(), 7);
+    form.dialog->SetLenCheckType(static_cast<WmAddGroup::NameLenCheckType_e>(2));
+    form.dialog->SetMaxLen(16);
+    QCOMPARE(form.Edit()->maxLength(), 7);
+    for (const int type : {0, 1}) {
+        form.dialog->SetLenCheckType(static_cast<WmAddGroup::NameLenCheckType_e>(type));
+        for (const int length : {-5, 0}) {
+            form.dialog->SetMaxLen(length);
+            form.Type(QStringLiteral("a"));
+            QCOMPARE(form.Edit()->text(), QString());
+        }
+    }
+}
+
+void TestAddGroup::Characters_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("text");
+    const QString usual = QStringLiteral("aZ 09._!@()[]{};',=+&^%~`-");
+    QTest::newRow("listed") << usual << usual;
+    QTest::newRow("refused") << QStringLiteral("a\"#$*/b") << QStringLiteral("ab");
+    QTest::newRow("taken by the range") << QStringLiteral(":<>?|\\") << QStringLiteral(":<>?|\\");
+    QTest::newRow("Chinese") << QStringLiteral("\u4E2D\u6587\u9FA5") << QStringLiteral("\u4E2D\u6587\u9FA5");
+    QTest::newRow("the range's end") << QStringLiteral("\uFFFC\uFFFD\uFFFE")
+                                     << QStringLiteral("\uFFFC\uFFFD");
+    QTest::newRow("tabulator") << QStringLiteral("a\tb") << QStringLiteral("ab");
+}
+
+/// Catches an expression whose last two bytes or escapes were changed.
+void TestAddGroup::Characters()
+{
+    QFETCH(QString, typed);
+    Dialog form;
+    form.Type(typed);
+    QTEST(form.Edit()->text(), "text");
+}
+
+/// Catches an expression of the client's that is not taken, or kept instead of the default.
+void TestAddGroup::OwnExpression()
+{
+    Dialog form;
+    form.dialog->SetNameRegExp(QRegExp(QStringLiteral("[0-9]*")));
+    form.Type(QStringLiteral("a1"));
+    QCOMPARE(form.Edit()->text(), QStringLiteral("1"));
+    for (const QString& pattern : {QStringLiteral("[0-9"), QString()}) {
+        form.dialog->SetNameRegExp(QRegExp(QStringLiteral("[0-9]*")));
+        form.dialog->SetNameRegExp(QRegExp(pattern));
+        form.Edit()->clear();
+        form.Type(QStringLiteral("a1"));
+        QCOMPARE(form.Edit()->text(), QStringLiteral("a1"));
+    }
+}
+
+void TestAddGroup::CancelClears_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"button", "escape", "title bar"})
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+/// Catches a name that waits in the edit for the next opening, and a cancelled one that is reported.
+void TestAddGroup::CancelClears()
+{
+    QFETCH(QString, way);
+    Dialog form;
+    form.Type(QStringLiteral("A"));
+    if (way == QLatin1String("button"))
+        form.Click(Cancel);
+    else if (way == QLatin1String("escape"))
+        QTest::keyClick(form.Edit(), Qt::Key_Escape);
+    else
+        QTest::mouseClick(
+            form.dialog->findChild<QWidget*>(QStringLiteral("kvDialogCloseButton")), Qt::LeftButton);
+    QVERIFY(!form.dialog->isVisible());
+    QCOMPARE(form.Edit()->text(), QString());
+    QVERIFY(form.reports.isEmpty());
+}
+
+void TestAddGroup::DeletedByItsSlot_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("closes");
+    QTest::newRow("save") << Save << true;
+    QTest::newRow("save and wait") << Save << false;
+    QTest::newRow("save and new") << SaveAndNew << true;
+}
+
+/// Catches a touch of the dialog after a client's slot has deleted it, which the sanitizer reports.
+void TestAddGroup::DeletedByItsSlot()
+{
+    QFETCH(int, button);
+    QFETCH(bool, closes);
+    auto* dialog = new WmAddGroup;
+    const QPointer<WmAddGroup> living(dialog);
+    dialog->SetIsCloseAfterSave(closes);
+    dialog->findChild<QLineEdit*>(QStringLiteral("edtName"))->setText(QStringLiteral("A"));
+    connect(dialog, QOverload<const QString&>::of(&WmAddGroup::SignalNewName), this, [&] { delete dialog; });
+    connect(dialog, &WmAddGroup::SignalSaveAndNew, this, [&] { delete dialog; });
+    if (button == Save)
+        dialog->OnBtnSave();
+    else
+        dialog->OnBtnSaveAndNew();
+    QVERIFY(!living);
+}
+
+/// Catches a dialog whose event loop does not end with a save.
+void TestAddGroup::RunsModally()
+{
+    Dialog form;
+    form.dialog->hide();
+    QTimer::singleShot(0, form.dialog, [&] {
+        form.Type(QStringLiteral("A"));
+        form.Click(Save);
+    });
+    form.dialog->exec();
+    QCOMPARE(form.reports.size(), 2);
+}
+
+STRICT_TEST_MAIN(TestAddGroup)
+#include "tst_addgroup.moc"
