@@ -1,13 +1,12 @@
 #include <UI/FormInputs/CTipLabel.h>
 
 #include "TipPlacement.h"
+#include "WidgetScreen.h"
 
 #include <QAccessible>
-#include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPropertyAnimation>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -29,14 +28,6 @@ constexpr QRgb BodyColor = qRgb(102, 47, 47);
 constexpr QRgb ArrowColor = qRgb(229, 57, 53);
 
 QRect GlobalRect(const QWidget* widget) { return {widget->mapToGlobal(QPoint(0, 0)), widget->size()}; }
-
-QRect ScreenAround(const QWidget* anchor)
-{
-    const QScreen* screen = QGuiApplication::screenAt(GlobalRect(anchor).center());
-    if (!screen) // the middle of the anchor may be off every screen
-        screen = anchor->screen();
-    return screen->availableGeometry();
-}
 
 } // namespace
 
@@ -91,7 +82,7 @@ void CTipLabel::ShowTip(const QString& text, QWidget* anchor, DisplayPosition po
     }
     const bool hasArrow = position >= Left && position <= Bottom;
     const TipPlacement place
-        = PlaceTip(GlobalRect(anchor), BodySize(text), hasArrow ? position : None, ScreenAround(anchor));
+        = PlaceTip(GlobalRect(anchor), BodySize(text), hasArrow ? position : None, ScreenOf(anchor));
     m_iDisplayPosition = place.side;
     m_iArrowStart = place.arrowStart;
     SetAnchor(anchor);

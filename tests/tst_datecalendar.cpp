@@ -1,0 +1,835 @@
+// The range calendar and the button that opens it, by mouse and keyboard.
+
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/CalendarMonthView.h>
+#include <Platform/BasicUIComponents/CalendarRange.h>
+#include <Platform/BasicUIComponents/KvCalendarEx.h>
+#include <UI/FormInputs/CalendarPlacement.h>
+#include <UI/FormInputs/WmDateCalendar.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QPointer>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimeEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <ctime>
+#include <functional>
+#include <memory>
+
+using namespace KvGUI;
+using UICommonMdl::CalendarPosition;
+using UICommonMdl::WmDateCalendar;
+
+Q_DECLARE_METATYPE(Qt::DayOfWeek)
+
+namespace {
+
+const QDate January5(2024, 1, 5);
+const QDate January20(2024, 1, 20);
+const QDate February1(2024, 2, 1);
+
+QDateTime At(const QDate& day, int hour, int minute = 0) { return QDateTime(day, QTime(hour, minute)); }
+
+QDateTime EndOf(const QDate& day) { return QDateTime(day, QTime(23, 59, 59)); }
+
+/// What a calendar holds.
+struct Range
+{
+    template <class Calendar>
+    explicit Range(Calendar& calendar)
+    {
+        calendar.DateTimeRange(start, end);
+    }
+
+    QDateTime start;
+    QDateTime end;
+};
+
+struct Hand
+{
+    explicit Hand(QWidget* calendarWidget)
+        : calendar(calendarWidget)
+    { }
+
+    CalendarMonthView* View(int page) const { return calendar->findChildren<CalendarMonthView*>().at(page); }
+
+    CalendarMonthView* ViewOf(const QDate& day) const
+    {
+        return View(View(0)->Days()->IndexOf(day).isValid() ? 0 : 1);
+    }
+
+    QPoint Cell(const QDate& day) const
+    {
+        CalendarMonthView* view = ViewOf(day);
+        return view->visualRect(view->Days()->IndexOf(day)).center();
+    }
+
+    void Click(const QDate& day) const
+    {
+        QTest::mouseClick(ViewOf(day)->viewport(), Qt::LeftButton, {}, Cell(day));
+    }
+
+    void Hover(const QDate& day) const { QTest::mouseMove(ViewOf(day)->viewport(), Cell(day)); }
+
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, key, modifiers);
+    }
+
+    void Turn(int page, const char* button, int times = 1) const
+    {
+        QWidget* owner = View(page)->parentWidget();
+        for (int i = 0; i < times; ++i)
+            owner->findChild<QToolButton*>(QString::fromLatin1(button))->click();
+    }
+
+    bool IsInRange(const QDate& day) const
+    {
+        const QModelIndex index = ViewOf(day)->Days()->IndexOf(day);
+        return index.data(Qt::AccessibleTextRole).toString().contains(QStringLiteral("range"));
+    }
+
+    QWidget* calendar;
+};
+
+/// A calendar in a window, showing January and February 2024.
+struct Form
+{
+    Form()
+    {
+        calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(calendar);
+        calendar->SetSelDate(At(January5, 10), At(February1, 8));
+        calendar->SetTimeEditVisible(false);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+
+    QWidget window;
+    QPointer<KvCalendarEx> calendar = new KvCalendarEx;
+    Hand hand{calendar};
+};
+
+/// A window with the button that opens a calendar, and an ordinary one.
+struct ButtonForm
+{
+    ButtonForm()
+    {
+        window.setGeometry(100, 400, 300, 200);
+        button->setGeometry(20, 80, 200, 30);
+        other->setGeometry(20, 20, 100, 30);
+        button->SetSelDate(At(January5, 10), At(February1, 8));
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+
+    KvCalendarEx* Calendar() const { return button->findChild<KvCalendarEx*>(); }
+    void Press(const QPoint& pos)
+    {
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, pos);
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, pos);
+        QCoreApplication::processEvents(); // a replayed press is posted
+    }
+
+    QWidget window;
+    QPointer<WmDateCalendar> button = new WmDateCalendar(&window);
+    QPushButton* other = new QPushButton(&window);
+};
+
+const QPoint OnButton(100, 95);
+const QPoint OnOther(60, 35);
+
+} // namespace
+
+class TestDateCalendar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void DaysOfAMonth_data();
+    void DaysOfAMonth();
+    void PagesNeverMeet_data();
+    void PagesNeverMeet();
+    void SkippedTimes_data();
+    void SkippedTimes();
+    void TwoClicksMakeARange_data();
+    void TwoClicksMakeARange();
+    void RangeFollowsTheMouse();
+    void RestrictionLimitsTheClicks();
+    void RestrictionShortensARange();
+    void SettingARange_data();
+    void SettingARange();
+    void ClearedCalendar();
+    void MonthSignals();
+    void ButtonsTurnThePages();
+    void PagesEndWithTheYears();
+    void WheelTurnsThePage();
+    void KeysMoveTheDay_data();
+    void KeysMoveTheDay();
+    void KeysChooseARange();
+    void EscapeTakesThePickBack();
+    void LocaleNamesTheDays_data();
+    void LocaleNamesTheDays();
+    void TimesBelongToTheRange();
+    void TimesStayInOrder();
+    void DeletedByItsSlot();
+    void ButtonShowsTheRange();
+    void Positions_data();
+    void Positions();
+    void PressOpensAndCloses();
+    void ClickOutsideCloses();
+    void ButtonByKeyboard_data();
+    void ButtonByKeyboard();
+    void ButtonTellsOfChanges();
+    void ButtonCorrectsAReversedRange();
+    void ButtonDeletedByItsSlot_data();
+    void ButtonDeletedByItsSlot();
+};
+
+void TestDateCalendar::DaysOfAMonth_data()
+{
+    QTest::addColumn<QDate>("month");
+    QTest::addColumn<Qt::DayOfWeek>("firstDay");
+    QTest::addColumn<int>("cellOfFirst");
+    QTest::newRow("Monday first") << QDate(2024, 1, 17) << Qt::Monday << 0;
+    QTest::newRow("Sunday first") << QDate(2024, 1, 17) << Qt::Sunday << 1;
+    QTest::newRow("Saturday first") << QDate(2024, 1, 17) << Qt::Saturday << 2;
+    QTest::newRow("leap year") << QDate(2024, 2, 29) << Qt::Monday << 3;
+    QTest::newRow("six weeks") << QDate(2023, 10, 1) << Qt::Monday << 6;
+}
+
+/// Catches days in the wrong column, lost days, and days of the neighbouring months.
+void TestDateCalendar::DaysOfAMonth()
+{
+    QFETCH(QDate, month);
+    QFETCH(Qt::DayOfWeek, firstDay);
+    QFETCH(int, cellOfFirst);
+    QCOMPARE(CellOfDay(MonthOf(month), firstDay), cellOfFirst);
+    int days = 0;
+    for (int cell = 0; cell < CalendarRows * CalendarColumns; ++cell) {
+        const QDate day = DayInCell(month, firstDay, cell / CalendarColumns, cell % CalendarColumns);
+        if (!day.isValid())
+            continue;
+        QCOMPARE(day, MonthOf(month).addDays(days++));
+        QCOMPARE(CellOfDay(day, firstDay), cell);
+        QCOMPARE((firstDay - 1 + cell) % 7 + 1, day.dayOfWeek());
+    }
+    QCOMPARE(days, month.daysInMonth());
+}
+
+void TestDateCalendar::PagesNeverMeet_data()
+{
+    QTest::addColumn<bool>("startTurned");
+    QTest::addColumn<QDate>("to");
+    QTest::addColumn<QDate>("start");
+    QTest::addColumn<QDate>("end");
+    const auto month = [](int number, int year = 2024) { return QDate(year, number, 1); };
+    QTest::newRow("start back") << true << month(2) << month(2) << month(5);
+    QTest::newRow("start up to the end") << true << month(4) << month(4) << month(5);
+    QTest::newRow("start onto the end") << true << month(5) << month(5) << month(6);
+    QTest::newRow("start beyond the end") << true << month(12) << month(12) << month(1, 2025);
+    QTest::newRow("start at the last year's end")
+        << true << month(12, 9999) << month(11, 9999) << month(12, 9999);
+    QTest::newRow("end on") << false << month(9) << month(3) << month(9);
+    QTest::newRow("end onto the start") << false << month(3) << month(2) << month(3);
+    QTest::newRow("end before the start") << false << month(1) << month(12, 2023) << month(1);
+    QTest::newRow("end at the first year's start") << false << month(1, 1) << month(1, 1) << month(2, 1);
+}
+
+/// Catches two pages of the same month, or in the wrong order.
+void TestDateCalendar::PagesNeverMeet()
+{
+    QFETCH(bool, startTurned);
+    QFETCH(QDate, to);
+    const PagePair pages{QDate(2024, 3, 1), QDate(2024, 5, 1)};
+    const PagePair turned = startTurned ? WithStartPage(pages, to) : WithEndPage(pages, to);
+    QTEST(turned.start, "start");
+    QTEST(turned.end, "end");
+}
+
+void TestDateCalendar::SkippedTimes_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<QTime>("time");
+    QTest::addColumn<QTime>("expected");
+    const QByteArray berlin("Europe/Berlin");
+    const QByteArray saoPaulo("America/Sao_Paulo");
+    QTest::newRow("ordinary") << berlin << QDate(2024, 1, 5) << QTime(2, 30) << QTime(2, 30);
+    QTest::newRow("skipped") << berlin << QDate(2024, 3, 31) << QTime(2, 30) << QTime(3, 30);
+    QTest::newRow("after it") << berlin << QDate(2024, 3, 31) << QTime(3, 0) << QTime(3, 0);
+    QTest::newRow("twice") << berlin << QDate(2024, 10, 27) << QTime(2, 30) << QTime(2, 30);
+    QTest::newRow("no midnight") << saoPaulo << QDate(2018, 11, 4) << QTime(0, 0) << QTime(1, 0);
+}
+
+/// Catches an invalid moment, or one on another day, where the clocks are changed.
+void TestDateCalendar::SkippedTimes()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(QDate, day);
+    QFETCH(QTime, time);
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", zone);
+    tzset();
+    const QDateTime moment = LocalMoment(day, time);
+    const bool valid = moment.isValid();
+    const QDate date = moment.date();
+    const QTime clock = moment.time();
+    qputenv("TZ", before);
+    tzset();
+    QVERIFY(valid);
+    QCOMPARE(date, day);
+    QTEST(clock, "expected");
+}
+
+void TestDateCalendar::TwoClicksMakeARange_data()
+{
+    QTest::addColumn<QDate>("first");
+    QTest::addColumn<QDate>("second");
+    QTest::addColumn<QDate>("start");
+    QTest::addColumn<QDate>("end");
+    const QDate february10(2024, 2, 10);
+    QTest::newRow("in order") << January20 << february10 << January20 << february10;
+    QTest::newRow("backwards") << february10 << January20 << January20 << february10;
+    QTest::newRow("one day") << January20 << January20 << January20 << January20;
+    QTest::newRow("one month") << QDate(2024, 2, 29) << february10 << february10 << QDate(2024, 2, 29);
+}
+
+/// Catches ranges in the order of the clicks, half days, and reports before the second click.
+void TestDateCalendar::TwoClicksMakeARange()
+{
+    QFETCH(QDate, first);
+    QFETCH(QDate, second);
+    QFETCH(QDate, start);
+    QFETCH(QDate, end);
+    Form form;
+    QSignalSpy changed(form.calendar, &KvCalendarEx::SgnDateTimeChanged);
+    form.hand.Click(first);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(Range(*form.calendar).start, At(January5, 10)); // the old range still
+    form.hand.Click(second);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(Range(*form.calendar).start, At(start, 0));
+    QCOMPARE(Range(*form.calendar).end, EndOf(end));
+}
+
+/// Catches a preview that is missing, goes past the mouse, or stays when the pick is taken back.
+void TestDateCalendar::RangeFollowsTheMouse()
+{
+    Form form;
+    form.hand.Click(January20);
+    QVERIFY(!form.hand.IsInRange(QDate(2024, 1, 6)));
+    form.hand.Hover(QDate(2024, 1, 24));
+    QVERIFY(form.hand.IsInRange(QDate(2024, 1, 22)));
+    QVERIFY(!form.hand.IsInRange(QDate(2024, 1, 25)));
+    form.hand.Hover(QDate(2024, 1, 17));
+    QVERIFY(form.hand.IsInRange(QDate(2024, 1, 18)));
+    QVERIFY(!form.hand.IsInRange(QDate(2024, 1, 22)));
+
+    const CalendarMonthView* view = form.hand.View(0);
+    const QPoint middle = form.hand.Cell(QDate(2024, 1, 18)) + QPoint(0, 10);
+    const QColor band = form.hand.View(0)->viewport()->grab().toImage().pixelColor(middle);
+    QCOMPARE(band, view->property("rangeColor").value<QColor>());
+    form.hand.Key(Qt::Key_Escape);
+    QVERIFY(form.hand.IsInRange(QDate(2024, 1, 6)));
+}
+
+/// Catches a day too many or too few, and a click on a day out of reach that counts.
+void TestDateCalendar::RestrictionLimitsTheClicks()
+{
+    Form form;
+    form.calendar->SetRestrcitDateRange(7);
+    QSignalSpy changed(form.calendar, &KvCalendarEx::SgnDateTimeChanged);
+    form.hand.Click(January20);
+    for (const QDate& tooFar : {QDate(2024, 1, 13), QDate(2024, 1, 27), QDate(2024, 2, 10)}) {
+        form.hand.Hover(tooFar);
+        QVERIFY(!form.hand.IsInRange(tooFar));
+        form.hand.Click(tooFar);
+        QCOMPARE(changed.count(), 0);
+    }
+    form.hand.Click(QDate(2024, 1, 26));
+    QCOMPARE(changed.count(), 1);
+    form.hand.Click(January20);
+    form.hand.Click(QDate(2024, 1, 14));
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(Range(*form.calendar).start, At(QDate(2024, 1, 14), 0));
+}
+
+/// Catches a range that stays longer than allowed, or is cut although it is not.
+void TestDateCalendar::RestrictionShortensARange()
+{
+    Form form;
+    QSignalSpy changed(form.calendar, &KvCalendarEx::SgnDateTimeChanged);
+    form.calendar->SetRestrcitDateRange(28); // just its length
+    QCOMPARE(changed.count(), 0);
+    form.calendar->SetRestrcitDateRange(27);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(Range(*form.calendar).end, At(QDate(2024, 1, 31), 8));
+    form.calendar->SetRestrcitDateRange(1);
+    QCOMPARE(Range(*form.calendar).end, At(January5, 10)); // not before the start
+    form.calendar->SetRestrcitDateRange(-3);
+    form.calendar->SetSelDate(At(January5, 0), At(February1.addYears(3), 0));
+    QCOMPARE(Range(*form.calendar).end.date(), February1.addYears(3));
+}
+
+void TestDateCalendar::SettingARange_data()
+{
+    QTest::addColumn<QDateTime>("start");
+    QTest::addColumn<QDateTime>("end");
+    QTest::addColumn<QDateTime>("heldStart");
+    QTest::addColumn<QDateTime>("heldEnd");
+    QTest::addColumn<int>("reports");
+    const QDateTime early = At(January20, 9);
+    const QDateTime late = At(February1, 8);
+    const QDateTime none;
+    QTest::newRow("in order") << early << late << early << late << 0;
+    QTest::newRow("reversed") << late << early << early << late << 1;
+    QTest::newRow("reversed times") << At(January20, 10) << early << early << At(January20, 10) << 1;
+    QTest::newRow("one moment") << early << early << early << early << 0;
+    QTest::newRow("no start") << none << late << none << none << 0;
+    QTest::newRow("no end") << early << none << none << none << 0;
+}
+
+/// Catches a reversed range that is kept or corrected in silence, and a client told of its own range.
+void TestDateCalendar::SettingARange()
+{
+    QFETCH(QDateTime, start);
+    QFETCH(QDateTime, end);
+    Form form;
+    QSignalSpy changed(form.calendar, &KvCalendarEx::SgnDateTimeChanged);
+    form.calendar->SetSelDate(start, end);
+    QTEST(Range(*form.calendar).start, "heldStart");
+    QTEST(Range(*form.calendar).end, "heldEnd");
+    QTEST(changed.count(), "reports");
+}
+
+/// Catches a range, or half of one, that survives.
+void TestDateCalendar::ClearedCalendar()
+{
+    Form form;
+    form.hand.Click(January20);
+    form.calendar->ClearRecord();
+    QVERIFY(!Range(*form.calendar).start.isValid());
+    const QDate today = QDate::currentDate();
+    QCOMPARE(form.hand.View(1)->Days()->Month(), MonthOf(today));
+    form.hand.Click(MonthOf(today));
+    QVERIFY(!Range(*form.calendar).start.isValid()); // this was a first click
+    form.hand.Click(MonthOf(today));
+    QCOMPARE(Range(*form.calendar).start, At(MonthOf(today), 0));
+}
+
+/// Catches month signals for ranges within the same months, and the range read before it has changed.
+void TestDateCalendar::MonthSignals()
+{
+    Form form;
+    QStringList told;
+    const auto tell = [&](const char* name, void (KvCalendarEx::*signal)()) {
+        connect(form.calendar, signal, form.calendar, [&told, &form, name] {
+            told << QString::fromLatin1(name) + Range(*form.calendar).start.toString(QStringLiteral(" M"))
+                    + Range(*form.calendar).end.toString(QStringLiteral(" M"));
+        });
+    };
+    tell("range", &KvCalendarEx::SgnDateTimeChanged);
+    tell("start", &KvCalendarEx::SgnStartYearMonthChanged);
+    tell("end", &KvCalendarEx::SngEndYearMonthChanged);
+    const auto choose = [&](const QDate& one, const QDate& other) {
+        told.clear();
+        form.hand.Click(one);
+        form.hand.Click(other);
+        return told.join(QLatin1Char(','));
+    };
+    QCOMPARE(choose(January20, QDate(2024, 2, 9)), QStringLiteral("range 1 2"));
+    QCOMPARE(choose(January5, January20), QStringLiteral("range 1 1,end 1 1"));
+    QCOMPARE(choose(February1, February1), QStringLiteral("range 2 2,start 2 2,end 2 2"));
+    told.clear();
+    form.hand.Turn(0, "kvCalendarPreviousYear");
+    QVERIFY(told.isEmpty()); // the range is where it was
+}
+
+/// Catches buttons that turn the other page or by another step, and titles that stay.
+void TestDateCalendar::ButtonsTurnThePages()
+{
+    Form form;
+    const auto months = [&] {
+        return form.hand.View(0)->Days()->Month().toString(QStringLiteral("yyyy-M "))
+            + form.hand.View(1)->Days()->Month().toString(QStringLiteral("yyyy-M"));
+    };
+    QCOMPARE(months(), QStringLiteral("2024-1 2024-2"));
+    form.hand.Turn(0, "kvCalendarPreviousMonth");
+    QCOMPARE(months(), QStringLiteral("2023-12 2024-2"));
+    form.hand.Turn(1, "kvCalendarNextYear");
+    QCOMPARE(months(), QStringLiteral("2023-12 2025-2"));
+    form.hand.Turn(0, "kvCalendarNextYear", 2);
+    QCOMPARE(months(), QStringLiteral("2025-12 2026-1"));
+    form.hand.Turn(1, "kvCalendarPreviousMonth", 3);
+    QCOMPARE(months(), QStringLiteral("2025-9 2025-10"));
+    form.hand.Turn(1, "kvCalendarNextMonth");
+    const auto* title
+        = form.hand.View(1)->parentWidget()->findChild<QLabel*>(QStringLiteral("kvCalendarTitle"));
+    QCOMPARE(title->text(), QStringLiteral("November 2025"));
+    QCOMPARE(form.hand.View(1)->accessibleName(), title->text());
+}
+
+/// Catches pages and keys that leave the years which have a name.
+void TestDateCalendar::PagesEndWithTheYears()
+{
+    Form form;
+    form.calendar->SetSelDate(At(QDate(9999, 12, 31), 0), At(QDate(9999, 12, 31), 1));
+    form.hand.Turn(1, "kvCalendarNextYear");
+    form.hand.Turn(0, "kvCalendarNextMonth", 2);
+    QCOMPARE(form.hand.View(1)->Days()->Month(), QDate(9999, 12, 1));
+    form.hand.View(1)->setFocus();
+    form.hand.Key(Qt::Key_End);
+    form.hand.Key(Qt::Key_Right);
+    QCOMPARE(form.hand.View(1)->Days()->Day(form.hand.View(1)->currentIndex()), QDate(9999, 12, 31));
+    form.calendar->SetSelDate(At(QDate(1, 1, 1), 0), At(QDate(1, 1, 1), 1));
+    form.hand.Turn(0, "kvCalendarPreviousYear");
+    form.hand.Turn(1, "kvCalendarPreviousMonth", 2);
+    QCOMPARE(form.hand.View(0)->Days()->Month(), QDate(1, 1, 1));
+}
+
+/// Catches a wheel that turns the wrong way, or a whole page for each small step of a fine one.
+void TestDateCalendar::WheelTurnsThePage()
+{
+    Form form;
+    const auto turn = [&](int angle) {
+        const QPoint pos(50, 50);
+        QWidget* viewport = form.hand.View(0)->viewport();
+        QWheelEvent event(
+            pos, viewport->mapToGlobal(pos), QPoint(), QPoint(0, angle), Qt::NoButton, Qt::NoModifier,
+            Qt::NoScrollPhase, false);
+        QApplication::sendEvent(viewport, &event);
+        return form.hand.View(0)->Days()->Month();
+    };
+    QCOMPARE(turn(120), QDate(2023, 12, 1));
+    QCOMPARE(turn(-240), QDate(2024, 2, 1));
+    QCOMPARE(turn(-60), QDate(2024, 2, 1));
+    QCOMPARE(turn(-60), QDate(2024, 3, 1));
+}
+
+void TestDateCalendar::KeysMoveTheDay_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("control");
+    QTest::addColumn<QDate>("day");
+    QTest::newRow("left") << int(Qt::Key_Left) << false << QDate(2024, 1, 4);
+    QTest::newRow("right") << int(Qt::Key_Right) << false << QDate(2024, 1, 6);
+    QTest::newRow("up, to the month before") << int(Qt::Key_Up) << false << QDate(2023, 12, 29);
+    QTest::newRow("down") << int(Qt::Key_Down) << false << QDate(2024, 1, 12);
+    QTest::newRow("page up") << int(Qt::Key_PageUp) << false << QDate(2023, 12, 5);
+    QTest::newRow("page down, on the other page") << int(Qt::Key_PageDown) << false << QDate(2024, 2, 5);
+    QTest::newRow("year up") << int(Qt::Key_PageUp) << true << QDate(2023, 1, 5);
+    QTest::newRow("year down") << int(Qt::Key_PageDown) << true << QDate(2025, 1, 5);
+    QTest::newRow("home") << int(Qt::Key_Home) << false << QDate(2024, 1, 1);
+    QTest::newRow("end") << int(Qt::Key_End) << false << QDate(2024, 1, 31);
+}
+
+/// Catches keys that go elsewhere, or leave the focus on a page that does not show the day.
+void TestDateCalendar::KeysMoveTheDay()
+{
+    QFETCH(int, key);
+    QFETCH(bool, control);
+    QFETCH(QDate, day);
+    Form form;
+    form.hand.View(0)->setFocus();
+    form.hand.Key(static_cast<Qt::Key>(key), control ? Qt::ControlModifier : Qt::NoModifier);
+    const auto* view = qobject_cast<CalendarMonthView*>(QApplication::focusWidget());
+    QVERIFY(view);
+    QCOMPARE(view->Days()->Day(view->currentIndex()), day);
+}
+
+/// Catches a calendar that needs the mouse.
+void TestDateCalendar::KeysChooseARange()
+{
+    Form form;
+    form.hand.View(0)->setFocus();
+    form.hand.Key(Qt::Key_Return); // 5 January, the start of the range
+    for (int i = 0; i < 4; ++i)
+        form.hand.Key(Qt::Key_Down);
+    QVERIFY(form.hand.IsInRange(QDate(2024, 1, 30))); // the range follows the keys too
+    form.hand.Key(Qt::Key_Space);
+    QCOMPARE(Range(*form.calendar).start, At(January5, 0));
+    QCOMPARE(Range(*form.calendar).end, EndOf(QDate(2024, 2, 2)));
+}
+
+/// Catches Escape that closes at once, and a first click remembered for the next opening.
+void TestDateCalendar::EscapeTakesThePickBack()
+{
+    KvCalendarEx popup(nullptr, Qt::Popup | Qt::FramelessWindowHint);
+    popup.SetSelDate(At(January5, 10), At(February1, 8));
+    QSignalSpy hidden(&popup, &KvCalendarEx::SgnCalendarHide);
+    const Hand hand(&popup);
+    popup.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&popup));
+    hand.Click(January20);
+    hand.Key(Qt::Key_Escape);
+    QVERIFY(popup.isVisible());
+    hand.Click(January20);
+    popup.hide();
+    QCOMPARE(hidden.count(), 1);
+    popup.show();
+    hand.Click(January20);
+    QCOMPARE(Range(popup).start, At(January5, 10)); // a first click
+    hand.Key(Qt::Key_Escape);
+    hand.Key(Qt::Key_Escape);
+    QVERIFY(!popup.isVisible());
+    QCOMPARE(hidden.count(), 2);
+}
+
+void TestDateCalendar::LocaleNamesTheDays_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("week from Monday") << QLocale(QLocale::German, QLocale::Germany);
+    QTest::newRow("week from Sunday") << QLocale(QLocale::English, QLocale::UnitedStates);
+    QTest::newRow("week from Saturday, other digits") << QLocale(QLocale::Arabic, QLocale::Egypt);
+    QTest::newRow("year first") << QLocale(QLocale::Chinese, QLocale::China);
+}
+
+/// Catches names of another language over the days of another weekday.
+void TestDateCalendar::LocaleNamesTheDays()
+{
+    QFETCH(QLocale, locale);
+    Form form;
+    form.calendar->setLocale(locale);
+    const CalendarMonthModel* days = form.hand.View(0)->Days();
+    const QModelIndex index = days->IndexOf(January5); // a Friday
+    QCOMPARE(
+        days->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString(),
+        locale.standaloneDayName(Qt::Friday, QLocale::ShortFormat));
+    QCOMPARE(
+        days->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(),
+        locale.standaloneDayName(locale.firstDayOfWeek(), QLocale::ShortFormat));
+    QCOMPARE(index.data().toString(), locale.toString(5));
+    const auto* title
+        = form.hand.View(0)->parentWidget()->findChild<QLabel*>(QStringLiteral("kvCalendarTitle"));
+    QVERIFY(title->text().contains(locale.standaloneMonthName(1)));
+    QCOMPARE(title->text().at(0).isDigit(), locale.language() == QLocale::Chinese);
+}
+
+/// Catches times that are ignored, lost by the next pick, or kept when they cannot be seen.
+void TestDateCalendar::TimesBelongToTheRange()
+{
+    Form form;
+    form.calendar->SetTimeEditVisible(true);
+    auto* start = form.calendar->findChild<QTimeEdit*>(QStringLiteral("kvCalendarStartTime"));
+    QVERIFY(start->isVisible());
+    QCOMPARE(start->time(), QTime(10, 0));
+    QSignalSpy changed(form.calendar, &KvCalendarEx::SgnDateTimeChanged);
+    start->setFocus();
+    start->setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(start, QStringLiteral("07"));
+    QTRY_VERIFY(changed.count() > 0);
+    QCOMPARE(Range(*form.calendar).start, At(January5, 7));
+    form.hand.Click(January20);
+    form.hand.Click(February1);
+    QCOMPARE(Range(*form.calendar).start, At(January20, 7));
+    QCOMPARE(Range(*form.calendar).end, At(February1, 8));
+    form.calendar->SetTimeEditVisible(false);
+    form.hand.Click(January20);
+    form.hand.Click(February1);
+    QCOMPARE(Range(*form.calendar).start, At(January20, 0));
+    QCOMPARE(Range(*form.calendar).end, EndOf(February1));
+}
+
+/// Catches a range on one day that ends before it starts.
+void TestDateCalendar::TimesStayInOrder()
+{
+    Form form;
+    form.calendar->SetTimeEditVisible(true);
+    form.hand.Click(January20); // between 10:00 and 08:00
+    form.hand.Click(January20);
+    QCOMPARE(Range(*form.calendar).start, At(January20, 8));
+    QCOMPARE(Range(*form.calendar).end, At(January20, 10));
+    auto* start = form.calendar->findChild<QTimeEdit*>(QStringLiteral("kvCalendarStartTime"));
+    auto* end = form.calendar->findChild<QTimeEdit*>(QStringLiteral("kvCalendarEndTime"));
+    start->setTime(QTime(12, 30));
+    QCOMPARE(Range(*form.calendar).end, At(January20, 12, 30));
+    QCOMPARE(end->time(), QTime(12, 30));
+    end->setTime(QTime(6, 0));
+    QCOMPARE(Range(*form.calendar).start, At(January20, 6));
+    QCOMPARE(start->time(), QTime(6, 0));
+}
+
+/// Catches a touch of the calendar after a client's slot has deleted it, which the sanitizer reports.
+void TestDateCalendar::DeletedByItsSlot()
+{
+    const QVector<std::function<void(Form&)>> actions{
+        [](Form& form) { form.hand.Click(January20); },
+        [](Form& form) {
+            form.hand.View(0)->setFocus();
+            form.hand.Key(Qt::Key_Return);
+        },
+        [](Form& form) { form.calendar->SetSelDate(At(February1, 0), At(January5, 0)); },
+        [](Form& form) { form.calendar->SetRestrcitDateRange(2); },
+        [](Form& form) { form.calendar->findChild<QTimeEdit*>()->stepUp(); }};
+    for (const auto& act : actions) {
+        Form form;
+        form.hand.Click(January5);
+        connect(form.calendar, &KvCalendarEx::SgnDateTimeChanged, this, [&] { delete form.calendar; });
+        act(form);
+        QTRY_VERIFY(!form.calendar);
+    }
+}
+
+/// Catches another format, and a text that does not follow the calendar.
+void TestDateCalendar::ButtonShowsTheRange()
+{
+    ButtonForm form;
+    QCOMPARE(form.button->text(), QStringLiteral("2024/01/05-2024/02/01"));
+    QVERIFY(!form.button->isChecked());
+    form.Press(OnButton);
+    const Hand hand(form.Calendar());
+    hand.Click(February1);
+    hand.Click(January20);
+    QCOMPARE(form.button->text(), QStringLiteral("2024/01/20-2024/02/01"));
+    QCOMPARE(Range(*form.button).start, At(January20, 0));
+    QVERIFY(form.Calendar()->isVisible());
+}
+
+void TestDateCalendar::Positions_data()
+{
+    QTest::addColumn<QPoint>("corner");
+    QTest::addColumn<QPoint>("position");
+    QTest::newRow("room above") << QPoint(500, 700) << QPoint(500, 400);
+    QTest::newRow("just room above") << QPoint(500, 340) << QPoint(500, 40);
+    QTest::newRow("a pixel too little") << QPoint(500, 339) << QPoint(500, 309);
+    QTest::newRow("near the top") << QPoint(500, 80) << QPoint(500, 50);
+    QTest::newRow("below the screen") << QPoint(500, 1400) << QPoint(500, 800);
+    QTest::newRow("right edge") << QPoint(1919, 700) << QPoint(1919, 400);
+}
+
+/// Catches a calendar beyond the upper or lower edge of the screen.
+void TestDateCalendar::Positions()
+{
+    QFETCH(QPoint, corner);
+    const QRect available(0, 40, 1920, 1040);
+    QTEST(CalendarPosition(corner, 30, 300, available), "position");
+}
+
+/// Catches a press that closes the calendar and opens it again.
+void TestDateCalendar::PressOpensAndCloses()
+{
+    ButtonForm form;
+    for (int i = 0; i < 2; ++i) {
+        form.Press(OnButton);
+        QVERIFY(form.Calendar()->isVisible());
+        QVERIFY(form.button->isChecked());
+        QCOMPARE(form.Calendar()->pos(), form.button->GetCalendarPos());
+        QCOMPARE(form.Calendar()->x(), form.window.mapToGlobal(form.button->geometry().topRight()).x() + 1);
+        form.Press(OnButton);
+        QVERIFY(!form.Calendar()->isVisible());
+        QVERIFY(form.button->isChecked());
+    }
+}
+
+/// Catches a button that stays pressed, and a click that is lost.
+void TestDateCalendar::ClickOutsideCloses()
+{
+    ButtonForm form;
+    QSignalSpy clicked(form.other, &QPushButton::clicked);
+    form.Press(OnButton);
+    form.Press(OnOther);
+    QVERIFY(!form.Calendar()->isVisible());
+    QVERIFY(!form.button->isChecked());
+    form.Press(OnButton);
+    QVERIFY(form.Calendar()->isVisible());
+}
+
+void TestDateCalendar::ButtonByKeyboard_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("space") << int(Qt::Key_Space);
+    QTest::newRow("return") << int(Qt::Key_Return);
+    QTest::newRow("down") << int(Qt::Key_Down);
+}
+
+/// Catches a button that only the mouse can open, and a state that does not follow.
+void TestDateCalendar::ButtonByKeyboard()
+{
+    QFETCH(int, key);
+    ButtonForm form;
+    form.button->setFocus();
+    QTest::keyClick(form.button, static_cast<Qt::Key>(key));
+    QVERIFY(form.Calendar()->isVisible());
+    QVERIFY(form.button->isChecked());
+    const Hand hand(form.Calendar());
+    QVERIFY(form.Calendar()->focusWidget());
+    hand.Key(Qt::Key_Escape);
+    QVERIFY(!form.Calendar()->isVisible());
+    QVERIFY(!form.button->isChecked());
+}
+
+/// Catches signals with the range before, or with start and end exchanged.
+void TestDateCalendar::ButtonTellsOfChanges()
+{
+    ButtonForm form;
+    QSignalSpy range(form.button, &WmDateCalendar::SgnDateTimeChanged);
+    QSignalSpy start(form.button, &WmDateCalendar::SgnStartYearMonthChanged);
+    QSignalSpy end(form.button, &WmDateCalendar::SgnEndYearMonthChanged);
+    form.Press(OnButton);
+    const Hand hand(form.Calendar());
+    hand.Turn(0, "kvCalendarPreviousMonth");
+    hand.Turn(1, "kvCalendarNextYear");
+    hand.Click(QDate(2023, 12, 24));
+    hand.Click(QDate(2025, 2, 14));
+    QCOMPARE(range.count(), 1);
+    QCOMPARE(range.first().at(0).toDateTime(), At(QDate(2023, 12, 24), 0));
+    QCOMPARE(range.first().at(1).toDateTime(), EndOf(QDate(2025, 2, 14)));
+    QCOMPARE(start.value(0), (QVariantList{2023, 12}));
+    QCOMPARE(end.value(0), (QVariantList{2025, 2}));
+    QCOMPARE(start.count() + end.count(), 2);
+}
+
+/// Catches a button that shows another range than it holds.
+void TestDateCalendar::ButtonCorrectsAReversedRange()
+{
+    ButtonForm form;
+    form.button->SetSelDate(At(February1, 8), At(January20, 9));
+    QCOMPARE(form.button->text(), QStringLiteral("2024/01/20-2024/02/01"));
+    form.button->SetRestrcitDateRange(3);
+    QCOMPARE(form.button->text(), QStringLiteral("2024/01/20-2024/01/22"));
+}
+
+void TestDateCalendar::ButtonDeletedByItsSlot_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("range") << 0;
+    QTest::newRow("start") << 1;
+    QTest::newRow("end") << 2;
+}
+
+/// Catches a touch of the button after a client's slot has deleted it, which the sanitizer reports.
+void TestDateCalendar::ButtonDeletedByItsSlot()
+{
+    QFETCH(int, signal);
+    ButtonForm form;
+    const auto remove = [&] { delete form.button; };
+    if (signal == 0)
+        connect(form.button, &WmDateCalendar::SgnDateTimeChanged, this, remove);
+    else if (signal == 1)
+        connect(form.button, &WmDateCalendar::SgnStartYearMonthChanged, this, remove);
+    else
+        connect(form.button, &WmDateCalendar::SgnEndYearMonthChanged, this, remove);
+    form.Press(OnButton);
+    const Hand hand(form.Calendar());
+    hand.Turn(0, "kvCalendarPreviousMonth");
+    hand.Turn(1, "kvCalendarNextMonth");
+    hand.Click(QDate(2023, 12, 24));
+    hand.Click(QDate(2024, 3, 1));
+    QVERIFY(!form.button);
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+STRICT_X_TEST_MAIN(TestDateCalendar)
+#include "tst_datecalendar.moc"
