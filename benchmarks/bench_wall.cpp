@@ -1,12 +1,14 @@
-// The display wall, alone and in the operate wall, with 36 screens of 25 windows against the same widgets in
-// bare MDI areas.
+// The walls of both families, alone and in the operate wall, with 36 screens of 25 windows against the
+// widgets of the display wall in bare MDI areas.
 
 #include "Ratio.h"
 
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
+#include <UI/TVWall/KvTVWallNormalWnd.h>
 #include <UI/TVWall/KvTVWallOperateWnd.h>
 
 #include <QApplication>
+#include <QGraphicsView>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiArea>
@@ -16,6 +18,7 @@
 #include <QWheelEvent>
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -39,18 +42,14 @@ void DeliverAll()
     QCoreApplication::processEvents();
 }
 
-using Wall = UICommonMdl::KvTVWallDisplayWnd;
+using UICommonMdl::KvTVWallDisplayWnd;
+using UICommonMdl::KvTVWallNormalWnd;
 using OperateWall = UICommonMdl::KvTVWallOperateWnd;
 
-void ChooseFamily(Wall&) { }
-void ChooseFamily(OperateWall& wall) { wall.SetShowMode(OperateWall::DisplayMode); }
-
-template <typename AnyWall = Wall>
-std::unique_ptr<AnyWall> MakeWall()
+template <typename Wall>
+std::unique_ptr<Wall> Arranged(std::unique_ptr<Wall> wall)
 {
-    auto wall = std::make_unique<AnyWall>();
     wall->resize(WallSize);
-    ChooseFamily(*wall);
     wall->SetTVWallGridCount(ScreensAcross, ScreensAcross);
     wall->SetWindowTitleShow(true);
     wall->show();
@@ -59,14 +58,30 @@ std::unique_ptr<AnyWall> MakeWall()
     return wall;
 }
 
-template <typename AnyWall>
-void OpenWindows(AnyWall& wall)
+template <typename Wall>
+std::unique_ptr<Wall> MakeWall()
+{
+    return Arranged(std::make_unique<Wall>());
+}
+
+std::unique_ptr<OperateWall> MakeOperateWall(int mode)
+{
+    auto wall = std::make_unique<OperateWall>();
+    wall->SetShowMode(mode);
+    return Arranged(std::move(wall));
+}
+
+template <typename Wall>
+void OpenWindows(Wall& wall)
 {
     for (int s = 0; s < wall.GetScreenCount(); ++s) {
         for (int w = 0; w < WindowsAcross * WindowsAcross; ++w)
             wall.OpenWindow(s, Cell(w, WindowsAcross), QVariant());
     }
 }
+
+/// The style sheet of the display wall's widgets.
+QString WidgetSheet() { return KvTVWallDisplayWnd().styleSheet(); }
 
 /// The same children, placed by the same numbers, in QMdiArea and QMdiSubWindow as they are.
 class BareWall : public QWidget
@@ -155,31 +170,30 @@ private:
     QList<QMdiSubWindow*> m_windows;
 };
 
-void BenchmarkOpening()
+template <typename Wall>
+void BenchmarkOpening(const char* name)
 {
-    std::unique_ptr<Wall> wall;
-    std::unique_ptr<BareWall> bare;
+    const QString sheet = WidgetSheet();
     std::vector<double> ours;
     std::vector<double> theirs;
     for (int i = 0; i < Rounds; ++i) {
-        wall = MakeWall();
+        auto wall = MakeWall<Wall>();
         DeliverAll();
         ours.push_back(Ratio::Milliseconds([&] {
             OpenWindows(*wall);
             DeliverAll();
         }));
-        bare = std::make_unique<BareWall>(wall->styleSheet());
         wall.reset();
-        bare->resize(WallSize);
-        bare->show();
+        BareWall bare(sheet);
+        bare.resize(WallSize);
+        bare.show();
         DeliverAll();
         theirs.push_back(Ratio::Milliseconds([&] {
-            bare->OpenWindows();
+            bare.OpenWindows();
             DeliverAll();
         }));
-        bare.reset();
     }
-    Ratio::PrintMedians("open_900_windows", ours, theirs);
+    Ratio::PrintMedians(name, ours, theirs);
 }
 
 /// Median time of one of many steps, with all events delivered.
@@ -204,18 +218,18 @@ double ResizeTime(QWidget& widget)
 }
 
 // Never both at once: each bare area filters the events of the whole application.
-void BenchmarkResizing()
+template <typename Wall>
+void BenchmarkResizing(const char* name)
 {
+    const QString sheet = WidgetSheet();
     std::vector<double> ours;
     std::vector<double> theirs;
-    QString sheet;
     for (int i = 0; i < Rounds; ++i) {
         {
-            const auto wall = MakeWall();
+            const auto wall = MakeWall<Wall>();
             OpenWindows(*wall);
             DeliverAll();
             ours.push_back(ResizeTime(*wall));
-            sheet = wall->styleSheet();
         }
         BareWall bare(sheet);
         bare.resize(WallSize);
@@ -224,39 +238,54 @@ void BenchmarkResizing()
         DeliverAll();
         theirs.push_back(ResizeTime(bare));
     }
-    Ratio::PrintMedians("resize_900_windows", ours, theirs);
+    Ratio::PrintMedians(name, ours, theirs);
 }
 
-/// Of an operate wall into which the wheel zooms about its middle, and out again.
-double ZoomTime(OperateWall& wall)
+/// Of a widget into which the wheel zooms about its middle, and out again. @p isZoomed tells whether it did.
+double ZoomTime(QWidget& receiver, const std::function<bool()>& isZoomed)
 {
-    QWidget* zoomed = wall.GetWindowWidget(0, 0);
-    while (zoomed->parentWidget() != &wall)
-        zoomed = zoomed->parentWidget();
-    return StepTime([&wall, zoomed](int step) {
-        const QPoint middle = zoomed->rect().center();
-        QWheelEvent turn(
-            middle, zoomed->mapToGlobal(middle), {}, {0, step % 2 == 0 ? 120 : -120}, Qt::NoButton,
+    const auto turn = [&receiver](int step) {
+        const QPoint middle = receiver.rect().center();
+        QWheelEvent event(
+            middle, receiver.mapToGlobal(middle), {}, {0, step % 2 == 0 ? 120 : -120}, Qt::NoButton,
             Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(zoomed, &turn);
-        if (wall.GetTVWallRect().size() != (step % 2 == 0 ? WallSize * 1.5 : WallSize))
+        QCoreApplication::sendEvent(&receiver, &event);
+    };
+    for (const int step : {0, 1}) {
+        turn(step);
+        if (isZoomed() != (step == 0))
             qFatal("the wall was not zoomed");
+    }
+    return StepTime(turn);
+}
+
+double DisplayZoomTime()
+{
+    const auto wall = MakeOperateWall(OperateWall::DisplayMode);
+    OpenWindows(*wall);
+    DeliverAll();
+    auto* zoomed = wall->findChild<KvTVWallDisplayWnd*>();
+    return ZoomTime(*zoomed, [&wall] { return wall->GetTVWallRect().size() == WallSize * 1.5; });
+}
+
+double NormalZoomTime()
+{
+    const auto wall = MakeOperateWall(OperateWall::NormalMode);
+    OpenWindows(*wall);
+    DeliverAll();
+    const auto* view = wall->findChild<QGraphicsView*>();
+    return ZoomTime(*view->viewport(), [view] {
+        return view->scene()->itemsBoundingRect().width() > 1.4 * WallSize.width();
     });
 }
 
-void BenchmarkZooming()
+void BenchmarkZooming(const char* name, double (*zoomTime)())
 {
+    const QString sheet = WidgetSheet();
     std::vector<double> ours;
     std::vector<double> theirs;
-    QString sheet;
     for (int i = 0; i < Rounds; ++i) {
-        {
-            const auto wall = MakeWall<OperateWall>();
-            OpenWindows(*wall);
-            DeliverAll();
-            ours.push_back(ZoomTime(*wall));
-            sheet = wall->findChild<Wall*>()->styleSheet();
-        }
+        ours.push_back(zoomTime());
         QWidget view;
         view.resize(WallSize);
         auto* bare = new BareWall(sheet);
@@ -270,7 +299,7 @@ void BenchmarkZooming()
             bare->setGeometry(step % 2 == 0 ? zoomed : QRect(QPoint(0, 0), WallSize));
         }));
     }
-    Ratio::PrintMedians("zoom_900_windows", ours, theirs);
+    Ratio::PrintMedians(name, ours, theirs);
 }
 
 void SendMouse(QWidget* receiver, QEvent::Type type, const QPoint& global, Qt::MouseButtons buttons)
@@ -279,24 +308,21 @@ void SendMouse(QWidget* receiver, QEvent::Type type, const QPoint& global, Qt::M
     QCoreApplication::sendEvent(receiver, &event);
 }
 
-void BenchmarkDragging()
+/// Drags a window whose title bar @p receiver shows at @p press, against moving a window's widget.
+void BenchmarkDragging(const char* name, QWidget* receiver, const QPoint& press)
 {
     constexpr int StepsARound = 20;
-    const auto wall = MakeWall();
-    OpenWindows(*wall);
+    const auto other = MakeWall<KvTVWallDisplayWnd>();
+    OpenWindows(*other);
     DeliverAll();
-    QWidget* dragged = wall->GetWindowWidget(7, 12)->parentWidget();
-    QWidget* moved = wall->GetWindowWidget(8, 12)->parentWidget();
-    auto* title = dragged->findChild<QWidget*>(QStringLiteral("pWindowTitleText"));
-    const QPoint press = title->mapToGlobal(QPoint(8, 8));
+    QWidget* moved = other->GetWindowWidget(8, 12)->parentWidget();
     const QPoint start = moved->pos();
-    const QPoint draggedFrom = dragged->pos();
-    SendMouse(title, QEvent::MouseButtonPress, press, Qt::LeftButton);
+    SendMouse(receiver, QEvent::MouseButtonPress, press, Qt::LeftButton);
     Ratio::Print(
-        "drag_one_of_900_windows", Rounds,
+        name, Rounds,
         [&] {
             for (int i = 1; i <= StepsARound; ++i) {
-                SendMouse(title, QEvent::MouseMove, press + QPoint(i, i % 7), Qt::LeftButton);
+                SendMouse(receiver, QEvent::MouseMove, press + QPoint(i, i % 7), Qt::LeftButton);
                 DeliverAll();
             }
         },
@@ -306,7 +332,40 @@ void BenchmarkDragging()
                 DeliverAll();
             }
         });
-    if (dragged->pos() == draggedFrom)
+    SendMouse(receiver, QEvent::MouseButtonRelease, press + QPoint(20, 6), Qt::NoButton);
+}
+
+void BenchmarkDisplayDragging()
+{
+    const auto wall = MakeWall<KvTVWallDisplayWnd>();
+    OpenWindows(*wall);
+    DeliverAll();
+    const QWidget* dragged = wall->GetWindowWidget(7, 12)->parentWidget();
+    const QPoint from = dragged->pos();
+    auto* title = dragged->findChild<QWidget*>(QStringLiteral("pWindowTitleText"));
+    BenchmarkDragging("drag_one_of_900_windows", title, title->mapToGlobal(QPoint(8, 8)));
+    if (dragged->pos() == from)
+        qFatal("the window was not dragged");
+}
+
+void BenchmarkNormalDragging()
+{
+    const auto wall = MakeWall<KvTVWallNormalWnd>();
+    OpenWindows(*wall);
+    DeliverAll();
+    KvGUI::StructScaleRect from;
+    wall->GetWindowScale(7, 12, from);
+    // Screen 7 is the second of the second row; its title bars are 24 pixels high.
+    const QSize screen = WallSize / ScreensAcross;
+    const QPoint corner(
+        screen.width() + int(screen.width() * from.dLeft),
+        screen.height() + int(screen.height() * from.dTop));
+    QWidget* viewport = wall->findChild<QGraphicsView*>()->viewport();
+    BenchmarkDragging(
+        "normal_drag_one_of_900_windows", viewport, viewport->mapToGlobal(corner + QPoint(8, 8)));
+    KvGUI::StructScaleRect to;
+    wall->GetWindowScale(7, 12, to);
+    if (to.dLeft == from.dLeft)
         qFatal("the window was not dragged");
 }
 
@@ -317,9 +376,13 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    BenchmarkOpening();
-    BenchmarkResizing();
-    BenchmarkZooming();
-    BenchmarkDragging();
+    BenchmarkOpening<KvTVWallDisplayWnd>("open_900_windows");
+    BenchmarkResizing<KvTVWallDisplayWnd>("resize_900_windows");
+    BenchmarkZooming("zoom_900_windows", DisplayZoomTime);
+    BenchmarkDisplayDragging();
+    BenchmarkOpening<KvTVWallNormalWnd>("normal_open_900_windows");
+    BenchmarkResizing<KvTVWallNormalWnd>("normal_resize_900_windows");
+    BenchmarkZooming("normal_zoom_900_windows", NormalZoomTime);
+    BenchmarkNormalDragging();
     return 0;
 }

@@ -7,9 +7,15 @@
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
 #include <UI/TVWall/KvTVWallOperateWnd.h>
 
+#include <UI/TVWall/KvTVWallNormalWnd.h>
+
 #include <QApplication>
+#include <QDragEnterEvent>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QRandomGenerator>
@@ -29,7 +35,7 @@ namespace {
 constexpr int StepsPerSeed = 1500;
 
 /// Whether a window has its pixels. Wild rectangles have no plain rule: true.
-bool IsInPlace(const QWidget& window, const QSize& screen, const StructScaleRect& r)
+bool IsInPlace(const QRect& window, const QSize& screen, const StructScaleRect& r)
 {
     const auto inOrder = [](double low, double high) { return -4.0 <= low && low <= high && high <= 4.0; };
     const auto pixel = [](int length, double part) {
@@ -37,7 +43,7 @@ bool IsInPlace(const QWidget& window, const QSize& screen, const StructScaleRect
     };
     if (!inOrder(r.dLeft, r.dRight) || !inOrder(r.dTop, r.dBottom))
         return true;
-    return window.geometry()
+    return window
         == QRect(
                pixel(screen.width(), r.dLeft), pixel(screen.height(), r.dTop),
                pixel(screen.width(), r.dRight - r.dLeft), pixel(screen.height(), r.dBottom - r.dTop));
@@ -82,6 +88,8 @@ public:
             return QStringLiteral("selected windows");
         if (!m_held && !Shown<QRubberBand>(m_wall.get(), Qt::FindChildrenRecursively).isEmpty())
             return QStringLiteral("a band that nobody draws");
+        if (m_mode == Wall::NormalMode && m_wall->findChild<QGraphicsView*>() != nullptr && !AreItemsRight())
+            return QStringLiteral("items");
         const auto* display = m_wall->findChild<UICommonMdl::KvTVWallDisplayWnd*>();
         if (display == nullptr || m_mode != Wall::DisplayMode)
             return QString();
@@ -118,6 +126,21 @@ private:
         const QWidgetList widgets = m_wall->findChildren<QWidget*>();
         QWidget* widget = widgets.value(Below(widgets.size() + 1), m_wall.get());
         return widget->isVisible() ? widget : AnyWidget();
+    }
+
+    /// Often in a title bar: of a widget, or of a window where the widget shows all of the wall.
+    QPoint AnyPoint(const QSize& area)
+    {
+        StructScaleRect screen;
+        StructScaleRect window;
+        const int s = Below(m_wall->GetScreenCount() + 1);
+        if (OneIn(3) || !m_wall->GetScreenScale(s, screen)
+            || !m_wall->GetWindowScale(s, Below(m_wall->GetWindowCount(s) + 1), window))
+            return PointIn(OneIn(2) ? QSize(area.width(), 20) : area);
+        const double left = screen.dLeft + window.dLeft * (screen.dRight - screen.dLeft);
+        const double top = screen.dTop + window.dTop * (screen.dBottom - screen.dTop);
+        const auto pixel = [](int length, double part) { return int(length * qBound(0.0, part, 1.0)); };
+        return QPoint(pixel(area.width(), left), pixel(area.height(), top)) + PointIn({150, 25});
     }
 
     void MakeWall()
@@ -195,9 +218,18 @@ private:
             [&] { wall.SetScreenFreeMode(s, yes); },
             [&] { wall.SetAudioBtnVisible(yes); },
             [&] { wall.RecoverEagleEye(); },
+            [&] { m_depth == 0 ? delete wall.GetWindowWidget(s, w) : void(); }, // it may get the event
+            [&] { SetNormalZValue(s, w, number); },
             [&] { OneIn(3) ? SetMode(OneIn(9) ? number : number & 1) : void(); },
         };
         OneIn(5) ? calls[1]() : calls[Below(int(std::size(calls)))]();
+    }
+
+    void SetNormalZValue(int s, int w, int number)
+    {
+        const double z[] = {number / 3.0, qInf(), -qInf(), qQNaN()};
+        if (auto* wall = m_wall->findChild<UICommonMdl::KvTVWallNormalWnd*>())
+            wall->SetWindowZValue(s, w, z[Below(4)]);
     }
 
     /// As the window system sends it: Qt passes an event made by a program to no parent.
@@ -213,9 +245,7 @@ private:
         if (!m_held || !m_grabber) {
             m_held = OneIn(3) ? Qt::RightButton : Qt::LeftButton;
             m_grabber = AnyWidget();
-            const QSize area = m_grabber->size();
-            m_globalPos
-                = m_grabber->mapToGlobal(PointIn(OneIn(2) ? QSize(area.width(), 20) : area)); // titles
+            m_globalPos = m_grabber->mapToGlobal(AnyPoint(m_grabber->size()));
             return Send(OneIn(5) ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, m_held, m_held);
         }
         if (OneIn(12))
@@ -244,8 +274,11 @@ private:
         QWheelEvent wheel(pos, global, {}, turn, Qt::NoButton, {}, Qt::NoScrollPhase, false);
         QContextMenuEvent menu(QContextMenuEvent::Reason(Below(3)), pos, global);
         QKeyEvent key(OneIn(3) ? QEvent::KeyRelease : QEvent::KeyPress, keys[Below(5)], {});
-        QEvent* const events[] = {&wheel, &menu, &key, &key};
-        Notify(widget, *events[Below(4)]);
+        QMouseEvent hover(QEvent::MouseMove, pos, global, Qt::NoButton, Qt::NoButton, {});
+        QMimeData data;
+        QDragEnterEvent enter(pos, Qt::CopyAction, &data, {}, {});
+        QEvent* const events[] = {&wheel, &menu, &key, &key, &hover, &enter};
+        Notify(widget, *events[Below(6)]);
     }
 
     /// What ends a drag without a release.
@@ -271,7 +304,31 @@ private:
                 && m_wall->GetWindowZValue(s, w) <= m_wall->GetMaxWindowZValue(s);
             if (const QWidget* video = m_wall->GetWindowWidget(s, w)) // unless the client deleted it
                 right = right && windows.removeOne(qobject_cast<QMdiSubWindow*>(video->parent()))
-                    && (m_held || IsInPlace(*video->parentWidget(), screen.size(), rect));
+                    && (m_held || IsInPlace(video->parentWidget()->geometry(), screen.size(), rect));
+        }
+        return right;
+    }
+
+    /// The windows of a wall of items, on half of its screens: the widgets show where the items are, and make
+    /// a difference themselves.
+    bool AreItemsRight() const
+    {
+        bool right = true;
+        for (int s = 1; s < m_wall->GetScreenCount(); s += 2) {
+            for (int w = 0; right && w < m_wall->GetWindowCount(s); ++w) {
+                StructScaleRect rect;
+                right = m_wall->GetWindowScale(s, w, rect);
+                const QWidget* video = m_wall->GetWindowWidget(s, w); // unless the client deleted it
+                const QGraphicsProxyWidget* proxy = video != nullptr ? video->graphicsProxyWidget() : nullptr;
+                if (proxy == nullptr)
+                    continue;
+                const QGraphicsItem* window = proxy->parentItem();
+                const QRectF place = window->boundingRect().translated(window->pos());
+                right = right && window->isVisible()
+                    && (m_held
+                        || IsInPlace(
+                            place.toRect(), window->parentItem()->boundingRect().size().toSize(), rect));
+            }
         }
         return right;
     }

@@ -29,7 +29,8 @@ public:
     explicit Pane(QGraphicsItem* parent)
         : QGraphicsItem(parent)
     {
-        setFlags(ItemHasNoContents | ItemClipsChildrenToShape);
+        // It has contents, though empty ones: only then the scene passes over a pane that is not exposed.
+        setFlag(ItemClipsChildrenToShape);
         setAcceptedMouseButtons(Qt::NoButton);
     }
 

@@ -15,6 +15,7 @@ using Button = WindowTitle::Button;
 constexpr int ButtonSide = 20; // pixels
 constexpr int ButtonTop = 2; // pixels
 constexpr int SmallestButton = 8; // pixels; buttons shrink in a narrow window
+constexpr int Handle = 12; // pixels left free to take hold of, as long as there is room
 constexpr int Spacing = 1; // pixels
 
 } // namespace
@@ -68,7 +69,7 @@ void KvTVWallNormalTitleItem::PlaceButtons()
     int count = 0;
     for (const KvTVWallNormalButton* button : qAsConst(m_buttons))
         count += button->isVisibleTo(this) ? 1 : 0;
-    const int room = m_size.width() - count * Spacing;
+    const int room = m_size.width() - Handle - count * Spacing;
     const int side = qBound(SmallestButton, room / qMax(1, count), ButtonSide);
     int x = m_size.width() - count * (side + Spacing) + Spacing;
     m_iTextWidth = qMax(0, x - Spacing);

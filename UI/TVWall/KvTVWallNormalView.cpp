@@ -89,7 +89,10 @@ void KvTVWallNormalView::DeleteAllScreens()
 const QPixmap& KvTVWallNormalView::Icon(const QString& file, int side)
 {
     const qreal density = devicePixelRatioF();
-    const QString key = file + QString::number(side) + QLatin1Char('|') + QString::number(density);
+    if (m_dIconDensity != density)
+        m_icons.clear();
+    m_dIconDensity = density;
+    const auto key = qMakePair(file, side);
     const auto found = m_icons.constFind(key);
     if (found != m_icons.constEnd())
         return *found;

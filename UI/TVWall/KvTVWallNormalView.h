@@ -6,6 +6,7 @@
 
 #include <QGraphicsView>
 #include <QHash>
+#include <QPair>
 #include <QPixmap>
 #include <QPointer>
 
@@ -134,7 +135,8 @@ private:
     bool OfferDrag(const Target& target, const QDropEvent& event);
 
     QList<KvTVWallNormalScreen*> m_screens;
-    QHash<QString, QPixmap> m_icons; // by file, size and density
+    QHash<QPair<QString, int>, QPixmap> m_icons; // by file and side
+    qreal m_dIconDensity = 1.0; // for which they were made
     int m_iSelectionMode = 0;
     bool m_bAudioButtons = true;
     int m_iHandling = 0; // events of Qt's on the stack
