@@ -545,13 +545,13 @@ void TestBasicUi::MessagePlaces_data()
     QTest::addColumn<QRect>("window");
     QTest::addColumn<QVector<QPoint>>("places");
     const QRect usual(100, 100, 600, 400);
-    QTest::newRow("in the window") << usual << QVector<QPoint>{{300, 144}, {350, 192}};
+    QTest::newRow("in the window") << usual << QVector<QPoint>{{484, 176}, {584, 224}};
     QTest::newRow("window off to the left")
-        << QRect(-500, 100, 600, 400) << QVector<QPoint>{{20, 144}, {20, 192}};
+        << QRect(-500, 100, 600, 400) << QVector<QPoint>{{20, 176}, {20, 224}};
     QTest::newRow("window off to the right")
-        << QRect(700, 100, 600, 400) << QVector<QPoint>{{620, 144}, {720, 192}};
-    QTest::newRow("window above") << QRect(100, -300, 600, 400) << QVector<QPoint>{{300, 10}, {350, 58}};
-    QTest::newRow("window below") << QRect(100, 900, 600, 400) << QVector<QPoint>{{300, 522}, {350, 570}};
+        << QRect(700, 100, 600, 400) << QVector<QPoint>{{620, 176}, {720, 224}};
+    QTest::newRow("window above") << QRect(100, -300, 600, 400) << QVector<QPoint>{{484, 10}, {584, 58}};
+    QTest::newRow("window below") << QRect(100, 900, 600, 400) << QVector<QPoint>{{484, 522}, {584, 570}};
 }
 
 /// Catches messages outside the screen, on each other, or far from their window.

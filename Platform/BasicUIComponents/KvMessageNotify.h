@@ -15,8 +15,8 @@ class NotificationStack;
 /// KvGUI::KvMessageNotify::Instance()->AddTextNotification(tr("The picture was saved."), this);
 /// @endcode
 ///
-/// A message appears near the upper edge of the window that it belongs to, below the messages that are
-/// already there, and stays on the screen when the window is partly outside. It never takes the keyboard
+/// A message appears near the upper right corner of the window that it belongs to, below the messages that
+/// are already there, and stays on the screen when the window is partly outside. It never takes the keyboard
 /// focus. It goes after a while, not while the pointer is over it, or when its close button is clicked.
 /// Screen readers are told of it as an alert. A message that is still shown in the same window is not
 /// shown twice; its time begins anew. Of more than five messages in a window the oldest goes.

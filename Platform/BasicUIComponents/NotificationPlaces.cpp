@@ -2,7 +2,8 @@
 
 namespace {
 
-constexpr int kBelowTheEdge = 44; // clear of a title bar
+constexpr int kBelowTheEdge = 76; // clear of a title bar and of what stands at the top
+constexpr int kFromTheEdge = 16;
 constexpr int kGap = 8;
 
 /// The start nearest to @p start at which @p length fits into the room; the room's start when it is too long.
@@ -26,7 +27,7 @@ QVector<QPoint> NotificationPlaces(const QRect& window, const QRect& available, 
     QVector<QPoint> places;
     int y = MovedInside(window.top() + kBelowTheEdge, HeightOf(sizes), available.top(), available.height());
     for (const QSize& size : sizes) {
-        const int x = window.left() + (window.width() - size.width()) / 2;
+        const int x = window.left() + window.width() - kFromTheEdge - size.width();
         places.append({MovedInside(x, size.width(), available.left(), available.width()), y});
         y += size.height() + kGap;
     }

@@ -5,8 +5,8 @@
 #include <QSize>
 #include <QVector>
 
-/// Where the messages of a window stand, on the screen: below each other in the middle, from a little below
-/// the window's upper edge, and moved inside the screen as far as they fit there.
+/// Where the messages of a window stand, on the screen: below each other at the window's right edge, from a
+/// little below its upper edge, and moved inside the screen as far as they fit there.
 /// @param window the window's rectangle on the screen
 /// @param available the part of the screen that is free for windows
 /// @param sizes the messages' sizes, the uppermost first

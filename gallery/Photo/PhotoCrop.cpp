@@ -116,12 +116,20 @@ QString PhotoCrop::AskForFile(QWidget* parent)
 
 QString PhotoCrop::AskAndSave(const PhotoCut& cut, QWidget* parent)
 {
-    QString path = QFileDialog::getSaveFileName(
-        parent, tr("Save the cut"), QStringLiteral("cut.jpg"), tr("JPEG pictures (*.jpg *.jpeg)"));
-    if (path.isEmpty())
+    // Not the dialog's static function, which would overwrite a file that it has not asked about: the one
+    // with the suffix that the operator left out.
+    const QPointer<QFileDialog> dialog(new QFileDialog(parent, tr("Save the cut")));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilter(tr("JPEG pictures (*.jpg *.jpeg)"));
+    dialog->setDefaultSuffix(QStringLiteral("jpg"));
+    dialog->selectFile(QStringLiteral("cut.jpg"));
+    const bool chosen = dialog->exec() == QDialog::Accepted;
+    if (dialog.isNull())
         return {};
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QLatin1String(".jpg");
+    const QString path = dialog->selectedFiles().value(0);
+    delete dialog;
+    if (!chosen || path.isEmpty())
+        return {};
     const bool saved = Save(cut, path);
     const QString name = QFileInfo(path).fileName();
     Tell(saved ? tr("Saved as \"%1\".").arg(name) : tr("\"%1\" cannot be written.").arg(name), parent);

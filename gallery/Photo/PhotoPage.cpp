@@ -167,7 +167,7 @@ QWidget* PhotoPage::BuildCut()
     m_pCutText->setTextFormat(Qt::PlainText);
     m_pCutText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_pCutText->setAccessibleName(tr("Facts of the cut"));
-    m_pSave = new KvGUI::KvPushButton(tr("Sa&ve as JPEG\u2026"), group);
+    m_pSave = new KvGUI::KvPushButton(tr("Save &as JPEG\u2026"), group);
     column->addWidget(m_pCutView, 1);
     column->addWidget(m_pCutText);
     column->addWidget(m_pSave);
@@ -247,7 +247,7 @@ void PhotoPage::ShowCut(const std::optional<PhotoCut>& cut)
 void PhotoPage::SaveCut()
 {
     if (m_cut)
-        PhotoCrop::AskAndSave(*m_cut, this);
+        PhotoCrop::AskAndSave(PhotoCut(*m_cut), this);
 }
 
 QVector<Page::Picture> PhotoPage::Pictures()
