@@ -396,7 +396,7 @@ bool KvTVWallDisplayScreen::WatchWindow(KvTVWallDisplayWindow* window, QEvent* e
 void KvTVWallDisplayScreen::ActOnWindowEvent(KvTVWallDisplayWindow* window, QEvent* event)
 {
     // By the desktop: the window itself may just have moved.
-    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto* mouse = WallEvents::IsMouse(event->type()) ? static_cast<QMouseEvent*>(event) : nullptr;
     const auto pos = [this, mouse] { return viewport()->mapFromGlobal(mouse->globalPos()); };
     switch (event->type()) {
     case QEvent::MouseButtonPress:

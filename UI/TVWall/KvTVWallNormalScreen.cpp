@@ -4,6 +4,7 @@
 #include "KvTVWallNormalView.h"
 #include "KvTVWallNormalWindow.h"
 #include "OverlayLabels.h"
+#include "WallEvents.h"
 #include "WallGeometry.h"
 
 #include <QKeyEvent>
@@ -339,7 +340,7 @@ void KvTVWallNormalScreen::HandleWindowEvent(KvTVWallNormalWindow* window, QEven
 void KvTVWallNormalScreen::ActOnWindowEvent(KvTVWallNormalWindow* window, QEvent* event)
 {
     // By the view: the window itself may just have moved.
-    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto* mouse = WallEvents::IsMouse(event->type()) ? static_cast<QMouseEvent*>(event) : nullptr;
     const auto inScreen
         = [this, mouse] { return m_pView->viewport()->mapFromGlobal(mouse->globalPos()) - pos().toPoint(); };
     switch (event->type()) {
@@ -391,7 +392,7 @@ void KvTVWallNormalScreen::ReportSite(const QPoint& from, const QPoint& to)
 
 void KvTVWallNormalScreen::HandleEvent(QEvent* event)
 {
-    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto* mouse = WallEvents::IsMouse(event->type()) ? static_cast<QMouseEvent*>(event) : nullptr;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

@@ -44,7 +44,8 @@ class KvTVWallNormalView : public QGraphicsView, private NormalWallLook
     Q_PROPERTY(QString closeHoverIcon MEMBER closeHoverIcon)
 
 public:
-    /// Lives while the view handles an event of Qt's, and keeps it alive.
+    /// Lives while the view handles an event of Qt's, and keeps it alive: DeleteWithWall() defers. Only the
+    /// deferred deletion itself ends the view.
     class Handling
     {
     public:
@@ -53,11 +54,15 @@ public:
         {
             ++m_pView->m_iHandling;
         }
-        ~Handling() { --m_pView->m_iHandling; }
+        ~Handling()
+        {
+            if (m_pView)
+                --m_pView->m_iHandling;
+        }
         Q_DISABLE_COPY(Handling)
 
     private:
-        KvTVWallNormalView* const m_pView;
+        const QPointer<KvTVWallNormalView> m_pView;
     };
 
     explicit KvTVWallNormalView(QWidget* parent);

@@ -6,6 +6,7 @@
 #include "KvTVWallNormalScreen.h"
 #include "KvTVWallNormalTitleItem.h"
 #include "KvTVWallNormalView.h"
+#include "WallEvents.h"
 #include "WallGeometry.h"
 
 #include <QGraphicsProxyWidget>
@@ -27,6 +28,13 @@ KvTVWallNormalWindow::KvTVWallNormalWindow(
 {
     setFlag(ItemIsFocusable);
     setAcceptedMouseButtons(Qt::NoButton);
+}
+
+// The video goes with its proxy, when nothing of this class is left to hear of it.
+KvTVWallNormalWindow::~KvTVWallNormalWindow()
+{
+    if (m_pVideo)
+        m_pVideo->disconnect(this);
 }
 
 // ---- Place and state
@@ -266,24 +274,24 @@ void KvTVWallNormalWindow::DoubleClick(const QMouseEvent& event)
 
 void KvTVWallNormalWindow::HandleEvent(QEvent* event)
 {
-    const auto& mouse = *static_cast<QMouseEvent*>(event);
+    const auto* mouse = WallEvents::IsMouse(event->type()) ? static_cast<QMouseEvent*>(event) : nullptr;
     event->accept();
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        Press(mouse);
+        Press(*mouse);
         break;
     case QEvent::MouseMove:
-        if (m_drag.IsActive() && (mouse.buttons() & Qt::LeftButton))
-            DragTo(mouse);
+        if (m_drag.IsActive() && (mouse->buttons() & Qt::LeftButton))
+            DragTo(*mouse);
         else
             CancelDrag(); // the release went elsewhere
         break;
     case QEvent::MouseButtonRelease:
-        if (m_drag.IsActive() && mouse.button() == Qt::LeftButton)
-            EndDrag(mouse);
+        if (m_drag.IsActive() && mouse->button() == Qt::LeftButton)
+            EndDrag(*mouse);
         break;
     case QEvent::MouseButtonDblClick:
-        DoubleClick(mouse);
+        DoubleClick(*mouse);
         break;
     case QEvent::KeyPress:
         event->setAccepted(m_drag.IsActive() && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape);

@@ -36,6 +36,7 @@ public:
     KvTVWallNormalWindow(
         KvTVWallNormalScreen* screen, KvTVWallNormalView* view, QGraphicsItem* parent, double precision,
         const KvGUI::StructScaleRect& rect, const QVariant& userData);
+    ~KvTVWallNormalWindow() override;
 
     KvTVWallNormalScreen* Screen() const { return m_pScreen; }
     const KvGUI::StructScaleRect& GetScale() const { return m_placement.Scale(); }

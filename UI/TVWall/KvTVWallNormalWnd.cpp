@@ -8,6 +8,8 @@
 
 #include <Common/CommonFun.h>
 
+#include <functional>
+
 namespace UICommonMdl {
 
 namespace {
@@ -34,7 +36,7 @@ void KvTVWallNormalWndPrivate::Relay(
     connect(screen, from, this, [this, screen, to](Args... args) {
         const int index = view->Screens().indexOf(screen);
         if (index != NoIndex)
-            Q_EMIT(q->*to)(index, args...);
+            std::invoke(to, q, index, args...);
     });
 }
 
