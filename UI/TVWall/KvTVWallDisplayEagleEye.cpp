@@ -38,6 +38,10 @@ QSize LogicalSize(const QPixmap& picture) { return picture.size() / picture.devi
 } // namespace
 
 KvTVWallDisplayEagleEye::KvTVWallDisplayEagleEye(const KvTVWallDisplayWnd* wall, QWidget* parent)
+    : KvTVWallDisplayEagleEye(wall->d_func(), parent)
+{ }
+
+KvTVWallDisplayEagleEye::KvTVWallDisplayEagleEye(const WallArrangement* wall, QWidget* parent)
     : QWidget(parent)
     , m_pWall(wall)
 {
@@ -46,7 +50,7 @@ KvTVWallDisplayEagleEye::KvTVWallDisplayEagleEye(const KvTVWallDisplayWnd* wall,
     setMouseTracking(true);
     LoadPictures();
     FitToPicture();
-    connect(wall->d_func(), SIGNAL(SignalArrangementChanged()), this, SLOT(OnArrangementChanged()));
+    connect(wall, SIGNAL(SignalArrangementChanged()), this, SLOT(OnArrangementChanged()));
     connect(KvGUI::KvSkinNotifier::Instance(), SIGNAL(SignalSkinChanged()), this, SLOT(OnSkinChanged()));
 }
 
@@ -235,8 +239,8 @@ void KvTVWallDisplayEagleEye::PaintMiniature(QPainter& painter)
 {
     const QRect content = ContentRect();
     if (m_miniature.isNull() && m_pWall)
-        m_miniature = WallMiniature::Picture(
-            m_pWall->d_func()->Miniature(), content.size(), devicePixelRatioF(), m_colors);
+        m_miniature
+            = WallMiniature::Picture(m_pWall->Miniature(), content.size(), devicePixelRatioF(), m_colors);
     painter.drawPixmap(content.topLeft(), m_miniature);
     WallMiniature::PaintView(
         painter, content, {qreal(m_fLeft), qreal(m_fTop), qreal(m_fWidth), qreal(m_fHeight)}, m_colors);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WallMiniature.h"
+#include "WallArrangement.h"
 
 #include <QPixmap>
 #include <QPointer>
@@ -11,7 +11,7 @@ namespace UICommonMdl {
 
 class KvTVWallDisplayWnd;
 
-/// The overview of a zoomed display wall: a miniature of the wall with a frame around what its view shows.
+/// The overview of a zoomed wall: a miniature of the wall with a frame around what its view shows.
 /// A click or a drag moves the view there; the button in its corner collapses the overview to a button that
 /// brings it back. The arrow keys move the view too, Space and Return do what the buttons do.
 ///
@@ -28,6 +28,7 @@ class KvTVWallDisplayEagleEye : public QWidget
 
 public:
     KvTVWallDisplayEagleEye(const KvTVWallDisplayWnd* wall, QWidget* parent);
+    KvTVWallDisplayEagleEye(const WallArrangement* wall, QWidget* parent); ///< of any kind of wall
 
     /// Shows what the view shows, as fractions of the wall.
     void SetArea(float left, float top, float width, float height);
@@ -71,7 +72,7 @@ private:
     void SetColor(QColor& member, const QColor& color);
     void PaintMiniature(QPainter& painter);
 
-    const QPointer<const KvTVWallDisplayWnd> m_pWall;
+    const QPointer<const WallArrangement> m_pWall;
     bool m_bExpanded = true;
     float m_fLeft = 0.0F;
     float m_fTop = 0.0F;

@@ -38,7 +38,7 @@ QAccessibleInterface* MakeAccessible(const QString& className, QObject* object)
 // ---- The private object
 
 KvTVWallDisplayWndPrivate::KvTVWallDisplayWndPrivate(KvTVWallDisplayWnd* wall)
-    : QObject(wall)
+    : WallArrangement(wall)
     , q(wall)
 { }
 

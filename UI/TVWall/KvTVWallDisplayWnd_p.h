@@ -1,7 +1,7 @@
 #pragma once
 
 #include "KvTVWallDisplayWnd.h"
-#include "WallMiniature.h"
+#include "WallArrangement.h"
 
 namespace UICommonMdl {
 
@@ -10,7 +10,7 @@ class KvTVWallDisplayWindow;
 
 /// State of the display wall, and the relay of its screens' signals: each slot looks up the sending screen's
 /// present index and emits the wall's signal with it.
-class KvTVWallDisplayWndPrivate : public QObject
+class KvTVWallDisplayWndPrivate : public WallArrangement
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
     int SelectedScreen() const; ///< lowest index of a selected screen, or -1
     void SelectScreen(const KvTVWallDisplayScreen* selected); ///< and unselects all others
     void PlaceScreens();
-    QVector<WallMiniature::Screen> Miniature() const;
+    QVector<WallMiniature::Screen> Miniature() const override;
     void SetColor(QColor& member, const QColor& color); ///< stores a colour and paints the wall again
 
     KvTVWallDisplayWnd* const q;
@@ -39,11 +39,6 @@ public:
     QColor windowColor = QColor(46, 49, 56);
     QColor screenTextColor = QColor(201, 205, 213);
     QColor bandColor = QColor(90, 165, 242);
-
-Q_SIGNALS:
-    /// Screens or windows, their places, order or selection may be others now. For the library's own use:
-    /// it may come in the middle of a change.
-    void SignalArrangementChanged();
 
 public Q_SLOTS:
     void OnWindowCloseBtnClicked(int window);

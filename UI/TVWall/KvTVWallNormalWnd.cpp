@@ -1,5 +1,6 @@
 #include "KvTVWallNormalWnd_p.h"
 
+#include "KvTVWallDisplayEagleEye.h"
 #include "KvTVWallDisplayVideo.h"
 #include "KvTVWallNormalScreen.h"
 #include "KvTVWallNormalView.h"
@@ -21,7 +22,7 @@ constexpr int NoIndex = -1;
 // ---- The private object
 
 KvTVWallNormalWndPrivate::KvTVWallNormalWndPrivate(KvTVWallNormalWnd* wall)
-    : QObject(wall)
+    : WallArrangement(wall)
     , q(wall)
     , view(new KvTVWallNormalView(wall))
 {
@@ -63,6 +64,8 @@ KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructSca
     connect(screen, &Screen::SignalWindowClicked, q, &Wall::SignalWindowClicked);
     connect(screen, &Screen::SignalSelected, this, [this, screen] { SelectScreen(screen); });
     Relay(screen, &Screen::SignalSelected, &Wall::SignalScreenSelectedChanged);
+    connect(screen, &Screen::SignalArrangementChanged, this, &WallArrangement::SignalArrangementChanged);
+    Q_EMIT SignalArrangementChanged();
     return screen;
 }
 
@@ -93,6 +96,14 @@ void KvTVWallNormalWndPrivate::SelectScreen(const KvTVWallNormalScreen* selected
         screen->SetSelected(screen == selected);
 }
 
+QVector<WallMiniature::Screen> KvTVWallNormalWndPrivate::Miniature() const
+{
+    QVector<WallMiniature::Screen> miniature;
+    for (const KvTVWallNormalScreen* screen : view->Screens())
+        miniature << screen->Miniature();
+    return miniature;
+}
+
 // ---- Zoom
 
 void KvTVWallNormalWndPrivate::PlaceOnWall(KvTVWallNormalScreen* screen)
@@ -106,6 +117,38 @@ void KvTVWallNormalWndPrivate::PlaceScreens()
 {
     for (KvTVWallNormalScreen* screen : view->Screens())
         PlaceOnWall(screen);
+    ShowOverview();
+}
+
+// As long as there is something to find one's way in.
+void KvTVWallNormalWndPrivate::ShowOverview()
+{
+    const bool zoomed = WallZoom::ViewExtent(horizontal) < 1.0F || WallZoom::ViewExtent(vertical) < 1.0F;
+    if (m_pOverview == nullptr && !zoomed)
+        return;
+    if (m_pOverview == nullptr) {
+        using Overview = KvTVWallDisplayEagleEye;
+        m_pOverview = new Overview(this, q);
+        connect(m_pOverview, &Overview::SignalAreaChanged, this, &KvTVWallNormalWndPrivate::PlaceOverview);
+        connect(m_pOverview, &Overview::SignalLocated, this, &KvTVWallNormalWndPrivate::Locate);
+    }
+    m_pOverview->SetArea(
+        WallZoom::ViewStart(horizontal), WallZoom::ViewStart(vertical), WallZoom::ViewExtent(horizontal),
+        WallZoom::ViewExtent(vertical));
+    PlaceOverview();
+    m_pOverview->setVisible(zoomed);
+}
+
+void KvTVWallNormalWndPrivate::PlaceOverview()
+{
+    m_pOverview->move(q->width() - m_pOverview->width(), q->height() - m_pOverview->height());
+}
+
+void KvTVWallNormalWndPrivate::Locate(float x, float y)
+{
+    horizontal = WallZoom::Located(horizontal, x);
+    vertical = WallZoom::Located(vertical, y);
+    PlaceScreens();
 }
 
 void KvTVWallNormalWndPrivate::LayOut()
@@ -214,6 +257,7 @@ int KvTVWallNormalWnd::AddScreen(const KvGUI::StructScaleRect& rect, const QVari
 bool KvTVWallNormalWnd::DeleteAllScreen()
 {
     d_func()->view->DeleteAllScreens();
+    Q_EMIT d_func()->SignalArrangementChanged();
     return true;
 }
 

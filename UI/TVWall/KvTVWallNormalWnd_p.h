@@ -1,19 +1,19 @@
 #pragma once
 
 #include "KvTVWallNormalWnd.h"
+#include "WallArrangement.h"
 #include "WallZoom.h"
-
-#include <QPointer>
 
 namespace UICommonMdl {
 
+class KvTVWallDisplayEagleEye;
 class KvTVWallNormalScreen;
 class KvTVWallNormalView;
 class KvTVWallNormalWindow;
 
 /// State of the normal wall, its zoom, and the relay of its screens' signals, to which it adds the sending
 /// screen's present index.
-class KvTVWallNormalWndPrivate : public QObject
+class KvTVWallNormalWndPrivate : public WallArrangement
 {
     Q_OBJECT
 
@@ -26,6 +26,7 @@ public:
     KvTVWallNormalWindow* Window(int screen, int window) const;
     int SelectedScreen() const; ///< lowest index of a selected screen, or -1
     void SelectScreen(const KvTVWallNormalScreen* selected); ///< and unselects all others
+    QVector<WallMiniature::Screen> Miniature() const override;
     void LayOut(); ///< for the wall's present size
     void ShowWholeWall();
 
@@ -43,7 +44,12 @@ private:
         void (KvTVWallNormalWnd::*to)(int, Args...));
     void PlaceOnWall(KvTVWallNormalScreen* screen);
     void PlaceScreens();
+    void ShowOverview();
+    void PlaceOverview();
+    void Locate(float x, float y);
     void OnWheel(int delta, const QPoint& pos);
+
+    KvTVWallDisplayEagleEye* m_pOverview = nullptr; // made at the first zoom
 };
 
 } // namespace UICommonMdl
