@@ -4,6 +4,7 @@
 #include "support/StrictMain.h"
 
 #include <UI/CutPhoto/CropFrame.h>
+#include <UI/CutPhoto/CropPainting.h>
 #include <UI/CutPhoto/CropPicture.h>
 #include <UI/CutPhoto/JpegFitting.h>
 #include <UI/CutPhoto/JpegForecast.h>
@@ -147,11 +148,30 @@ class TestCropPicture : public QObject
     Q_OBJECT
 
 private slots:
+    void DotsAreThoseOfAPen();
     void JpegFittingEqualsThePlainLoop_data();
     void JpegFittingEqualsThePlainLoop();
     void ForecastCoversUsualPictures_data();
     void ForecastCoversUsualPictures();
 };
+
+// Catches a frame that is painted quickly but not as a dotted pen paints it, at the corners above all.
+void TestCropPicture::DotsAreThoseOfAPen()
+{
+    for (int width = 0; width < 40; ++width)
+        for (int height = 0; height < 40; ++height) {
+            const QRect crop(5, 4, width, height);
+            QImage ours(50, 50, QImage::Format_RGB32);
+            ours.fill(Qt::darkGreen);
+            QImage pens = ours;
+            QPainter painter(&ours);
+            CropPainting::PaintFrame(painter, crop, crop);
+            QPainter pen(&pens);
+            pen.setPen(QPen(QColor(0x40, 0xC4, 0xFF), 2.0, Qt::DotLine, Qt::SquareCap, Qt::BevelJoin));
+            pen.drawRect(crop);
+            QVERIFY2(ours == pens, qPrintable(QStringLiteral("%1 x %2").arg(width).arg(height)));
+        }
+}
 
 // Catches a fast search that ends at another quality or another size than encoding each one.
 void TestCropPicture::JpegFittingEqualsThePlainLoop_data()

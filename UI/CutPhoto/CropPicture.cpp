@@ -89,6 +89,8 @@ QImage GetCutImage(const CutImageInfo& info, const QRect& crop, const QRect& pho
     if (!info.bHasImage)
         return info.image;
     const QRect source = SourceRect(crop, photo, display, info.image.size());
+    if (source == info.image.rect())
+        return info.image;
     return CanBeMade(source) ? info.image.copy(source) : QImage();
 }
 

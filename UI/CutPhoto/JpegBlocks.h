@@ -1,25 +1,26 @@
 #pragma once
 
+#include "JpegSamples.h"
 #include "JpegTables.h"
+#include "JpegTransform.h"
 
 #include <QImage>
 #include <QtGlobal>
+#include <optional>
 #include <vector>
 
 namespace UICommonMdl {
 
 /// A picture as a JPEG encoder sees it before it quantises: the cosine transforms of its 8 x 8 blocks in the
-/// order in which they are written, from which the size at one quality after the other is counted without
-/// looking at the picture again.
+/// order in which they are written, from which the size at one quality after the other is counted.
 ///
-/// Colour conversion, subsampling, padding at the edges and the transform are those of the JPEG library that
-/// Qt writes with ("slow" integer transform), to the last bit. Count from fine to coarse: what a count rounds
-/// to zero is forgotten, as a coarser one would do so too.
+/// Samples and transform are those of the JPEG library that Qt writes with, to the last bit. Count from fine
+/// to coarse tables: what a count rounds to zero is forgotten, as a coarser one would round it to zero too.
+/// Each part of the picture is transformed when a count first comes to it.
 class JpegBlocks
 {
 public:
-    /// Transforms @p image for being counted with @p finest or coarser tables.
-    JpegBlocks(const QImage& image, const JpegTables& finest);
+    JpegBlocks(const QImage& image, bool colored);
 
     /// Whether @p tables divide by as much as all tables counted with so far, or by more.
     bool CanCount(const JpegTables& tables) const;
@@ -38,19 +39,23 @@ private:
     struct Block
     {
         quint32 first; ///< of its coefficients
+        qint16 dc;
         quint8 count;
         quint8 component; ///< 0 luminance, 1 and 2 chrominance
         quint8 repeats; ///< blocks after this one that fill up its group at the picture's edge
-        qint16 dc;
     };
     struct Quantiser;
 
-    void AddColored(const QImage& image);
-    void AddGrey(const QImage& image);
-    void Add(const quint8* samples, int stride, int component);
+    bool AddBand();
+    void AddColoredGroup(int left, int blockColumns, int blockRows);
+    void Add(const JpegPlane& plane, int left, int top, int component);
     qint64 AcBits(Block& block, const Quantiser& quantiser);
 
-    JpegTables m_tables; ///< counted with last
+    const QSize m_size;
+    const bool m_colored;
+    JpegSamples m_samples;
+    int m_nextTop = 0; ///< of the part of the picture that is not transformed yet
+    std::optional<JpegTables> m_tables; ///< counted with last
     std::vector<Coefficient> m_coefficients;
     std::vector<Block> m_blocks;
 };

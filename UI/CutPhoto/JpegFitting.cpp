@@ -11,6 +11,17 @@ namespace {
 constexpr int HighestQuality = 100;
 constexpr int LowestQuality = 0;
 
+/// Qualities at which most pictures fit into the bits for each pixel.
+constexpr int FineQuality = 90;
+constexpr qint64 FineBits = 2;
+
+/// Whether it is not worth while to look whether @p image is too large before it is encoded.
+bool IsLikelyToFit(const QImage& image, int quality, int maximum)
+{
+    const qint64 pixels = qint64(image.width()) * image.height();
+    return quality >= FineQuality && qint64(maximum) * 8 > pixels * FineBits;
+}
+
 } // namespace
 
 int NextLowerQuality(int quality) { return quality < 10 ? quality - 1 : quality - quality / 10; }
@@ -26,16 +37,14 @@ QByteArray JpegBytes(const QImage& image, int quality)
 
 JpegFit FitJpeg(const QImage& image, int maximum)
 {
-    const int largest = JpegBytes(image, HighestQuality).size();
-    int quality = NextLowerQuality(HighestQuality);
-    if (largest <= maximum)
-        return {largest, quality};
-
     JpegForecast forecast(image);
+    int quality = HighestQuality;
     while (true) {
         const int next = NextLowerQuality(quality);
         // The size at the lowest quality is a result also when it does not fit.
-        if (quality == LowestQuality || !forecast.Exceeds(quality, maximum)) {
+        const bool tooLarge = quality != LowestQuality && !IsLikelyToFit(image, quality, maximum)
+            && forecast.Exceeds(quality, maximum);
+        if (!tooLarge) {
             const int bytes = JpegBytes(image, quality).size();
             if (quality == LowestQuality || bytes <= maximum)
                 return {bytes, next};

@@ -53,8 +53,8 @@ bool JpegForecast::Exceeds(int quality, int maximum)
 bool JpegForecast::Prepare(const JpegTables& tables)
 {
     if (!m_blocks) {
-        m_sampleBlocks.emplace(m_sample, tables);
-        m_blocks.emplace(m_image, tables);
+        m_sampleBlocks.emplace(m_sample, tables.colored);
+        m_blocks.emplace(m_image, tables.colored);
     }
     return m_blocks->CanCount(tables);
 }
