@@ -148,12 +148,269 @@ class TestCropPicture : public QObject
     Q_OBJECT
 
 private slots:
+    void FramesFollowAResizedPhoto_data();
+    void FramesFollowAResizedPhoto();
+    void FramesMeanSourcePixels_data();
+    void FramesMeanSourcePixels();
+    void CutsSurviveAnyFrame_data();
+    void CutsSurviveAnyFrame();
+    void HalvingStopsInTime_data();
+    void HalvingStopsInTime();
+    void LimitsAreChecked_data();
+    void LimitsAreChecked();
+    void ResizingKeepsToItsSteps();
+    void CursorsTellPlaces_data();
+    void CursorsTellPlaces();
+    void ChangedRegionsHoldAllThatDiffers();
     void DotsAreThoseOfAPen();
     void JpegFittingEqualsThePlainLoop_data();
     void JpegFittingEqualsThePlainLoop();
     void ForecastCoversUsualPictures_data();
     void ForecastCoversUsualPictures();
 };
+
+// Catches ratios in double precision, products that are rounded, and a division by an empty photo.
+void TestCropPicture::FramesFollowAResizedPhoto_data()
+{
+    QTest::addColumn<QRect>("crop");
+    QTest::addColumn<QRect>("before");
+    QTest::addColumn<QRect>("now");
+    QTest::addColumn<QRect>("followed");
+
+    const QRect photo(0, 0, 300, 200);
+    QTest::newRow("doubled") << QRect(10, 20, 30, 40) << photo << QRect(0, 0, 600, 400)
+                             << QRect(20, 40, 60, 80);
+    QTest::newRow("towards zero") << QRect(-5, 5, 101, 99) << photo << QRect(0, 0, 200, 100)
+                                  << QRect(-3, 2, 67, 49);
+    // 7 * (31 / 7) is 31 in double precision, and 11 * (185 / 11) less than 185.
+    QTest::newRow("single precision, less")
+        << QRect(7, 0, 7, 10) << QRect(0, 0, 7, 10) << QRect(0, 0, 31, 10) << QRect(30, 0, 30, 10);
+    QTest::newRow("single precision, more")
+        << QRect(11, 0, 11, 10) << QRect(0, 0, 11, 10) << QRect(0, 0, 185, 10) << QRect(185, 0, 185, 10);
+    QTest::newRow("backwards") << QRect(50, 50, -20, -10) << photo << QRect(0, 0, 150, 100)
+                               << QRect(25, 25, -10, -5);
+    QTest::newRow("no photo before") << QRect(1, 2, 3, 4) << QRect(0, 0, 0, 200) << photo
+                                     << QRect(1, 2, 3, 4);
+    QTest::newRow("no photo now") << QRect(1, 2, 3, 4) << photo << QRect(0, 0, 0, 0) << QRect(0, 0, 0, 0);
+}
+
+void TestCropPicture::FramesFollowAResizedPhoto()
+{
+    QFETCH(QRect, crop);
+    QFETCH(QRect, before);
+    QFETCH(QRect, now);
+    QTEST(CropPicture::FollowedCrop(crop, before, now), "followed");
+}
+
+// Catches a frame mapped without the photo's place, with swapped directions, or rounded.
+void TestCropPicture::FramesMeanSourcePixels_data()
+{
+    QTest::addColumn<QRect>("crop");
+    QTest::addColumn<QRect>("photo");
+    QTest::addColumn<QSize>("source");
+    QTest::addColumn<QRect>("pixels");
+
+    const QRect photo(0, 0, 200, 100);
+    QTest::newRow("larger") << QRect(10, 20, 30, 40) << photo << QSize(800, 300) << QRect(40, 60, 120, 120);
+    QTest::newRow("smaller") << QRect(15, 9, 33, 18) << photo << QSize(20, 50) << QRect(1, 4, 3, 9);
+    QTest::newRow("in the middle of the widget")
+        << QRect(60, 45, 20, 10) << QRect(50, 40, 200, 100) << QSize(400, 200) << QRect(20, 10, 40, 20);
+    QTest::newRow("outside") << QRect(-3, -3, 300, 200) << photo << QSize(100, 50) << QRect(-1, -1, 150, 100);
+    QTest::newRow("one pixel") << QRect(0, 0, 199, 99) << photo << QSize(1, 1) << QRect(0, 0, 0, 0);
+    QTest::newRow("no source") << QRect(10, 20, 30, 40) << photo << QSize(0, 0) << QRect(0, 0, 0, 0);
+    QTest::newRow("no photo") << QRect(10, 20, 30, 40) << QRect(0, 0, 0, 0) << QSize(8, 8)
+                              << QRect(0, 0, 0, 0);
+}
+
+void TestCropPicture::FramesMeanSourcePixels()
+{
+    QFETCH(QRect, crop);
+    QFETCH(QRect, photo);
+    QFETCH(QSize, source);
+    QTEST(CropPicture::SourceRect(crop, photo, photo.size(), source), "pixels");
+}
+
+// Catches overflows (seen by a sanitizer) and pictures of gigabytes made from a wild frame.
+void TestCropPicture::CutsSurviveAnyFrame_data()
+{
+    QTest::addColumn<QRect>("crop");
+
+    const int most = std::numeric_limits<int>::max();
+    const int least = std::numeric_limits<int>::min();
+    QTest::newRow("everything") << QRect(QPoint(least, least), QPoint(most, most));
+    QTest::newRow("nothing") << QRect(QPoint(most, most), QPoint(least, least));
+    QTest::newRow("far right") << QRect(QPoint(most, most), QPoint(most, most));
+    QTest::newRow("far left") << QRect(QPoint(least, least), QPoint(least, least));
+    QTest::newRow("broad") << QRect(QPoint(least, 0), QPoint(most, 10));
+    QTest::newRow("backwards") << QRect(50, 50, -20, -10);
+    QTest::newRow("half empty") << QRect(5, 5, 10, 0);
+}
+
+void TestCropPicture::CutsSurviveAnyFrame()
+{
+    QFETCH(QRect, crop);
+    CutImageInfo info;
+    info.bHasImage = true;
+    info.image = Gradient(QSize(400, 300));
+    const QRect photo(0, 0, 200, 150);
+    const QImage cut = CropPicture::GetCutImage(info, crop, photo, photo.size());
+    QVERIFY(qint64(cut.width()) * cut.height() <= 1 << 28);
+    CropPicture::Limits limits;
+    limits.iMaxCapacity = 100000;
+    CropPicture::CheckCut(info, crop, photo, photo.size(), limits);
+    CropPicture::FollowedCrop(crop, photo, QRect(0, 0, 9999, 1));
+
+    const QRect bounded = CropFrame::Bounded(crop);
+    CropFrame::Normalized(bounded);
+    CropFrame::BackwardsRect(bounded, QSize(std::numeric_limits<int>::min(), -7));
+    CropFrame::HoverCursor(QPoint(1, 1), bounded, photo);
+    CropPainting::ChangedRegion(bounded, QRect(3, 3, 9, 9));
+    QImage canvas(50, 50, QImage::Format_RGB32);
+    QPainter painter(&canvas);
+    CropPainting::PaintFrame(painter, QRect(0, 0, 50, 50), bounded);
+}
+
+// Catches halving that ends at nothing, one step late, or for one limit only.
+void TestCropPicture::HalvingStopsInTime_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("maximum");
+    QTest::addColumn<QSize>("halved");
+
+    QTest::newRow("three times") << QSize(3000, 2000) << QSize(640, 480) << QSize(375, 250);
+    QTest::newRow("fits exactly") << QSize(640, 480) << QSize(640, 480) << QSize(640, 480);
+    QTest::newRow("one too wide") << QSize(641, 10) << QSize(640, 480) << QSize(320, 5);
+    QTest::newRow("one too high, proportions kept") << QSize(10, 481) << QSize(640, 480) << QSize(4, 240);
+    QTest::newRow("no width") << QSize(3000, 2000) << QSize(0, 480) << QSize(3000, 2000);
+    QTest::newRow("no height") << QSize(3000, 2000) << QSize(640, 0) << QSize(3000, 2000);
+    QTest::newRow("thread") << QSize(1, 20000) << QSize(100, 100) << QSize(1, 20000);
+    QTest::newRow("thin") << QSize(4, 2000) << QSize(100, 100) << QSize(1, 500);
+    QTest::newRow("negative limits") << QSize(9, 9) << QSize(-5, -5) << QSize(1, 1);
+    QTest::newRow("nothing") << QSize(0, 0) << QSize(-1, -1) << QSize(0, 0);
+}
+
+void TestCropPicture::HalvingStopsInTime()
+{
+    QFETCH(QSize, size);
+    QFETCH(QSize, maximum);
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QTEST(CropPicture::ChanageImageByAspectRatio(image, maximum).size(), "halved");
+}
+
+// Catches limits checked in another order, one of two limits taken for none, and a compress ratio touched
+// where nothing was measured.
+void TestCropPicture::LimitsAreChecked_data()
+{
+    QTest::addColumn<QSize>("crop"); // on a photo shown at half its size of 400 x 300
+    QTest::addColumn<int>("capacity");
+    QTest::addColumn<QSize>("maximum");
+    QTest::addColumn<bool>("keep");
+    QTest::addColumn<int>("verdict");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("ratio"); // -2 for not measured
+
+    const int valid = int(CropPicture::Verdict::Valid);
+    const int noArea = int(CropPicture::Verdict::NoArea);
+    const int pixels = int(CropPicture::Verdict::TooManyPixels);
+    const int bytes = int(CropPicture::Verdict::TooManyBytes);
+    const QSize whole(200, 150);
+    const QSize none(0, 0);
+    QTest::newRow("no limit") << whole << 0 << none << false << valid << QSize(400, 300) << -2;
+    QTest::newRow("no width") << QSize(0, 9) << 0 << none << false << noArea << none << -2;
+    QTest::newRow("no height") << QSize(9, 0) << 0 << none << false << noArea << none << -2;
+    QTest::newRow("pixels without bytes")
+        << whole << 0 << QSize(10, 10) << false << valid << QSize(400, 300) << -2;
+    QTest::newRow("fits at once") << whole << 900000 << none << false << valid << QSize(400, 300) << 90;
+    QTest::newRow("never fits") << whole << 1 << none << false << bytes << none << -1;
+    QTest::newRow("negative bytes") << whole << -9 << none << false << bytes << none << -1;
+    QTest::newRow("too wide") << whole << 900000 << QSize(399, 300) << false << pixels << none << -2;
+    QTest::newRow("width alone") << whole << 900000 << QSize(400, 0) << false << pixels << none << -2;
+    QTest::newRow("halved") << whole << 900000 << QSize(399, 300) << true << valid << QSize(200, 150) << 90;
+    QTest::newRow("width alone, kept")
+        << whole << 900000 << QSize(400, 0) << true << valid << QSize(400, 300) << 90;
+}
+
+void TestCropPicture::LimitsAreChecked()
+{
+    QFETCH(QSize, crop);
+    QFETCH(int, capacity);
+    QFETCH(QSize, maximum);
+    QFETCH(bool, keep);
+    const CropPicture::Limits limits{capacity, maximum, keep};
+    CutImageInfo info;
+    info.bHasImage = true;
+    info.image = Scene(QSize(400, 300));
+    const QRect photo(0, 0, 200, 150);
+    const CropPicture::CheckedCut cut
+        = CropPicture::CheckCut(info, QRect(QPoint(0, 0), crop), photo, photo.size(), limits);
+    QTEST(int(cut.verdict), "verdict");
+    QTEST(cut.image.size(), "size");
+    QTEST(cut.compressRatio.value_or(-2), "ratio");
+}
+
+// Catches a resize that was "tidied": the bottom edge lags one event behind, the left edge stays.
+void TestCropPicture::ResizingKeepsToItsSteps()
+{
+    const QPoint anchor = CropFrame::Anchor(QRect(50, 60, 100, 60));
+    QCOMPARE(anchor, QPoint(50, 120));
+    const QRect first = CropFrame::ResizedTo(QPoint(160, 50), QRect(50, 60, 100, 60), anchor);
+    QCOMPARE(first, QRect(50, 50, 111, 61));
+    const QRect second = CropFrame::ResizedTo(QPoint(160, 50), first, anchor);
+    QCOMPARE(second, QRect(50, 50, 111, 71));
+    QVERIFY(CropFrame::CanResizeTo(QPoint(70, 100), QRect(50, 60, 100, 60)));
+    QVERIFY(!CropFrame::CanResizeTo(QPoint(69, 100), QRect(50, 60, 100, 60)));
+    QVERIFY(!CropFrame::CanResizeTo(QPoint(70, 101), QRect(50, 60, 100, 60)));
+}
+
+// Catches the frame's corners taken where the photo's count, and another order of the tests.
+void TestCropPicture::CursorsTellPlaces_data()
+{
+    QTest::addColumn<QPoint>("pos");
+    QTest::addColumn<int>("cursor");
+
+    QTest::newRow("left of the corner") << QPoint(20, 40) << int(Qt::SizeAllCursor);
+    QTest::newRow("further left") << QPoint(19, 40) << int(Qt::ArrowCursor);
+    QTest::newRow("a photo's width to the right") << QPoint(230, 30) << int(Qt::SizeAllCursor);
+    QTest::newRow("past it") << QPoint(231, 40) << int(Qt::ArrowCursor);
+    QTest::newRow("below the upper edge") << QPoint(100, 50) << int(Qt::SizeAllCursor);
+    QTest::newRow("further below") << QPoint(100, 51) << int(Qt::ArrowCursor);
+    QTest::newRow("photo's top right") << QPoint(190, 10) << int(Qt::SizeBDiagCursor);
+    QTest::newRow("photo's bottom right") << QPoint(210, 160) << int(Qt::OpenHandCursor);
+    QTest::newRow("frame's bottom right") << QPoint(130, 90) << int(Qt::ArrowCursor);
+}
+
+void TestCropPicture::CursorsTellPlaces()
+{
+    QFETCH(QPoint, pos);
+    const QRect crop(30, 40, 100, 50);
+    QTEST(int(CropFrame::HoverCursor(pos, crop, QRect(0, 0, 200, 150))), "cursor");
+}
+
+// Catches traces that a dragged frame leaves behind because too little is painted again.
+void TestCropPicture::ChangedRegionsHoldAllThatDiffers()
+{
+    const QRect photo(0, 0, 90, 70);
+    const QRect frames[]
+        = {QRect(20, 20, 40, 30), QRect(20, 20, 41, 31), QRect(19, 22, 40, 30), QRect(60, 50, -30, -20),
+           QRect(5, 5, 0, 0),     QRect(0, 0, 90, 70),   QRect(80, 60, 30, 30), QRect(30, 30, 3, 50)};
+    const auto painted = [&](const QRect& frame) {
+        QImage image(photo.size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        CropPainting::PaintFrame(painter, photo, frame);
+        return image;
+    };
+    for (const QRect& before : frames)
+        for (const QRect& now : frames) {
+            const QImage a = painted(before);
+            const QImage b = painted(now);
+            const QRegion changed = CropPainting::ChangedRegion(before, now);
+            for (int y = 0; y < photo.height(); ++y)
+                for (int x = 0; x < photo.width(); ++x)
+                    QVERIFY(a.pixel(x, y) == b.pixel(x, y) || changed.contains(QPoint(x, y)));
+        }
+}
 
 // Catches a frame that is painted quickly but not as a dotted pen paints it, at the corners above all.
 void TestCropPicture::DotsAreThoseOfAPen()

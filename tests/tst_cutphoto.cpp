@@ -6,14 +6,19 @@
 #include <UI/CutPhoto/CCutDetailPhoto.h>
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
 
+#include <Platform/BasicUIComponents/KvMessageNotify.h>
+
 #include <QApplication>
+#include <QBuffer>
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 using UICommonMdl::CCutDetailPhoto;
@@ -54,6 +59,20 @@ QRect Framed(CanvasType& canvas)
     return {PlaceOf(cut.pixel(0, 0)) / 2, cut.size() / 2};
 }
 
+/// Whether the operator sees the message; takes all messages away.
+bool IsTold(const QString& message)
+{
+    bool told = false;
+    for (const QWidget* widget : QApplication::allWidgets()) {
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        told = told || (label != nullptr && label->isVisible() && label->text() == message);
+    }
+    KvGUI::KvMessageNotify::Instance()->CloseAll();
+    return told;
+}
+
+const QString NoArea = QStringLiteral("Please select a valid area to cut.");
+
 void MoveHeld(QWidget& widget, const QPoint& pos)
 {
     QMouseEvent move(
@@ -81,6 +100,75 @@ std::unique_ptr<CanvasType> MakeCanvas()
     return canvas;
 }
 
+QRgb PixelAt(QWidget& widget, const QPoint& pos) { return widget.grab().toImage().pixel(pos); }
+
+/// Runs when the next menu has opened, then closes it.
+void OnNextMenu(std::function<void(QMenu*)> act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu != nullptr);
+        const QPointer<QMenu> guard(menu);
+        act(menu);
+        if (guard)
+            guard->close();
+    });
+}
+
+QAction* ActionNamed(QMenu* menu, const QString& text)
+{
+    for (QAction* action : menu->actions())
+        if (action->text() == text)
+            return action;
+    return nullptr;
+}
+
+void ChooseInMenu(QMenu* menu, const QString& text)
+{
+    QTest::mouseClick(
+        menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(ActionNamed(menu, text)).center());
+}
+
+QByteArray Encoded(const QImage& image, const char* format, int quality = -1)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format, quality);
+    return bytes;
+}
+
+/// A JPEG whose camera notes that it was held on its side.
+QByteArray RotatedJpeg(const QImage& image)
+{
+    const QByteArray note = QByteArray::fromHex("ffe1002245786966000"
+                                                "04d4d002a000000080001011200030000000100060000"
+                                                "00000000");
+    QByteArray jpeg = Encoded(image, "JPG");
+    return jpeg.insert(2, note);
+}
+
+/// A JPEG of 8 x 8 pixels in four colours, as printers have them, all of middle strength.
+QByteArray FourColorJpeg()
+{
+    const QImage grey = PlacePicture(QSize(8, 8)).convertToFormat(QImage::Format_Grayscale8);
+    const QByteArray jpeg = Encoded(grey, "JPG");
+    const int frame = jpeg.indexOf("\xFF\xC0");
+    const int huffman = jpeg.indexOf("\xFF\xC4");
+    const int scan = jpeg.indexOf("\xFF\xDA");
+    return jpeg.left(frame) + QByteArray::fromHex("ffc00014080008000804011100021100031100041100")
+        + jpeg.mid(huffman, scan - huffman) + QByteArray::fromHex("ffda000e040100020003000400003f00")
+        + QByteArray::fromHex("28a28affd9"); // four blocks without coefficients
+}
+
+QString WriteFile(const QTemporaryDir& folder, const QString& name, const QByteArray& bytes)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        return QString();
+    return file.fileName();
+}
+
 } // namespace
 
 class TestCutPhoto : public QObject
@@ -90,6 +178,36 @@ class TestCutPhoto : public QObject
 private slots:
     void DraggingMarksAFrame_data();
     void DraggingMarksAFrame();
+    void ANewSelectionForgetsTheLastDrag();
+    void TheCornerMovesToThePointer_data();
+    void TheCornerMovesToThePointer();
+    void ResizingFollowsThePointer();
+    void AResizedWholePhotoStaysResized();
+    void OnlyAPressedCanvasIsDimmed();
+    void PaintedStepsEqualAFreshPaint();
+    void TheMenuOffersSearchesInOrder();
+    void SearchesAreReported_data();
+    void SearchesAreReported();
+    void ASearchEndsReloading();
+    void CancelTakesTheFrameAway();
+    void SearchHandleOpensTheMenu();
+    void AMenuMayDeleteTheCanvas_data();
+    void AMenuMayDeleteTheCanvas();
+    void ASlotMayDeleteTheCanvas();
+    void KeysEmptyTheFrame();
+    void ResizingReadsTheFileAgain();
+    void APictureInMemoryIsLostByAResize();
+    void FilesOfAllKindsAreRead_data();
+    void FilesOfAllKindsAreRead();
+    void CanvasesWithoutASizeWork();
+    void InvalidChoicesAreTold();
+    void LimitsReachTheCut();
+    void PlainDragsAreReported_data();
+    void PlainDragsAreReported();
+    void PlainDragsBeginOnThePhoto();
+    void PlainTipGoesWithTheFirstDrag();
+    void APlainSlotMayDeleteTheCanvas();
+    void PlainCursorTellsThePhoto();
 };
 
 // Catches a drag whose frame is off, and the least size taken without its sign or its limit.
@@ -116,6 +234,550 @@ void TestCutPhoto::DraggingMarksAFrame()
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
     Drag(*canvas, from, to);
     QTEST(Framed(*canvas), "framed");
+}
+
+// Catches the extents of an earlier selection that make a click a frame of no size.
+void TestCutPhoto::ANewSelectionForgetsTheLastDrag()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    canvas->OnClose();
+    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 30));
+    QCOMPARE(Framed(*canvas), Whole);
+}
+
+// Catches a move that keeps the distance between corner and pointer, one that leaves the picture, and a
+// handle that reaches too far or not far enough.
+void TestCutPhoto::TheCornerMovesToThePointer_data()
+{
+    QTest::addColumn<QPoint>("press");
+    QTest::addColumn<QPoint>("to");
+    QTest::addColumn<QPoint>("corner");
+
+    const QPoint corner(40, 30); // of a frame of 60 x 40
+    QTest::newRow("at the corner") << corner << QPoint(70, 50) << QPoint(70, 50);
+    QTest::newRow("farthest in the handle") << QPoint(50, 20) << QPoint(70, 50) << QPoint(70, 50);
+    QTest::newRow("beside the handle") << QPoint(51, 30) << QPoint(70, 50) << corner;
+    QTest::newRow("above the handle") << QPoint(40, 19) << QPoint(70, 50) << corner;
+    QTest::newRow("to the right edge") << corner << QPoint(140, 50) << QPoint(140, 50);
+    QTest::newRow("past the right edge") << corner << QPoint(141, 50) << QPoint(91, 40);
+    QTest::newRow("to the bottom") << corner << QPoint(60, 110) << QPoint(60, 110);
+    QTest::newRow("past the bottom") << corner << QPoint(60, 111) << QPoint(50, 71);
+    QTest::newRow("to the left edge") << corner << QPoint(0, 20) << QPoint(0, 20);
+    QTest::newRow("past the left edge") << corner << QPoint(-1, 20) << QPoint(20, 25);
+}
+
+void TestCutPhoto::TheCornerMovesToThePointer()
+{
+    QFETCH(QPoint, press);
+    QFETCH(QPoint, to);
+    QFETCH(QPoint, corner);
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    Drag(*canvas, QPoint(40, 30), QPoint(100, 70));
+    Drag(*canvas, press, to);
+    QCOMPARE(Framed(*canvas), QRect(corner, QSize(60, 40)));
+    // The button is up: nothing moves any more.
+    MoveHeld(*canvas, QPoint(60, 60));
+    QCOMPARE(Framed(*canvas), QRect(corner, QSize(60, 40)));
+}
+
+// Catches a resize by another corner, or one that does not stop near the opposite edges.
+void TestCutPhoto::ResizingFollowsThePointer()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    Drag(*canvas, QPoint(50, 60), QPoint(150, 120));
+    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 60));
+    QCOMPARE(canvas->cursor().shape(), Qt::SizeBDiagCursor);
+    MoveHeld(*canvas, QPoint(160, 50));
+    QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
+    MoveHeld(*canvas, QPoint(69, 50)); // too near to the left edge
+    QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
+    QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(69, 50));
+    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
+}
+
+// Catches a release that looks at the extents of the click that selected everything.
+void TestCutPhoto::AResizedWholePhotoStaysResized()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 30));
+    Drag(*canvas, QPoint(195, 5), QPoint(151, 41));
+    QCOMPARE(Framed(*canvas).width(), 152);
+    // And one that does not: a click beside all handles makes it the whole photo again.
+    canvas->OnClose();
+    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 30));
+    canvas->SetCutRegion(QRect(50, 50, 20, 20));
+    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 20));
+    QCOMPARE(Framed(*canvas), Whole);
+}
+
+// Catches a mask that is painted too early or too long, over the frame, or misplaced while a selection runs
+// backwards.
+void TestCutPhoto::OnlyAPressedCanvasIsDimmed()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    canvas->SetCutRegion(QRect(60, 60, 50, 50));
+    const QPoint inside(90, 90);
+    const QPoint outside(150, 120);
+    const QRgb bright = PixelAt(*canvas, inside);
+    const QRgb brightOutside = PixelAt(*canvas, outside);
+    QCOMPARE(bright, PlacePicture(Source).pixel(inside * 2));
+
+    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(120, 110));
+    MoveHeld(*canvas, QPoint(60, 60));
+    QCOMPARE(PixelAt(*canvas, inside), bright);
+    QVERIFY(qAbs(qRed(PixelAt(*canvas, outside)) - qRed(brightOutside) / 2) <= 1);
+    QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
+    QCOMPARE(PixelAt(*canvas, outside), brightOutside); // the whole photo is framed
+
+    canvas->OnClose();
+    QCOMPARE(PixelAt(*canvas, inside), bright);
+    QCOMPARE(PixelAt(*canvas, outside), brightOutside);
+}
+
+// Catches pixels of an earlier step that stay behind because too little was painted again.
+void TestCutPhoto::PaintedStepsEqualAFreshPaint()
+{
+    const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
+    const auto plain = MakeCanvas<CCutDetailPhoto>();
+    const QPoint places[]
+        = {{20, 20}, {90, 70}, {150, 80}, {140, 130}, {10, 140}, {5, 5}, {80, 10}, {81, 11}};
+    for (QWidget* canvas : {static_cast<QWidget*>(zoom.get()), static_cast<QWidget*>(plain.get())}) {
+        QVERIFY(QTest::qWaitForWindowExposed(canvas));
+        QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(60, 50));
+        for (const QPoint& place : places) {
+            MoveHeld(*canvas, place);
+            QCoreApplication::processEvents();
+            const QImage shown = canvas->screen()->grabWindow(canvas->winId()).toImage();
+            QCOMPARE(
+                shown.convertToFormat(QImage::Format_RGB32),
+                canvas->grab().toImage().convertToFormat(QImage::Format_RGB32));
+        }
+        QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(81, 11));
+    }
+}
+
+// Catches another order, a missing icon or another look of the menu.
+void TestCutPhoto::TheMenuOffersSearchesInOrder()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    int menus = 0;
+    OnNextMenu([&](QMenu* menu) {
+        ++menus;
+        QStringList texts;
+        for (const QAction* action : menu->actions()) {
+            texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
+            QVERIFY(action->isSeparator() || !action->icon().pixmap(20, 20).isNull());
+            QCOMPARE(action->parent(), menu);
+        }
+        const QStringList expected
+            = {QStringLiteral("Vehicle Images Search"), QStringLiteral("Face Image Search"),
+               QStringLiteral("-"), QStringLiteral("Human Body Image Search"), QStringLiteral("Cancel")};
+        QCOMPARE(texts, expected);
+        QCOMPARE(menu->objectName(), QStringLiteral("mainMenu"));
+        QVERIFY(menu->width() >= 220);
+        QCOMPARE(
+            menu->styleSheet(),
+            QStringLiteral("QMenu::item:hover{background-color:#29465a;color:#bbbbbb}"
+                           "QMenu::item:selected{background-color:#29465a;color:#bbbbbb}"));
+    });
+    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(100, 100));
+    QCOMPARE(menus, 1);
+    // Dismissed, it stays until a choice or a close.
+    QCOMPARE(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).size(), 1);
+    canvas->OnClose();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
+}
+
+// Catches actions connected to another search, at once instead of queued, or a menu that stays.
+void TestCutPhoto::SearchesAreReported_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("vehicle");
+    QTest::addColumn<int>("face");
+    QTest::addColumn<int>("human");
+
+    QTest::newRow("vehicle") << QStringLiteral("Vehicle Images Search") << 1 << 0 << 0;
+    QTest::newRow("face") << QStringLiteral("Face Image Search") << 0 << 1 << 0;
+    QTest::newRow("human") << QStringLiteral("Human Body Image Search") << 0 << 0 << 1;
+}
+
+void TestCutPhoto::SearchesAreReported()
+{
+    QFETCH(QString, text);
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    QSignalSpy vehicle(canvas.get(), &CCutPhotoWithZoom::SignClickVehicleSearch);
+    QSignalSpy face(canvas.get(), &CCutPhotoWithZoom::SignClickFaceSearch);
+    QSignalSpy human(canvas.get(), &CCutPhotoWithZoom::SignClickHumanSearch);
+    OnNextMenu([&](QMenu* menu) {
+        ChooseInMenu(menu, text);
+        QVERIFY(vehicle.isEmpty() && face.isEmpty() && human.isEmpty());
+    });
+    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(100, 100));
+    QVERIFY(vehicle.isEmpty() && face.isEmpty() && human.isEmpty());
+    QCoreApplication::processEvents();
+    QTEST(vehicle.size(), "vehicle");
+    QTEST(face.size(), "face");
+    QTEST(human.size(), "human");
+    QTRY_VERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
+}
+
+// Catches a picture that is read again while the host closes after a search.
+void TestCutPhoto::ASearchEndsReloading()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    canvas->OnFaceSearchPicture();
+    canvas->resize(100, 75);
+    QVERIFY(canvas->GetCutPhoto().bHasImage);
+    canvas->OnClose();
+    canvas->resize(110, 75);
+    QVERIFY(!canvas->GetCutPhoto().bHasImage);
+}
+
+// Catches a frame or a completed state that survives "Cancel".
+void TestCutPhoto::CancelTakesTheFrameAway()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    OnNextMenu([](QMenu* menu) { ChooseInMenu(menu, QStringLiteral("Cancel")); });
+    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(150, 100));
+    QCoreApplication::processEvents();
+    QCOMPARE(Framed(*canvas), QRect());
+    Drag(*canvas, QPoint(30, 40), QPoint(60, 80));
+    QCOMPARE(Framed(*canvas), QRect(30, 40, 30, 40));
+    KvGUI::KvMessageNotify::Instance()->CloseAll();
+}
+
+// Catches a handle at another corner, and the second menu of a right press on it.
+void TestCutPhoto::SearchHandleOpensTheMenu()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    int menus = 0;
+    const auto count = [&](QMenu*) { ++menus; };
+    OnNextMenu(count);
+    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(130, 70));
+    QCOMPARE(menus, 1);
+    OnNextMenu([&](QMenu* menu) {
+        OnNextMenu(count);
+        count(menu);
+    });
+    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(120, 60));
+    QCOMPARE(menus, 3);
+}
+
+// Catches a canvas that goes on after its modal menu has seen it deleted.
+void TestCutPhoto::AMenuMayDeleteTheCanvas_data()
+{
+    QTest::addColumn<int>("button");
+
+    QTest::newRow("search handle") << int(Qt::LeftButton);
+    QTest::newRow("right button, twice") << int(Qt::RightButton);
+}
+
+void TestCutPhoto::AMenuMayDeleteTheCanvas()
+{
+    QFETCH(int, button);
+    QWidget host;
+    host.resize(Canvas);
+    TestSupport::AnnounceCropCanvases();
+    const QPointer<CCutPhotoWithZoom> canvas = new CCutPhotoWithZoom(&host);
+    canvas->resize(Canvas);
+    canvas->SetSrcImage(PlacePicture(Source));
+    host.show();
+    canvas->resize(Canvas);
+    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    OnNextMenu([&](QMenu*) {
+        // Qt itself uses the widget once more after a right press.
+        if (button == Qt::RightButton)
+            canvas->deleteLater();
+        else
+            delete canvas;
+    });
+    QTest::mousePress(host.windowHandle(), Qt::MouseButton(button), Qt::NoModifier, QPoint(120, 60));
+    QTRY_VERIFY(canvas.isNull());
+}
+
+// Catches state that is touched after a slot has deleted the canvas.
+void TestCutPhoto::ASlotMayDeleteTheCanvas()
+{
+    for (const char* slot : {"OnFaceSearchPicture", "OnKeyPressed"}) {
+        CCutPhotoWithZoom* canvas = MakeCanvas<CCutPhotoWithZoom>().release();
+        const QPointer<CCutPhotoWithZoom> guard(canvas);
+        connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, canvas, [canvas] { delete canvas; });
+        connect(canvas, &CCutPhotoWithZoom::SignCloseWind, canvas, [canvas] { delete canvas; });
+        QMetaObject::invokeMethod(canvas, slot);
+        QVERIFY(guard.isNull());
+    }
+}
+
+// Catches Escape and the host's key slot that keep the frame, or that begin a new selection.
+void TestCutPhoto::KeysEmptyTheFrame()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    QSignalSpy closed(canvas.get(), &CCutPhotoWithZoom::SignCloseWind);
+    Drag(*canvas, QPoint(40, 30), QPoint(120, 80));
+    QTest::keyRelease(canvas.get(), Qt::Key_Return);
+    QCOMPARE(Framed(*canvas), QRect(40, 30, 80, 50));
+    QTest::keyRelease(canvas.get(), Qt::Key_Escape);
+    QCOMPARE(Framed(*canvas), QRect());
+    QVERIFY(closed.isEmpty());
+    // A frame counts as completed still: a press selects nothing new.
+    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(90, 90));
+    MoveHeld(*canvas, QPoint(140, 130));
+    QCOMPARE(Framed(*canvas), QRect());
+
+    canvas->SetCutRegion(QRect(40, 30, 80, 50));
+    canvas->OnKeyPressed();
+    QCOMPARE(closed.size(), 1);
+    QCOMPARE(Framed(*canvas), QRect());
+    KvGUI::KvMessageNotify::Instance()->CloseAll();
+}
+
+// Catches a frame that does not follow its photo, and a file that is not read again.
+void TestCutPhoto::ResizingReadsTheFileAgain()
+{
+    const QTemporaryDir folder;
+    const QString path = WriteFile(folder, QStringLiteral("photo.png"), Encoded(PlacePicture(Source), "PNG"));
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    canvas->SetSrcPhoto(path);
+    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    canvas->resize(Canvas / 2);
+    QCOMPARE(canvas->GetCutPhoto().strFilePath, path);
+    QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50)); // the same pixels of the picture
+    canvas->resize(Canvas * 2);
+    QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50));
+    QVERIFY(QFile::remove(path));
+    canvas->resize(Canvas);
+    QVERIFY(!canvas->GetCutPhoto().bHasImage);
+}
+
+// Catches a canvas that keeps what it cannot read again.
+void TestCutPhoto::APictureInMemoryIsLostByAResize()
+{
+    const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
+    zoom->resize(100, 100);
+    QVERIFY(zoom->GetCutPhoto().image.isNull());
+    const auto plain = MakeCanvas<CCutDetailPhoto>();
+    plain->resize(100, 100);
+    QCOMPARE(plain->GetCutPhoto().image.size(), Source);
+}
+
+// Catches formats told by the name, and a file that is not read to its end but taken, or crashes the client.
+void TestCutPhoto::FilesOfAllKindsAreRead_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QSize>("size"); // empty when it is not a picture
+
+    const QImage scene = PlacePicture(QSize(60, 40));
+    const QByteArray png = Encoded(scene, "PNG");
+    QTest::newRow("jpeg") << "a.jpg" << Encoded(scene, "JPG") << QSize(60, 40);
+    QTest::newRow("renamed png") << "a.jpg" << png << QSize(60, 40);
+    QTest::newRow("without a suffix") << "a" << Encoded(scene, "BMP") << QSize(60, 40);
+    QTest::newRow("1 x 1") << "a.png" << Encoded(PlacePicture(QSize(1, 1)), "PNG") << QSize(1, 1);
+    QTest::newRow("thread") << "a.png" << Encoded(PlacePicture(QSize(1, 20000)), "PNG") << QSize(1, 20000);
+    QTest::newRow("16 bits") << "a.png" << Encoded(scene.convertToFormat(QImage::Format_RGBA64), "PNG")
+                             << QSize(60, 40);
+    QTest::newRow("palette") << "a.png" << Encoded(scene.convertToFormat(QImage::Format_Indexed8), "PNG")
+                             << QSize(60, 40);
+    QTest::newRow("two colours") << "a.png" << Encoded(scene.convertToFormat(QImage::Format_Mono), "PNG")
+                                 << QSize(60, 40);
+    QImage clear(QSize(60, 40), QImage::Format_ARGB32);
+    clear.fill(Qt::transparent);
+    QTest::newRow("alpha") << "a.png" << Encoded(clear, "PNG") << QSize(60, 40);
+    QTest::newRow("four colours") << "a.jpg" << FourColorJpeg() << QSize(8, 8);
+    QTest::newRow("camera on its side") << "a.jpg" << RotatedJpeg(scene) << QSize(60, 40);
+    QTest::newRow("truncated png") << "a.png" << png.left(png.size() / 2) << QSize();
+    QTest::newRow("text") << "a.png" << QByteArray("no picture at all") << QSize();
+    QTest::newRow("empty file") << "a.png" << QByteArray() << QSize();
+}
+
+void TestCutPhoto::FilesOfAllKindsAreRead()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QSize, size);
+    const QTemporaryDir folder;
+    const QString path = WriteFile(folder, name, bytes);
+    const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
+    const auto plain = MakeCanvas<CCutDetailPhoto>();
+    zoom->SetSrcPhoto(QString());
+    QCOMPARE(zoom->GetCutPhoto().image.size(), Source);
+    zoom->SetSrcPhoto(path);
+    plain->SetSrcPhoto(path);
+    for (const CutImageInfo& info : {zoom->GetCutPhoto(), plain->GetCutPhoto()}) {
+        QCOMPARE(info.bHasImage, !size.isEmpty());
+        QCOMPARE(info.image.isNull(), size.isEmpty());
+        QCOMPARE(info.strFilePath, size.isEmpty() ? QString() : path);
+        if (!size.isEmpty())
+            QCOMPARE(info.image.size(), size);
+    }
+    zoom->SetImageMaxCapacity(5000);
+    Drag(*zoom, QPoint(20, 10), QPoint(120, 60));
+    zoom->IsCutPhotoVaildWithNotify();
+    plain->IsCutPhotoVaildWithNotify();
+    zoom->grab();
+    plain->grab();
+    KvGUI::KvMessageNotify::Instance()->CloseAll();
+}
+
+// Catches a division by the size of a canvas that has none yet.
+void TestCutPhoto::CanvasesWithoutASizeWork()
+{
+    TestSupport::AnnounceCropCanvases();
+    CCutPhotoWithZoom zoom;
+    CCutDetailPhoto plain;
+    zoom.resize(0, 0);
+    plain.resize(0, 40);
+    zoom.SetSrcImage(PlacePicture(Source));
+    plain.SetSrcImage(PlacePicture(Source));
+    zoom.SetImageMaxCapacity(1000);
+    QTest::mouseClick(&zoom, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+    QTest::mouseClick(&plain, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+    QVERIFY(!zoom.IsCutPhotoVaildWithNotify());
+    QVERIFY(!plain.IsCutPhotoVaildWithNotify());
+    zoom.SetCutRegion(QRect(3, 3, 30, 30));
+    zoom.IsCutPhotoVaildWithNotify();
+    zoom.grab();
+    plain.grab();
+    KvGUI::KvMessageNotify::Instance()->CloseAll();
+}
+
+// Catches another message, or one that is not shown, or shown where nothing is to be said.
+void TestCutPhoto::InvalidChoicesAreTold()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
+    QVERIFY(IsTold(NoArea));
+
+    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    canvas->SetImageMaxCapacity(50000);
+    canvas->SetPicMaxSize(199, 300);
+    QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
+    QVERIFY(IsTold(QStringLiteral("Picture size exceeds the upper limit of 199 * 300.")));
+    QCOMPARE(canvas->GetCutPhoto().image.size(), Source);
+
+    canvas->SetPicMaxSize(0, 0);
+    canvas->SetImageMaxCapacity(1);
+    QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
+    QVERIFY(!IsTold(NoArea));
+    QCOMPARE(canvas->GetCompressRatio(), -1);
+    QCOMPARE(canvas->GetCutPhoto().image.size(), Source);
+}
+
+// Catches a limit that a setter loses, a compressed picture as the result, or a quality of no use.
+void TestCutPhoto::LimitsReachTheCut()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    QVERIFY(canvas->IsCutPhotoVaildWithNotify());
+    QCOMPARE(canvas->GetCompressRatio(), 100);
+
+    canvas->SetSrcImage(PlacePicture(Source));
+    canvas->SetPicMaxSize(150, 150);
+    canvas->SetKeepAspectRatio(true);
+    canvas->SetImageMaxCapacity(2000);
+    QVERIFY(canvas->IsCutPhotoVaildWithNotify());
+    const QImage cut = canvas->GetCutPhoto().image;
+    QCOMPARE(cut.size(), QSize(100, 50));
+    QCOMPARE(cut.pixel(0, 0), PlacePicture(Source).pixel(40, 20));
+    QVERIFY(canvas->GetCompressRatio() < 90);
+    QVERIFY(Encoded(cut, "JPG", canvas->GetCompressRatio()).size() <= 2000);
+}
+
+// Catches wrong corners or flags of a drag, and a clamp one pixel off.
+void TestCutPhoto::PlainDragsAreReported_data()
+{
+    QTest::addColumn<QPoint>("from");
+    QTest::addColumn<QPoint>("to");
+    QTest::addColumn<QRect>("crop");
+    QTest::addColumn<bool>("addX");
+    QTest::addColumn<bool>("addY");
+
+    const QPoint middle(100, 80);
+    QTest::newRow("right and down") << middle << QPoint(150, 100) << QRect(100, 80, 51, 21) << true << true;
+    QTest::newRow("left and up") << middle << QPoint(50, 60) << QRect(50, 60, 51, 21) << false << false;
+    QTest::newRow("left and down") << middle << QPoint(50, 100) << QRect(50, 80, 51, 21) << false << true;
+    QTest::newRow("right and up") << middle << QPoint(150, 60) << QRect(100, 60, 51, 21) << true << false;
+    QTest::newRow("on the spot") << middle << middle << QRect(100, 80, 1, 1) << true << true;
+    QTest::newRow("straight down") << middle << QPoint(100, 90) << QRect(100, 80, 1, 11) << true << true;
+    QTest::newRow("past the right") << middle << QPoint(500, 80) << QRect(100, 80, 101, 1) << true << true;
+    QTest::newRow("past the bottom") << middle << QPoint(100, 500) << QRect(100, 80, 1, 70) << true << true;
+    QTest::newRow("past the top left") << middle << QPoint(-9, -9) << QRect(0, 0, 101, 81) << false << false;
+}
+
+void TestCutPhoto::PlainDragsAreReported()
+{
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, to);
+    const auto canvas = MakeCanvas<CCutDetailPhoto>();
+    QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
+    Drag(*canvas, from, to);
+    QCOMPARE(updated.size(), 2); // one a step
+    QTEST(updated.last().at(0).toRect(), "crop");
+    QTEST(updated.last().at(1).toBool(), "addX");
+    QTEST(updated.last().at(2).toBool(), "addY");
+    MoveHeld(*canvas, QPoint(3, 3));
+    QCOMPARE(updated.size(), 2);
+}
+
+// Catches a drag from beside the photo that marks something, and a new picture that is not wholly selected.
+void TestCutPhoto::PlainDragsBeginOnThePhoto()
+{
+    const auto canvas = MakeCanvas<CCutDetailPhoto>();
+    canvas->resize(300, 200);
+    QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
+    Drag(*canvas, QPoint(200, 50), QPoint(100, 100));
+    QVERIFY(updated.isEmpty());
+    QCOMPARE(Framed(*canvas), Whole);
+    Drag(*canvas, QPoint(199, 149), QPoint(100, 100));
+    QCOMPARE(Framed(*canvas), QRect(100, 100, 100, 50));
+}
+
+// Catches a bubble that covers the photo while it is cropped, or that comes back.
+void TestCutPhoto::PlainTipGoesWithTheFirstDrag()
+{
+    const auto canvas = MakeCanvas<CCutDetailPhoto>();
+    auto* tip = canvas->findChild<QWidget*>(QStringLiteral("CComTipWiget"));
+    QVERIFY(tip != nullptr && tip->isVisible());
+    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+    QVERIFY(tip->isVisible());
+    Drag(*canvas, QPoint(50, 50), QPoint(90, 90));
+    QVERIFY(!tip->isVisible());
+    canvas->SetSrcImage(PlacePicture(Source));
+    QVERIFY(!tip->isVisible());
+}
+
+// Catches state that is touched after a slot has deleted the canvas in the middle of a drag.
+void TestCutPhoto::APlainSlotMayDeleteTheCanvas()
+{
+    QWidget host;
+    host.resize(Canvas);
+    auto* canvas = new CCutDetailPhoto(&host);
+    canvas->resize(Canvas);
+    canvas->SetSrcImage(PlacePicture(Source));
+    host.show();
+    const QPointer<CCutDetailPhoto> guard(canvas);
+    connect(canvas, &CCutDetailPhoto::SignalUpdateCutRect, canvas, [canvas] { delete canvas; });
+    QTest::mousePress(host.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+    QTest::mouseMove(host.windowHandle(), QPoint(80, 80));
+    QCoreApplication::processEvents();
+    QVERIFY(guard.isNull());
+    QTest::mouseRelease(host.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(80, 80));
+}
+
+// Catches a cursor that stays when the pointer leaves the photo.
+void TestCutPhoto::PlainCursorTellsThePhoto()
+{
+    const auto canvas = MakeCanvas<CCutDetailPhoto>();
+    canvas->resize(300, 200);
+    MoveHeld(*canvas, QPoint(199, 149));
+    QCOMPARE(canvas->cursor().shape(), Qt::CrossCursor);
+    MoveHeld(*canvas, QPoint(200, 149));
+    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
 }
 
 STRICT_TEST_MAIN(TestCutPhoto)
