@@ -468,36 +468,39 @@ void TestCutPhoto::SearchHandleOpensTheMenu()
     QCOMPARE(menus, 3);
 }
 
-// Catches a canvas that goes on after its modal menu has seen it deleted.
+// Catches a canvas that goes on after it was deleted while its modal menu was open, or by what was chosen.
 void TestCutPhoto::AMenuMayDeleteTheCanvas_data()
 {
     QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("byChoice");
 
-    QTest::newRow("search handle") << int(Qt::LeftButton);
-    QTest::newRow("right button, twice") << int(Qt::RightButton);
+    QTest::newRow("while the menu is open") << int(Qt::LeftButton) << false;
+    QTest::newRow("by a choice") << int(Qt::LeftButton) << true;
+    QTest::newRow("by a choice, right button") << int(Qt::RightButton) << true;
 }
 
 void TestCutPhoto::AMenuMayDeleteTheCanvas()
 {
     QFETCH(int, button);
+    QFETCH(bool, byChoice);
     QWidget host;
     host.resize(Canvas);
     TestSupport::AnnounceCropCanvases();
     const QPointer<CCutPhotoWithZoom> canvas = new CCutPhotoWithZoom(&host);
     canvas->resize(Canvas);
-    canvas->SetSrcImage(PlacePicture(Source));
     host.show();
-    canvas->resize(Canvas);
+    canvas->SetSrcImage(PlacePicture(Source));
     Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
-    OnNextMenu([&](QMenu*) {
-        // Qt itself uses the widget once more after a right press.
-        if (button == Qt::RightButton)
-            canvas->deleteLater();
+    connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, this, [&] { delete canvas; });
+    OnNextMenu([&](QMenu* menu) {
+        if (byChoice)
+            ChooseInMenu(menu, QStringLiteral("Face Image Search"));
         else
             delete canvas;
     });
     QTest::mousePress(host.windowHandle(), Qt::MouseButton(button), Qt::NoModifier, QPoint(120, 60));
     QTRY_VERIFY(canvas.isNull());
+    QTest::mouseRelease(host.windowHandle(), Qt::MouseButton(button), Qt::NoModifier, QPoint(120, 60));
 }
 
 // Catches state that is touched after a slot has deleted the canvas.

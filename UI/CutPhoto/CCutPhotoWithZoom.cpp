@@ -113,7 +113,7 @@ void CCutPhotoWithZoomPrivate::BeginSelection(const QPoint& pos)
     SetCrop(QRect(pos, QSize(0, 0)));
 }
 
-bool CCutPhotoWithZoomPrivate::TakeHandle(const QPoint& pos, const QPoint& globalPos)
+void CCutPhotoWithZoomPrivate::TakeHandle(const QPoint& pos, const QPoint& globalPos)
 {
     if (CropFrame::IsNear(pos, CropFrame::MoveHandle(state.crop))) {
         q->setCursor(Qt::SizeAllCursor);
@@ -124,12 +124,6 @@ bool CCutPhotoWithZoomPrivate::TakeHandle(const QPoint& pos, const QPoint& globa
         q->setCursor(Qt::SizeBDiagCursor);
         resizing = true;
     }
-    if (CropFrame::IsNear(pos, CropFrame::SearchHandle(state.crop))) {
-        q->setCursor(Qt::OpenHandCursor);
-        PopupMenu();
-        return true;
-    }
-    return false;
 }
 
 bool CCutPhotoWithZoomPrivate::Press(const QPoint& pos, const QPoint& globalPos, Qt::MouseButton button)
@@ -139,16 +133,22 @@ bool CCutPhotoWithZoomPrivate::Press(const QPoint& pos, const QPoint& globalPos,
         q->update();
     pressed = true;
     press = pos;
-    bool menuShown = false;
-    if (!hasCut)
-        BeginSelection(pos);
+    const bool onSearchHandle = hasCut && CropFrame::IsNear(pos, CropFrame::SearchHandle(state.crop));
+    if (hasCut)
+        TakeHandle(pos, globalPos);
     else
-        menuShown = TakeHandle(pos, globalPos);
-    if (guard && button == Qt::RightButton) {
-        PopupMenu();
-        menuShown = true;
+        BeginSelection(pos);
+    bool chosen = false;
+    if (onSearchHandle) {
+        q->setCursor(Qt::OpenHandCursor);
+        chosen = PopupMenu();
     }
-    return menuShown;
+    // Also on the search handle, where a second menu follows one that was dismissed. After a choice it would
+    // only run the client's slot inside this press, which then could not delete the canvas.
+    const bool secondary = button == Qt::RightButton;
+    if (secondary && guard && !chosen)
+        PopupMenu();
+    return onSearchHandle || secondary;
 }
 
 void CCutPhotoWithZoomPrivate::Drag(const QPoint& pos, const QPoint& globalPos)
@@ -209,7 +209,7 @@ void CCutPhotoWithZoomPrivate::EndHold()
     resizing = false;
 }
 
-void CCutPhotoWithZoomPrivate::PopupMenu()
+bool CCutPhotoWithZoomPrivate::PopupMenu()
 {
     menu = new KvGUI::KvMenu(q);
     menu->setObjectName(QStringLiteral("mainMenu"));
@@ -225,8 +225,7 @@ void CCutPhotoWithZoomPrivate::PopupMenu()
         CCutPhotoWithZoom::tr("Human Body Image Search"), SkinFile("iconBody_n.png"),
         SLOT(OnHumanSearchPicture()));
     AddAction(CCutPhotoWithZoom::tr("Cancel"), SkinFile("close.png"), SLOT(OnClose()));
-    if (!menu->isEmpty())
-        menu->exec(QCursor::pos());
+    return !menu->isEmpty() && menu->exec(QCursor::pos()) != nullptr;
 }
 
 void CCutPhotoWithZoomPrivate::AddAction(const QString& text, const QString& picture, const char* slot)

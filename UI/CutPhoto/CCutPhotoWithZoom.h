@@ -36,9 +36,9 @@ class CCutPhotoWithZoomPrivate;
 /// corner stays), bottom right opens the search menu, as a press of the right button does anywhere. The
 /// menu's "Cancel" takes the frame away. Escape does so too and leaves full screen.
 ///
-/// <b>Signals</b> are emitted before the canvas's menu is taken away. A slot may delete the canvas. Only while
-/// the menu of a right press is open it has to go by deleteLater(): Qt uses the widget once more after such
-/// a press.
+/// <b>Signals</b> are emitted before the canvas's menu is taken away. A slot may delete the canvas, also one
+/// of a choice in the menu. Only while the menu of a right press is still open the canvas has to stay: Qt
+/// uses the widget once more after such a press.
 ///
 /// The constructor makes one connection that names a signal which this class does not have, so that Qt
 /// warns once for each canvas; a host that has such a signal connects its own to OnKeyPressed().

@@ -35,7 +35,7 @@ public:
     void FinishCrop();
     void EndHold(); ///< nothing is moved or resized any more
 
-    void PopupMenu(); ///< modal; the canvas may be gone when it returns
+    bool PopupMenu(); ///< modal: whether an action was chosen; the canvas may be gone when it returns
     void CloseMenu();
     void ReportSearch(void (CCutPhotoWithZoom::*signal)()); ///< the canvas may be gone when it returns
 
@@ -60,7 +60,7 @@ public:
 
 private:
     void BeginSelection(const QPoint& pos);
-    bool TakeHandle(const QPoint& pos, const QPoint& globalPos); ///< returns as Press() does
+    void TakeHandle(const QPoint& pos, const QPoint& globalPos);
     void DragSelection(const QPoint& pos);
     void MoveCrop(const QPoint& pos, const QPoint& globalPos);
     void ResizeCrop(const QPoint& pos);
