@@ -1,6 +1,7 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/ClientOptions.h>
 #include <gallery/MainWindow.h>
+#include <gallery/Pairing/PairingPage.h>
 #include <gallery/Photo/PhotoPage.h>
 #include <gallery/Photo/RecordPage.h>
 #include <gallery/Pictures/FrameClock.h>
@@ -50,6 +51,7 @@ int Run(const ClientOptions& options)
     window.AddPage(new PhotoPage(options.photo, &window));
     window.AddPage(new RecordPage(
         pictures ? pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder(), &window));
+    window.AddPage(new PairingPage(&window));
     if (pictures)
         return SaveScreenshots(window, pool, options.screenshotFolder) ? 0 : 1;
     window.show();

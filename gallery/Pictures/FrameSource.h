@@ -32,6 +32,9 @@ public:
 
     /// Turns the sound on or off; off at first. Nothing for sources without sound.
     virtual void SetAudible(bool bAudible) { Q_UNUSED(bAudible) }
+
+    /// Sets the volume, 0 to 100. Nothing for sources without sound.
+    virtual void SetVolume(int volume) { Q_UNUSED(volume) }
 };
 
 } // namespace OperatorClient

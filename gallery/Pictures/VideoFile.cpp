@@ -83,6 +83,12 @@ void VideoFile::SetAudible(bool bAudible)
         m_pPlayer->setMuted(!bAudible);
 }
 
+void VideoFile::SetVolume(int volume)
+{
+    if (m_pPlayer)
+        m_pPlayer->setVolume(volume);
+}
+
 void VideoFile::Paint(QPainter& painter, const QRect& area, const QDateTime& now)
 {
     Q_UNUSED(now)

@@ -22,6 +22,7 @@ public:
     void Paint(QPainter& painter, const QRect& area, const QDateTime& now) override;
     bool IsReady() const override;
     void SetAudible(bool bAudible) override;
+    void SetVolume(int volume) override;
 
 private:
     void Start();

@@ -80,6 +80,8 @@ void CameraWall::ConnectHands()
     connect(m_pWall, &WallWidget::SignalWindowEvent, this, &CameraWall::OnWindowEvent);
     connect(m_pWall, &WallWidget::SignalScreenRightClick, this, &CameraWall::SignalMenuWanted);
     connect(m_pWall, &WallWidget::SignalScreenSelectedChanged, this, &CameraWall::SignalScreenSelected);
+    connect(m_pWall, &WallWidget::SignalScreenSelectedChanged, this, &CameraWall::SignalSelectionChanged);
+    connect(m_pWall, &WallWidget::SignalWindowSelectedChanged, this, &CameraWall::SignalSelectionChanged);
     connect(m_pWall, &WallWidget::SignalWindowGeoChanged, this, &CameraWall::SignalChanged);
 }
 
@@ -387,7 +389,7 @@ void CameraWall::ReplaceSource(int screen, int window, const SourceSpec& source)
     const bool audible = m_pWall->GetWindowVolumeBtnStatus(screen, window);
     tile->Source().SetAudible(false);
     tile->SetSource(m_pool.Get(source));
-    tile->Source().SetAudible(audible);
+    SetAudible(screen, window, audible);
     auto note = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
     note.source = source.ToText();
     m_pWall->SetWindowUserData(screen, window, QVariant::fromValue(note));
@@ -558,8 +560,12 @@ void CameraWall::SetPositioning(int screen, bool bEnable)
 void CameraWall::SetAudible(int screen, int window, bool bAudible)
 {
     m_pWall->SetWindowVolumeBtn(screen, window, bAudible);
-    if (CameraTile* tile = Tile(screen, window))
-        tile->Source().SetAudible(bAudible);
+    CameraTile* tile = Tile(screen, window);
+    if (!tile)
+        return;
+    const int volume = m_pWall->GetWindowUserData(screen, window).value<WindowNote>().volume;
+    tile->Source().SetVolume(m_iVolume * volume / 100);
+    tile->Source().SetAudible(bAudible && m_bSound);
 }
 
 void CameraWall::SilenceAll()
@@ -570,16 +576,72 @@ void CameraWall::SilenceAll()
     }
 }
 
-void CameraWall::OnVolume(int screen, int window)
+/// Passes on to the window that sounds what holds for the whole wall.
+void CameraWall::ApplySound()
 {
-    const bool audible = !m_pWall->GetWindowVolumeBtnStatus(screen, window);
+    for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
+        for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window) {
+            if (m_pWall->GetWindowVolumeBtnStatus(screen, window))
+                SetAudible(screen, window, true);
+        }
+    }
+}
+
+void CameraWall::SetSound(bool bOn)
+{
+    m_bSound = bOn;
+    ApplySound();
+    Q_EMIT SignalReport(bOn ? tr("The wall's sound is on") : tr("The wall's sound is off"));
+}
+
+void CameraWall::SetVolume(int volume)
+{
+    m_iVolume = volume;
+    ApplySound();
+    Q_EMIT SignalReport(tr("The wall's volume is %1 %").arg(volume));
+}
+
+WindowFacts CameraWall::Facts(int screen, int window) const
+{
+    WindowFacts facts;
+    const auto note = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
+    if (const CameraTile* tile = Tile(screen, window))
+        facts.source = tile->Source().Title();
+    facts.screen = screen;
+    facts.window = window;
+    m_pWall->GetWindowScale(screen, window, facts.rect);
+    facts.zValue = m_pWall->GetWindowZValue(screen, window);
+    facts.audible = m_pWall->GetWindowVolumeBtnStatus(screen, window);
+    facts.volume = note.volume;
+    return facts;
+}
+
+void CameraWall::SetWindowSound(int screen, int window, bool bAudible)
+{
     SilenceAll();
-    if (audible)
+    if (bAudible)
         SetAudible(screen, window, true);
     Q_EMIT SignalReport(
-        (audible ? tr("Screen %1, window %2: sound on") : tr("Screen %1, window %2: sound off"))
+        (bAudible ? tr("Screen %1, window %2: sound on") : tr("Screen %1, window %2: sound off"))
             .arg(screen + 1)
             .arg(window + 1));
+    Q_EMIT SignalSoundChanged();
+}
+
+void CameraWall::SetWindowVolume(int screen, int window, int volume)
+{
+    if (!Tile(screen, window))
+        return;
+    auto note = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
+    note.volume = volume;
+    m_pWall->SetWindowUserData(screen, window, QVariant::fromValue(note));
+    ApplySound();
+    Q_EMIT SignalReport(tr("Screen %1, window %2: volume %3 %").arg(screen + 1).arg(window + 1).arg(volume));
+}
+
+void CameraWall::OnVolume(int screen, int window)
+{
+    SetWindowSound(screen, window, !m_pWall->GetWindowVolumeBtnStatus(screen, window));
 }
 
 void CameraWall::OnScreenEvent(int screen, QEvent* event)

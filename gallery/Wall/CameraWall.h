@@ -4,6 +4,7 @@
 #include <gallery/Pictures/SourcePool.h>
 #include <gallery/Wall/WallLayout.h>
 #include <gallery/Wall/WallWidget.h>
+#include <gallery/Wall/WindowDetails.h>
 
 #include <QMetaType>
 #include <QTemporaryDir>
@@ -30,6 +31,7 @@ struct WindowNote
 {
     QString source; ///< as text
     bool titled = false;
+    int volume = 100; ///< per cent of the wall's
 };
 
 /// The wall with pictures in its windows. It answers the operator's hand: opens a window where an area was
@@ -85,8 +87,17 @@ public:
     void SetPositioning(int screen, bool bEnable); ///< for the selected screen only
     void SetCellBound(int screen, bool bBound);
 
+    WindowFacts Facts(int screen, int window) const;
+    /// Lets this window sound alone, or turns its sound off.
+    void SetWindowSound(int screen, int window, bool bAudible);
+    void SetWindowVolume(int screen, int window, int volume); ///< per cent of the wall's
+    void SetSound(bool bOn); ///< of the whole wall
+    void SetVolume(int volume); ///< of the whole wall, per cent
+
 Q_SIGNALS:
     void SignalChanged(); ///< something that a layout holds is another one now
+    void SignalSelectionChanged(); ///< other windows may be the selected ones now
+    void SignalSoundChanged(); ///< another window may sound now
     void SignalScreenSelected(); ///< another screen may be the selected one now
     void SignalMenuWanted(int screen);
     void SignalReport(const QString& text); ///< one line for the status bar
@@ -108,6 +119,7 @@ private:
     bool IsShown(const SourceSpec& source) const;
     void SetAudible(int screen, int window, bool bAudible);
     void SilenceAll();
+    void ApplySound();
     void OnVolume(int screen, int window);
     void OnScreenEvent(int screen, QEvent* event);
     void OnWindowEvent(int screen, int window, QEvent* event);
@@ -124,6 +136,8 @@ private:
     QVector<SourceSpec> m_waitingFiles;
     bool m_bTitles = true;
     bool m_bGutter = true;
+    bool m_bSound = true;
+    int m_iVolume = 50; // per cent
     QTemporaryDir m_folder; ///< of the base map
     QTimer m_resized;
 };

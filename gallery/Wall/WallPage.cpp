@@ -2,6 +2,7 @@
 
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <UI/Dialogs/KvVolumeButton.h>
 
 #include <QAction>
 #include <QApplication>
@@ -80,6 +81,7 @@ WallPage::WallPage(
     , m_files(files)
     , m_pTools(new WallToolBar(this))
     , m_pCameras(new CameraWall(pool, clock, this))
+    , m_pDetails(new DetailsPanel(m_pCameras))
 {
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(0, 0, 0, 0);
@@ -92,6 +94,8 @@ WallPage::WallPage(
 
     ConnectTools();
     ConnectScreenTools();
+    ConnectSound();
+    ConnectDetails();
     connect(m_pCameras, &CameraWall::SignalReport, this, &Page::SignalReport);
     connect(m_pCameras, &CameraWall::SignalMenuWanted, this, &WallPage::ShowMenu);
     connect(m_pCameras, &CameraWall::SignalScreenSelected, this, &WallPage::ShowScreenStates);
@@ -168,12 +172,29 @@ void WallPage::ConnectScreenTools()
        [=](bool checked) { m_pCameras->SetCellBound(wall->GetSelectedScreenIndex(), checked); });
 }
 
+void WallPage::ConnectSound()
+{
+    const UICommonMdl::KvVolumeButton* button = m_pTools->VolumeButton();
+    connect(button, &UICommonMdl::KvVolumeButton::SignalSoundOpened, m_pCameras, &CameraWall::SetSound);
+    connect(
+        button, &UICommonMdl::KvVolumeButton::SignalVolumeValueChanged, m_pCameras, &CameraWall::SetVolume);
+}
+
+void WallPage::ConnectDetails()
+{
+    QAction* action = m_pTools->Action(Command::Details);
+    action->setChecked(true);
+    connect(action, &QAction::toggled, m_pDetails, &DetailsPanel::SetWanted);
+    connect(m_pDetails, &DetailsPanel::SignalClosed, action, [action] { action->setChecked(false); });
+}
+
 void WallPage::ShowStart()
 {
     TurnWheel(*m_pCameras->Wall(), QPoint(0, 0), -6); // the whole wall, whatever the zoom
     m_pCameras->SetWaitingFiles(m_files);
     m_pCameras->Apply(m_start);
     m_pCameras->ShowWaitingFiles();
+    m_pDetails->EndSlide();
     ShowStates();
 }
 
@@ -260,7 +281,8 @@ QVector<Page::Picture> WallPage::Pictures()
         {QStringLiteral("overlays"), [this] { EnterOverlays(); }},
         {QStringLiteral("selection"), [this] { EnterSelection(); }},
         {QStringLiteral("zoomed"), [this] { EnterZoomed(); }},
-        {QStringLiteral("scene"), [this] { EnterScene(); }}};
+        {QStringLiteral("scene"), [this] { EnterScene(); }},
+        {QStringLiteral("details"), [this] { EnterDetails(); }}};
 }
 
 void WallPage::EnterOverlays()
@@ -285,6 +307,7 @@ void WallPage::EnterSelection()
     Drag(
         *m_pCameras->Wall(), QPoint(wall.width() / 50, wall.height() * 49 / 50),
         QPoint(wall.width() / 4, wall.height() * 7 / 10));
+    m_pDetails->EndSlide();
 }
 
 void WallPage::EnterZoomed()
@@ -292,6 +315,17 @@ void WallPage::EnterZoomed()
     ShowStart();
     const QSize wall = m_pCameras->Wall()->size();
     TurnWheel(*m_pCameras->Wall(), QPoint(wall.width() * 2 / 5, wall.height() * 7 / 10), 2);
+}
+
+void WallPage::EnterDetails()
+{
+    ShowStart();
+    m_pCameras->SetSelectionMode(WallWidget::SingleSelection);
+    ShowStates();
+    const QWidget* video = m_pCameras->Wall()->GetWindowWidget(0, 0);
+    const QPoint middle = video->mapTo(m_pCameras->Wall(), video->rect().center());
+    Drag(*m_pCameras->Wall(), middle, middle);
+    m_pDetails->EndSlide();
 }
 
 void WallPage::EnterScene()

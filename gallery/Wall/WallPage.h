@@ -2,6 +2,7 @@
 
 #include <gallery/Page.h>
 #include <gallery/Wall/CameraWall.h>
+#include <gallery/Wall/DetailsPanel.h>
 #include <gallery/Wall/WallLayoutFile.h>
 #include <gallery/Wall/WallToolBar.h>
 
@@ -29,6 +30,8 @@ public:
 private:
     void ConnectTools();
     void ConnectScreenTools();
+    void ConnectSound();
+    void ConnectDetails();
     void On(WallToolBar::Command command, const std::function<void(bool checked)>& act);
     void ShowStart();
     void ShowStates();
@@ -41,12 +44,14 @@ private:
     void EnterSelection();
     void EnterZoomed();
     void EnterScene();
+    void EnterDetails();
 
     const WallLayoutFile m_file;
     const WallLayout m_start;
     const QVector<SourceSpec> m_files;
     WallToolBar* m_pTools;
     CameraWall* m_pCameras;
+    DetailsPanel* m_pDetails;
     QTimer m_saveSoon;
 };
 

@@ -2,6 +2,7 @@
 
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <UI/Dialogs/KvVolumeButton.h>
 #include <gallery/SkinIcon.h>
 #include <gallery/Wall/WallLayout.h>
 
@@ -71,8 +72,10 @@ const CommandEntry Entries[] = {
         QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Draw the wall in a scene instead of building it from widgets"), "Ctrl+F", Command::SceneFamily, true, true},
     {"WholeWall", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Whole wall"),
         QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show the whole wall again after zooming into it"), "Ctrl+0", Command::WholeWall, false, false},
+    {"Details", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Details"),
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show details of the selected window beside the wall"), "Ctrl+I", Command::Details, true, true},
     {"SkinLight", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change the skin"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change between the dark and the light skin"), "Ctrl+K", Command::Skin, false, true},
+        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change between the dark and the light skin"), "Ctrl+K", Command::Skin, false, false},
 };
 // clang-format on
 
@@ -86,6 +89,7 @@ WallToolBar::WallToolBar(QWidget* parent)
     setMovable(false);
     AddGridBoxes();
     AddCommands();
+    AddVolumeButton();
     LoadIcons();
     connect(
         KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, this,
@@ -134,6 +138,14 @@ void WallToolBar::AddCommands()
     }
     for (const Command command : {Command::SelectNone, Command::SelectOne, Command::SelectMany})
         modes->addAction(Action(command));
+}
+
+void WallToolBar::AddVolumeButton()
+{
+    m_pVolume = new UICommonMdl::KvVolumeButton(this);
+    m_pVolume->SetVolumeState(true);
+    m_pVolume->setToolTip(tr("Sound of the whole wall"));
+    insertWidget(Action(Command::Skin), m_pVolume);
 }
 
 void WallToolBar::LoadIcons()

@@ -6,6 +6,10 @@
 class QLabel;
 class QSpinBox;
 
+namespace UICommonMdl {
+class KvVolumeButton;
+}
+
 namespace OperatorClient {
 
 /// The tool bar of the wall page. It knows nothing of a wall: it offers commands and shows states.
@@ -36,12 +40,14 @@ public:
         CellBound,
         SceneFamily,
         WholeWall,
+        Details,
         Skin
     };
 
     explicit WallToolBar(QWidget* parent = nullptr);
 
     QAction* Action(Command command) const { return m_actions.value(command); }
+    UICommonMdl::KvVolumeButton* VolumeButton() const { return m_pVolume; }
     void ShowGrid(int rows, int columns); ///< without a signal
 
 Q_SIGNALS:
@@ -50,6 +56,7 @@ Q_SIGNALS:
 private:
     void AddGridBoxes();
     void AddCommands();
+    void AddVolumeButton();
     QSpinBox* AddGridBox(const QString& name, const QString& tip);
     void LoadIcons();
 
@@ -57,6 +64,7 @@ private:
     QLabel* m_pGridIcon = nullptr;
     QSpinBox* m_pRows = nullptr;
     QSpinBox* m_pColumns = nullptr;
+    UICommonMdl::KvVolumeButton* m_pVolume = nullptr;
 };
 
 inline uint qHash(WallToolBar::Command command, uint seed = 0) { return ::qHash(int(command), seed); }

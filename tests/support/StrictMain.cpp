@@ -51,6 +51,9 @@ void MoveToXServer(char** argv)
         return;
     qputenv(mark, "1");
     qputenv("QT_QPA_PLATFORM", "xcb");
+    // Neither is needed, and both leak.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     std::string command[] = {"xvfb-run", "-a", "-s", "-screen 0 1280x1024x24"};
     std::vector<char*> arguments;
     for (std::string& word : command)

@@ -1,0 +1,113 @@
+#include <gallery/Pairing/PairingPage.h>
+
+#include <UI/Dialogs/CDisplayQRcodeDlg.h>
+#include <gallery/Pairing/PairingToken.h>
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QTime>
+#include <QVBoxLayout>
+
+namespace OperatorClient {
+
+namespace {
+
+constexpr int UsualPeriod = 120000; // milliseconds
+constexpr int DemonstrationPeriod = 5000; // milliseconds
+constexpr int InputWidth = 320; // pixels
+
+} // namespace
+
+PairingPage::PairingPage(QWidget* parent)
+    : Page(parent)
+    , m_pPhone(new QLineEdit(this))
+    , m_pPeriod(new QComboBox(this))
+    , m_pIssued(new QPlainTextEdit(this))
+    , m_pDialog(new UICommonMdl::CDisplayQRcodeDlg(this))
+{
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(24, 20, 24, 20);
+    all->setSpacing(12);
+    auto* title = new QLabel(tr("Pair a phone"), this);
+    title->setObjectName(QStringLiteral("pageTitle"));
+    all->addWidget(title);
+    auto* hint = new QLabel(
+        tr("The phone scans a token that is good for a short time. While the code is shown, a new "
+           "one is issued at the end of each period."),
+        this);
+    hint->setObjectName(QStringLiteral("hint"));
+    hint->setWordWrap(true);
+    all->addWidget(hint);
+    AddInputs();
+    m_pIssued->setReadOnly(true);
+    m_pIssued->setAccessibleName(tr("Issued tokens"));
+    m_pIssued->setPlaceholderText(tr("Issued tokens"));
+    all->addWidget(m_pIssued, 1);
+
+    connect(m_pDialog, &UICommonMdl::CDisplayQRcodeDlg::SignalRefreshTimeout, this, &PairingPage::Issue);
+    connect(m_pDialog, &QDialog::finished, this, &PairingPage::OnClosed);
+}
+
+void PairingPage::AddInputs()
+{
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(16);
+    form->setVerticalSpacing(10);
+    m_pPhone->setText(tr("Guard's phone"));
+    m_pPhone->setFixedWidth(InputWidth);
+    form->addRow(tr("&Phone"), m_pPhone);
+    m_pPeriod->addItem(tr("every two minutes"), UsualPeriod);
+    m_pPeriod->addItem(tr("every five seconds, as a demonstration"), DemonstrationPeriod);
+    m_pPeriod->setFixedWidth(InputWidth);
+    form->addRow(tr("&Renewal"), m_pPeriod);
+    auto* show = new QPushButton(tr("&Show the code"), this);
+    show->setObjectName(QStringLiteral("showCode"));
+    form->addRow(QString(), show);
+    // The field would stretch the button over its width.
+    form->setAlignment(show, Qt::AlignLeft);
+    static_cast<QVBoxLayout*>(layout())->addLayout(form);
+    connect(show, &QPushButton::clicked, this, &PairingPage::ShowCode);
+    connect(m_pPhone, &QLineEdit::returnPressed, this, &PairingPage::ShowCode);
+}
+
+QString PairingPage::Title() const { return tr("Phone pairing"); }
+
+QString PairingPage::Name() const { return QStringLiteral("pairing"); }
+
+void PairingPage::ShowCode()
+{
+    m_pDialog->SetRefreshInterval(m_pPeriod->currentData().toInt());
+    Issue(m_pPhone->text());
+    m_pDialog->open();
+}
+
+void PairingPage::Issue(const QString& phone)
+{
+    const QString token = MakePairingToken(*QRandomGenerator::system());
+    m_pDialog->SetQRCodeValue(token, phone);
+    const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
+    m_pIssued->appendPlainText(QStringLiteral("%1   %2   %3").arg(time, token, phone));
+    Q_EMIT SignalReport(tr("A token was issued for %1").arg(phone));
+}
+
+void PairingPage::OnClosed()
+{
+    m_pDialog->SetQRCodeValue(QString(), QString()); // nothing is renewed that nobody sees
+    Q_EMIT SignalReport(tr("No more tokens are issued"));
+}
+
+QVector<Page::Picture> PairingPage::Pictures()
+{
+    const auto show = [this] {
+        m_pDialog->SetQRCodeValue(QStringLiteral("pair-demo-2026"), m_pPhone->text());
+        m_pDialog->open();
+    };
+    return {{QString(), [] {}}, {QStringLiteral("code"), show, [this] { m_pDialog->close(); }}};
+}
+
+} // namespace OperatorClient

@@ -1,0 +1,83 @@
+#include <gallery/Wall/DetailsPanel.h>
+
+#include <gallery/Wall/CameraWall.h>
+#include <gallery/Wall/WindowDetails.h>
+
+namespace OperatorClient {
+
+namespace {
+
+constexpr int Width = 260; // pixels
+
+} // namespace
+
+DetailsPanel::DetailsPanel(CameraWall* cameras)
+    : CFloatDialog(cameras)
+    , m_pCameras(cameras)
+    , m_pDetails(new WindowDetails)
+{
+    setAccessibleName(tr("Details"));
+    SetTitle(tr("Details"));
+    InitUI();
+    SetFixWidth(Width);
+    AddCentralWidget(m_pDetails);
+    connect(cameras, &CameraWall::SignalSelectionChanged, this, &DetailsPanel::Follow);
+    connect(cameras, &CameraWall::SignalChanged, this, &DetailsPanel::Follow);
+    connect(cameras, &CameraWall::SignalSoundChanged, this, &DetailsPanel::Follow);
+    connect(m_pDetails, &WindowDetails::SignalSound, this, [this](bool on) {
+        m_pCameras->SetWindowSound(m_pCameras->Wall()->GetSelectedScreenIndex(), SelectedWindow(), on);
+    });
+    connect(m_pDetails, &WindowDetails::SignalVolume, this, [this](int volume) {
+        m_pCameras->SetWindowVolume(m_pCameras->Wall()->GetSelectedScreenIndex(), SelectedWindow(), volume);
+    });
+    connect(this, &CFloatDialog::SignalBtnCloseClicked, this, [this] {
+        SetWanted(false);
+        Q_EMIT SignalClosed();
+    });
+}
+
+void DetailsPanel::SetWanted(bool bWanted)
+{
+    m_bWanted = bWanted;
+    Follow();
+}
+
+void DetailsPanel::EndSlide()
+{
+    const bool in = IsCalledFor();
+    DirectShow(!in);
+    DirectShow(in);
+}
+
+bool DetailsPanel::IsCalledFor() const
+{
+    return m_bWanted && m_pCameras->isVisible() && !m_pCameras->Wall()->GetSelectedWindowIndexs().isEmpty();
+}
+
+void DetailsPanel::Follow()
+{
+    const bool in = IsCalledFor();
+    if (in)
+        ShowFacts();
+    if (in && !isVisible())
+        show();
+    AnimaShow(in);
+}
+
+/// The index of the one selected window; -1 when none or several are.
+int DetailsPanel::SelectedWindow() const
+{
+    const QList<int> selected = m_pCameras->Wall()->GetSelectedWindowIndexs();
+    return selected.size() == 1 ? selected.first() : -1;
+}
+
+void DetailsPanel::ShowFacts()
+{
+    const int window = SelectedWindow();
+    if (window >= 0)
+        m_pDetails->Show(m_pCameras->Facts(m_pCameras->Wall()->GetSelectedScreenIndex(), window));
+    else
+        m_pDetails->ShowCount(m_pCameras->Wall()->GetSelectedWindowIndexs().size());
+}
+
+} // namespace OperatorClient
