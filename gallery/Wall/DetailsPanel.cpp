@@ -44,9 +44,10 @@ void DetailsPanel::SetWanted(bool bWanted)
 
 void DetailsPanel::EndSlide()
 {
+    // A slide that is turned back at once takes no time.
     const bool in = IsCalledFor();
-    DirectShow(!in);
-    DirectShow(in);
+    AnimaShow(!in);
+    AnimaShow(in);
 }
 
 bool DetailsPanel::IsCalledFor() const
