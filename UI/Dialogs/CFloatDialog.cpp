@@ -29,7 +29,7 @@ CFloatDialog::CFloatDialog(QWidget* parent)
     WatchAncestors();
 
     m_pAnimation->setEasingCurve(QEasingCurve::InOutCirc);
-    connect(m_pAnimation, &QPropertyAnimation::valueChanged, this, &CFloatDialog::UpdateShape);
+    connect(m_pAnimation, &QPropertyAnimation::valueChanged, this, &CFloatDialog::ShowStep);
     connect(m_pAnimation, &QPropertyAnimation::finished, this, &CFloatDialog::SignalAnimationFinished);
     connect(m_ui->closeBtn, &QPushButton::clicked, this, &CFloatDialog::OnBtnCloseClicked);
     connect(
@@ -237,6 +237,14 @@ void CFloatDialog::UpdateShape()
     // Without a desktop there are no shapes, and a warning at each try.
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))
         setMask(CoveredByPanel(size(), m_floatWgt->geometry()));
+}
+
+/// A step of a slide. Painted at once: otherwise the strip that the shape lets in is seen before the rest has
+/// moved.
+void CFloatDialog::ShowStep()
+{
+    UpdateShape();
+    repaint();
 }
 
 /// A panel that goes out takes no keys with it.

@@ -115,6 +115,7 @@ private:
     bool IsSliding() const;
     void PlacePanel();
     void UpdateShape();
+    void ShowStep();
     void GiveFocusBack();
     void LoadStyleSheet();
 
