@@ -430,7 +430,8 @@ void KvTVWallNormalScreen::paint(QPainter* painter, const QStyleOptionGraphicsIt
     const QRect exposed = option->exposedRect.toAlignedRect() & QRect(QPoint(0, 0), m_size);
     m_backdrop.Paint(
         *painter, m_size, exposed, painter->device()->devicePixelRatioF(), Look().screenTextColor);
-    if (exposed.intersects(HeadingRect()))
+    const bool hasHeading = !m_strTitle.isEmpty() || !m_icon.isNull();
+    if (hasHeading && exposed.intersects(HeadingRect()))
         PaintHeading(*painter);
 }
 
@@ -442,10 +443,14 @@ QRect KvTVWallNormalScreen::HeadingRect() const
 void KvTVWallNormalScreen::PaintHeading(QPainter& painter)
 {
     QRect rest = HeadingRect();
+    const int icon = m_icon.isNull() ? 0 : HeadingIcon;
+    const int text = painter.fontMetrics().horizontalAdvance(m_strTitle);
+    // Keeps the lines of the cells out of the letters.
+    painter.fillRect(
+        rest.adjusted(0, 0, qMin(0, icon + text + HeadingMargin - rest.width()), 0), ScreenBackdrop::Color());
     if (!m_icon.isNull()) {
-        const QRect icon(rest.topLeft(), QSize(HeadingIcon, HeadingHeight));
-        m_icon.paint(&painter, icon & rest);
-        rest.setLeft(icon.right() + 1);
+        m_icon.paint(&painter, QRect(rest.topLeft(), QSize(icon, rest.height())) & rest);
+        rest.setLeft(rest.left() + icon);
     }
     m_heading.Draw(painter, rest, m_strTitle, Look().screenTextColor);
 }

@@ -429,8 +429,6 @@ bool KvTVWallNormalView::event(QEvent* event)
     const Handling handling(this);
     if (event->type() == QEvent::WindowBlocked)
         CancelMouse(); // a modal dialog gets the release
-    if (event->type() == QEvent::Polish)
-        UpdateLook(); // the style sheet has set it just now
     if (event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool tab = key->key() == Qt::Key_Tab && !(key->modifiers() & ~Qt::ShiftModifier);
@@ -440,7 +438,10 @@ bool KvTVWallNormalView::event(QEvent* event)
             return true;
         }
     }
-    return QGraphicsView::event(event);
+    const bool handled = QGraphicsView::event(event);
+    if (event->type() == QEvent::Polish)
+        UpdateLook(); // the style sheet has set it just now
+    return handled;
 }
 
 bool KvTVWallNormalView::viewportEvent(QEvent* event)

@@ -49,7 +49,7 @@ KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructSca
         view, WallGeometry::CellSpan(q->GetRowCount(), rect.dTop, rect.dBottom),
         WallGeometry::CellSpan(q->GetColumnCount(), rect.dLeft, rect.dRight), rect);
     view->AddScreen(screen);
-    PlaceOnWall(screen);
+    LayOut(); // a hidden wall hears of its size when it is shown
     Relay(screen, &Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
     Relay(screen, &Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
     Relay(screen, &Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
@@ -106,17 +106,12 @@ QVector<WallMiniature::Screen> KvTVWallNormalWndPrivate::Miniature() const
 
 // ---- Zoom
 
-void KvTVWallNormalWndPrivate::PlaceOnWall(KvTVWallNormalScreen* screen)
-{
-    screen->PlaceOnWall(
-        {horizontal.wall, vertical.wall},
-        {WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset)});
-}
-
 void KvTVWallNormalWndPrivate::PlaceScreens()
 {
+    const QSize wall(horizontal.wall, vertical.wall);
+    const QPoint origin(WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset));
     for (KvTVWallNormalScreen* screen : view->Screens())
-        PlaceOnWall(screen);
+        screen->PlaceOnWall(wall, origin);
     ShowOverview();
 }
 

@@ -42,7 +42,6 @@ private:
     void Relay(
         KvTVWallNormalScreen* screen, void (KvTVWallNormalScreen::*from)(Args...),
         void (KvTVWallNormalWnd::*to)(int, Args...));
-    void PlaceOnWall(KvTVWallNormalScreen* screen);
     void PlaceScreens();
     void ShowOverview();
     void PlaceOverview();

@@ -21,6 +21,8 @@ ScreenBackdrop::ScreenBackdrop(int rows, int columns)
     , m_iColumns(columns)
 { }
 
+QColor ScreenBackdrop::Color() { return {ScreenColor}; }
+
 QColor ScreenBackdrop::SelectedColor() { return {SelectedFrameColor}; }
 
 void ScreenBackdrop::SetBackground(const QColor& color, bool show)

@@ -28,6 +28,7 @@ public:
     void
     Paint(QPainter& painter, const QSize& size, const QRect& exposed, qreal density, const QColor& textColor);
 
+    static QColor Color(); ///< of the plain look
     static QColor SelectedColor(); ///< frame of a selected screen
 
 private:
