@@ -2,6 +2,7 @@
 
 #include <Platform/BasicUIComponents/NotificationStack.h>
 #include <QApplication>
+#include <QVector>
 #include <QWidget>
 
 namespace KvGUI {
@@ -59,9 +60,13 @@ void KvMessageNotify::SetDisplayTime(int iMilliseconds) { m_iDisplayTime = qMax(
 void KvMessageNotify::CloseAll()
 {
     delete m_pScreenStack;
+    // Messages are windows themselves and go while their stacks are deleted.
+    QVector<QPointer<NotificationStack>> stacks;
     const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows)
-        delete window->findChild<NotificationStack*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget* window : windows)
+        stacks.append(window->findChild<NotificationStack*>(QString(), Qt::FindDirectChildrenOnly));
+    for (const QPointer<NotificationStack>& stack : qAsConst(stacks))
+        delete stack;
 }
 
 } // namespace KvGUI

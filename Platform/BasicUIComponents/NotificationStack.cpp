@@ -34,15 +34,14 @@ NotificationStack::~NotificationStack()
 {
     const auto popups = m_popups;
     m_popups.clear();
-    for (const QPointer<NotificationPopup>& popup : popups)
-        delete popup;
+    qDeleteAll(popups);
 }
 
 NotificationPopup* NotificationStack::Find(const QString& text) const
 {
     const auto found = std::find_if(
-        m_popups.begin(), m_popups.end(), [&](const auto& popup) { return popup && popup->Text() == text; });
-    return found != m_popups.end() ? found->data() : nullptr;
+        m_popups.begin(), m_popups.end(), [&](const auto* popup) { return popup->Text() == text; });
+    return found != m_popups.end() ? *found : nullptr;
 }
 
 void NotificationStack::Add(const QString& text, int milliseconds)
@@ -51,11 +50,11 @@ void NotificationStack::Add(const QString& text, int milliseconds)
         shown->Restart(milliseconds);
         return;
     }
-    while (m_popups.size() >= kMostMessages)
+    if (m_popups.size() >= kMostMessages)
         m_popups.first()->close();
     auto* popup = new NotificationPopup(text, milliseconds, m_pWindow);
     connect(popup, &NotificationPopup::SignalClosed, this, [this, popup] { Forget(popup); });
-    connect(popup, &QObject::destroyed, this, [this] { Forget(nullptr); });
+    connect(popup, &QObject::destroyed, this, [this, popup] { Forget(popup); });
     m_popups.append(popup);
     Place();
     popup->show();
@@ -66,7 +65,6 @@ void NotificationStack::Add(const QString& text, int milliseconds)
 void NotificationStack::Forget(NotificationPopup* popup)
 {
     m_popups.removeAll(popup);
-    m_popups.removeAll(nullptr);
     Place();
 }
 
@@ -76,7 +74,7 @@ void NotificationStack::Place()
     if (screen == nullptr)
         return;
     QVector<QSize> sizes;
-    for (const QPointer<NotificationPopup>& popup : qAsConst(m_popups))
+    for (NotificationPopup* popup : qAsConst(m_popups))
         sizes.append(popup->FittedSize());
     const QRect available = screen->availableGeometry();
     const QRect window = m_pWindow != nullptr ? m_pWindow->geometry() : available;

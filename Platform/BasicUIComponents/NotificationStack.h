@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 #include <QVector>
 #include <QWidget>
 
@@ -30,7 +29,7 @@ private:
     void Place();
 
     QWidget* m_pWindow;
-    QVector<QPointer<NotificationPopup>> m_popups; ///< the uppermost, which is the oldest, first
+    QVector<NotificationPopup*> m_popups; ///< alive; the uppermost, which is the oldest, first
 };
 
 } // namespace KvGUI
