@@ -1,4 +1,5 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
+#include <gallery/Alarms/AlarmPage.h>
 #include <gallery/ClientOptions.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Pairing/PairingPage.h>
@@ -22,6 +23,7 @@ namespace {
 // Screenshots show this moment, so that two runs give the same pictures.
 const QDateTime PictureMoment(QDate(2026, 3, 14), QTime(10, 24, 36));
 
+constexpr int SampleAlarmCount = 20000;
 constexpr int PixmapCacheKilobytes = 128 * 1024;
 
 int Run(const ClientOptions& options)
@@ -52,6 +54,7 @@ int Run(const ClientOptions& options)
     window.AddPage(new RecordPage(
         pictures ? pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder(), &window));
     window.AddPage(new PairingPage(&window));
+    window.AddPage(new AlarmPage(SampleAlarms(SampleAlarmCount, clock.Now()), &window));
     if (pictures)
         return SaveScreenshots(window, pool, options.screenshotFolder) ? 0 : 1;
     window.show();

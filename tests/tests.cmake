@@ -75,6 +75,11 @@ if(TARGET OfficeProvider)
         OFFICE_READER="${CMAKE_CURRENT_SOURCE_DIR}/office/read_workbook.py")
     add_dependencies(tst_office OfficeProvider)
 endif()
+if(TARGET OfficeProvider AND TARGET OperatorClientPages)
+    uicomponents_test(tst_alarms tst_alarms.cpp excel/RecordedObject.cpp excel/RecordedObject.h)
+    target_link_libraries(tst_alarms PRIVATE OperatorClientPages)
+    add_dependencies(tst_alarms OfficeProvider)
+endif()
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")

@@ -1,0 +1,302 @@
+#include <gallery/Alarms/AlarmPage.h>
+
+#include <Platform/BasicUIComponents/KvLineEdit.h>
+#include <Platform/BasicUIComponents/KvMessageNotify.h>
+#include <Platform/BasicUIComponents/KvPushButton.h>
+#include <UI/Spreadsheet/AxExcelFunction.h>
+#include <gallery/Alarms/AlarmExport.h>
+#include <gallery/Alarms/AlarmImport.h>
+#include <gallery/Alarms/AlarmTable.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QProgressBar>
+#include <QRegularExpression>
+#include <QSortFilterProxyModel>
+#include <QStandardPaths>
+#include <QTableView>
+
+namespace OperatorClient {
+
+using UICommonMdl::AxExcelFunction;
+
+namespace {
+
+const int ColumnWidths[] = {80, 160, 150, 180, 90, 120};
+constexpr int FilterWidth = 280;
+constexpr int ProgressWidth = 320;
+
+/// The hourglass while the spreadsheet application is waited for.
+class Waiting
+{
+public:
+    Waiting() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Waiting() { QApplication::restoreOverrideCursor(); }
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+};
+
+/// The path with the suffix of the chosen filter, such as "CSV files (*.csv)", when it has none of its own.
+QString WithSuffix(const QString& path, const QString& filter)
+{
+    const auto suffix = QRegularExpression(QStringLiteral("\\*(\\.\\w+)")).match(filter);
+    return QFileInfo(path).suffix().isEmpty() ? path + suffix.captured(1) : path;
+}
+
+QString DocumentsFolder() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
+
+} // namespace
+
+AlarmPage::AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent)
+    : Page(parent)
+    , m_pAlarms(new AlarmTable(this))
+    , m_pShown(new QSortFilterProxyModel(this))
+{
+    m_pAlarms->SetAlarms(alarms);
+    m_pShown->setSourceModel(m_pAlarms);
+    m_pShown->setFilterKeyColumn(-1); // all of them
+    m_pShown->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    auto* title = new QLabel(Title(), this);
+    title->setObjectName(QStringLiteral("pageTitle"));
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(24, 20, 24, 12);
+    page->setSpacing(12);
+    page->addWidget(title);
+    page->addLayout(BuildTools());
+    page->addWidget(BuildTable(), 1);
+    page->addWidget(BuildWork());
+    EndWork();
+    ShowCount();
+}
+
+QString AlarmPage::Title() const { return tr("Alarms"); }
+
+QString AlarmPage::Name() const { return QStringLiteral("alarms"); }
+
+QHBoxLayout* AlarmPage::BuildTools()
+{
+    m_pFilter = new KvGUI::KvLineEdit(this);
+    m_pFilter->setPlaceholderText(tr("Filter the alarms"));
+    m_pFilter->setAccessibleName(tr("Filter the alarms"));
+    m_pFilter->setFixedWidth(FilterWidth);
+    m_pFilter->setClearButtonEnabled(true);
+    m_pCount = new QLabel(this);
+    m_pCount->setObjectName(QStringLiteral("hint"));
+    m_pImport = new KvGUI::KvPushButton(tr("&Import\u2026"), this);
+    m_pExport = new KvGUI::KvPushButton(tr("&Export\u2026"), this);
+    auto* tools = new QHBoxLayout;
+    tools->setSpacing(8);
+    tools->addWidget(m_pFilter);
+    tools->addSpacing(8);
+    tools->addWidget(m_pCount);
+    tools->addStretch(1);
+    tools->addWidget(m_pImport);
+    tools->addWidget(m_pExport);
+    connect(m_pFilter, &QLineEdit::textChanged, this, &AlarmPage::Filter);
+    connect(m_pImport, &QPushButton::clicked, this, &AlarmPage::AskForImport);
+    connect(m_pExport, &QPushButton::clicked, this, &AlarmPage::AskForExport);
+    return tools;
+}
+
+QTableView* AlarmPage::BuildTable()
+{
+    auto* table = new QTableView(this);
+    table->setAccessibleName(tr("Alarms"));
+    table->setModel(m_pShown);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setTabKeyNavigation(false); // Tab leaves the table
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(28);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setHighlightSections(false);
+    int column = 0;
+    for (const int width : ColumnWidths)
+        table->setColumnWidth(column++, width);
+    return table;
+}
+
+QWidget* AlarmPage::BuildWork()
+{
+    m_pWork = new QWidget(this);
+    QSizePolicy policy = m_pWork->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the table keeps its place
+    m_pWork->setSizePolicy(policy);
+    m_pWorkText = new QLabel(m_pWork);
+    m_pProgress = new QProgressBar(m_pWork);
+    m_pProgress->setAccessibleName(tr("Progress of the export"));
+    m_pProgress->setFixedWidth(ProgressWidth);
+    m_pProgress->setTextVisible(false);
+    auto* cancel = new KvGUI::KvPushButton(tr("&Cancel"), m_pWork);
+    auto* line = new QHBoxLayout(m_pWork);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(12);
+    line->addWidget(m_pProgress);
+    line->addWidget(m_pWorkText);
+    line->addStretch(1);
+    line->addWidget(cancel);
+    connect(cancel, &QPushButton::clicked, this, &AlarmPage::CancelExport);
+    return m_pWork;
+}
+
+void AlarmPage::Filter(const QString& text)
+{
+    m_pShown->setFilterFixedString(text);
+    ShowCount();
+}
+
+void AlarmPage::ShowCount()
+{
+    const QLocale locale;
+    const QString all = locale.toString(m_pAlarms->rowCount());
+    const QString shown = locale.toString(m_pShown->rowCount());
+    m_pCount->setText(
+        m_pFilter->text().isEmpty() ? tr("%1 alarms").arg(all) : tr("%1 of %2 alarms").arg(shown, all));
+}
+
+QList<QList<QString>> AlarmPage::ShownRows() const
+{
+    QList<QList<QString>> rows;
+    rows.reserve(m_pShown->rowCount());
+    for (int row = 0; row < m_pShown->rowCount(); ++row) {
+        QList<QString> cells;
+        for (int column = 0; column < m_pShown->columnCount(); ++column)
+            cells << m_pShown->index(row, column).data().toString();
+        rows << cells;
+    }
+    return rows;
+}
+
+void AlarmPage::AskForExport()
+{
+    QString filters;
+    {
+        const Waiting waiting;
+        filters = AxExcelFunction::GetExcelFileFilter(true);
+    }
+    if (filters.isEmpty())
+        return Tell(tr("No spreadsheet application was found."));
+    QString filter;
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Export the alarms"), QDir(DocumentsFolder()).filePath(tr("Alarms")), filters, &filter);
+    if (!path.isEmpty())
+        Export(WithSuffix(path, filter));
+}
+
+void AlarmPage::Export(const QString& path)
+{
+    if (m_pRunning)
+        return;
+    const QList<QList<QString>> rows = ShownRows();
+    const int all = rows.size();
+    m_pRunning = new AlarmExport(path, tr("Alarms"), AlarmRecord::Columns(), rows, this);
+    connect(m_pRunning, &AlarmExport::SignalProgress, this, [this, all](int done) {
+        ShowWork(tr("%1 of %2 alarms").arg(QLocale().toString(done), QLocale().toString(all)), done, all);
+    });
+    connect(m_pRunning, &AlarmExport::SignalSaving, this, [this, all] {
+        ShowWork(tr("Storing the file\u2026"), all, all);
+    });
+    connect(m_pRunning, &AlarmExport::SignalFinished, this, [this, path](bool saved, const QString& error) {
+        OnExported(saved, error, path);
+    });
+    ShowWork(tr("Starting\u2026"), 0, all);
+    m_pRunning->Start();
+}
+
+void AlarmPage::OnExported(bool saved, const QString& error, const QString& path)
+{
+    EndWork();
+    if (saved)
+        Q_EMIT SignalReport(tr("The alarms were exported to %1.").arg(QDir::toNativeSeparators(path)));
+    else
+        Tell(error);
+    Q_EMIT SignalDone(saved);
+}
+
+void AlarmPage::CancelExport()
+{
+    if (!m_pRunning)
+        return;
+    m_pRunning->Cancel();
+    EndWork();
+    Q_EMIT SignalReport(tr("The export was cancelled; no file was written."));
+}
+
+void AlarmPage::AskForImport()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Import alarms"), DocumentsFolder(), tr("Workbooks (*.xlsx *.xls *.csv)"));
+    if (!path.isEmpty())
+        Import(path);
+}
+
+void AlarmPage::Import(const QString& path)
+{
+    AlarmImport import;
+    {
+        const Waiting waiting;
+        import = AlarmImport::Read(path);
+    }
+    const bool well = import.error.isEmpty();
+    if (well) {
+        m_pFilter->clear();
+        m_pAlarms->SetAlarms(import.alarms);
+        ShowCount();
+        const QString alarms = QLocale().toString(import.alarms.size());
+        Q_EMIT SignalReport(
+            import.skipped == 0
+                ? tr("%1 alarms were imported.").arg(alarms)
+                : tr("%1 alarms were imported; %2 rows are none.").arg(alarms).arg(import.skipped));
+    } else {
+        Tell(import.error);
+    }
+    Q_EMIT SignalDone(well);
+}
+
+void AlarmPage::ShowWork(const QString& text, int done, int all)
+{
+    m_pWorkText->setText(text);
+    m_pProgress->setRange(0, qMax(1, all));
+    m_pProgress->setValue(done);
+    m_pWork->show();
+    m_pImport->setEnabled(false);
+    m_pExport->setEnabled(false);
+}
+
+void AlarmPage::EndWork()
+{
+    if (m_pRunning)
+        m_pRunning->deleteLater();
+    m_pRunning.clear();
+    m_pWork->hide();
+    m_pImport->setEnabled(true);
+    m_pExport->setEnabled(true);
+}
+
+void AlarmPage::Tell(const QString& text)
+{
+    KvGUI::KvMessageNotify::Instance()->AddTextNotification(text, this);
+}
+
+QVector<Page::Picture> AlarmPage::Pictures()
+{
+    return {
+        {QString(), [this] { m_pFilter->clear(); }},
+        {QStringLiteral("filtered"), [this] { m_pFilter->setText(tr("lens covered")); }},
+        {QStringLiteral("exporting"),
+         [this] {
+             m_pFilter->clear();
+             ShowWork(
+                 tr("%1 of %2 alarms").arg(QLocale().toString(12000), QLocale().toString(20000)), 12000,
+                 20000);
+         },
+         [this] { EndWork(); }}};
+}
+
+} // namespace OperatorClient

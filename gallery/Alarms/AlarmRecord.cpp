@@ -1,0 +1,116 @@
+#include <gallery/Alarms/AlarmRecord.h>
+
+#include <QCoreApplication>
+#include <random>
+
+namespace OperatorClient {
+
+namespace {
+
+const QString TimeFormat = QStringLiteral("yyyy-MM-dd hh:mm:ss");
+
+// clang-format off
+const char* const ColumnTitles[] = {
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "No."), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Time"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Camera"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Alarm"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Level"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "State"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Note"),
+};
+const char* const Places[] = {
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Car park"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Corridor"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Entrance"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Junction"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Perimeter"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Warehouse"),
+};
+const char* const Kinds[] = {
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Motion"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Line crossed"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Object left behind"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Picture lost"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Lens covered"),
+};
+const char* const Levels[] = {
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Low"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Medium"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "High"),
+};
+const char* const States[] = {
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Confirmed"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "False alarm"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Open"),
+};
+const char* const Notes[] = {
+    "", "", "", QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Guard sent"),
+    QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "Headlights, not a person"), QT_TRANSLATE_NOOP("OperatorClient::AlarmRecord", "See the record of the day before"),
+};
+// clang-format on
+
+QString Translated(const char* text)
+{
+    return QCoreApplication::translate("OperatorClient::AlarmRecord", text);
+}
+
+template <std::size_t Size>
+QString OneOf(const char* const (&texts)[Size], std::minstd_rand& random)
+{
+    const char* text = texts[random() % Size];
+    return *text ? Translated(text) : QString();
+}
+
+QDateTime TimeOf(const QVariant& cell)
+{
+    return cell.type() == QVariant::DateTime ? cell.toDateTime()
+                                             : QDateTime::fromString(cell.toString().trimmed(), TimeFormat);
+}
+
+} // namespace
+
+QStringList AlarmRecord::Columns()
+{
+    QStringList columns;
+    for (const char* title : ColumnTitles)
+        columns << Translated(title);
+    return columns;
+}
+
+QStringList AlarmRecord::Texts() const
+{
+    return {QString::number(number), time.toString(TimeFormat), camera, kind, level, state, note};
+}
+
+std::optional<AlarmRecord> AlarmRecord::FromRow(const QVariantList& row)
+{
+    AlarmRecord record;
+    bool numbered = false;
+    record.number = row.value(0).toInt(&numbered);
+    record.time = TimeOf(row.value(1));
+    if (!numbered || !record.time.isValid())
+        return std::nullopt;
+    record.camera = row.value(2).toString();
+    record.kind = row.value(3).toString();
+    record.level = row.value(4).toString();
+    record.state = row.value(5).toString();
+    record.note = row.value(6).toString();
+    return record;
+}
+
+QVector<AlarmRecord> SampleAlarms(int count, const QDateTime& now)
+{
+    constexpr int LongestPause = 180; // seconds
+    constexpr int CamerasOfPlace = 12;
+    std::minstd_rand random(1);
+    QVector<AlarmRecord> alarms;
+    alarms.reserve(count);
+    QDateTime time = now;
+    for (int i = 0; i < count; ++i) {
+        time = time.addSecs(-1 - static_cast<int>(random() % LongestPause));
+        const QString place = OneOf(Places, random);
+        AlarmRecord alarm;
+        alarm.number = 100000 + count - i;
+        alarm.time = time;
+        alarm.camera = QStringLiteral("%1 %2").arg(place).arg(1 + random() % CamerasOfPlace);
+        alarm.kind = OneOf(Kinds, random);
+        alarm.level = OneOf(Levels, random);
+        alarm.state = OneOf(States, random);
+        alarm.note = OneOf(Notes, random);
+        alarms << alarm;
+    }
+    return alarms;
+}
+
+} // namespace OperatorClient
