@@ -39,4 +39,9 @@ set(CPACK_COMPONENT_OFFICE_DESCRIPTION "Plugin that writes and reads spreadsheet
 set(CPACK_DEBIAN_OFFICE_PACKAGE_DEPENDS
     "${runtime_package} (= ${PROJECT_VERSION}), libreoffice-calc-nogui | libreoffice-calc, fonts-liberation")
 
+set(CPACK_DEBIAN_WEBENGINE_PACKAGE_NAME uicomponents-webengine)
+set(CPACK_DEBIAN_WEBENGINE_PACKAGE_SECTION libs)
+set(CPACK_COMPONENT_WEBENGINE_DESCRIPTION "Plugin that shows web pages by Qt WebEngine.")
+set(CPACK_DEBIAN_WEBENGINE_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
+
 include(CPack)

@@ -55,6 +55,18 @@ set_target_properties(ForeignProvider PROPERTIES OUTPUT_NAME 0-ForeignProvider)
 set_target_properties(ProbeProvider PROPERTIES OUTPUT_NAME 1-ProbeProvider)
 set_target_properties(OtherProvider PROPERTIES OUTPUT_NAME 2-OtherProvider)
 uicomponents_test(tst_linkweb tst_linkweb.cpp)
+set(web_engine "${PROJECT_SOURCE_DIR}/Platform/Automation/WebEngine")
+uicomponents_test(tst_webbridge tst_webbridge.cpp "${web_engine}/Allowances.cpp" "${web_engine}/PageBridge.cpp"
+    "${web_engine}/PageBridge.h")
+if(TARGET WebEngineProvider AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Network)
+    uicomponents_test(tst_webengine tst_webengine.cpp support/VirtualDisplay.cpp support/VirtualDisplay.h
+        web/RenderProcesses.cpp web/RenderProcesses.h web/WebServer.cpp web/WebServer.h)
+    target_link_libraries(tst_webengine PRIVATE Qt5::Network)
+    # Qt5::Network brings a definition that the shared precompiled headers have not.
+    set_target_properties(tst_webengine PROPERTIES DISABLE_PRECOMPILE_HEADERS ON)
+    add_dependencies(tst_webengine WebEngineProvider)
+endif()
 uicomponents_test(tst_excel tst_excel.cpp excel/RecordedObject.cpp excel/RecordedObject.h)
 if(TARGET UIComponentsDesigner)
     find_package(Qt5 5.15 REQUIRED COMPONENTS UiPlugin UiTools)
@@ -88,11 +100,16 @@ set(sanitizer_flags "")
 if(UICOMPONENTS_SANITIZE)
     set(sanitizer_flags "-fsanitize=${UICOMPONENTS_SANITIZE}")
 endif()
+set(webengine_test "")
+if(TARGET tst_webengine)
+    set(webengine_test "$<TARGET_FILE:tst_webengine>")
+endif()
 add_test(NAME installed-package
     COMMAND "${CMAKE_COMMAND}"
         "-DBUILD_DIR=${PROJECT_BINARY_DIR}" "-DSOURCE_DIR=${CMAKE_CURRENT_SOURCE_DIR}/installed"
         "-DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/installed" "-DGENERATOR=${CMAKE_GENERATOR}"
         "-DCXX=${CMAKE_CXX_COMPILER}" "-DCXX_FLAGS=${sanitizer_flags}"
+        "-DLIBDIR=${CMAKE_INSTALL_LIBDIR}" "-DWEBENGINE_TEST=${webengine_test}"
         -P "${CMAKE_CURRENT_SOURCE_DIR}/installed/check.cmake")
 set_tests_properties(installed-package PROPERTIES ENVIRONMENT "${test_environment}")
 uicomponents_test(tst_basicui tst_basicui.cpp INTERNAL)

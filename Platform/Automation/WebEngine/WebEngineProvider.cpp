@@ -1,0 +1,17 @@
+#include <Platform/Automation/WebEngine/WebEngineProvider.h>
+
+#include <Platform/Automation/WebEngine/WebControl.h>
+
+namespace WebEngine {
+
+std::unique_ptr<Automation::AutomationObject> WebEngineProvider::CreateObject(const QString&)
+{
+    return nullptr;
+}
+
+std::unique_ptr<Automation::HostedControl> WebEngineProvider::CreateControl(QWidget* parent)
+{
+    return std::make_unique<WebControl>(parent);
+}
+
+} // namespace WebEngine
