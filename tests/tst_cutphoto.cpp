@@ -377,6 +377,7 @@ void TestCutPhoto::TheMenuOffersSearchesInOrder()
         QCOMPARE(texts, expected);
         QCOMPARE(menu->objectName(), QStringLiteral("mainMenu"));
         QVERIFY(menu->width() >= 220);
+        QCOMPARE(menu->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, menu), 20);
         QCOMPARE(
             menu->styleSheet(),
             QStringLiteral("QMenu::item:hover{background-color:#29465a;color:#bbbbbb}"

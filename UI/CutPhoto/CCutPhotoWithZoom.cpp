@@ -214,6 +214,7 @@ bool CCutPhotoWithZoomPrivate::PopupMenu()
     menu = new KvGUI::KvMenu(q);
     menu->setObjectName(QStringLiteral("mainMenu"));
     menu->setMinimumWidth(MenuWidth);
+    menu->setStyle(new SearchMenuIcons(menu));
     menu->setStyleSheet(SearchMenuStyle(QLatin1String(Application)));
     AddAction(
         CCutPhotoWithZoom::tr("Vehicle Images Search"), SkinFile("Vehicle-n.png"),

@@ -38,9 +38,9 @@ bool Exceeds(const QSize& size, const QSize& maximum)
     return size.height() > maximum.height() || size.width() > maximum.width();
 }
 
-bool CanBeMade(const QRect& source)
+bool CanBeMade(const QSize& size)
 {
-    return source.isEmpty() || qint64(source.width()) * source.height() <= MaximumPixels;
+    return size.isEmpty() || qint64(size.width()) * size.height() <= MaximumPixels;
 }
 
 } // namespace
@@ -52,7 +52,8 @@ QImage ReadPicture(const QString& path)
     QImageReader reader(path, QByteArray());
     reader.setDecideFormatFromContent(true);
     QImage image;
-    if (!reader.canRead() || !reader.read(&image))
+    // A damaged header can promise more pixels than there is memory.
+    if (!reader.canRead() || !CanBeMade(reader.size()) || !reader.read(&image))
         return QImage();
     return image;
 }
@@ -91,7 +92,7 @@ QImage GetCutImage(const CutImageInfo& info, const QRect& crop, const QRect& pho
     const QRect source = SourceRect(crop, photo, display, info.image.size());
     if (source == info.image.rect())
         return info.image;
-    return CanBeMade(source) ? info.image.copy(source) : QImage();
+    return CanBeMade(source.size()) ? info.image.copy(source) : QImage();
 }
 
 QImage ChanageImageByAspectRatio(const QImage& image, const QSize& maximum)
@@ -116,7 +117,7 @@ CheckedCut CheckCut(
 {
     if (Width(crop) == 0 || Height(crop) == 0)
         return {};
-    if (info.bHasImage && !CanBeMade(SourceRect(crop, photo, display, info.image.size())))
+    if (info.bHasImage && !CanBeMade(SourceRect(crop, photo, display, info.image.size()).size()))
         return {};
 
     QImage image = GetCutImage(info, crop, photo, display);

@@ -16,7 +16,7 @@ namespace UICommonMdl::CropPicture {
 
 /// The picture in the file @p path, its format told by the content, with its pixels in the order in which
 /// the file stores them (a camera's note about its orientation is not applied). Null when there is no such
-/// file or it cannot be read as a whole.
+/// file, it cannot be read as a whole, or it has more than 268 million pixels.
 QImage ReadPicture(const QString& path);
 
 /// Where a picture shown with @p display pixels stands in a widget of @p widget pixels: in its middle, or at

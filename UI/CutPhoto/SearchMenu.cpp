@@ -16,6 +16,8 @@ constexpr ItemColors ChosenItem[] = {
     {"Corvale", "#29465a", "#bbbbbb"}, {"Mendal", "#29465a", "#bbbbbb"},
 };
 
+constexpr int IconSize = 20;
+
 } // namespace
 
 QString SearchMenuStyle(const QString& application)
@@ -26,6 +28,13 @@ QString SearchMenuStyle(const QString& application)
         if (application == QLatin1String(colors.application))
             return sheet.arg(QLatin1String(colors.background), QLatin1String(colors.text));
     return QString();
+}
+
+SearchMenuIcons::SearchMenuIcons(QObject* parent) { setParent(parent); }
+
+int SearchMenuIcons::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    return metric == PM_SmallIconSize ? IconSize : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 } // namespace UICommonMdl
