@@ -80,7 +80,7 @@ int PlainFit(const QImage& image, int maximum)
 bool PrintFit(const char* name, const QImage& image, int quality)
 {
     const int maximum = Bytes(image, quality);
-    // The wall is not shown: a canvas of one pixel frames the whole picture all the same.
+    // Never shown: a canvas of one pixel frames the whole picture all the same.
     CCutDetailPhoto canvas;
     canvas.resize(1, 1);
     canvas.SetImageMaxCapacity(maximum);

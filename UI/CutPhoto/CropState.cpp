@@ -34,7 +34,7 @@ QString Message(CropPicture::Verdict verdict, const QSize& maximum)
 QImage CropState::ReadSource(const QString& path)
 {
     cutInfo.Clear();
-    const QImage image = CropPicture::ReadPicture(path);
+    QImage image = CropPicture::ReadPicture(path);
     if (!image.isNull())
         cutInfo.strFilePath = path;
     return image;

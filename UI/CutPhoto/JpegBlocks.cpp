@@ -36,7 +36,7 @@ struct JpegBlocks::Quantiser
     /// The magnitude divided and rounded to the nearest; exact for all that fits into 16 bits.
     unsigned Quantised(int magnitude, size_t place) const
     {
-        const auto dividend = static_cast<quint64>(magnitude + thresholds[place]);
+        const auto dividend = static_cast<quint64>(magnitude) + static_cast<quint64>(thresholds[place]);
         return static_cast<unsigned>((dividend * reciprocals[place]) >> 32);
     }
 
@@ -102,7 +102,7 @@ void JpegBlocks::AddColoredGroup(int left, int blockColumns, int blockRows)
 void JpegBlocks::Add(const JpegPlane& plane, int column, int row, int component)
 {
     const JpegCoding& coding = component == 0 ? m_tables->luminance : m_tables->chrominance;
-    const JpegCoefficients transformed = JpegTransform(plane.Row(row * Side) + column * Side, plane.Stride());
+    const JpegCoefficients transformed = JpegTransform(plane.At(column * Side, row * Side), plane.Stride());
     const auto first = static_cast<quint32>(m_coefficients.size());
     std::array<Coefficient, JpegBlockSize> kept;
     size_t count = 0;
@@ -158,7 +158,7 @@ qint64 JpegBlocks::Bytes(const JpegTables& tables, qint64 enough)
         previous[block.component] = dc;
         bits += quantiser.coding.dcBits[static_cast<size_t>(BitLength(difference))];
         bits += AcBits(block, quantiser);
-        bits += block.repeats * (quantiser.coding.dcBits[0] + quantiser.coding.acBits[0]);
+        bits += block.repeats * qint64(quantiser.coding.dcBits[0] + quantiser.coding.acBits[0]);
     }
     return (bits + 7) / 8;
 }

@@ -12,7 +12,7 @@ constexpr int SampleSide = 64;
 constexpr int EndBytes = 2; // after the picture's bits
 
 /// Smaller pictures are encoded as quickly; larger ones would take too much memory.
-constexpr qint64 FewestPixels = 4 * SampleSide * SampleSide;
+constexpr qint64 FewestPixels = qint64(4) * SampleSide * SampleSide;
 constexpr qint64 MostPixels = qint64(1) << 26;
 
 bool IsWorthwhile(const QSize& size)

@@ -33,8 +33,8 @@ void FillRow(JpegPlane& plane, int y, int width)
 /// Means of 2 x 2 samples; halves are rounded down and up in turns.
 void HalveRows(const quint8* upper, const quint8* lower, int width, quint8* half)
 {
-    for (int x = 0; x < width; ++x) {
-        const int sum = upper[2 * x] + upper[2 * x + 1] + lower[2 * x] + lower[2 * x + 1];
+    for (int x = 0; x < width; ++x, upper += 2, lower += 2) {
+        const int sum = upper[0] + upper[1] + lower[0] + lower[1];
         half[x] = static_cast<quint8>((sum + 1 + x % 2) >> 2);
     }
 }

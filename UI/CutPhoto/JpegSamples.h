@@ -12,7 +12,10 @@ class JpegPlane
 public:
     JpegPlane(int columns, int rows);
     quint8* Row(int y) { return m_samples.data() + static_cast<ptrdiff_t>(y) * m_stride; }
-    const quint8* Row(int y) const { return m_samples.data() + static_cast<ptrdiff_t>(y) * m_stride; }
+    const quint8* At(int x, int y) const
+    {
+        return m_samples.data() + static_cast<ptrdiff_t>(y) * m_stride + x;
+    }
     int Stride() const { return m_stride; }
 
 private:
