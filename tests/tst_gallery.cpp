@@ -154,8 +154,6 @@ private Q_SLOTS:
     void StackingOrder();
     void DroppedWindowStaysInside_data();
     void DroppedWindowStaysInside();
-    void FrameRate_data();
-    void FrameRate();
 
     void WallComesBack();
     void DrawnAreaOpensWindow();
@@ -163,7 +161,6 @@ private Q_SLOTS:
     void OneWindowSounds();
     void RaiseAndLower();
     void DropOnScreenAndWindow();
-    void DropOfSomethingElse();
     void FilesTakeFirstWindows();
     void GridAndScreens();
     void SwitchesFollowSelectedScreen();
@@ -402,22 +399,6 @@ void tst_gallery::DroppedWindowStaysInside()
     QVERIFY(IsInside(PlaceAround(centre)));
 }
 
-void tst_gallery::FrameRate_data()
-{
-    QTest::addColumn<int>("tiles");
-    QTest::addColumn<int>("interval");
-    QTest::newRow("twenty") << 20 << 40;
-    QTest::newRow("a huge wall") << 900 << 1000;
-    QTest::newRow("more than a number") << std::numeric_limits<int>::max() << 1000;
-}
-
-// Catches a clock that runs faster than 25 frames a second, or as fast with many tiles as with few.
-void tst_gallery::FrameRate()
-{
-    QFETCH(int, tiles);
-    QTEST(FrameClock::IntervalFor(tiles), "interval");
-}
-
 // Catches what a restart forgets: places, stacking, sources, switches.
 void tst_gallery::WallComesBack()
 {
@@ -511,7 +492,8 @@ void tst_gallery::RaiseAndLower()
     QCOMPARE(client.Wall()->GetWindowCount(2), 2);
 }
 
-// Catches a drop that opens a window over a window instead of replacing its picture, or somewhere else.
+// Catches a drop that opens a window over a window instead of replacing its picture, or somewhere else, or
+// that is taken although it holds nothing that can be shown.
 void tst_gallery::DropOnScreenAndWindow()
 {
     Client client(m_strLayout);
@@ -531,18 +513,12 @@ void tst_gallery::DropOnScreenAndWindow()
     const QPoint middle = client.OnScreen(1, 0.5, 0.5);
     const QImage shown = client.Wall()->grab().toImage();
     QCOMPARE(shown.pixelColor(middle), PhotoColor);
-}
 
-// Catches a drag that is taken although it holds nothing that can be shown.
-void tst_gallery::DropOfSomethingElse()
-{
-    Client client(m_strLayout);
     const QString text = m_folder.filePath(QStringLiteral("notes.txt"));
     WriteRaw(text, "no picture");
-    QMimeData data;
     data.setUrls({QUrl(QStringLiteral("https://example.org/a.png")), QUrl::fromLocalFile(text)});
-    QVERIFY(!client.Drop(client.OnScreen(3, 0.5, 0.5), data));
-    QVERIFY(!client.Drop(client.OnScreen(1, 0.5, 0.5), data));
+    QVERIFY(!client.mouse.DragEnter(client.OnScreen(3, 0.5, 0.5), data));
+    QVERIFY(!client.mouse.DragEnter(middle, data));
 }
 
 // Catches files of the command line that are lost when there are more of them than windows.

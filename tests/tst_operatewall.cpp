@@ -1,6 +1,7 @@
 // What the operate wall adds to the walls that it holds: modes, defaults, zoom and overview.
 
 #include "support/StrictMain.h"
+#include "support/WallDefaults.h"
 #include "support/WallMouse.h"
 
 #include <Platform/BasicUIComponents/KvSkin.h>
@@ -21,7 +22,6 @@ using Wall = UICommonMdl::KvTVWallOperateWnd;
 namespace {
 
 constexpr StructScaleRect Whole{0.0, 0.0, 1.0, 1.0, true};
-constexpr StructScaleRect LeftUpper{0.1, 0.1, 0.4, 0.5, true};
 constexpr int NoMode = 7;
 
 /// The child of a class that the library keeps to itself; null when there is none.
@@ -111,8 +111,6 @@ void tst_OperateWall::withoutAWall()
         wall.OpenWindow(0, Whole, 1);
     }
     wall.show();
-    StructScaleRect rect = LeftUpper;
-    std::vector<KvGUI::StructOSDInfo> infos(1);
     wall.SetTVWallGridCount(3, 3);
     wall.SetWindowTitleShow(true);
     wall.SetDeviceType(true);
@@ -120,13 +118,10 @@ void tst_OperateWall::withoutAWall()
     wall.SetWindowSelectionMode(Wall::MultiSelection);
     wall.RecoverEagleEye();
     wall.SetAudioBtnVisible(false);
-    wall.SetScreenUserData(0, 1);
-    wall.SetScreenFreeMode(0, false);
-    wall.SetSelectedScreenIndex(0);
-    wall.DeleteAllWindows(0);
     wall.DeleteAllWindows();
-    wall.SetSelectedWindowIndexs(0, 0, true);
-    wall.SetWindowUserData(0, 0, 2);
+    TestSupport::CompareScreenDefaults(wall, 0);
+    TestSupport::CompareWindowDefaults(wall, 0, 0);
+    QCOMPARE(wall.GetMaxWindowZValue(0), 0);
     QCOMPARE(wall.GetRowCount(), 0);
     QCOMPARE(wall.GetColumnCount(), 0);
     QCOMPARE(wall.GetWindowScalePrecision(), modes.isEmpty() ? 0.002 : 0.0);
@@ -136,35 +131,6 @@ void tst_OperateWall::withoutAWall()
     QCOMPARE(wall.AddScreen(Whole, QIcon(), QString(), QVariant()), -1);
     QVERIFY(!wall.DeleteAllScreen());
     QCOMPARE(wall.GetScreenCount(), 0);
-    QVERIFY(!wall.GetScreenScale(0, rect));
-    QVERIFY(!wall.SetScreenTitle(0, QString()));
-    QVERIFY(!wall.SetScreenContentText(0, QString()));
-    QVERIFY(!wall.GetScreenUserData(0).isValid());
-    QVERIFY(!wall.SetScreenOSDInfo(0, infos));
-    QVERIFY(!wall.SetScreenWindowColor(0, Qt::red, true));
-    QVERIFY(!wall.SetScreenBaseMap(0, "x", true));
-    QVERIFY(wall.IsScreenFreeMode(0));
-    QCOMPARE(wall.GetSelectedScreenIndex(), -1);
-    QCOMPARE(wall.OpenWindow(0, Whole, QVariant()), -1);
-    QVERIFY(!wall.DeleteWindow(0, 0));
-    QCOMPARE(wall.GetWindowCount(0), 0);
-    QVERIFY(wall.GetAllWindowIndexs(0).isEmpty());
-    QVERIFY(wall.GetSelectedWindowIndexs().isEmpty());
-    QVERIFY(wall.GetUnSelectedWindowIndexs().isEmpty());
-    QVERIFY(!wall.SetWindowScale(0, 0, Whole));
-    QVERIFY(!wall.GetWindowScale(0, 0, rect));
-    QCOMPARE(rect.dLeft, LeftUpper.dLeft);
-    QVERIFY(!wall.SetWindowZValue(0, 0, 1, true));
-    QCOMPARE(wall.GetWindowZValue(0, 0), -1);
-    QCOMPARE(wall.GetMaxWindowZValue(0), 0);
-    QVERIFY(!wall.GetWindowUserData(0, 0).isValid());
-    QVERIFY(!wall.SetWindowContentText(0, 0, QString()));
-    QVERIFY(!wall.SetWindowVolumeBtn(0, 0, true));
-    QVERIFY(!wall.GetWindowVolumeBtnStatus(0, 0));
-    QCOMPARE(wall.GetWindowWidget(0, 0), nullptr);
-    QVERIFY(!wall.DeleteWindowWidget(0, 0));
-    QVERIFY(!wall.SetWindowVideoWidgetText(0, 0, QString()));
-    QVERIFY(!wall.SetWindowUpdateEnable(0, 0, false));
     wall.resize(400, 300); // reaches no wall either
     if (!modes.isEmpty()) {
         wall.SetShowMode(modes.first()); // the same wall, untouched, and laid out

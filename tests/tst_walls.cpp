@@ -2,6 +2,7 @@
 // test runs once for each family; where the families differ, the difference stands in the test.
 
 #include "support/StrictMain.h"
+#include "support/WallDefaults.h"
 #include "support/WallMouse.h"
 
 #include <Platform/BasicUIComponents/KvSkin.h>
@@ -217,45 +218,13 @@ void tst_Walls::wrongIndicesGiveTheirDefaults()
     QFETCH(int, window);
     const Fixture f;
     f.wall->OpenWindow(0, LeftUpper, 1);
-    QVERIFY(!f.wall->DeleteWindow(screen, window));
-    StructScaleRect rect = Whole;
-    QVERIFY(!f.wall->SetWindowScale(screen, window, RightUpper));
-    QVERIFY(!f.wall->GetWindowScale(screen, window, rect));
-    CompareRects(rect, Whole);
-    QVERIFY(!f.wall->SetWindowZValue(screen, window, 1, true));
-    QCOMPARE(f.wall->GetWindowZValue(screen, window), -1);
-    QVERIFY(!f.wall->GetWindowUserData(screen, window).isValid());
-    QVERIFY(!f.wall->SetWindowContentText(screen, window, QStringLiteral("x")));
-    QVERIFY(!f.wall->SetWindowVolumeBtn(screen, window, true));
-    QVERIFY(!f.wall->GetWindowVolumeBtnStatus(screen, window));
-    QCOMPARE(f.wall->GetWindowWidget(screen, window), nullptr);
-    QVERIFY(!f.wall->DeleteWindowWidget(screen, window));
-    QVERIFY(!f.wall->SetWindowVideoWidgetText(screen, window, QStringLiteral("x")));
-    QVERIFY(!f.wall->SetWindowUpdateEnable(screen, window, false));
-    f.wall->SetWindowUserData(screen, window, 5);
-    f.wall->SetSelectedWindowIndexs(screen, window, true);
+    TestSupport::CompareWindowDefaults(*f.wall, screen, window);
     QCOMPARE(f.wall->GetWindowCount(0), 1);
     QCOMPARE(f.wall->GetWindowUserData(0, 0), QVariant(1));
     if (screen == 0)
         return;
-    std::vector<KvGUI::StructOSDInfo> infos(1);
-    QCOMPARE(f.wall->OpenWindow(screen, Whole, QVariant()), -1);
-    QCOMPARE(f.wall->GetWindowCount(screen), 0);
+    TestSupport::CompareScreenDefaults(*f.wall, screen);
     QCOMPARE(f.wall->GetMaxWindowZValue(screen), 1);
-    QVERIFY(f.wall->GetAllWindowIndexs(screen).isEmpty());
-    QVERIFY(!f.wall->GetScreenScale(screen, rect));
-    QVERIFY(!f.wall->SetScreenTitle(screen, QString()));
-    QVERIFY(!f.wall->SetScreenContentText(screen, QString()));
-    QVERIFY(!f.wall->SetScreenOSDInfo(screen, infos));
-    QVERIFY(!f.wall->SetScreenWindowColor(screen, Qt::red, true));
-    QVERIFY(!f.wall->SetScreenBaseMap(screen, "x", true));
-    QVERIFY(!f.wall->GetScreenUserData(screen).isValid());
-    f.wall->DeleteAllWindows(screen);
-    f.wall->SetScreenFreeMode(screen, false);
-    QVERIFY(f.wall->IsScreenFreeMode(screen));
-    f.wall->SetSelectedScreenIndex(screen);
-    f.wall->SetPtzFrameSelectedEnable(true);
-    QCOMPARE(f.wall->GetSelectedScreenIndex(), -1);
 }
 
 void tst_Walls::screensNeedAGrid()

@@ -23,6 +23,7 @@
 #include <QTest>
 #include <QtTest/qtestspontaneevent.h>
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -39,7 +40,7 @@ bool IsInPlace(const QRect& window, const QSize& screen, const StructScaleRect& 
 {
     const auto inOrder = [](double low, double high) { return -4.0 <= low && low <= high && high <= 4.0; };
     const auto pixel = [](int length, double part) {
-        return qBound(-QWIDGETSIZE_MAX, int(length * part + 0.5), QWIDGETSIZE_MAX);
+        return qBound(-QWIDGETSIZE_MAX, int(std::trunc(length * part + 0.5)), QWIDGETSIZE_MAX);
     };
     if (!inOrder(r.dLeft, r.dRight) || !inOrder(r.dTop, r.dBottom))
         return true;

@@ -104,21 +104,20 @@ void KvTVWallOperateWndPrivate::LayOut()
     } else if (Display() != nullptr) {
         horizontal = WallZoom::Resized(horizontal, float(q->width()));
         vertical = WallZoom::Resized(vertical, float(q->height()));
-        PlaceDisplayWall();
         PlaceEagleEye();
+        PlaceDisplayWall();
     }
 }
 
+// The wall comes last: with it the client's widgets in its windows are resized, and may do anything.
 void KvTVWallOperateWndPrivate::PlaceDisplayWall()
 {
-    if (displayWall)
-        displayWall->setGeometry(
-            WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset), horizontal.wall,
-            vertical.wall);
     if (eagleEye)
         eagleEye->SetArea(
             WallZoom::ViewStart(horizontal), WallZoom::ViewStart(vertical), WallZoom::ViewExtent(horizontal),
             WallZoom::ViewExtent(vertical));
+    displayWall->setGeometry(
+        WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset), horizontal.wall, vertical.wall);
 }
 
 void KvTVWallOperateWndPrivate::PlaceEagleEye()
