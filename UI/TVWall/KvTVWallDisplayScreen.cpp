@@ -127,7 +127,7 @@ void KvTVWallDisplayScreen::PlaceWindows()
 void KvTVWallDisplayScreen::SetSelected(bool selected)
 {
     if (!selected)
-        DeselectWindows();
+        m_gestures.DeselectWindows();
     if (m_bSelected == selected)
         return;
     m_bSelected = selected;
@@ -268,31 +268,11 @@ void KvTVWallDisplayScreen::DeleteAllWindows()
         DeleteWindow(index);
 }
 
-QList<int> KvTVWallDisplayScreen::GetWindowIndexs(bool selected) const
-{
-    QList<int> indexes;
-    for (int index = 0; index < m_windows.size(); ++index) {
-        if (m_windows.at(index)->IsSelected() == selected)
-            indexes << index;
-    }
-    return indexes;
-}
-
 void KvTVWallDisplayScreen::SelectOnly(int index, bool selected)
 {
-    const KvTVWallDisplayWindow* chosen = GetWindow(index);
-    if (chosen == nullptr)
-        return;
-    for (KvTVWallDisplayWindow* window : qAsConst(m_windows))
-        window->SetSelected(selected && window == chosen);
-    if (selected)
+    m_gestures.SelectOnly(index, selected);
+    if (selected && GetWindow(index) != nullptr)
         viewport()->update();
-}
-
-void KvTVWallDisplayScreen::DeselectWindows()
-{
-    for (KvTVWallDisplayWindow* window : qAsConst(m_windows))
-        window->SetSelected(false);
 }
 
 bool KvTVWallDisplayScreen::SetWindowZValue(int index, int z, bool reorder)
@@ -384,43 +364,13 @@ bool KvTVWallDisplayScreen::WatchWindow(KvTVWallDisplayWindow* window, QEvent* e
     const QPointer<KvTVWallDisplayWindow> windowAlive(window);
     static_cast<QObject*>(window)->event(event);
     if (windowAlive)
-        ActOnWindowEvent(window, event);
+        m_gestures.HandleWindowEvent(window, event);
     const int index = windowAlive ? IndexOf(window) : NoWindow;
     if (index != NoWindow)
         Q_EMIT SignalWindowEvent(index, event);
     if (!windowAlive)
         event->accept(); // or it would go on to the parent of a widget that is gone
     return true;
-}
-
-void KvTVWallDisplayScreen::ActOnWindowEvent(KvTVWallDisplayWindow* window, QEvent* event)
-{
-    // By the desktop: the window itself may just have moved.
-    const auto* mouse = WallEvents::IsMouse(event->type()) ? static_cast<QMouseEvent*>(event) : nullptr;
-    const auto pos = [this, mouse] { return viewport()->mapFromGlobal(mouse->globalPos()); };
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        m_gestures.PressWindow(window, pos(), mouse->button());
-        break;
-    case QEvent::MouseMove:
-        m_gestures.MoveOnWindow(pos(), mouse->buttons());
-        break;
-    case QEvent::MouseButtonRelease:
-        m_gestures.ReleaseWindow(window, pos(), mouse->button());
-        break;
-    case QEvent::MouseButtonDblClick:
-        m_gestures.DoubleClickWindow();
-        break;
-    case QEvent::KeyPress: {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        const bool clicks = key->key() == Qt::Key_Space && !key->isAutoRepeat();
-        if (clicks && m_gestures.ClickByKey(window))
-            event->accept();
-        break;
-    }
-    default:
-        break;
-    }
 }
 
 int KvTVWallDisplayScreen::SelectionMode() const

@@ -69,9 +69,9 @@ public:
     int OpenWindow(const KvGUI::StructScaleRect& scale, const QVariant& userData, bool showTitle);
     bool DeleteWindow(int index);
     void DeleteAllWindows();
-    QList<int> GetWindowIndexs(bool selected) const; ///< positions whose selected flag is so
+    QList<int> GetWindowIndexs(bool selected) const { return m_gestures.WindowIndexes(selected); }
     void SelectOnly(int index, bool selected);
-    void DeselectWindows() override;
+    void DeselectWindows() { m_gestures.DeselectWindows(); }
     bool SetWindowZValue(int index, int z, bool reorder);
     int GetMaxWindowZValue() const;
     /// @}
@@ -125,7 +125,6 @@ private:
     class Handling;
 
     bool WatchWindow(KvTVWallDisplayWindow* window, QEvent* event);
-    void ActOnWindowEvent(KvTVWallDisplayWindow* window, QEvent* event);
 
     int SelectionMode() const override;
     QSize Size() const override { return size(); }
@@ -135,7 +134,7 @@ private:
     bool IsWindowSelected(int window) const override;
     void SetWindowSelected(int window, bool selected) override;
     void SelectByPress() override;
-    QWidget* Canvas() override { return viewport(); }
+    QWidget* Canvas() const override { return viewport(); }
     QPoint OriginOnCanvas() const override { return {}; }
     QColor BandColor() const override;
     void ReportSelectionChanged() override { Q_EMIT SignalWindowSelectedChanged(); }

@@ -97,7 +97,7 @@ void KvTVWallNormalScreen::PlaceOnWall(const QSize& wall, const QPoint& origin)
 void KvTVWallNormalScreen::SetSelected(bool selected)
 {
     if (!selected)
-        DeselectWindows();
+        m_gestures.DeselectWindows();
     if (m_bSelected == selected)
         return;
     m_bSelected = selected;
@@ -140,7 +140,7 @@ void KvTVWallNormalScreen::SetIcon(const QIcon& icon)
 void KvTVWallNormalScreen::SetTitle(const QString& title)
 {
     m_strTitle = title;
-    setToolTip(title.toHtmlEscaped());
+    setToolTip(Qt::mightBeRichText(title) ? title.toHtmlEscaped() : title);
     update(HeadingRect());
 }
 
@@ -267,29 +267,11 @@ void KvTVWallNormalScreen::DeleteAllWindows()
         DeleteWindow(index);
 }
 
-QList<int> KvTVWallNormalScreen::GetWindowIndexs(bool selected) const
-{
-    QList<int> indexes;
-    for (int index = 0; index < m_windows.size(); ++index) {
-        if (m_windows.at(index)->IsSelected() == selected)
-            indexes << index;
-    }
-    return indexes;
-}
-
 void KvTVWallNormalScreen::SelectOnly(int index, bool selected)
 {
-    const KvTVWallNormalWindow* chosen = GetWindow(index);
-    if (chosen == nullptr)
-        return;
-    for (KvTVWallNormalWindow* window : qAsConst(m_windows))
-        window->SetSelected(selected && window == chosen);
-}
-
-void KvTVWallNormalScreen::DeselectWindows()
-{
-    for (KvTVWallNormalWindow* window : qAsConst(m_windows))
-        window->SetSelected(false);
+    m_gestures.SelectOnly(index, selected);
+    if (selected && GetWindow(index) != nullptr)
+        update();
 }
 
 bool KvTVWallNormalScreen::SetWindowZValue(int index, double z)
@@ -331,46 +313,15 @@ void KvTVWallNormalScreen::HandleWindowEvent(KvTVWallNormalWindow* window, QEven
         return; // removed, but the mouse is still held
     window->HandleEvent(event);
     if (IndexOf(window) != NoWindow)
-        ActOnWindowEvent(window, event);
+        m_gestures.HandleWindowEvent(window, event);
     const int index = IndexOf(window);
     if (index != NoWindow)
         Q_EMIT SignalWindowEvent(index, event);
 }
 
-void KvTVWallNormalScreen::ActOnWindowEvent(KvTVWallNormalWindow* window, QEvent* event)
-{
-    // By the view: the window itself may just have moved.
-    const auto* mouse = WallEvents::IsMouse(event->type()) ? static_cast<QMouseEvent*>(event) : nullptr;
-    const auto inScreen
-        = [this, mouse] { return m_pView->viewport()->mapFromGlobal(mouse->globalPos()) - pos().toPoint(); };
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        m_gestures.PressWindow(window, inScreen(), mouse->button());
-        break;
-    case QEvent::MouseMove:
-        m_gestures.MoveOnWindow(inScreen(), mouse->buttons());
-        break;
-    case QEvent::MouseButtonRelease:
-        m_gestures.ReleaseWindow(window, inScreen(), mouse->button());
-        break;
-    case QEvent::MouseButtonDblClick:
-        m_gestures.DoubleClickWindow();
-        break;
-    case QEvent::KeyPress: {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        const bool clicks = key->key() == Qt::Key_Space && !key->isAutoRepeat();
-        if (clicks && m_gestures.ClickByKey(window))
-            event->accept();
-        break;
-    }
-    default:
-        break;
-    }
-}
-
 int KvTVWallNormalScreen::SelectionMode() const { return m_pView->SelectionMode(); }
 
-QWidget* KvTVWallNormalScreen::Canvas() { return m_pView->viewport(); }
+QWidget* KvTVWallNormalScreen::Canvas() const { return m_pView->viewport(); }
 
 QColor KvTVWallNormalScreen::BandColor() const { return Look().bandColor; }
 

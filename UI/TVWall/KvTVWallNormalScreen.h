@@ -76,9 +76,9 @@ public:
     int OpenWindow(const KvGUI::StructScaleRect& scale, const QVariant& userData, bool showTitle);
     bool DeleteWindow(int index);
     void DeleteAllWindows();
-    QList<int> GetWindowIndexs(bool selected) const; ///< positions whose selected flag is so
+    QList<int> GetWindowIndexs(bool selected) const { return m_gestures.WindowIndexes(selected); }
     void SelectOnly(int index, bool selected);
-    void DeselectWindows() override;
+    void DeselectWindows() { m_gestures.DeselectWindows(); }
     bool SetWindowZValue(int index, double z);
     double GetMaxWindowZValue() const;
     void AddFocusStops(QVector<QGraphicsItem*>& stops) const; ///< in the order of the Tab key
@@ -113,7 +113,6 @@ Q_SIGNALS:
 
 private:
     void Connect(KvTVWallNormalWindow* window, bool editable);
-    void ActOnWindowEvent(KvTVWallNormalWindow* window, QEvent* event);
     void PlaceCover();
     QRect HeadingRect() const;
     void PaintHeading(QPainter& painter);
@@ -125,7 +124,7 @@ private:
     bool IsWindowSelected(int window) const override;
     void SetWindowSelected(int window, bool selected) override;
     void SelectByPress() override;
-    QWidget* Canvas() override;
+    QWidget* Canvas() const override;
     QPoint OriginOnCanvas() const override { return pos().toPoint(); }
     QColor BandColor() const override;
     void ReportSelectionChanged() override { Q_EMIT SignalWindowSelectedChanged(); }

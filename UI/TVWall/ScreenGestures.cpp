@@ -4,6 +4,9 @@
 #include "WallGeometry.h"
 #include "WallSelection.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
+
 namespace UICommonMdl {
 
 ScreenGestures::ScreenGestures(Screen& screen, QObject* object)
@@ -19,6 +22,46 @@ ScreenGestures::~ScreenGestures()
 }
 
 // ---- The mouse on a window
+
+void ScreenGestures::HandleWindowEvent(QObject* window, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress: {
+        const auto& press = *static_cast<QMouseEvent*>(event);
+        PressWindow(window, OnScreen(press), press.button());
+        break;
+    }
+    case QEvent::MouseMove: {
+        const auto& move = *static_cast<QMouseEvent*>(event);
+        MoveOnWindow(OnScreen(move), move.buttons());
+        break;
+    }
+    case QEvent::MouseButtonRelease: {
+        const auto& release = *static_cast<QMouseEvent*>(event);
+        ReleaseWindow(window, OnScreen(release), release.button());
+        break;
+    }
+    case QEvent::MouseButtonDblClick:
+        m_pPressed = nullptr; // the release that follows belongs to the double-click
+        break;
+    case QEvent::KeyPress: {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        const bool clicks = key.key() == Qt::Key_Space && !key.isAutoRepeat();
+        if (clicks && IsSelectable(window, Qt::LeftButton)) {
+            event->accept();
+            Click(window);
+        }
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+QPoint ScreenGestures::OnScreen(const QMouseEvent& event) const
+{
+    return m_screen.Canvas()->mapFromGlobal(event.globalPos()) - m_screen.OriginOnCanvas();
+}
 
 bool ScreenGestures::IsSelectable(const QObject* window, Qt::MouseButton button) const
 {
@@ -62,16 +105,6 @@ void ScreenGestures::ReleaseWindow(const QObject* window, const QPoint& pos, Qt:
     }
 }
 
-void ScreenGestures::DoubleClickWindow() { m_pPressed = nullptr; }
-
-bool ScreenGestures::ClickByKey(const QObject* window)
-{
-    if (!IsSelectable(window, Qt::LeftButton))
-        return false;
-    Click(window);
-    return true;
-}
-
 void ScreenGestures::Click(const QObject* window)
 {
     const QPointer<QObject> alive(m_pObject);
@@ -106,6 +139,31 @@ bool ScreenGestures::Select(const QVector<int>& targets, bool fromPress)
     return state.selected != before;
 }
 
+// ---- Selection by call
+
+QList<int> ScreenGestures::WindowIndexes(bool selected) const
+{
+    QList<int> indexes;
+    for (int i = 0; i < m_screen.WindowCount(); ++i) {
+        if (m_screen.IsWindowSelected(i) == selected)
+            indexes << i;
+    }
+    return indexes;
+}
+
+void ScreenGestures::SelectOnly(int window, bool selected)
+{
+    const int count = m_screen.WindowCount();
+    for (int i = 0; window >= 0 && window < count && i < count; ++i)
+        m_screen.SetWindowSelected(i, selected && i == window);
+}
+
+void ScreenGestures::DeselectWindows()
+{
+    for (int i = 0; i < m_screen.WindowCount(); ++i)
+        m_screen.SetWindowSelected(i, false);
+}
+
 // ---- The mouse on the empty part
 
 void ScreenGestures::PressEmpty(const QPoint& pos, Qt::MouseButton button)
@@ -118,7 +176,7 @@ void ScreenGestures::PressEmpty(const QPoint& pos, Qt::MouseButton button)
     m_screen.SelectByPress();
     if (!alive)
         return;
-    m_screen.DeselectWindows();
+    DeselectWindows();
     if (button == Qt::LeftButton) {
         const bool band = m_screen.SelectionMode() == WallSelection::MultiMode;
         m_drawing = band ? Drawing::Selection : Drawing::Area;

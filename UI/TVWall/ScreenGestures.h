@@ -3,12 +3,17 @@
 #include <Platform/BasicUIComponents/StructScaleRect.h>
 
 #include <QColor>
+#include <QList>
 #include <QPoint>
 #include <QPointer>
 #include <QRect>
 #include <QSize>
 #include <QVector>
 #include <Qt>
+
+class QEvent;
+class QMouseEvent;
+class QWidget;
 
 namespace UICommonMdl {
 
@@ -35,11 +40,10 @@ public:
         virtual QRect WindowGeometry(int window) const = 0;
         virtual bool IsWindowSelected(int window) const = 0;
         virtual void SetWindowSelected(int window, bool selected) = 0;
-        virtual void DeselectWindows() = 0;
         virtual void SelectUnlessSelected() = 0; ///< selects the screen; reports when it was not selected
         virtual void SelectByPress() = 0; ///< selects the screen and reports it in any case
 
-        virtual QWidget* Canvas() = 0; ///< the widget that shows the bands
+        virtual QWidget* Canvas() const = 0; ///< the widget that shows the bands
         virtual QPoint OriginOnCanvas() const = 0;
         virtual QColor BandColor() const = 0;
 
@@ -57,21 +61,23 @@ public:
     ~ScreenGestures();
     Q_DISABLE_COPY(ScreenGestures)
 
-    /// @name The mouse on a window
-    /// @{
-    void PressWindow(QObject* window, const QPoint& pos, Qt::MouseButton button);
-    void MoveOnWindow(const QPoint& pos, Qt::MouseButtons buttons);
-    void ReleaseWindow(const QObject* window, const QPoint& pos, Qt::MouseButton button);
-    void DoubleClickWindow(); ///< the release that follows is no click
-    /// As a click of the left button, by key. @return false, doing nothing, when windows are not selectable
-    bool ClickByKey(const QObject* window);
-    /// @}
+    /// Selects and draws as an event of a window wants it: the mouse, or the Space key, which clicks. The
+    /// event is accepted when a key was used. Mouse events are taken by their place on the desktop, because
+    /// the window itself may just have moved.
+    void HandleWindowEvent(QObject* window, QEvent* event);
 
     /// @name The mouse on the empty part of the screen
     /// @{
     void PressEmpty(const QPoint& pos, Qt::MouseButton button);
     void MoveOnEmpty(const QPoint& pos, Qt::MouseButtons buttons);
     void ReleaseEmpty(const QPoint& pos, Qt::MouseButton button);
+    /// @}
+
+    /// @name Selection by call
+    /// @{
+    QList<int> WindowIndexes(bool selected) const; ///< positions whose selected flag is so
+    void SelectOnly(int window, bool selected); ///< deselects all others; nothing for a wrong position
+    void DeselectWindows();
     /// @}
 
     bool IsDrawing() const { return m_drawing != Drawing::Nothing; }
@@ -88,6 +94,10 @@ private:
         Site
     };
 
+    void PressWindow(QObject* window, const QPoint& pos, Qt::MouseButton button);
+    void MoveOnWindow(const QPoint& pos, Qt::MouseButtons buttons);
+    void ReleaseWindow(const QObject* window, const QPoint& pos, Qt::MouseButton button);
+    QPoint OnScreen(const QMouseEvent& event) const;
     bool IsSelectable(const QObject* window, Qt::MouseButton button) const;
     void Click(const QObject* window);
     bool Select(const QVector<int>& targets, bool fromPress);
