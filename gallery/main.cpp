@@ -1,6 +1,7 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/Alarms/AlarmPage.h>
 #include <gallery/ClientOptions.h>
+#include <gallery/Forms/DevicePage.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Pairing/PairingPage.h>
 #include <gallery/Photo/PhotoPage.h>
@@ -55,6 +56,7 @@ int Run(const ClientOptions& options)
         pictures ? pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder(), &window));
     window.AddPage(new PairingPage(&window));
     window.AddPage(new AlarmPage(SampleAlarms(SampleAlarmCount, clock.Now()), &window));
+    window.AddPage(new DevicePage(&window));
     if (pictures)
         return SaveScreenshots(window, pool, options.screenshotFolder) ? 0 : 1;
     window.show();

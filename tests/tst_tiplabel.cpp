@@ -11,7 +11,9 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextEdit>
+#include <QTextLayout>
 #include <QWindow>
 
 using namespace UICommonMdl;
@@ -45,10 +47,12 @@ QTextEdit* TextBox() { return CTipLabel::Instance()->findChild<QTextEdit*>(QStri
 /// A text of the tip's font that is as wide as wanted, to the width of a letter.
 QString TextOfWidth(int pixels)
 {
+    const QString words = QStringLiteral("The address needs four numbers between nought and 255. ");
     const QFontMetrics metrics(TextBox()->font());
     QString text;
-    while (metrics.boundingRect(text + QLatin1Char('i')).width() <= pixels)
-        text += text.size() % 8 == 7 ? QLatin1Char(' ') : QLatin1Char('i');
+    const auto longer = [&] { return text + words.at(text.size() % words.size()); };
+    while (metrics.boundingRect(longer()).width() <= pixels)
+        text = longer();
     return text;
 }
 
@@ -278,7 +282,7 @@ void TestTipLabel::BubbleGoesWithItsAnchor()
 void TestTipLabel::WholeTextIsSeen_data()
 {
     QTest::addColumn<int>("width");
-    for (const int width : {20, 190, 210, 290, 299, 305, 560, 590, 800, 880})
+    for (const int width : {20, 185, 199, 210, 250, 290, 299, 305, 400, 560, 590, 800, 880})
         QTest::newRow(qPrintable(QString::number(width))) << width;
 }
 
@@ -287,10 +291,14 @@ void TestTipLabel::WholeTextIsSeen()
 {
     QFETCH(int, width);
     Anchored form;
-    CTipLabel::Instance()->ShowTip(TextOfWidth(width), form.anchor, CTipLabel::Left);
+    const QString text = TextOfWidth(width);
+    CTipLabel::Instance()->ShowTip(text, form.anchor, CTipLabel::Left);
     const int tooMuch = qMax(0, int(TextBox()->document()->size().height()) - TextBox()->height());
     QVERIFY(tooMuch <= 4); // less than a line: room above and below the letters
     QCOMPARE(TextBox()->verticalScrollBar()->value(), qMin(tooMuch, 3));
+    const int lines = TextBox()->document()->firstBlock().layout()->lineCount();
+    QCOMPARE(
+        lines, width < 300 ? 1 : (QFontMetrics(TextBox()->font()).boundingRect(text).width() + 299) / 300);
 }
 
 STRICT_X_TEST_MAIN(TestTipLabel)

@@ -208,10 +208,12 @@ void KvCalendarExPrivate::ShowHint()
         hint->setText(KvCalendarEx::tr("Choose the first and the last day"));
         return;
     }
-    const QString days = KvCalendarEx::tr("%n day(s)", nullptr, static_cast<int>(DayCount(shown)));
-    QString line = KvCalendarEx::tr("%1 to %2, %3").arg(text(shown.start), text(shown.end), days);
-    if (selection.IsChoosing() && selection.maxDays > 0)
-        line += KvCalendarEx::tr(" of at most %1").arg(selection.maxDays);
+    const QString days = QString::number(DayCount(shown));
+    QString line = KvCalendarEx::tr("%1 to %2 (days: %3)").arg(text(shown.start), text(shown.end), days);
+    if (selection.IsChoosing() && selection.maxDays > 0) {
+        line = KvCalendarEx::tr("%1 to %2 (days: %3 of at most %4)")
+                   .arg(text(shown.start), text(shown.end), days, QString::number(selection.maxDays));
+    }
     hint->setText(line);
 }
 

@@ -20,7 +20,25 @@ namespace {
 
 constexpr int FadeTime = 1000; // milliseconds
 constexpr int ShortestDisplayTime = 300; // milliseconds
-constexpr int WidestPadding = 6; // pixels between the text and the box's edge, where there is room
+
+/// A way to set a text in its box.
+struct Setting
+{
+    int padding; ///< pixels between the text and the box's edge at the left and right
+    int spacing; ///< advance of a letter, in percent of the font's own
+    QTextOption::WrapMode wrap;
+};
+
+/// From the most pleasing to the tightest.
+constexpr Setting Settings[]
+    = {{6, 100, QTextOption::WrapAtWordBoundaryOrAnywhere},
+       {3, 100, QTextOption::WrapAtWordBoundaryOrAnywhere},
+       {3, 98, QTextOption::WrapAtWordBoundaryOrAnywhere},
+       {3, 96, QTextOption::WrapAtWordBoundaryOrAnywhere},
+       {2, 95, QTextOption::WrapAtWordBoundaryOrAnywhere},
+       {2, 95, QTextOption::WrapAnywhere},
+       {0, 93, QTextOption::WrapAnywhere}};
+
 /// Pixels of room above and below the letters that a text which fills the box can do without.
 constexpr int RoomAbove = 3;
 constexpr int RoomBelow = 1;
@@ -109,23 +127,25 @@ QSize CTipLabel::BodySize(const QString& text) const
 }
 
 /// The text stands in the middle of the box's height. The box was measured without padding and as if every
-/// line were full: where the text would need another line, the padding goes first and then the rule that
-/// words stay whole. Of a box that is a little too low, the room around the letters is left out.
+/// line were full: where the text would need another line, it is set a little tighter, and at last words are
+/// broken. Of a box that is a little too low, the room around the letters is left out.
 void CTipLabel::SetText(const QString& text)
 {
     setAccessibleName(text);
-    m_pTextBox->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_pTextBox->setPlainText(text);
     const int room = m_pTextBox->height() + RoomAbove + RoomBelow;
-    int padding = WidestPadding;
-    int needed = SetMargins(padding, 0);
-    while (padding > 0 && needed > room)
-        needed = SetMargins(--padding, 0);
-    if (needed > room) {
-        m_pTextBox->setWordWrapMode(QTextOption::WrapAnywhere);
-        needed = SetMargins(0, 0);
+    int needed = 0;
+    for (const Setting& setting : Settings) {
+        m_pTextBox->setWordWrapMode(setting.wrap);
+        QFont font = m_pTextBox->font();
+        font.setLetterSpacing(QFont::PercentageSpacing, setting.spacing);
+        m_pTextBox->document()->setDefaultFont(font);
+        m_pTextBox->setPlainText(text);
+        needed = SetMargins(setting.padding, 0);
+        if (needed <= room) {
+            SetMargins(setting.padding, qMax(0, (m_pTextBox->height() - needed) / 2));
+            break;
+        }
     }
-    SetMargins(padding, qMax(0, (m_pTextBox->height() - needed) / 2));
     m_pTextBox->verticalScrollBar()->setValue(
         needed > room ? 0 : qMin(RoomAbove, needed - m_pTextBox->height()));
 }

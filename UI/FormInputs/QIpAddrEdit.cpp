@@ -15,7 +15,7 @@ namespace UICommonMdl {
 namespace {
 
 constexpr int DotWidth = 5; // pixels
-constexpr int SymbolLeft = 3; // pixels
+constexpr int SymbolLeft = 2 + 3; // pixels; level with the asterisk of a CRequiredEdit
 constexpr int SymbolWidth = 6; // pixels, at least
 constexpr int OctetPadding = 8; // pixels beside the digits of an octet, together
 
@@ -73,6 +73,7 @@ void QIpAddrEdit::BuildOctets()
         connect(octet, &QLineEdit::textEdited, this, &QIpAddrEdit::texteditedslot);
         connect(octet, &QIpPartLineEdit::addresspasted, this, &QIpAddrEdit::TakeAddress);
     }
+    setFocusPolicy(Qt::StrongFocus); // a label's shortcut asks for it
     setFocusProxy(m_octets.front());
 }
 

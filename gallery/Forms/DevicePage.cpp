@@ -1,0 +1,353 @@
+#include <gallery/Forms/DevicePage.h>
+
+#include <Platform/BasicUIComponents/KvCalendarEx.h>
+#include <Platform/BasicUIComponents/KvCheckBox.h>
+#include <Platform/BasicUIComponents/KvMessageNotify.h>
+#include <Platform/BasicUIComponents/KvPushButton.h>
+#include <UI/FormInputs/CPasswordEdit.h>
+#include <UI/FormInputs/CPasswordStrength.h>
+#include <UI/FormInputs/CRequiredEdit.h>
+#include <UI/FormInputs/CTipLabel.h>
+#include <UI/FormInputs/KvImpPushButton.h>
+#include <UI/FormInputs/KvLineEditEx.h>
+#include <UI/FormInputs/KvLineEditWithDirButton.h>
+#include <UI/FormInputs/QIpAddrEdit.h>
+#include <UI/FormInputs/QIpPartLineEdit.h>
+#include <UI/FormInputs/WmAddGroup.h>
+#include <UI/FormInputs/WmDateCalendar.h>
+#include <UI/FormInputs/WmNoImpPushButton.h>
+#include <gallery/Forms/PasswordRating.h>
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace OperatorClient {
+
+namespace {
+
+using UICommonMdl::CTipLabel;
+
+constexpr int FormWidth = 460;
+constexpr int LabelWidth = 100;
+constexpr int LongestPeriod = 31; // days
+constexpr qint64 RootGroup = 1;
+
+QFormLayout* FormIn(QGroupBox* group)
+{
+    group->setFixedWidth(FormWidth);
+    auto* form = new QFormLayout(group);
+    form->setVerticalSpacing(10);
+    form->setHorizontalSpacing(16);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    return form;
+}
+
+/// A row whose field is also called by the label's text, without the mark of its shortcut.
+void AddRow(QFormLayout* form, const QString& label, QWidget* field, QWidget* row = nullptr)
+{
+    QString name = label;
+    field->setAccessibleName(name.remove(QLatin1Char('&')));
+    auto* text = new QLabel(label);
+    text->setMinimumWidth(LabelWidth);
+    text->setBuddy(field);
+    form->addRow(text, row ? row : field);
+}
+
+QString StrengthName(int level)
+{
+    switch (level) {
+    case 0:
+        return {};
+    case 1:
+        return DevicePage::tr("Weak");
+    case 2:
+        return DevicePage::tr("Medium");
+    default:
+        return DevicePage::tr("Strong");
+    }
+}
+
+} // namespace
+
+DevicePage::DevicePage(QWidget* parent)
+    : Page(parent)
+{
+    auto* title = new QLabel(tr("Device and account"), this);
+    title->setObjectName(QStringLiteral("pageTitle"));
+    auto* hint = new QLabel(tr("Fields with an asterisk must be filled in."), this);
+    hint->setObjectName(QStringLiteral("hint"));
+    auto* left = new QVBoxLayout;
+    left->setSpacing(16);
+    left->addWidget(BuildDevice());
+    left->addWidget(BuildRecording());
+    left->addStretch(1);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(16);
+    right->addWidget(BuildAccount());
+    right->addWidget(BuildButtons());
+    right->addStretch(1);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(24);
+    columns->addLayout(left);
+    columns->addLayout(right);
+    columns->addStretch(1);
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(24, 20, 24, 20);
+    page->setSpacing(2);
+    page->addWidget(title);
+    page->addWidget(hint);
+    page->addSpacing(16);
+    page->addLayout(columns, 1);
+    Clear();
+}
+
+QString DevicePage::Title() const { return tr("Device form"); }
+
+QString DevicePage::Name() const { return QStringLiteral("device"); }
+
+QWidget* DevicePage::BuildDevice()
+{
+    auto* group = new QGroupBox(tr("Device"), this);
+    QFormLayout* form = FormIn(group);
+    m_pName = new UICommonMdl::CRequiredEdit(group);
+    m_pAddress = new UICommonMdl::QIpAddrEdit(group);
+    m_pAddress->setRequired(true);
+    m_pSerial = new UICommonMdl::KvLineEditEx(group);
+    AddRow(form, tr("&Name"), m_pName);
+    AddRow(form, tr("&IP address"), m_pAddress);
+    AddRow(form, tr("Serial n&umber"), m_pSerial);
+    QWidget* row = GroupRow(group);
+    AddRow(form, tr("&Group"), m_pGroups, row);
+    // The keypad's Enter goes on, as the Tab key does.
+    connect(
+        m_pAddress, &UICommonMdl::QIpAddrEdit::sgnEnterPress, m_pSerial, [this] { m_pSerial->setFocus(); });
+    return group;
+}
+
+QWidget* DevicePage::GroupRow(QWidget* parent)
+{
+    auto* row = new QWidget(parent);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    m_pGroups = new QComboBox(row);
+    m_pGroups->addItems({tr("Entrances"), tr("Car park"), tr("Warehouse")});
+    auto* add = new KvGUI::KvPushButton(tr("New gr&oup\u2026"), row);
+    layout->addWidget(m_pGroups, 1);
+    layout->addWidget(add);
+    connect(add, &QPushButton::clicked, this, &DevicePage::OpenNewGroup);
+    return row;
+}
+
+QWidget* DevicePage::BuildAccount()
+{
+    auto* group = new QGroupBox(tr("Account"), this);
+    QFormLayout* form = FormIn(group);
+    m_pUser = new UICommonMdl::CRequiredEdit(group);
+    m_pPassword = new UICommonMdl::CPasswordEdit(group);
+    AddRow(form, tr("Us&er"), m_pUser);
+    AddRow(form, tr("&Password"), m_pPassword);
+    form->addRow(new QLabel, StrengthRow(group));
+    connect(m_pPassword, &QLineEdit::textChanged, this, &DevicePage::ShowStrength);
+    return group;
+}
+
+QWidget* DevicePage::StrengthRow(QWidget* parent)
+{
+    auto* row = new QWidget(parent);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    m_pStrength = new UICommonMdl::CPasswordStrength(row);
+    m_pStrength->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    m_pStrengthText = new QLabel(row);
+    m_pStrengthText->setObjectName(QStringLiteral("hint"));
+    layout->addWidget(m_pStrength);
+    layout->addWidget(m_pStrengthText, 1);
+    return row;
+}
+
+QWidget* DevicePage::BuildRecording()
+{
+    auto* group = new QGroupBox(tr("Recording"), this);
+    QFormLayout* form = FormIn(group);
+    m_pCertificate = new UICommonMdl::KvLineEditWithDirButton(group);
+    m_pCertificate->SetOpenFile(
+        tr("Certificate of the device"), QString(), tr("Certificates (*.pem *.crt);;All files (*)"));
+    m_pFolder = new UICommonMdl::KvLineEditWithDirButton(group);
+    m_pFolder->SetOpenFile(tr("Choose any file of the folder"), QString(), tr("All files (*)"));
+    m_pPeriod = new UICommonMdl::WmDateCalendar(group);
+    m_pPeriod->SetRestrcitDateRange(LongestPeriod);
+    auto* times = new KvGUI::KvCheckBox(tr("Choose &times of day as well"), group);
+    AddRow(form, tr("Certi&ficate"), m_pCertificate);
+    AddRow(form, tr("Fol&der"), m_pFolder);
+    AddRow(form, tr("Pe&riod"), m_pPeriod);
+    form->addRow(new QLabel, times);
+    connect(m_pFolder, &QLineEdit::textChanged, this, &DevicePage::TakeFolderOfFile);
+    connect(times, &QCheckBox::toggled, m_pPeriod, &UICommonMdl::WmDateCalendar::SetTimeEditVisible);
+    return group;
+}
+
+QWidget* DevicePage::BuildButtons()
+{
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    auto* clear = new UICommonMdl::WmNoImpPushButton(tr("&Clear"), row);
+    auto* save = new UICommonMdl::KvImpPushButton(tr("&Save the device"), row);
+    layout->addStretch(1);
+    layout->addWidget(clear);
+    layout->addWidget(save);
+    connect(clear, &QPushButton::clicked, this, &DevicePage::Clear);
+    connect(save, &QPushButton::clicked, this, &DevicePage::Save);
+    return row;
+}
+
+void DevicePage::ShowStrength()
+{
+    const int level = RatePassword(m_pPassword->text());
+    m_pStrength->SetStrength(level);
+    m_pStrengthText->setText(StrengthName(level));
+    m_pStrength->setAccessibleDescription(StrengthName(level));
+}
+
+/// The dialog of the edit finds files only; the folder is where the chosen one lies.
+void DevicePage::TakeFolderOfFile(const QString& path)
+{
+    const QFileInfo file(path);
+    if (file.isFile())
+        m_pFolder->setText(file.absolutePath());
+}
+
+bool DevicePage::IsFilled(QLineEdit* edit, const QString& complaint)
+{
+    if (!edit->text().trimmed().isEmpty())
+        return true;
+    edit->setFocus();
+    CTipLabel::Instance()->ShowTip(complaint, edit, CTipLabel::Left);
+    return false;
+}
+
+bool DevicePage::IsAddressRight()
+{
+    const auto octets = m_pAddress->findChildren<UICommonMdl::QIpPartLineEdit*>();
+    const auto empty = std::find_if(
+        octets.begin(), octets.end(), [](const QLineEdit* octet) { return octet->text().isEmpty(); });
+    if (empty == octets.end())
+        return true;
+    const QString complaint = m_pAddress->text().isEmpty() ? tr("Enter the device's address")
+                                                           : tr("The address needs four numbers");
+    (*empty)->setFocus();
+    m_pAddress->showErrorHint(true, complaint, CTipLabel::Left);
+    return false;
+}
+
+bool DevicePage::Save()
+{
+    const bool right = IsFilled(m_pName, tr("Enter a name")) && IsAddressRight()
+        && IsFilled(m_pUser, tr("Enter the user of the device"))
+        && IsFilled(m_pPassword, tr("Enter the password"));
+    if (!right)
+        return false;
+    CTipLabel::Instance()->HideTip();
+    Q_EMIT SignalReport(tr("%1 at %2 saved in the group %3")
+                            .arg(m_pName->text().trimmed(), m_pAddress->text(), m_pGroups->currentText()));
+    return true;
+}
+
+void DevicePage::Clear()
+{
+    for (QLineEdit* edit : std::initializer_list<QLineEdit*>{
+             m_pName, m_pSerial, m_pUser, m_pPassword, m_pCertificate, m_pFolder})
+        edit->clear();
+    m_pAddress->clear();
+    m_pAddress->showErrorHint(false, QString(), CTipLabel::None);
+    m_pGroups->setCurrentIndex(0);
+    CTipLabel::Instance()->HideTip();
+    const QDate today = QDate::currentDate();
+    m_pPeriod->SetSelDate(today.addDays(-6).startOfDay(), QDateTime(today, QTime(23, 59, 59)));
+}
+
+void DevicePage::OpenNewGroup()
+{
+    if (!m_pNewGroup) {
+        m_pNewGroup = new UICommonMdl::WmAddGroup(this);
+        m_pNewGroup->SetTitle(tr("New group"));
+        m_pNewGroup->SetToolTip(tr("Enter a name"));
+        m_pNewGroup->SetParentGroupID(RootGroup);
+        m_pNewGroup->SetIsCloseAfterSave(false); // a name that is there already is typed again
+        connect(
+            m_pNewGroup, QOverload<qint64, const QString&>::of(&UICommonMdl::WmAddGroup::SignalNewName), this,
+            [this](qint64, const QString& name) {
+                if (AddGroup(name))
+                    m_pNewGroup->CanCloseDialog();
+            });
+        connect(
+            m_pNewGroup, &UICommonMdl::WmAddGroup::SignalSaveAndNew, this,
+            [this](qint64, const QString& name) {
+                if (AddGroup(name))
+                    m_pNewGroup->EmptyEditLine();
+            });
+    }
+    m_pNewGroup->open();
+}
+
+bool DevicePage::AddGroup(const QString& name)
+{
+    if (m_pGroups->findText(name, Qt::MatchFixedString) >= 0) {
+        KvGUI::KvMessageNotify::Instance()->AddTextNotification(
+            tr("There is a group %1 already").arg(name), m_pNewGroup);
+        return false;
+    }
+    m_pGroups->addItem(name);
+    m_pGroups->setCurrentIndex(m_pGroups->count() - 1);
+    Q_EMIT SignalReport(tr("Group %1 added").arg(name));
+    return true;
+}
+
+void DevicePage::FillIn()
+{
+    Clear();
+    m_pName->setText(tr("North gate"));
+    m_pAddress->settext(QStringLiteral("192.168.20.64"));
+    m_pSerial->setText(QStringLiteral("NG-0421-77"));
+    m_pUser->setText(QStringLiteral("operator"));
+    m_pPassword->setText(QStringLiteral("Wren-4127-oak"));
+    m_pFolder->setText(QStringLiteral("/srv/recordings/north-gate"));
+    const QDate start(2026, 3, 2);
+    m_pPeriod->SetSelDate(start.startOfDay(), QDateTime(start.addDays(11), QTime(18, 30)));
+}
+
+QVector<Page::Picture> DevicePage::Pictures()
+{
+    return {
+        {QString(), [this] { FillIn(); }},
+        {QStringLiteral("error"),
+         [this] {
+             FillIn();
+             m_pPassword->setText(QStringLiteral("wren"));
+             m_pAddress->settext(QStringLiteral("192.168."));
+             Save();
+         },
+         [] { CTipLabel::Instance()->HideTip(); }},
+        {QStringLiteral("calendar"),
+         [this] {
+             FillIn();
+             m_pPeriod->click();
+         },
+         [this] { m_pPeriod->findChild<KvGUI::KvCalendarEx*>()->close(); }},
+        {QStringLiteral("group"),
+         [this] {
+             FillIn();
+             OpenNewGroup();
+         },
+         [this] { m_pNewGroup->OnClose(); }}};
+}
+
+} // namespace OperatorClient
