@@ -6,8 +6,6 @@ namespace UICommonMdl {
 
 namespace {
 
-constexpr int LongestOctet = 3; // digits
-constexpr int LargestOctet = 255;
 /// From this number of two digits on, every number that begins with it has gone beyond the largest octet.
 constexpr int LastTwoDigits = 26;
 
@@ -15,11 +13,15 @@ bool IsDigit(QChar character) { return character >= QLatin1Char('0') && characte
 
 bool IsOctet(const QString& text)
 {
-    return !text.isEmpty() && text.size() <= LongestOctet && std::all_of(text.begin(), text.end(), IsDigit)
-        && text.toInt() <= LargestOctet;
+    return !text.isEmpty() && AreOctetDigits(text) && text.toInt() <= LargestOctet;
 }
 
 } // namespace
+
+bool AreOctetDigits(const QString& text)
+{
+    return text.size() <= LongestOctet && std::all_of(text.begin(), text.end(), IsDigit);
+}
 
 QStringList OctetsOfAddress(const QString& text)
 {

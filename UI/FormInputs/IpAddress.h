@@ -7,8 +7,12 @@
 
 namespace UICommonMdl {
 
-/// Number of octets in an IPv4 address.
-constexpr int OctetCount = 4;
+constexpr int OctetCount = 4; ///< of an IPv4 address
+constexpr int LargestOctet = 255;
+constexpr int LongestOctet = 3; ///< digits
+
+/// Whether the text holds nothing but the digits 0 to 9, and at most as many as an octet has.
+bool AreOctetDigits(const QString& text);
 
 /// The four octets of a text that is a whole dotted IPv4 address (digits and three dots, each octet 0 to
 /// 255), blanks and line ends around it aside; empty for any other text.

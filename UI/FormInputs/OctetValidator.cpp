@@ -1,17 +1,8 @@
 #include "OctetValidator.h"
 
-#include <algorithm>
+#include "IpAddress.h"
 
 namespace UICommonMdl {
-
-namespace {
-
-constexpr int LargestOctet = 255;
-constexpr int LongestOctet = 3; // digits
-
-bool IsDigit(QChar character) { return character >= QLatin1Char('0') && character <= QLatin1Char('9'); }
-
-} // namespace
 
 OctetValidator::OctetValidator(QObject* parent)
     : QIntValidator(0, LargestOctet, parent)
@@ -22,7 +13,7 @@ OctetValidator::OctetValidator(QObject* parent)
 
 QValidator::State OctetValidator::validate(QString& input, int& position) const
 {
-    if (input.size() > LongestOctet || !std::all_of(input.cbegin(), input.cend(), IsDigit))
+    if (!AreOctetDigits(input))
         return Invalid;
     return QIntValidator::validate(input, position);
 }

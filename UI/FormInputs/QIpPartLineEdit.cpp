@@ -18,12 +18,6 @@
 
 namespace UICommonMdl {
 
-namespace {
-
-constexpr int LargestOctet = 255;
-
-} // namespace
-
 QIpPartLineEdit::QIpPartLineEdit(QWidget* parent)
     : KvLineEdit(parent)
 {
