@@ -21,6 +21,7 @@ namespace {
 constexpr int SmallIcon = 20;
 constexpr int SearchIcon = 40;
 constexpr int MenuWidth = 220;
+constexpr int TipCorner = 4; // radius
 
 /// The product whose search menu this library shows, whatever skin it runs in.
 constexpr const char* Application = "Corvale";
@@ -62,9 +63,9 @@ void CCutPhotoWithZoomPrivate::PaintIcons(QPainter& painter)
     if (!qFuzzyCompare(iconRatio, q->devicePixelRatioF()))
         LoadIcons(q->devicePixelRatioF());
     const QRect frame = CropFrame::Normalized(state.crop);
-    painter.drawPixmap(Square(CropFrame::MoveHandle(frame), SmallIcon), moveIcon);
-    painter.drawPixmap(Square(CropFrame::ScaleHandle(frame), SmallIcon), scaleIcon);
-    painter.drawPixmap(Square(CropFrame::SearchHandle(frame), SearchIcon), searchIcon);
+    painter.drawPixmap(Square(CropFrame::MoveHandle(frame), SmallIcon).topLeft(), moveIcon);
+    painter.drawPixmap(Square(CropFrame::ScaleHandle(frame), SmallIcon).topLeft(), scaleIcon);
+    painter.drawPixmap(Square(CropFrame::SearchHandle(frame), SearchIcon).topLeft(), searchIcon);
 }
 
 QRegion CCutPhotoWithZoomPrivate::IconRegion(const QRect& crop) const
@@ -94,11 +95,23 @@ void CCutPhotoWithZoomPrivate::SetCrop(const QRect& crop)
 {
     const QRect before = state.crop;
     state.crop = crop;
+    const QRegion changed = CropPainting::ChangedRegion(before, crop) + IconRegion(before) + IconRegion(crop);
     if (cropUnpainted || !pressed)
         q->update();
     else
-        q->update(CropPainting::ChangedRegion(before, crop) + IconRegion(before) + IconRegion(crop));
+        q->update(changed.subtracted(CoveredByTip()));
     cropUnpainted = false;
+}
+
+/// What of the canvas lies under the bubble: all of it but its round corners. Painting its text again takes
+/// longer than all else of a step.
+QRegion CCutPhotoWithZoomPrivate::CoveredByTip() const
+{
+    if (!tip->isVisible())
+        return QRegion();
+    const QRect bubble = tip->geometry();
+    const QRect upright = bubble.adjusted(TipCorner, 0, -TipCorner, 0);
+    return QRegion(upright) + bubble.adjusted(0, TipCorner, 0, -TipCorner);
 }
 
 void CCutPhotoWithZoomPrivate::SetCropUnpainted(const QRect& crop)
@@ -201,6 +214,7 @@ void CCutPhotoWithZoomPrivate::FinishCrop()
     q->setCursor(Qt::ArrowCursor);
     SetCrop(CropFrame::FinishedCrop(state.crop, drag, state.photo));
     anchor = CropFrame::Anchor(state.crop);
+    q->update(); // also under the bubble, which is not opaque in every skin
 }
 
 void CCutPhotoWithZoomPrivate::EndHold()

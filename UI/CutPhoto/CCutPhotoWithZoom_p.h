@@ -65,6 +65,7 @@ private:
     void MoveCrop(const QPoint& pos, const QPoint& globalPos);
     void ResizeCrop(const QPoint& pos);
     QRegion IconRegion(const QRect& crop) const;
+    QRegion CoveredByTip() const;
     void LoadIcons(qreal ratio);
     void AddAction(const QString& text, const QString& picture, const char* slot);
 
