@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QWidget>
 
 namespace OperatorClient {
 

@@ -13,6 +13,7 @@
 #include <Platform/BasicUIComponents/NotificationPopup.h>
 #include <Platform/BasicUIComponents/PlatformLook.h>
 #include <QtTest>
+#include <QtWidgets>
 #include <functional>
 #include <memory>
 

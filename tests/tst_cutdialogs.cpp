@@ -6,6 +6,7 @@
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
 #include <Platform/BasicUIComponents/KvPushButton.h>
 #include <QtTest>
+#include <QtWidgets>
 #include <UI/CutPhoto/CComTipWiget.h>
 #include <UI/CutPhoto/CComTipWigetWithZoom.h>
 #include <UI/CutPhoto/CCutDetailPhoto.h>

@@ -1,6 +1,7 @@
 #include "support/StrictMain.h"
 
 #include <QtTest>
+#include <QtWidgets>
 #include <UI/PersonImage/WmPersonImage.h>
 
 using UICommonMdl::WmPersonImage;

@@ -5,6 +5,7 @@
 
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
 #include <QtTest>
+#include <QtWidgets>
 #include <UI/PersonImage/WmPersonImage.h>
 #include <functional>
 #include <gallery/OperatorHand.h>

@@ -8,6 +8,9 @@ namespace KvGUI {
 
 namespace {
 
+constexpr int kOk = QDialogButtonBox::Ok;
+constexpr int kCancel = QDialogButtonBox::Cancel;
+
 QString StandardText(int iButton)
 {
     const auto button = static_cast<QDialogButtonBox::StandardButton>(iButton);
@@ -18,7 +21,7 @@ QString StandardText(int iButton)
 /// The lowest value of a standard button in @p iButtons besides OK and Cancel; 0 when there is none.
 int OtherButton(int iButtons)
 {
-    const int others = iButtons & ~(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    const int others = iButtons & ~(kOk | kCancel);
     for (int button = QDialogButtonBox::FirstButton; button <= QDialogButtonBox::LastButton; button <<= 1) {
         if ((others & button) != 0)
             return button;
@@ -32,7 +35,7 @@ KvCustomDialog::KvCustomDialog(QWidget* parent, int iButtons, int iDialogFlags)
     : KvDialog(parent, iDialogFlags)
 {
     const int other = OtherButton(iButtons);
-    const int own = iButtons & (QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    const int own = iButtons & (kOk | kCancel);
     if (own == 0 && other == 0)
         return;
     auto* bar = new QWidget(GetCentralWidget()->parentWidget());
@@ -45,11 +48,11 @@ KvCustomDialog::KvCustomDialog(QWidget* parent, int iButtons, int iDialogFlags)
     row->addStretch(1);
     if (other != 0)
         AddButton(row, other, &KvCustomDialog::SignalOtherButtonClicked);
-    if ((own & QDialogButtonBox::Ok) != 0)
-        AddButton(row, QDialogButtonBox::Ok, &KvCustomDialog::SignalOkButtonClicked);
-    if ((own & QDialogButtonBox::Cancel) != 0)
-        AddButton(row, QDialogButtonBox::Cancel, &KvCustomDialog::SignalCancelButtonClicked);
-    if (KvPushButton* ok = GetButton(QDialogButtonBox::Ok))
+    if ((own & kOk) != 0)
+        AddButton(row, kOk, &KvCustomDialog::SignalOkButtonClicked);
+    if ((own & kCancel) != 0)
+        AddButton(row, kCancel, &KvCustomDialog::SignalCancelButtonClicked);
+    if (KvPushButton* ok = GetButton(kOk))
         ok->setDefault(true);
     FrameLayout()->addWidget(bar);
 }

@@ -27,8 +27,6 @@ namespace UICommonMdl {
 class UICOMPONENTS_EXPORT WmPersonImage : public QLabel
 {
     Q_OBJECT
-    /// The type that the caption was set with, for style sheets; 0 until it is set.
-    Q_PROPERTY(int captionType READ CaptionType)
 
 public:
     /// Makes a panel with all buttons and the caption switched on, and hidden.
@@ -50,6 +48,8 @@ public:
     /// Sets the caption.
     /// @param type 1 "Avatar", 2 "Face1", any other "Face2"
     void SetShowAvatarOrFaceLabel(bool bShow, int type);
+
+    /// The type that the caption was set with; 0 until it is set.
     int CaptionType() const;
 
     /// Turns the page: the page button offers the previous picture, or again the next one. Shows the

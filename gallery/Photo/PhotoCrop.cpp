@@ -103,7 +103,7 @@ QImage PhotoCrop::Read(const QString& path, QWidget* parent)
 {
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.isNull())
         Tell(tr("\"%1\" cannot be shown: %2").arg(QFileInfo(path).fileName(), reader.errorString()), parent);
     return image;

@@ -13,6 +13,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLocale>
+#include <QPointer>
 #include <QSpinBox>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -80,7 +81,7 @@ QWidget* PhotoPage::BuildPhotoSide()
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
-    auto* title = new QLabel(Title(), side);
+    auto* title = new QLabel(PhotoPage::Title(), side);
     title->setObjectName(QStringLiteral("pageTitle"));
     m_pPhotoText = new QLabel(side);
     m_pPhotoText->setObjectName(QStringLiteral("hint"));

@@ -4,6 +4,7 @@
 #include <gallery/Photo/PhotoCrop.h>
 
 class QDialog;
+class QFormLayout;
 class QLabel;
 class QSpinBox;
 
@@ -40,8 +41,7 @@ private:
     QWidget* BuildLimits();
     QWidget* BuildCommands();
     QWidget* BuildCut();
-    QSpinBox*
-    AddLimit(class QFormLayout* form, const QString& label, int most, int value, const QString& unit);
+    QSpinBox* AddLimit(QFormLayout* form, const QString& label, int most, int value, const QString& unit);
     void AskForFile();
     void ShowDrawn();
     void ShowPhoto(const Photo& photo);

@@ -17,6 +17,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
+#include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -81,7 +82,7 @@ RecordPage::RecordPage(const QString& folder, QWidget* parent)
     : Page(parent)
     , m_file(folder)
 {
-    auto* title = new QLabel(Title(), this);
+    auto* title = new QLabel(RecordPage::Title(), this);
     title->setObjectName(QStringLiteral("pageTitle"));
     auto* hint = new QLabel(
         tr("Point at the picture for its buttons, or use the menu below it. "
