@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
+#include <QTextDocument>
 #include <algorithm>
 #include <cmath>
 

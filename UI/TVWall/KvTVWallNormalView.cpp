@@ -13,6 +13,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <utility>
 
 namespace UICommonMdl {
 
@@ -359,9 +360,8 @@ void KvTVWallNormalView::EnterDrag(const Target& target, const QDropEvent& event
 
 void KvTVWallNormalView::LeaveDrag()
 {
-    const Target left = m_dragReceiver;
+    const Target left = std::exchange(m_dragReceiver, Target());
     m_dragOver = {};
-    m_dragReceiver = {};
     QDragLeaveEvent leave;
     if (left.window != nullptr)
         left.Deliver(&leave);
@@ -407,9 +407,8 @@ void KvTVWallNormalView::dragLeaveEvent(QDragLeaveEvent* event)
 
 void KvTVWallNormalView::dropEvent(QDropEvent* event)
 {
-    const Target receiver = m_dragReceiver;
+    const Target receiver = std::exchange(m_dragReceiver, Target());
     m_dragOver = {};
-    m_dragReceiver = {};
     event->ignore();
     if (receiver.screen == nullptr)
         return;

@@ -9,6 +9,7 @@
 #include <QVariant>
 
 class QGraphicsProxyWidget;
+class QMouseEvent;
 
 namespace UICommonMdl {
 

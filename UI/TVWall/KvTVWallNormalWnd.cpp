@@ -9,6 +9,7 @@
 
 #include <Common/CommonFun.h>
 
+#include <QGraphicsScene>
 #include <functional>
 
 namespace UICommonMdl {
@@ -108,6 +109,7 @@ QVector<WallMiniature::Screen> KvTVWallNormalWndPrivate::Miniature() const
 
 void KvTVWallNormalWndPrivate::PlaceScreens()
 {
+    view->scene()->update(); // all of it, so that the items need not ask one by one
     const QSize wall(horizontal.wall, vertical.wall);
     const QPoint origin(WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset));
     for (KvTVWallNormalScreen* screen : view->Screens())

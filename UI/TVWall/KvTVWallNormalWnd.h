@@ -42,12 +42,16 @@ class KvTVWallNormalWndPrivate;
 /// the value given with it.
 ///
 /// <b>Signals</b> carry the indices of the moment of their emission. A slot may delete the window, its
-/// screen, all screens or the wall. A QEvent that a signal carries is valid during the emission only.
+/// screen, all screens or the wall. Only a wall that is a window by itself has to go by deleteLater() in
+/// slots of SignalWindowEvent and SignalScreenEvent: Qt uses the window once more after a right press or a
+/// drag-enter. A QEvent that a signal carries is valid during the emission only.
 ///
 /// <b>By hand.</b> An editable window is moved by its title bar and resized by its edges, inside its screen;
 /// with Shift held, or on a screen that is not free, it keeps to the screen's cells; Escape takes the drag
 /// back. The selection mode says what a click on a window and a drag over the empty part of a screen do.
-/// The wheel zooms the wall up to ten times its size, about the cursor.
+/// The wheel zooms the wall up to ten times its size, about the cursor; as long as it is zoomed, an overview
+/// in the lower right corner shows where the view is and moves it. The Tab key goes through windows and
+/// buttons, Space clicks.
 class UICOMPONENTS_EXPORT KvTVWallNormalWnd : public QWidget
 {
     Q_OBJECT

@@ -37,14 +37,14 @@ void OverlayLabels::Show(const std::vector<KvGUI::StructOSDInfo>& infos, const Q
 {
     Drop();
     const ScreenOverlay::Sorted sorted = ScreenOverlay::SortedByKind(infos);
-    const auto make = [&](const auto& records, int firstSlot, auto maker) {
-        const int count = std::min(int(records.size()), ScreenOverlay::SlotsOfAKind);
-        for (int i = 0; i < count; ++i) {
-            const KvGUI::StructOSDInfo& info = records.at(size_t(i));
+    const auto make = [&](const auto& records, size_t firstSlot, auto maker) {
+        const size_t count = std::min(records.size(), size_t(ScreenOverlay::SlotsOfAKind));
+        for (size_t i = 0; i < count; ++i) {
+            const KvGUI::StructOSDInfo& info = records.at(i);
             QLabel* label = (this->*maker)(info, ScreenOverlay::Placed(info, screen));
             label->installEventFilter(this);
             label->show();
-            m_labels.at(size_t(firstSlot + i)) = label;
+            m_labels.at(firstSlot + i) = label;
         }
     };
     make(sorted.plain, PlainSlot, &OverlayLabels::MakePlain);

@@ -44,14 +44,14 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    static constexpr int PlainSlot = ScreenOverlay::SlotsOfAKind; // the first of the plain ones
+    static constexpr size_t PlainSlot = ScreenOverlay::SlotsOfAKind; // the first of the plain ones
 
     QLabel* MakePlain(const KvGUI::StructOSDInfo& info, const ScreenOverlay::Placement& placement);
     QLabel* MakeRolling(const KvGUI::StructOSDInfo& info, const ScreenOverlay::Placement& placement);
     void Drop();
 
     QWidget* const m_pCanvas;
-    std::array<QLabel*, 2 * ScreenOverlay::SlotsOfAKind> m_labels{}; // rolling ones, then plain ones
+    std::array<QLabel*, 2 * PlainSlot> m_labels{}; // rolling ones, then plain ones
     QBasicTimer m_rollTimer;
     QElapsedTimer m_rollClock;
 };
