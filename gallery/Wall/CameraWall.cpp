@@ -17,6 +17,8 @@ namespace OperatorClient {
 
 namespace {
 
+constexpr QSize WindowFrame(4, 24); // pixels of a wall's window beside its video
+
 /// The first of the dragged files that can be shown.
 bool SourceOfDrag(const QMimeData* data, SourceSpec& source)
 {
@@ -59,7 +61,7 @@ CameraWall::CameraWall(SourcePool& pool, FrameClock& clock, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pWall);
     m_pWall->setAccessibleName(tr("Video wall"));
-    ShowFamily(m_iFamily);
+    ShowFamily(WallLayout::DisplayFamily);
     // Overlays keep the pixels of the moment in which they were set; they are set again when a resize or
     // a zoom has come to rest.
     m_resized.setSingleShot(true);
@@ -126,16 +128,19 @@ void CameraWall::ConnectReports()
 
 bool CameraWall::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Wheel)
         m_resized.start();
     return QWidget::eventFilter(watched, event);
 }
 
 void CameraWall::ShowFamily(int family)
 {
+    if (m_iFamily == family)
+        return;
     m_iFamily = family;
     m_pWall->SetShowMode(family);
-    const QWidgetList walls = m_pWall->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    // A zoom resizes a wall built from widgets; one drawn in a scene gets the wheel in its view.
+    const QWidgetList walls = m_pWall->findChildren<QWidget*>();
     for (QWidget* wall : walls)
         wall->installEventFilter(this);
 }
@@ -657,16 +662,20 @@ void CameraWall::OnScreenEvent(int screen, QEvent* event)
         OpenAtDrop(screen, *drop, source);
 }
 
+// The wall may be zoomed, so the new window tells how large its screen is.
 void CameraWall::OpenAtDrop(int screen, const QDropEvent& drop, const SourceSpec& source)
 {
-    KvGUI::StructScaleRect scale;
-    if (!m_pWall->GetScreenScale(screen, scale))
+    KvGUI::StructScaleRect place = PlaceAround({0.5, 0.5});
+    const int window = OpenWindow(screen, place, source);
+    const QWidget* video = m_pWall->GetWindowWidget(screen, window);
+    if (!video)
         return;
-    const QRect wall = m_pWall->GetTVWallRect();
+    const QSizeF pixels = video->size() + WindowFrame;
     const QSizeF size(
-        wall.width() * (scale.dRight - scale.dLeft), wall.height() * (scale.dBottom - scale.dTop));
-    OpenWindow(
-        screen, PlaceAround({drop.posF().x() / size.width(), drop.posF().y() / size.height()}), source);
+        pixels.width() / (place.dRight - place.dLeft), pixels.height() / (place.dBottom - place.dTop));
+    place = PlaceAround({drop.posF().x() / size.width(), drop.posF().y() / size.height()});
+    place.bEditable = true;
+    m_pWall->SetWindowScale(screen, window, place);
 }
 
 void CameraWall::OnWindowEvent(int screen, int window, QEvent* event)

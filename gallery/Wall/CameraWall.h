@@ -132,7 +132,7 @@ private:
     SourcePool& m_pool;
     FrameClock& m_clock;
     WallWidget* m_pWall;
-    int m_iFamily = WallLayout::DisplayFamily;
+    int m_iFamily = -1; // none yet
     QVector<SourceSpec> m_waitingFiles;
     bool m_bTitles = true;
     bool m_bGutter = true;

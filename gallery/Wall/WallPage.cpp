@@ -282,6 +282,7 @@ QVector<Page::Picture> WallPage::Pictures()
         {QStringLiteral("selection"), [this] { EnterSelection(); }},
         {QStringLiteral("zoomed"), [this] { EnterZoomed(); }},
         {QStringLiteral("scene"), [this] { EnterScene(); }},
+        {QStringLiteral("scene-zoomed"), [this] { EnterZoomedScene(); }},
         {QStringLiteral("details"), [this] { EnterDetails(); }}};
 }
 
@@ -313,6 +314,11 @@ void WallPage::EnterSelection()
 void WallPage::EnterZoomed()
 {
     ShowStart();
+    ZoomIntoThirdScreen();
+}
+
+void WallPage::ZoomIntoThirdScreen()
+{
     const QSize wall = m_pCameras->Wall()->size();
     TurnWheel(*m_pCameras->Wall(), QPoint(wall.width() * 2 / 5, wall.height() * 7 / 10), 2);
 }
@@ -333,6 +339,14 @@ void WallPage::EnterScene()
     ShowStart();
     m_pCameras->SetFamily(WallLayout::NormalFamily);
     ShowStates();
+}
+
+void WallPage::EnterZoomedScene()
+{
+    EnterScene();
+    for (const int screen : {2, 3})
+        m_pCameras->SetOverlays(screen, true);
+    ZoomIntoThirdScreen();
 }
 
 } // namespace OperatorClient

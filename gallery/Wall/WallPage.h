@@ -44,6 +44,8 @@ private:
     void EnterSelection();
     void EnterZoomed();
     void EnterScene();
+    void EnterZoomedScene();
+    void ZoomIntoThirdScreen();
     void EnterDetails();
 
     const WallLayoutFile m_file;
