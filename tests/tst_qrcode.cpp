@@ -109,6 +109,7 @@ private Q_SLOTS:
     void versions();
     void texts_data();
     void texts();
+    void formatIsNotMirrored();
     void eightPixelsAModule();
 
     void firstState();
@@ -134,7 +135,7 @@ void tst_QrCode::versions_data()
     }
 }
 
-/// Catches swapped rows and columns, a wrong bit of the modules, another level or mode, and a picture whose
+/// Catches a wrong bit of the modules, another level or mode, and a picture whose
 /// pixels are not those of their modules.
 void tst_QrCode::versions()
 {
@@ -191,6 +192,28 @@ void tst_QrCode::texts()
     QCOMPARE(QRCodePicture::Scaled(text).isNull(), side == 0);
     if (side > 0)
         QTEST(ReadQrCode(OnPaper(Enlarged(modules))), "read");
+}
+
+/// Catches rows taken for columns: readers read mirrored codes too, not all of them.
+void tst_QrCode::formatIsNotMirrored()
+{
+    const QImage modules = QRCodePicture::Modules(Letters(14));
+    // The format's 15 bits around the upper left finder, from the left to the top; row and column 6 are left
+    // out. Mirrored they would come in the reverse order.
+    int format = 0;
+    const auto add = [&](int x, int y) { format = format << 1 | modules.pixelIndex(x, y); };
+    for (const int x : {0, 1, 2, 3, 4, 5, 7, 8})
+        add(x, 8);
+    for (const int y : {7, 5, 4, 3, 2, 1, 0})
+        add(8, y);
+    format ^= 0x5412; // the mask of every format
+    QCOMPARE(format >> 13, 2); // level H
+    int rest = format;
+    for (int bit = 14; bit >= 10; --bit) {
+        if (rest >> bit & 1)
+            rest ^= 0x537 << (bit - 10); // the generator of its check bits
+    }
+    QCOMPARE(rest, 0);
 }
 
 /// Catches a margin inside the picture and colours other than black and white.

@@ -118,6 +118,7 @@ private Q_SLOTS:
     void valuesAreReportedOnce();
     void silentValuesShowOnTheToolTip();
     void pressOpensAbove();
+    void escapeBeforeTheRelease();
     void pressOnTheButtonClosesForGood();
     void pressElsewhereIsGivenOn();
     void panelStaysOnTheScreen();
@@ -148,6 +149,8 @@ void tst_Volume::placement_data()
     row("right edge, as far as it goes", {776, 300}, single, {781, 200});
     row("right edge, beyond", {777, 300}, single, {781, 200});
     row("lower edge", {400, 598}, single, {405, 498});
+    row("lower edge, as far as it goes", {400, 599}, single, {405, 499});
+    row("lower edge, a pixel beyond", {400, 600}, single, {405, 499});
     row("lower edge, beyond", {400, 640}, single, {405, 499});
 
     const Screens bars{{Single, QRect(60, 30, 740, 530)}};
@@ -269,6 +272,19 @@ void tst_Volume::pressOpensAbove()
     f.Release(OnButton);
     QVERIFY(f.Panel()->isVisible());
     QVERIFY(!f.button->isDown());
+}
+
+/// Catches a button that stays down when its panel goes before the mouse is released.
+void tst_Volume::escapeBeforeTheRelease()
+{
+    Fixture f;
+    f.Press(OnButton);
+    QVERIFY(f.button->isDown());
+    Key(Qt::Key_Escape);
+    QVERIFY(!f.Panel()->isVisible());
+    QVERIFY(!f.button->isDown());
+    f.Release(OnButton);
+    QVERIFY(!f.Panel()->isVisible());
 }
 
 /// Catches a press that closes the panel and, given on to the button, opens it again.
