@@ -8,7 +8,6 @@
 #include <UI/Dialogs/KvVolumeButton.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Pairing/PairingPage.h>
-#include <gallery/Pairing/PairingToken.h>
 #include <gallery/Pictures/CameraTile.h>
 #include <gallery/Wall/WallPage.h>
 
@@ -20,7 +19,6 @@
 #include <QPlainTextEdit>
 #include <QPropertyAnimation>
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -129,7 +127,6 @@ private Q_SLOTS:
     void soundOfTheWall();
     void pairingIssuesTokens();
     void pairingEndsWithTheDialog();
-    void tokensFitTheSmallestCode();
 };
 
 /// Catches a panel that does not come, comes for nothing, or tells of another window.
@@ -309,16 +306,6 @@ void tst_ClientDialogs::pairingEndsWithTheDialog()
     QTest::keyClick(dialog, Qt::Key_Escape);
     QVERIFY(!dialog->isVisible());
     QVERIFY(!dialog->findChild<QTimer*>()->isActive());
-}
-
-/// Catches a token that needs a larger code, and one that is always the same.
-void tst_ClientDialogs::tokensFitTheSmallestCode()
-{
-    QRandomGenerator random(7);
-    const QString one = MakePairingToken(random);
-    const QString other = MakePairingToken(random);
-    QCOMPARE(one.toUtf8().size(), 14);
-    QVERIFY(one != other);
 }
 
 STRICT_X_TEST_MAIN(tst_ClientDialogs)

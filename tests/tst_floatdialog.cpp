@@ -4,7 +4,6 @@
 
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <UI/Dialogs/CFloatDialog.h>
-#include <UI/Dialogs/FloatSlide.h>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -22,7 +21,6 @@
 #include <memory>
 
 using UICommonMdl::CFloatDialog;
-using UICommonMdl::CoveredByPanel;
 
 namespace {
 
@@ -106,16 +104,11 @@ class tst_FloatDialog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void coveredPart_data();
-    void coveredPart();
-
     void docksToTheUpperRightCorner();
     void slidesInAndOut();
-    void takesHalfASecond();
     void sameRequestStartsNothing();
     void turnsBackAndBackAgain();
     void turnsBackAtOnce();
-    void turnsBackFromTheTopEdge();
     void directShowStopsTheSlide();
     void widthChangesWhileOut();
     void windowIsNoLargerThanThePanel();
@@ -139,27 +132,6 @@ private Q_SLOTS:
     void longTitleLeavesTheButton();
     void styles();
 };
-
-void tst_FloatDialog::coveredPart_data()
-{
-    QTest::addColumn<QRect>("panel");
-    QTest::addColumn<QRect>("covered");
-    QTest::newRow("in") << QRect(0, 0, 200, 100) << QRect(0, 0, 200, 100);
-    QTest::newRow("half out") << QRect(120, 0, 200, 100) << QRect(120, 0, 80, 100);
-    QTest::newRow("one column") << QRect(199, 0, 200, 100) << QRect(199, 0, 1, 100);
-    QTest::newRow("out") << QRect(200, 0, 200, 100) << QRect();
-    QTest::newRow("no size") << QRect() << QRect();
-}
-
-/// Catches an empty mask, which Qt takes for none: the whole window would hold up clicks.
-void tst_FloatDialog::coveredPart()
-{
-    QFETCH(QRect, panel);
-    QFETCH(QRect, covered);
-    const QRegion region = CoveredByPanel(QSize(200, 100), panel);
-    QVERIFY(!region.isEmpty());
-    QCOMPARE(region & QRect(0, 0, 200, 100), QRegion(covered));
-}
 
 /// Catches a panel beside its parent, of another height, or visible before it was asked for.
 void tst_FloatDialog::docksToTheUpperRightCorner()
@@ -190,16 +162,9 @@ void tst_FloatDialog::slidesInAndOut()
         QCOMPARE(f.dialog->IsShown(), show);
         QCOMPARE(finished.count(), show ? 1 : 2);
     }
-}
-
-/// Catches a slide that never moves by itself.
-void tst_FloatDialog::takesHalfASecond()
-{
-    const Fixture f;
-    QSignalSpy finished(f.dialog, &CFloatDialog::SignalAnimationFinished);
     f.dialog->AnimaShow(true);
     QCOMPARE(f.Slide()->duration(), SlideTime);
-    QVERIFY(finished.wait());
+    QVERIFY(finished.wait()); // by itself
     QCOMPARE(f.Panel()->pos(), In);
 }
 
@@ -227,6 +192,7 @@ void tst_FloatDialog::turnsBackAndBackAgain()
     f.Slide()->setCurrentTime(300);
     const int there = f.Panel()->x();
     QVERIFY(there > 0 && there < Width / 2);
+    f.Panel()->move(there, 9); // slides run along the upper edge
 
     f.dialog->AnimaShow(false);
     QCOMPARE(f.Panel()->pos(), QPoint(there, 0));
@@ -255,18 +221,6 @@ void tst_FloatDialog::turnsBackAtOnce()
     QVERIFY(!f.dialog->IsShown());
     f.dialog->AnimaShow(true);
     QCOMPARE(f.Slide()->duration(), SlideTime);
-}
-
-/// Catches a panel that keeps an offset which something else gave it.
-void tst_FloatDialog::turnsBackFromTheTopEdge()
-{
-    const Fixture f;
-    f.dialog->AnimaShow(true);
-    f.Slide()->setCurrentTime(250);
-    const int x = f.Panel()->x();
-    f.Panel()->move(x, 9);
-    f.dialog->AnimaShow(false);
-    QCOMPARE(f.Panel()->pos(), QPoint(x, 0));
 }
 
 /// Catches a slide that goes on after the panel was placed directly.

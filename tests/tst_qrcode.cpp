@@ -110,7 +110,6 @@ private Q_SLOTS:
     void texts_data();
     void texts();
     void formatIsNotMirrored();
-    void eightPixelsAModule();
 
     void firstState();
     void showsTheCode();
@@ -214,27 +213,6 @@ void tst_QrCode::formatIsNotMirrored()
             rest ^= 0x537 << (bit - 10); // the generator of its check bits
     }
     QCOMPARE(rest, 0);
-}
-
-/// Catches a margin inside the picture and colours other than black and white.
-void tst_QrCode::eightPixelsAModule()
-{
-    const QImage picture = QRCodePicture::Scaled(Letters(14)).convertToFormat(QImage::Format_RGB32);
-    // The upper left finder: seven dark modules, a light ring inside, dark three times three within.
-    const auto module = [&](int column, int row) {
-        const QImage square = picture.copy(column * 8, row * 8, 8, 8);
-        QImage plain(8, 8, QImage::Format_RGB32);
-        plain.fill(square.pixel(0, 0));
-        return square == plain ? square.pixel(0, 0) : qRgb(255, 0, 0);
-    };
-    for (int i = 0; i < 7; ++i) {
-        QCOMPARE(module(i, 0), qRgb(0, 0, 0));
-        QCOMPARE(module(0, i), qRgb(0, 0, 0));
-        QCOMPARE(module(i, 7), qRgb(255, 255, 255));
-    }
-    QCOMPARE(module(1, 1), qRgb(255, 255, 255));
-    QCOMPARE(module(2, 2), qRgb(0, 0, 0));
-    QCOMPARE(module(24, 0), qRgb(0, 0, 0));
 }
 
 /// Catches a dialog that runs before it shows anything, or comes in another form.
