@@ -58,13 +58,26 @@ QWidgetList OpenOver(const MainWindow& window)
     return open;
 }
 
+/// What is added to the place of an open widget: dialogs stand in the middle of the window, also where the
+/// display is too small for that, and what is open over a dialog goes with it.
+QPoint Shift(const MainWindow& window, const QWidget* widget)
+{
+    while (widget->windowType() != Qt::Dialog && widget->parentWidget() != nullptr)
+        widget = widget->parentWidget()->window();
+    if (widget->windowType() != Qt::Dialog)
+        return {};
+    return window.geometry().center() - widget->geometry().center();
+}
+
 QPixmap PictureOf(MainWindow& window)
 {
     QPixmap picture = window.grab();
     QPainter painter(&picture);
     const QWidgetList open = OpenOver(window);
     for (QWidget* widget : open)
-        painter.drawPixmap(widget->geometry().topLeft() - window.geometry().topLeft(), widget->grab());
+        painter.drawPixmap(
+            widget->geometry().topLeft() + Shift(window, widget) - window.geometry().topLeft(),
+            widget->grab());
     return picture;
 }
 

@@ -289,11 +289,8 @@ void PhotoPage::ShowWithDialog(void (PhotoPage::*crop)(), const std::function<vo
     ShowDrawn();
     QTimer::singleShot(DialogIsThere, this, [this, act] {
         auto* dialog = findChild<QDialog*>();
-        if (dialog == nullptr)
-            return;
-        const QRect room = window()->geometry();
-        dialog->move(room.center() - dialog->rect().center());
-        act(dialog);
+        if (dialog != nullptr)
+            act(dialog);
     });
     (this->*crop)();
 }

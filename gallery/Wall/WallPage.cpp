@@ -3,13 +3,13 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/Dialogs/KvVolumeButton.h>
+#include <gallery/OperatorHand.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
 #include <QImageReader>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -34,23 +34,6 @@ QString VideoFilter()
     return WallPage::tr("Videos (%1)")
                .arg(QStringLiteral("*.avi *.mkv *.mov *.mp4 *.mpg *.ogg *.ogv *.ts *.webm"))
         + QStringLiteral(";;") + WallPage::tr("All files (*)");
-}
-
-/// Presses, moves and releases the left button as an operator would.
-void Drag(QWidget& wall, const QPoint& from, const QPoint& to)
-{
-    QWidget* target = wall.childAt(from);
-    if (!target)
-        return;
-    const auto send
-        = [&](QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held) {
-              QMouseEvent event(
-                  type, target->mapFrom(&wall, at), wall.mapToGlobal(at), button, held, Qt::NoModifier);
-              QApplication::sendEvent(target, &event);
-          };
-    send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
-    send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
-    send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
 }
 
 /// Turns the wheel by a number of steps over a point of the wall, as an operator would.
@@ -295,7 +278,7 @@ void WallPage::EnterOverlays()
     }
     const QSize wall = m_pCameras->Wall()->size();
     const QPoint onThird(wall.width() * 28 / 100, wall.height() * 6 / 10); // between its windows
-    Drag(*m_pCameras->Wall(), onThird, onThird); // selects it
+    DragOver(*m_pCameras->Wall(), onThird, onThird); // selects it
 }
 
 void WallPage::EnterSelection()
@@ -305,7 +288,7 @@ void WallPage::EnterSelection()
     ShowStates();
     // A band from the free lower left corner of the third screen over two of its windows.
     const QSize wall = m_pCameras->Wall()->size();
-    Drag(
+    DragOver(
         *m_pCameras->Wall(), QPoint(wall.width() / 50, wall.height() * 49 / 50),
         QPoint(wall.width() / 4, wall.height() * 7 / 10));
     m_pDetails->EndSlide();
@@ -330,7 +313,7 @@ void WallPage::EnterDetails()
     ShowStates();
     const QWidget* video = m_pCameras->Wall()->GetWindowWidget(0, 0);
     const QPoint middle = video->mapTo(m_pCameras->Wall(), video->rect().center());
-    Drag(*m_pCameras->Wall(), middle, middle);
+    DragOver(*m_pCameras->Wall(), middle, middle);
     m_pDetails->EndSlide();
 }
 
