@@ -1,5 +1,6 @@
 #include <designer/WidgetEntry.h>
 
+#include <Platform/BasicUIComponents/KvCalendarEx.h>
 #include <Platform/BasicUIComponents/KvCheckBox.h>
 #include <Platform/BasicUIComponents/KvHorScrollBar.h>
 #include <Platform/BasicUIComponents/KvLineEdit.h>
@@ -16,6 +17,7 @@
 #include <UI/FormInputs/KvLineEditWithDirButton.h>
 #include <UI/FormInputs/QIpAddrEdit.h>
 #include <UI/FormInputs/QIpPartLineEdit.h>
+#include <UI/FormInputs/WmDateCalendar.h>
 #include <UI/FormInputs/WmNoImpPushButton.h>
 #include <UI/LinkWeb/CActiveXLinkWebCtrl.h>
 #include <UI/PersonImage/WmPersonImage.h>
@@ -152,6 +154,21 @@ const QVector<WidgetEntry>& Widgets()
          "Button of a less important action",
          {96, 30},
          &Create<WmNoImpPushButton>},
+
+        {"UICommonMdl::WmDateCalendar",
+         "UI/FormInputs/WmDateCalendar.h",
+         Inputs,
+         "DateRange",
+         "Button that shows a range of dates and opens its calendar",
+         {220, 30},
+         &Create<WmDateCalendar>},
+        {"KvGUI::KvCalendarEx",
+         "Platform/BasicUIComponents/KvCalendarEx.h",
+         Inputs,
+         "Calendar",
+         "Calendar of two months for a range of dates",
+         {560, 300},
+         &Create<KvGUI::KvCalendarEx>},
 
         {"UICommonMdl::KvVolumeButton",
          "UI/Dialogs/KvVolumeButton.h",
