@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPointer>
+#include <QScreen>
 #include <QTest>
 #include <QUrl>
 #include <memory>

@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QTextFrame>
 #include <QTimerEvent>
 #include <QWindow>
 #include <cmath>
@@ -78,9 +79,6 @@ CTipLabel::CTipLabel()
     m_pTextBox->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_pTextBox->document()->setDocumentMargin(0);
     connect(m_pFadeOut, &QPropertyAnimation::finished, this, &CTipLabel::OnFadeOutFinished);
-    // The attribute works inside this program only; the window system must let clicks through as well.
-    create();
-    windowHandle()->setFlag(Qt::WindowTransparentForInput);
 }
 
 QPropertyAnimation* CTipLabel::MakeFade(double from, double to)
@@ -106,15 +104,27 @@ void CTipLabel::ShowTip(const QString& text, QWidget* anchor, DisplayPosition po
     SetAnchor(anchor);
     m_pFadeOut->stop();
     setGeometry(place.bubble);
+    // Where the desktop does not mix windows, what is around the arrow would be black.
+    const QRegion arrow(TipArrow(place.bubble.size(), place.side, place.arrowStart));
+    setMask(arrow + TipBody(place.bubble.size(), place.side));
     m_pTextBox->setGeometry(TipBody(place.bubble.size(), place.side).adjusted(1, 1, -1, -1));
     SetText(text);
     update();
     show();
+    LetClicksThrough();
     raise();
     m_hideTimer.start(m_iDisplayTime, this);
     m_pFadeIn->start();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+/// The attribute works inside this program only; the window system must let clicks through as well. On X11
+/// each showing makes a new window, to which Qt applies the flag only when it changes.
+void CTipLabel::LetClicksThrough()
+{
+    windowHandle()->setFlag(Qt::WindowTransparentForInput, false);
+    windowHandle()->setFlag(Qt::WindowTransparentForInput, true);
 }
 
 QSize CTipLabel::BodySize(const QString& text) const

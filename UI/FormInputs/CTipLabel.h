@@ -71,6 +71,7 @@ private:
     ~CTipLabel() override = default;
 
     QPropertyAnimation* MakeFade(double from, double to);
+    void LetClicksThrough();
     QSize BodySize(const QString& text) const;
     void SetText(const QString& text);
     int SetMargins(int beside, int above);

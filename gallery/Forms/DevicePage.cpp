@@ -2,7 +2,6 @@
 
 #include <Platform/BasicUIComponents/KvCalendarEx.h>
 #include <Platform/BasicUIComponents/KvCheckBox.h>
-#include <Platform/BasicUIComponents/KvMessageNotify.h>
 #include <Platform/BasicUIComponents/KvPushButton.h>
 #include <UI/FormInputs/CPasswordEdit.h>
 #include <UI/FormInputs/CPasswordStrength.h>
@@ -23,6 +22,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -301,8 +301,8 @@ void DevicePage::OpenNewGroup()
 bool DevicePage::AddGroup(const QString& name)
 {
     if (m_pGroups->findText(name, Qt::MatchFixedString) >= 0) {
-        KvGUI::KvMessageNotify::Instance()->AddTextNotification(
-            tr("There is a group %1 already").arg(name), m_pNewGroup);
+        auto* edit = m_pNewGroup->findChild<QLineEdit*>();
+        CTipLabel::Instance()->ShowTip(tr("There is such a group already"), edit, CTipLabel::Left);
         return false;
     }
     m_pGroups->addItem(name);
