@@ -180,8 +180,7 @@ void KvTVWallNormalView::SendMouse(const QMouseEvent& event)
     if (!IsHeld())
         return;
     QMouseEvent translated = Translated(event, m_held.Origin());
-    const Target held = m_held;
-    held.Deliver(&translated);
+    m_held.Deliver(&translated);
 }
 
 void KvTVWallNormalView::PressOnTarget(QMouseEvent* event)
