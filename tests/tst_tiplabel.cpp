@@ -15,7 +15,6 @@
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextLayout>
-#include <QWindow>
 
 using namespace UICommonMdl;
 

@@ -3,6 +3,7 @@
 #include "KvTVWallDisplayWnd_p.h"
 
 #include <Common/CommonFun.h>
+#include <Common/SkinPicture.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 
 #include <QKeyEvent>
@@ -24,16 +25,13 @@ QPolygon CornerOf(const QSize& size, const QSize& button)
     return QPolygon({corner, corner - QPoint(button.width(), 0), corner - QPoint(0, button.height())});
 }
 
-/// A picture of the skin, that of twice the density for a screen of more than one pixel a point.
-QPixmap SkinPicture(const QString& name, qreal density)
+/// A picture of the wall's folder in the skin.
+QPixmap WallPicture(const QString& name, qreal density)
 {
     const QString path = CommonFun::GetSkinPath(
         QStringLiteral("UICommonModule"), QStringLiteral("TVWallOperateWnd/") + name);
-    const QPixmap dense = density > 1.0 ? QPixmap(path + QLatin1String("@2x.png")) : QPixmap();
-    return dense.isNull() ? QPixmap(path + QLatin1String(".png")) : dense;
+    return SkinPicture(path, density);
 }
-
-QSize LogicalSize(const QPixmap& picture) { return picture.size() / picture.devicePixelRatio(); }
 
 } // namespace
 
@@ -59,7 +57,7 @@ void KvTVWallDisplayEagleEye::LoadPictures()
 {
     m_dDensity = devicePixelRatioF();
     const auto load = [this](QPixmap& picture, const QString& name) {
-        const QPixmap loaded = SkinPicture(name, m_dDensity);
+        const QPixmap loaded = WallPicture(name, m_dDensity);
         if (!loaded.isNull())
             picture = loaded;
     };
