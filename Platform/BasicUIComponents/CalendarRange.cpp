@@ -39,9 +39,8 @@ qint64 DayCount(const DateRange& range) { return range.start.daysTo(range.end) +
 
 QDateTime LocalMoment(const QDate& day, const QTime& time)
 {
-    const QDateTime moment(day, time);
-    if (moment.isValid())
-        return moment;
+    if (QDateTime(day, time).isValid())
+        return QDateTime(day, time);
     // By the clock of the day before, which was not put forward yet.
     const int offset = QDateTime(day.addDays(-1), time).offsetFromUtc();
     return QDateTime(day, time, Qt::OffsetFromUTC, offset).toLocalTime();

@@ -200,6 +200,13 @@ void KvCalendarExPrivate::ShowSelection()
     ShowHint();
 }
 
+void KvCalendarExPrivate::ShowTexts()
+{
+    startLabel->setText(KvCalendarEx::tr("Start time:"));
+    endLabel->setText(KvCalendarEx::tr("End time:"));
+    ShowHint();
+}
+
 void KvCalendarExPrivate::ShowHint()
 {
     const DateRange shown = selection.Shown();
@@ -262,8 +269,7 @@ KvCalendarEx::KvCalendarEx(QWidget* parent, Qt::WindowFlags flags)
     setFocusProxy(d->startPage->View());
     UsePlatformSheet(this, QStringLiteral("KvCalendarEx.css"));
     ClearRecord();
-    QEvent language(QEvent::LanguageChange);
-    changeEvent(&language);
+    d->ShowTexts();
     adjustSize();
 }
 
@@ -349,11 +355,8 @@ void KvCalendarEx::keyPressEvent(QKeyEvent* event)
 void KvCalendarEx::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange && event->type() != QEvent::LocaleChange)
-        return;
-    d->startLabel->setText(tr("Start time:"));
-    d->endLabel->setText(tr("End time:"));
-    d->ShowSelection();
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
+        d->ShowTexts();
 }
 
 } // namespace KvGUI

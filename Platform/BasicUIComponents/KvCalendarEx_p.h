@@ -36,6 +36,7 @@ public:
 
     void ShowPages(const PagePair& pages);
     void ShowSelection();
+    void ShowTexts();
     void ShowTimes();
     void MoveTo(const QDate& day);
     QDate CurrentDayOf(const CalendarPage& page) const;

@@ -25,9 +25,9 @@ bool AreOctetDigits(const QString& text)
 
 QStringList OctetsOfAddress(const QString& text)
 {
-    const QStringList parts = text.trimmed().split(QLatin1Char('.'));
-    if (parts.size() != OctetCount || !std::all_of(parts.begin(), parts.end(), IsOctet))
-        return {};
+    QStringList parts = text.trimmed().split(QLatin1Char('.'));
+    if (parts.size() != OctetCount || !std::all_of(parts.cbegin(), parts.cend(), IsOctet))
+        parts.clear();
     return parts;
 }
 
