@@ -1,5 +1,6 @@
 #include <gallery/Screenshots.h>
 
+#include <Platform/BasicUIComponents/KvDialog.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Pictures/SourcePool.h>
@@ -21,7 +22,8 @@ namespace OperatorClient {
 namespace {
 
 constexpr int LongestWaitForVideos = 5000; // milliseconds
-constexpr int TimeToSettle = 400; // for debounced layouts and dialogs that open, milliseconds
+/// Milliseconds, for debounced layouts, dialogs that open and panels that slide.
+constexpr int TimeToSettle = 800;
 
 void RunEvents(int milliseconds)
 {
@@ -62,11 +64,12 @@ QWidgetList OpenOver(const MainWindow& window)
 /// display is too small for that, and what is open over a dialog goes with it.
 QPoint Shift(const MainWindow& window, const QWidget* widget)
 {
-    while (widget->windowType() != Qt::Dialog && widget->parentWidget() != nullptr)
+    const auto* dialog = qobject_cast<const KvGUI::KvDialog*>(widget);
+    while (dialog == nullptr && widget->parentWidget() != nullptr) {
         widget = widget->parentWidget()->window();
-    if (widget->windowType() != Qt::Dialog)
-        return {};
-    return window.geometry().center() - widget->geometry().center();
+        dialog = qobject_cast<const KvGUI::KvDialog*>(widget);
+    }
+    return dialog == nullptr ? QPoint() : window.geometry().center() - dialog->geometry().center();
 }
 
 QPixmap PictureOf(MainWindow& window)
