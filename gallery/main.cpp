@@ -1,8 +1,10 @@
+#include <Platform/BasicUIComponents/KvDir.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/Alarms/AlarmPage.h>
 #include <gallery/ClientOptions.h>
 #include <gallery/Forms/DevicePage.h>
 #include <gallery/MainWindow.h>
+#include <gallery/Map/MapPage.h>
 #include <gallery/Pairing/PairingPage.h>
 #include <gallery/Photo/PhotoPage.h>
 #include <gallery/Photo/RecordPage.h>
@@ -51,6 +53,8 @@ int Run(const ClientOptions& options)
 
     MainWindow window;
     window.AddPage(new WallPage(pool, clock, file, layout, options.files, &window));
+    window.AddPage(new MapPage(
+        pool, clock, KvGUI::KvDir::GetCurrentPath() + QLatin1String("maps/site-map.html"), &window));
     window.AddPage(new PhotoPage(options.photo, &window));
     window.AddPage(new RecordPage(
         pictures ? pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder(), &window));
@@ -69,6 +73,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // for the browser engine
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("operator-client"));
     QCoreApplication::setApplicationVersion(QStringLiteral(OPERATOR_CLIENT_VERSION));

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <gallery/Page.h>
+#include <gallery/Wall/CameraWall.h>
+
+#include <QStringList>
+#include <QTimer>
+
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+
+namespace UICommonMdl {
+class CActiveXLinkWebCtrl;
+}
+
+namespace OperatorClient {
+
+/// A plan of the site beside a wall: a camera that is chosen on the plan gets a window on the wall, and the
+/// plan shows which cameras are on the wall and selected there. The plan is a web page.
+class MapPage : public Page
+{
+    Q_OBJECT
+
+public:
+    /// @param mapFile the plan, an HTML file; it is loaded when the page is shown first
+    MapPage(SourcePool& pool, FrameClock& clock, const QString& mapFile, QWidget* parent = nullptr);
+
+    QString Title() const override;
+    QString Name() const override;
+    QVector<Picture> Pictures() override;
+
+    CameraWall* Cameras() const { return m_pCameras; }
+    UICommonMdl::CActiveXLinkWebCtrl* Map() const { return m_pMap; }
+    bool IsMapLoaded() const { return m_bLoaded; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* NewFaultPanel();
+    void Load();
+    void ShowFault(const QString& title, const QString& hint, bool loadAgain);
+    void OnLoaded();
+    void OnCall(const QString& name, const QString& param);
+    void OpenCamera(int camera);
+    void SendSkin();
+    void SendNames();
+    void SendWall();
+    void WaitForMap();
+
+    const QString m_strMapFile;
+    UICommonMdl::CActiveXLinkWebCtrl* m_pMap;
+    QStackedWidget* m_pMapOrFault;
+    QLabel* m_pFaultTitle;
+    QLabel* m_pFaultHint;
+    QPushButton* m_pLoadAgain;
+    CameraWall* m_pCameras;
+    QTimer m_wallChanged; ///< one message for all changes of a moment
+    bool m_bLoaded = false;
+};
+
+} // namespace OperatorClient
