@@ -119,7 +119,7 @@ QString AxExcelFunction::GetExcelFileFilter(bool bExport)
     const AxExcelVersion_e version = CheckExcelVersion();
     if (version == AxExcel_None)
         return QString();
-    const QString xls = tr("EXCEL files (*.xls)");
+    QString xls = tr("EXCEL files (*.xls)");
     if (version == AxExcel_Xls)
         return xls;
     QStringList filters{tr("EXCEL files (*.xlsx)"), xls};
@@ -495,19 +495,19 @@ bool AxExcelFunction::SetCellVerticalAlignment(ExcelVerticalAlignment_e alignmen
 
 bool AxExcelFunction::SetBackgroudColor(QColor color)
 {
-    m_pCellStyle->clrBackground = color;
+    m_pCellStyle->clrBackground = std::move(color);
     return true;
 }
 
 bool AxExcelFunction::SetBordersColor(QColor color)
 {
-    m_pCellStyle->clrBorders = color;
+    m_pCellStyle->clrBorders = std::move(color);
     return true;
 }
 
 bool AxExcelFunction::SetFontColor(QColor color)
 {
-    m_pCellStyle->clrFont = color;
+    m_pCellStyle->clrFont = std::move(color);
     return true;
 }
 

@@ -60,7 +60,7 @@ AlarmPage::AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent)
     m_pShown->setSourceModel(m_pAlarms);
     m_pShown->setFilterKeyColumn(-1); // all of them
     m_pShown->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    auto* title = new QLabel(Title(), this);
+    auto* title = new QLabel(AlarmPage::Title(), this);
     title->setObjectName(QStringLiteral("pageTitle"));
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(24, 20, 24, 12);

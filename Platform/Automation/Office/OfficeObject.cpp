@@ -35,7 +35,7 @@ Answer OfficeObject::Ask(Request::Kind kind, const QString& member, const QVaria
     request.object = m_handle;
     request.member = member;
     request.arguments = arguments;
-    const Answer answer = m_pSession->Ask(request);
+    Answer answer = m_pSession->Ask(request);
     m_gone = m_gone || answer.status == Answer::Gone;
     return answer;
 }

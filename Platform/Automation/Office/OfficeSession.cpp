@@ -138,7 +138,7 @@ Answer OfficeSession::Ask(const Request& request)
         return gone;
     while (timer.elapsed() < LongestCall) {
         while (const auto message = m_buffer.Take()) {
-            const Answer answer = ToAnswer(*message);
+            Answer answer = ToAnswer(*message);
             if (answer.kind == Answer::Result)
                 return answer;
             if (answer.kind == Answer::Started) {

@@ -104,7 +104,7 @@ void MoveToPlace(const QString& from, const QString& to, const QByteArray& head)
     if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
         throw Refused("not writable");
     target.write(head);
-    constexpr qint64 PieceSize = 1024 * 1024;
+    constexpr qint64 PieceSize = 1 << 20;
     while (!source.atEnd())
         target.write(source.read(PieceSize));
     if (!target.commit())
@@ -166,8 +166,8 @@ std::unique_ptr<Document> Document::Open(const Desktop& desktop, const QString& 
     return std::unique_ptr<Document>(new Document(Load(desktop, FileUrl(path), arguments)));
 }
 
-Document::Document(Model model)
-    : m_model(std::move(model))
+Document::Document(const Model& model)
+    : m_model(model)
 {
     util::Date date(30, 12, 1899);
     Properties(m_model)->getPropertyValue(ToUno(QStringLiteral("NullDate"))) >>= date;

@@ -62,7 +62,7 @@ public:
     void Close();
 
 private:
-    explicit Document(Model model);
+    explicit Document(const Model& model);
     void SetUpForWriting();
     void FitRowHeights();
     void FitPagesToColumns();

@@ -73,9 +73,9 @@ void SetVerticalAlignment(const PropertySet& properties, int constant)
     SetProperty(properties, "VertJustify", Any(justify));
 }
 
-ExcelLook::ExcelLook(std::shared_ptr<ExcelWorkbook> workbook, PropertySet properties)
+ExcelLook::ExcelLook(std::shared_ptr<ExcelWorkbook> workbook, const PropertySet& properties)
     : m_pWorkbook(std::move(workbook))
-    , m_properties(std::move(properties))
+    , m_properties(properties)
 { }
 
 void ExcelInterior::Write(const QString& name, const QVariant& value)

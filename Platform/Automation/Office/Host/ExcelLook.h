@@ -19,7 +19,7 @@ void SetVerticalAlignment(const PropertySet& properties, int constant);
 class ExcelLook : public ExcelObject
 {
 public:
-    ExcelLook(std::shared_ptr<ExcelWorkbook> workbook, PropertySet properties);
+    ExcelLook(std::shared_ptr<ExcelWorkbook> workbook, const PropertySet& properties);
 
     bool IsGone() const override { return m_pWorkbook->IsGone(); }
 

@@ -12,9 +12,10 @@ namespace Office {
 
 using namespace com::sun::star;
 
-ExcelSheet::ExcelSheet(std::shared_ptr<ExcelWorkbook> workbook, uno::Reference<sheet::XSpreadsheet> sheet)
+ExcelSheet::ExcelSheet(
+    std::shared_ptr<ExcelWorkbook> workbook, const uno::Reference<sheet::XSpreadsheet>& sheet)
     : m_pWorkbook(std::move(workbook))
-    , m_sheet(std::move(sheet))
+    , m_sheet(sheet)
 { }
 
 std::shared_ptr<ExcelObject> ExcelSheet::SubObject(const QString& member, const QVariantList& arguments)

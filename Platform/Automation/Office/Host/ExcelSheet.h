@@ -12,7 +12,7 @@ class ExcelSheet : public ExcelObject
 public:
     ExcelSheet(
         std::shared_ptr<ExcelWorkbook> workbook,
-        com::sun::star::uno::Reference<com::sun::star::sheet::XSpreadsheet> sheet);
+        const com::sun::star::uno::Reference<com::sun::star::sheet::XSpreadsheet>& sheet);
 
     bool IsGone() const override { return m_pWorkbook->IsGone(); }
     std::shared_ptr<ExcelObject> SubObject(const QString& member, const QVariantList& arguments) override;

@@ -100,11 +100,11 @@ public:
     void AskForLife() const { m_context.desktop->getCurrentComponent(); }
 
 private:
-    Handle Add(std::shared_ptr<ExcelObject> object)
+    Handle Add(const std::shared_ptr<ExcelObject>& object)
     {
         if (!object)
             return 0;
-        m_objects.insert(++m_last, std::move(object));
+        m_objects.insert(++m_last, object);
         return m_last;
     }
 
