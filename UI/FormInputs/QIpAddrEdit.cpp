@@ -149,6 +149,7 @@ void QIpAddrEdit::setRequired(bool required)
     updateGeometry();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes a copy
 void QIpAddrEdit::showErrorHint(bool show, QString text, CTipLabel::DisplayPosition position)
 {
     m_bError = show;
