@@ -24,7 +24,7 @@ void AddFlag(const QByteArray& flag)
 
 #ifdef Q_OS_LINUX
 
-constexpr quint64 LeastSharedMemory = 256 * 1024 * 1024; // bytes; a few large pages fill less
+constexpr quint64 LeastSharedMemory = quint64(256) << 20; // bytes; a few large pages fill less
 
 /// Tries in a process of its own what the sandbox does with each render process.
 bool CanMakeNamespaces()

@@ -17,7 +17,7 @@ WebControl::WebControl(QWidget* parent)
 
 WebControl::~WebControl()
 {
-    clear();
+    WebControl::clear();
     delete m_pView;
 }
 
@@ -49,6 +49,7 @@ QVariant WebControl::dynamicCall(const QString& member, const QVariantList& argu
     if (!m_pPage || !m_pView)
         return QVariant();
     if (member == LINKWEB::AddListenerMember) {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the interface passes the address as a number
         m_pListener = reinterpret_cast<LINKWEB::ILinkWebAPI*>(quintptr(arguments.value(0).toULongLong()));
     } else if (member == LINKWEB::LoadMember) {
         MakePage();
