@@ -270,7 +270,8 @@ void TestCropPicture::CutsSurviveAnyFrame()
     CropPainting::PaintFrame(painter, QRect(0, 0, 50, 50), bounded);
 }
 
-// Catches halving that ends at nothing, one step late, or for one limit only.
+// Catches halving that ends at nothing, one step late, or for one limit only, and a negative limit that
+// leaves one pixel.
 void TestCropPicture::HalvingStopsInTime_data()
 {
     QTest::addColumn<QSize>("size");
@@ -285,7 +286,8 @@ void TestCropPicture::HalvingStopsInTime_data()
     QTest::newRow("no height") << QSize(3000, 2000) << QSize(640, 0) << QSize(3000, 2000);
     QTest::newRow("thread") << QSize(1, 20000) << QSize(100, 100) << QSize(1, 20000);
     QTest::newRow("thin") << QSize(4, 2000) << QSize(100, 100) << QSize(1, 500);
-    QTest::newRow("negative limits") << QSize(9, 9) << QSize(-5, -5) << QSize(1, 1);
+    QTest::newRow("negative limits") << QSize(9, 9) << QSize(-5, -5) << QSize(9, 9);
+    QTest::newRow("negative height") << QSize(9, 9) << QSize(4, -1) << QSize(9, 9);
     QTest::newRow("nothing") << QSize(0, 0) << QSize(-1, -1) << QSize(0, 0);
 }
 
@@ -324,6 +326,8 @@ void TestCropPicture::LimitsAreChecked_data()
     QTest::newRow("fits at once") << whole << 900000 << none << false << valid << QSize(400, 300) << 90;
     QTest::newRow("never fits") << whole << 1 << none << false << bytes << none << -1;
     QTest::newRow("negative bytes") << whole << -9 << none << false << bytes << none << -1;
+    QTest::newRow("negative pixels") << whole << 900000 << QSize(-1, -1) << false << valid << QSize(400, 300)
+                                     << 90;
     QTest::newRow("too wide") << whole << 900000 << QSize(399, 300) << false << pixels << none << -2;
     QTest::newRow("width alone") << whole << 900000 << QSize(400, 0) << false << pixels << none << -2;
     QTest::newRow("halved") << whole << 900000 << QSize(399, 300) << true << valid << QSize(200, 150) << 90;

@@ -183,6 +183,7 @@ private slots:
     void TheCornerMovesToThePointer();
     void ResizingFollowsThePointer();
     void AResizedWholePhotoStaysResized();
+    void HoverLooksAtTheLastPress();
     void OnlyAPressedCanvasIsDimmed();
     void PaintedStepsEqualAFreshPaint();
     void TheMenuOffersSearchesInOrder();
@@ -310,6 +311,23 @@ void TestCutPhoto::AResizedWholePhotoStaysResized()
     canvas->SetCutRegion(QRect(50, 50, 20, 20));
     QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 20));
     QCOMPARE(Framed(*canvas), Whole);
+}
+
+// Catches a host's timer that changes the cursor before there is a frame, or looks at the live pointer.
+void TestCutPhoto::HoverLooksAtTheLastPress()
+{
+    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+    canvas->setCursor(Qt::WaitCursor);
+    canvas->OnTimeOut();
+    QCOMPARE(canvas->cursor().shape(), Qt::WaitCursor);
+    Drag(*canvas, QPoint(40, 30), QPoint(100, 70));
+    canvas->OnTimeOut();
+    QCOMPARE(canvas->cursor().shape(), Qt::SizeAllCursor);
+    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 120));
+    MoveHeld(*canvas, QPoint(40, 30));
+    canvas->setCursor(Qt::WaitCursor);
+    canvas->OnTimeOut();
+    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
 }
 
 // Catches a mask that is painted too early or too long, over the frame, or misplaced while a selection runs

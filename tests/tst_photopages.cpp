@@ -60,6 +60,23 @@ void Drop(QWidget& view, const QMimeData& data)
     QApplication::sendEvent(&view, &drop);
 }
 
+/// Whether the operator sees a message with this text in it.
+bool IsTold(const QString& text)
+{
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->accessibleName().contains(text))
+            return true;
+    }
+    return false;
+}
+
+void DropPicture(const PhotoPage& page, const QImage& picture)
+{
+    QMimeData data;
+    data.setImageData(picture);
+    Drop(*page.findChild<PhotoView*>(), data);
+}
+
 template <typename PageType>
 void Show(PageType& page)
 {
@@ -77,6 +94,9 @@ class TestPhotoPages : public QObject
 private slots:
     void cleanup();
     void CutKeepsTheLimitsOfThePage();
+    void LimitsStandEachForItself_data();
+    void LimitsStandEachForItself();
+    void FrameWithoutAPixelIsTold();
     void CancelledCropChangesNothing();
     void DroppedFileIsCropped();
     void DroppedPictureIsCropped();
@@ -84,6 +104,7 @@ private slots:
     void NewPhotoTakesTheCutAway();
     void SavedCutIsTheCut();
     void PageDestroyedWhileADialogIsOpen();
+    void PageDestroyedWhileAFileIsChosen();
     void CanvasKeepsThePicturesShape_data();
     void CanvasKeepsThePicturesShape();
     void RecordIsKept();
@@ -91,6 +112,7 @@ private slots:
     void DeletedPictureIsGone();
     void DeletionCanBeCancelled();
     void RecordNeedsAName();
+    void UnwrittenRecordIsTold();
     void DamagedRecordIsEmpty();
 
 private:
@@ -120,6 +142,51 @@ void TestPhotoPages::CutKeepsTheLimitsOfThePage()
     QCOMPARE(QImage::fromData(page.Cut()->jpeg, "JPG").size(), page.Cut()->image.size());
 }
 
+void TestPhotoPages::LimitsStandEachForItself_data()
+{
+    QTest::addColumn<QVector<int>>("limits"); // kB, width, height
+    QTest::addColumn<QSize>("cut");
+    QTest::newRow("none") << QVector<int>{0, 0, 0} << QSize(480, 320);
+    QTest::newRow("width") << QVector<int>{60, 100, 0} << QSize(60, 40);
+    QTest::newRow("height") << QVector<int>{60, 0, 100} << QSize(120, 80);
+    QTest::newRow("pixels without bytes") << QVector<int>{0, 100, 300} << QSize(60, 40);
+}
+
+/// Catches a limit that does nothing because another one reads "no limit".
+void TestPhotoPages::LimitsStandEachForItself()
+{
+    QFETCH(QVector<int>, limits);
+    QImage picture(480, 320, QImage::Format_RGB32);
+    picture.fill(Qt::green);
+    PhotoPage page{QString()};
+    Show(page);
+    DropPicture(page, picture);
+    const QList<QSpinBox*> boxes = page.findChildren<QSpinBox*>();
+    for (int i = 0; i < limits.size(); ++i)
+        boxes.at(i)->setValue(limits.at(i));
+    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    page.CropPlain();
+    QVERIFY(page.Cut().has_value());
+    QTEST(page.Cut()->image.size(), "cut");
+}
+
+/// Catches an empty file that is shown and saved as a cut: of a picture one pixel wide a frame holds none.
+void TestPhotoPages::FrameWithoutAPixelIsTold()
+{
+    QImage thread(1, 400, QImage::Format_RGB32);
+    thread.fill(Qt::green);
+    PhotoPage page{QString()};
+    Show(page);
+    DropPicture(page, thread);
+    WhenOpen(page, [](QDialog& dialog) {
+        DragOver(Canvas(dialog), QPoint(50, 100), QPoint(150, 300));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    page.CropPlain();
+    QVERIFY(!page.Cut().has_value());
+    QVERIFY(IsTold(QStringLiteral("too small")));
+}
+
 /// Catches a cut that a cancelled dialog takes away or makes.
 void TestPhotoPages::CancelledCropChangesNothing()
 {
@@ -136,10 +203,10 @@ void TestPhotoPages::CancelledCropChangesNothing()
     QVERIFY(page.Cut().has_value());
 }
 
-/// Catches a drop that shows the file but crops the photo before it.
+/// Catches a drop that shows the file but crops the photo before it, and a file name taken for markup.
 void TestPhotoPages::DroppedFileIsCropped()
 {
-    const QString path = m_folder.filePath(QStringLiteral("blue photo.png"));
+    const QString path = m_folder.filePath(QStringLiteral("<i>blue photo.png"));
     QImage blue(300, 200, QImage::Format_RGB32);
     blue.fill(Qt::blue);
     QVERIFY(blue.save(path));
@@ -148,6 +215,8 @@ void TestPhotoPages::DroppedFileIsCropped()
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(path)});
     Drop(*page.findChild<PhotoView*>(), data);
+    const auto* name = page.findChild<QLabel*>(QStringLiteral("hint"));
+    QVERIFY(name->sizeHint().width() >= name->fontMetrics().horizontalAdvance(name->text()));
     WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
     page.CropPlain();
     QVERIFY(page.Cut().has_value());
@@ -162,9 +231,7 @@ void TestPhotoPages::DroppedPictureIsCropped()
     red.fill(Qt::red);
     PhotoPage page{QString()};
     Show(page);
-    QMimeData data;
-    data.setImageData(red);
-    Drop(*page.findChild<PhotoView*>(), data);
+    DropPicture(page, red);
     TestSupport::AnnounceCropCanvases();
     WhenOpen(page, [](QDialog& dialog) {
         DragOver(Canvas(dialog), QPoint(30, 30), QPoint(150, 120));
@@ -185,11 +252,7 @@ void TestPhotoPages::UnreadableFileIsTold()
     file.close();
     PhotoPage page(path);
     Show(page);
-    bool told = false;
-    for (const QWidget* widget : QApplication::topLevelWidgets())
-        told
-            = told || (widget->isVisible() && widget->accessibleName().contains(QLatin1String("broken.jpg")));
-    QVERIFY(told);
+    QVERIFY(IsTold(QStringLiteral("broken.jpg")));
     WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
     page.CropPlain();
     QVERIFY(page.Cut().has_value()); // of the drawn photo, which is there still
@@ -235,6 +298,20 @@ void TestPhotoPages::PageDestroyedWhileADialogIsOpen()
         QTimer::singleShot(kDialogIsThere, qApp, [page] { delete page; });
         (page->*crop)();
     }
+}
+
+/// Catches a file dialog that is deleted a second time by the page which opened it.
+void TestPhotoPages::PageDestroyedWhileAFileIsChosen()
+{
+    auto* page = new PhotoPage(QString());
+    const QPointer<PhotoPage> guard(page);
+    Show(*page);
+    QTimer::singleShot(kDialogIsThere, qApp, [page] {
+        QVERIFY(page->findChild<QFileDialog*>() != nullptr);
+        delete page;
+    });
+    ButtonOf(*page, QStringLiteral("Open a photo\u2026"))->click();
+    QVERIFY(guard.isNull());
 }
 
 void TestPhotoPages::CanvasKeepsThePicturesShape_data()
@@ -333,6 +410,18 @@ void TestPhotoPages::RecordNeedsAName()
     Show(page);
     QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
     QVERIFY(!QFileInfo::exists(folder + QLatin1String("/person.ini")));
+}
+
+/// Catches a record that is said to be saved although its file cannot be one.
+void TestPhotoPages::UnwrittenRecordIsTold()
+{
+    const QString folder = m_folder.filePath(QStringLiteral("unwritten"));
+    QVERIFY(QDir(folder).mkpath(QStringLiteral("person.ini")));
+    RecordPage page(folder);
+    Show(page);
+    page.findChild<QLineEdit*>()->setText(QStringLiteral("Ada Vermeer"));
+    QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
+    QVERIFY(IsTold(QStringLiteral("cannot be written")));
 }
 
 /// Catches a start that fails, or shows garbage, after files were damaged.

@@ -87,7 +87,7 @@ public:
     void SetImageMaxCapacity(int iMaxCapacity);
 
     /// Resolution in pixels that the cut may have; 0 x 0, the initial value, does not limit it. With only
-    /// one of them 0, every cut is too large.
+    /// one of them 0, every cut is too large. A negative limit counts as 0.
     void SetPicMaxSize(int iMaxWidth, int iMaxHeight);
 
     /// Whether a cut with too many pixels is halved until it fits (true) or refused (false, at first).
@@ -98,7 +98,8 @@ public:
     /// GetCompressRatio().
     ///
     /// An empty frame and too many pixels are told to the operator by a notification; a cut that stays over
-    /// the byte limit at every quality is refused without one.
+    /// the byte limit at every quality is refused without one. A frame that means less than one pixel of the
+    /// source picture in one direction is valid: the cut is a null image then.
     /// @return whether the cut is valid
     bool IsCutPhotoVaildWithNotify();
 

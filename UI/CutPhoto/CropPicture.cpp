@@ -98,7 +98,7 @@ QImage GetCutImage(const CutImageInfo& info, const QRect& crop, const QRect& pho
 QImage ChanageImageByAspectRatio(const QImage& image, const QSize& maximum)
 {
     QImage result = image;
-    if (maximum.width() == 0 || maximum.height() == 0)
+    if (maximum.isEmpty())
         return result;
     while (Exceeds(result.size(), maximum)) {
         const QSize half(result.width() / 2, result.height() / 2);
@@ -124,7 +124,7 @@ CheckedCut CheckCut(
     if (limits.iMaxCapacity == 0)
         return {Verdict::Valid, image, std::nullopt};
 
-    const bool limited = limits.maximum.width() != 0 || limits.maximum.height() != 0;
+    const bool limited = limits.maximum.width() > 0 || limits.maximum.height() > 0;
     if (limited && Exceeds(image.size(), limits.maximum)) {
         if (!limits.bKeepAspectRatio)
             return {Verdict::TooManyPixels, QImage(), std::nullopt};

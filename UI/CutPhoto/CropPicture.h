@@ -37,7 +37,7 @@ QRect SourceRect(const QRect& crop, const QRect& photo, const QSize& display, co
 QImage GetCutImage(const CutImageInfo& info, const QRect& crop, const QRect& photo, const QSize& display);
 
 /// @p image halved (integer halves, every second pixel) until it is at most @p maximum; as it is when
-/// @p maximum has no width or no height. Stops before a side would become 0.
+/// @p maximum has no width or no height (a negative one counts as 0). Stops before a side would become 0.
 QImage ChanageImageByAspectRatio(const QImage& image, const QSize& maximum);
 
 /// What a client wants of a cut.

@@ -68,7 +68,8 @@ bool CropState::IsCutPhotoVaildWithNotify(QWidget* canvas)
         cutInfo.image = cut.image;
         return true;
     }
-    KvGUI::KvMessageNotify::Instance()->AddTextNotification(Message(cut.verdict, limits.maximum), canvas);
+    KvGUI::KvMessageNotify::Instance()->AddTextNotification(
+        Message(cut.verdict, limits.maximum.expandedTo(QSize(0, 0))), canvas);
     return false;
 }
 

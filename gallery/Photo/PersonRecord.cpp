@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace OperatorClient {
@@ -61,7 +62,8 @@ bool PersonRecordFile::Write(const PersonRecord& record) const
     ini.WriteValue(Section, NameKey, record.name);
     ini.WriteValue(Section, CardKey, record.card);
     ini.WriteValue(Section, DepartmentKey, record.department);
-    bool written = QFile::exists(PathOf(IniName));
+    const QFileInfo iniFile(PathOf(IniName));
+    bool written = iniFile.isFile() && iniFile.isWritable();
     for (int page = 0; page < PersonRecord::PageCount; ++page)
         written = WritePicture(PathOf(PictureName(page)), record.pictures.at(std::size_t(page))) && written;
     return written;

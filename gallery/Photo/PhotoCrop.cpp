@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QSaveFile>
 #include <QTimer>
+#include <limits>
 
 namespace OperatorClient {
 
@@ -21,6 +22,7 @@ namespace {
 const QSize LargestCanvas(960, 640); // with the dialog's bars exactly 4:3
 const QSize SmallestCanvas(320, 240);
 constexpr int AfterLayout = 50; // milliseconds; by then the dialog has its size
+constexpr int LargestJpegSide = 65535; // pixels
 
 QByteArray JpegOf(const QImage& image, int quality)
 {
@@ -31,6 +33,26 @@ QByteArray JpegOf(const QImage& image, int quality)
     return bytes;
 }
 
+void Tell(const QString& text, QWidget* parent)
+{
+    KvGUI::KvMessageNotify::Instance()->AddTextNotification(text, parent);
+}
+
+/// The limits as the dialogs take them. These know no limit of one side only, and look at the pixels only
+/// when the bytes are limited.
+CutLimits DialogLimits(CutLimits limits)
+{
+    if (limits.width == 0 && limits.height == 0)
+        return limits;
+    if (limits.width == 0)
+        limits.width = LargestJpegSide;
+    if (limits.height == 0)
+        limits.height = LargestJpegSide;
+    if (limits.bytes == 0)
+        limits.bytes = std::numeric_limits<int>::max();
+    return limits;
+}
+
 Search SearchOf(const UICommonMdl::CCutPhotoDlg&) { return Search::None; }
 
 Search SearchOf(const UICommonMdl::CCutPhotoDlgWithZoom& dialog)
@@ -39,9 +61,21 @@ Search SearchOf(const UICommonMdl::CCutPhotoDlgWithZoom& dialog)
 }
 
 template <typename Dialog>
-std::optional<PhotoCut>
-Ask(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent)
+PhotoCut CutOf(const Dialog& dialog)
 {
+    PhotoCut cut;
+    cut.image = dialog.GetCutPhoto().image;
+    cut.quality = qMax(0, dialog.GetCanvas()->GetCompressRatio());
+    cut.search = SearchOf(dialog);
+    cut.jpeg = JpegOf(cut.image, cut.quality);
+    return cut;
+}
+
+template <typename Dialog>
+std::optional<PhotoCut>
+Ask(const Photo& photo, const CutLimits& clientLimits, const QString& title, QWidget* parent)
+{
+    const CutLimits limits = DialogLimits(clientLimits);
     // The parent may take the dialog along while it is open.
     const QPointer<Dialog> dialog(new Dialog(parent));
     const QSize canvas = PhotoCrop::CanvasSize(photo.image.size());
@@ -60,14 +94,14 @@ Ask(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* 
     if (dialog.isNull())
         return std::nullopt;
     std::optional<PhotoCut> cut;
-    if (result == QDialog::Accepted) {
-        cut = PhotoCut();
-        cut->image = dialog->GetCutPhoto().image;
-        cut->quality = qMax(0, dialog->GetCanvas()->GetCompressRatio());
-        cut->search = SearchOf(*dialog);
-        cut->jpeg = JpegOf(cut->image, cut->quality);
-    }
+    if (result == QDialog::Accepted)
+        cut = CutOf(*dialog);
     delete dialog;
+    // A frame on a picture of few pixels can hold none of them as a whole.
+    if (cut && cut->jpeg.isEmpty()) {
+        Tell(PhotoCrop::tr("This part is too small or too large for a JPEG picture."), parent);
+        return std::nullopt;
+    }
     return cut;
 }
 
@@ -80,9 +114,15 @@ QString PictureFilter()
     return PhotoCrop::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
 }
 
-void Tell(const QString& text, QWidget* parent)
+/// Runs the dialog and deletes it, unless its parent takes it along. @return empty when nothing was chosen
+QString ChosenFile(const QPointer<QFileDialog>& dialog)
 {
-    KvGUI::KvMessageNotify::Instance()->AddTextNotification(text, parent);
+    const bool chosen = dialog->exec() == QDialog::Accepted;
+    if (dialog.isNull())
+        return {};
+    const QString path = chosen ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return path;
 }
 
 } // namespace
@@ -111,24 +151,22 @@ QImage PhotoCrop::Read(const QString& path, QWidget* parent)
 
 QString PhotoCrop::AskForFile(QWidget* parent)
 {
-    return QFileDialog::getOpenFileName(parent, tr("Open a photo"), QString(), PictureFilter());
+    auto* dialog = new QFileDialog(parent, tr("Open a photo"), QString(), PictureFilter());
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return ChosenFile(dialog);
 }
 
 QString PhotoCrop::AskAndSave(const PhotoCut& cut, QWidget* parent)
 {
     // Not the dialog's static function, which would overwrite a file that it has not asked about: the one
     // with the suffix that the operator left out.
-    const QPointer<QFileDialog> dialog(new QFileDialog(parent, tr("Save the cut")));
+    auto* dialog = new QFileDialog(parent, tr("Save the cut"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilter(tr("JPEG pictures (*.jpg *.jpeg)"));
     dialog->setDefaultSuffix(QStringLiteral("jpg"));
     dialog->selectFile(QStringLiteral("cut.jpg"));
-    const bool chosen = dialog->exec() == QDialog::Accepted;
-    if (dialog.isNull())
-        return {};
-    const QString path = dialog->selectedFiles().value(0);
-    delete dialog;
-    if (!chosen || path.isEmpty())
+    const QString path = ChosenFile(dialog);
+    if (path.isEmpty())
         return {};
     const bool saved = Save(cut, path);
     const QString name = QFileInfo(path).fileName();

@@ -18,7 +18,7 @@ struct Photo
     QImage image;
 };
 
-/// What a cut may be; 0 is no limit.
+/// What a cut may be; 0 is no limit, each for itself.
 struct CutLimits
 {
     int bytes = 0; ///< of the cut as a JPEG
@@ -51,7 +51,8 @@ class PhotoCrop
     Q_DECLARE_TR_FUNCTIONS(OperatorClient::PhotoCrop)
 
 public:
-    /// In the dialog with handles and search. @return nothing when the operator cancelled
+    /// In the dialog with handles and search. @return nothing when the operator cancelled,
+    /// or, with a message, when what was framed cannot be a JPEG
     static std::optional<PhotoCut>
     WithZoom(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent);
 

@@ -85,6 +85,7 @@ QWidget* PhotoPage::BuildPhotoSide()
     title->setObjectName(QStringLiteral("pageTitle"));
     m_pPhotoText = new QLabel(side);
     m_pPhotoText->setObjectName(QStringLiteral("hint"));
+    m_pPhotoText->setTextFormat(Qt::PlainText); // a file may have any name
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     texts->addWidget(title);
