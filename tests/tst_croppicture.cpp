@@ -267,7 +267,7 @@ void TestCropPicture::CutsSurviveAnyFrame()
     CropPainting::ChangedRegion(bounded, QRect(3, 3, 9, 9));
     QImage canvas(50, 50, QImage::Format_RGB32);
     QPainter painter(&canvas);
-    CropPainting::PaintFrame(painter, QRect(0, 0, 50, 50), bounded);
+    CropPainting::PaintFrame(painter, canvas.rect(), canvas.rect(), bounded);
 }
 
 // Catches halving that ends at nothing, one step late, or for one limit only, and a negative limit that
@@ -402,7 +402,7 @@ void TestCropPicture::ChangedRegionsHoldAllThatDiffers()
         QImage image(photo.size(), QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
-        CropPainting::PaintFrame(painter, photo, frame);
+        CropPainting::PaintFrame(painter, image.rect(), photo, frame);
         return image;
     };
     for (const QRect& before : frames)
@@ -416,22 +416,26 @@ void TestCropPicture::ChangedRegionsHoldAllThatDiffers()
         }
 }
 
-// Catches a frame that is painted quickly but not as a dotted pen paints it, at the corners above all.
+// Catches a frame that is painted quickly but not as a dotted pen paints it, at the corners above all and
+// where it comes into the canvas from outside.
 void TestCropPicture::DotsAreThoseOfAPen()
 {
+    QVector<QRect> crops
+        = {{-3001, 4, 6002, 500}, {-700, -900, 730, 931}, {7, -2000, 3000, 4001}, {-50, -60, 400, 93}};
     for (int width = 0; width < 40; ++width)
-        for (int height = 0; height < 40; ++height) {
-            const QRect crop(5, 4, width, height);
-            QImage ours(50, 50, QImage::Format_RGB32);
-            ours.fill(Qt::darkGreen);
-            QImage pens = ours;
-            QPainter painter(&ours);
-            CropPainting::PaintFrame(painter, crop, crop);
-            QPainter pen(&pens);
-            pen.setPen(QPen(QColor(0x40, 0xC4, 0xFF), 2.0, Qt::DotLine, Qt::SquareCap, Qt::BevelJoin));
-            pen.drawRect(crop);
-            QVERIFY2(ours == pens, qPrintable(QStringLiteral("%1 x %2").arg(width).arg(height)));
-        }
+        for (int height = 0; height < 40; ++height)
+            crops << QRect(5, 4, width, height);
+    for (const QRect& crop : crops) {
+        QImage ours(50, 50, QImage::Format_RGB32);
+        ours.fill(Qt::darkGreen);
+        QImage pens = ours;
+        QPainter painter(&ours);
+        CropPainting::PaintFrame(painter, ours.rect(), crop, crop);
+        QPainter pen(&pens);
+        pen.setPen(QPen(QColor(0x40, 0xC4, 0xFF), 2.0, Qt::DotLine, Qt::SquareCap, Qt::BevelJoin));
+        pen.drawRect(crop);
+        QVERIFY2(ours == pens, qPrintable(QStringLiteral("%1 x %2").arg(crop.width()).arg(crop.height())));
+    }
 }
 
 // Catches a fast search that ends at another quality or another size than encoding each one.

@@ -84,7 +84,7 @@ void CCutDetailPhoto::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.drawPixmap(state.photo.topLeft(), state.display);
     if (state.crop.width() != 0 && state.crop.height() != 0)
-        CropPainting::PaintFrame(painter, state.photo, state.crop);
+        CropPainting::PaintFrame(painter, rect(), state.photo, state.crop);
 }
 
 void CCutDetailPhoto::mousePressEvent(QMouseEvent* event)

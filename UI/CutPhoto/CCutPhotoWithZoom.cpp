@@ -401,7 +401,7 @@ void CCutPhotoWithZoom::paintEvent(QPaintEvent* event)
     painter.drawPixmap(d->state.photo.topLeft(), d->state.display);
     if (!d->pressed)
         return;
-    CropPainting::PaintFrame(painter, d->state.photo, d->state.crop);
+    CropPainting::PaintFrame(painter, rect(), d->state.photo, d->state.crop);
     d->PaintIcons(painter);
 }
 

@@ -38,6 +38,7 @@ struct Side
     int length;
 
     QPoint At(int offset) const { return from + step * offset; }
+    int OffsetOf(const QPoint& pos) const { return QPoint::dotProduct(pos - from, step); }
 };
 
 /// The pixels of a dot that begins @p offset pixels along the side.
@@ -50,9 +51,21 @@ QRect Dot(const Side& side, int offset)
         .adjusted(-DotCap, -DotCap, DotCap - 1, DotCap - 1);
 }
 
+/// Draws those of the dots between the offsets @p from and @p to that can be seen in @p canvas: a frame may
+/// be a million times longer.
+void DrawDots(QPainter& painter, const QRect& canvas, const Side& side, int from, int to)
+{
+    const int oneEnd = side.OffsetOf(canvas.topLeft());
+    const int otherEnd = side.OffsetOf(canvas.bottomRight());
+    const int unseen = qMax(0, (qMin(oneEnd, otherEnd) - from) / DotPeriod - 1);
+    const int last = qMin(to, qMax(oneEnd, otherEnd) + DotPeriod);
+    for (int offset = from + unseen * DotPeriod; offset < last; offset += DotPeriod)
+        painter.fillRect(Dot(side, offset), painter.pen().color());
+}
+
 /// Draws what a pen of dots draws along @p frame, in a fraction of its time: the dots run on around the
 /// corners, and only one that bends around a corner, or ends with the last side, is left to a pen.
-void DrawDottedOutline(QPainter& painter, const QRect& frame)
+void DrawDottedOutline(QPainter& painter, const QRect& canvas, const QRect& frame)
 {
     const QPoint past = CropFrame::SearchHandle(frame);
     const Side sides[] = {
@@ -65,8 +78,9 @@ void DrawDottedOutline(QPainter& painter, const QRect& frame)
     int offset = 0;
     for (int i = 0; i < 4; ++i) {
         const Side& side = sides[i];
-        for (; offset + DotLength <= side.length; offset += DotPeriod)
-            painter.fillRect(Dot(side, offset), painter.pen().color());
+        const int dots = (side.length - DotLength - offset + DotPeriod) / DotPeriod; // that do not bend
+        DrawDots(painter, canvas, side, offset, offset + dots * DotPeriod);
+        offset += dots * DotPeriod;
         if (offset < side.length) {
             const int beyond = i + 1 < 4 ? offset + DotLength - side.length : 0;
             const QPoint bend[] = {side.At(offset), side.At(side.length), sides[(i + 1) % 4].At(beyond)};
@@ -98,7 +112,7 @@ QPixmap SkinPicture(const QString& file, const QSize& size, qreal ratio)
     return picture;
 }
 
-void PaintFrame(QPainter& painter, const QRect& photo, const QRect& crop)
+void PaintFrame(QPainter& painter, const QRect& canvas, const QRect& photo, const QRect& crop)
 {
     const QRect frame = CropFrame::Normalized(crop);
     painter.setOpacity(DimOpacity);
@@ -107,7 +121,7 @@ void PaintFrame(QPainter& painter, const QRect& photo, const QRect& crop)
     painter.setOpacity(1.0);
 
     if (qMin(frame.width(), frame.height()) > DotPeriod) {
-        DrawDottedOutline(painter, frame);
+        DrawDottedOutline(painter, canvas, frame);
         return;
     }
     painter.setPen(FramePen(Qt::DotLine));

@@ -20,8 +20,8 @@ QPixmap Stretched(const QImage& image, const QSize& size, qreal ratio);
 QPixmap SkinPicture(const QString& file, const QSize& size, qreal ratio);
 
 /// Dims @p photo outside @p crop and draws the frame's dotted outline. A frame of negative size is painted
-/// turned around.
-void PaintFrame(QPainter& painter, const QRect& photo, const QRect& crop);
+/// turned around. Nothing needs to be painted outside @p canvas.
+void PaintFrame(QPainter& painter, const QRect& canvas, const QRect& photo, const QRect& crop);
 
 /// What differs in the pictures of PaintFrame() of @p before and of @p now.
 QRegion ChangedRegion(const QRect& before, const QRect& now);
