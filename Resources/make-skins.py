@@ -2,8 +2,8 @@
 """Makes the skin trees of the library and of the gallery.
 
 Style sheets and icons are drawn once, as templates in which "@token@" stands for a value of
-the skin's palette, and "@include <file>@" for the text of another template of the same tree. This
-script fills the templates for each skin:
+the skin's palette, and "@include <file>@" for the text of another template of the same tree, or of
+the library's where the file is "library:<file>". This script fills the templates for each skin:
 
     Resources/templates/<sub folder>/<file>
         -> Resources/UICommonModule/Corvale/<skin>/<sub folder>/<file>
@@ -152,7 +152,7 @@ CONTRAST = [
 ]
 
 TOKEN = re.compile(r"@([a-z0-9-]+)@")
-INCLUDE = re.compile(r"@include ([A-Za-z0-9./-]+)@\n")
+INCLUDE = re.compile(r"@include (library:)?([A-Za-z0-9./-]+)@\n")
 URL = re.compile(r"url\(([^)]*)\)")
 
 
@@ -193,7 +193,12 @@ def filled(template, templates, module, skin):
     folder = image_folder(template, templates, module, skin)
     # @images@ is the resource folder of the template itself.
     text = fill(template.read_text(encoding="utf-8"), {**PALETTES[skin], "skin": skin, "images": folder})
-    return INCLUDE.sub(lambda match: filled(templates / match.group(1), templates, module, skin), text)
+
+    def included(match):
+        tree, _, owner = TREES[0] if match.group(1) else (templates, None, module)
+        return filled(tree / match.group(2), tree, owner, skin)
+
+    return INCLUDE.sub(included, text)
 
 
 def image_folder(template, templates, module, skin):
