@@ -579,7 +579,9 @@ void TestBasicUi::MessagesStackInsideTheScreen()
         "A message that is a good deal longer than one line can be, so that its words are wrapped, "
         "with\na line end of its own in it as well",
         &window);
-    Notify("Saved too", &window);
+    Notify(
+        "\"main_gate_camera_12_at_2026-03-14_10-24-36_third_visitor_with_a_red_coat.jpg\" was saved",
+        &window);
     const auto messages = Messages();
     QCOMPARE(messages.size(), 3);
     QRect before;
@@ -589,6 +591,8 @@ void TestBasicUi::MessagesStackInsideTheScreen()
         before = message->geometry();
         const auto* text = message->findChild<QLabel*>(QStringLiteral("kvNotificationText"));
         QVERIFY(text->heightForWidth(text->width()) <= text->height());
+        const QRect drawn = text->fontMetrics().boundingRect(text->rect(), Qt::TextWordWrap, text->text());
+        QVERIFY(drawn.width() <= text->width());
     }
     QVERIFY(messages.at(1)->height() > messages.at(0)->height());
     messages.at(1)->close();

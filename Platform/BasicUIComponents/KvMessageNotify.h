@@ -29,7 +29,8 @@ public:
     static KvMessageNotify* Instance();
 
     /// Shows a message in the window of a widget; returns at once.
-    /// @param strText plain text; line ends are kept, long lines wrapped. An empty text does nothing.
+    /// @param strText plain text; line ends are kept, long lines and words wrapped. An empty text does
+    /// nothing.
     /// @param parent a widget of the window. The message goes when that window is deleted. When null, the
     ///        active window; when there is none, the message appears on the primary screen.
     void AddTextNotification(const QString& strText, QWidget* parent = nullptr);

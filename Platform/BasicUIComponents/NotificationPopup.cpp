@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QTextBoundaryFinder>
 #include <QToolButton>
 
 namespace KvGUI {
@@ -31,9 +32,32 @@ void InstallAlertInterface()
     Q_UNUSED(installed)
 }
 
-QLabel* TextLabel(const QString& text, QWidget* parent)
+/// @p text with invisible places for a line break in words wider than a line: file names, for example.
+QString Breakable(const QString& text, const QFontMetrics& metrics)
 {
-    auto* label = new QLabel(text, parent);
+    constexpr QChar ZeroWidthSpace(0x200B);
+    QString result;
+    QString piece; // of a word, without a place for a break
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+    for (int from = 0, to = 0; from < text.size(); from = to) {
+        to = letters.toNextBoundary();
+        const QString letter = text.mid(from, to - from);
+        if (letter.at(0).isSpace()) {
+            piece.clear();
+        } else if (metrics.horizontalAdvance(piece + letter) > kTextWidth) {
+            result += ZeroWidthSpace;
+            piece = letter;
+        } else {
+            piece += letter;
+        }
+        result += letter;
+    }
+    return result;
+}
+
+QLabel* TextLabel(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
     label->setObjectName(QStringLiteral("kvNotificationText"));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
@@ -44,7 +68,8 @@ QLabel* TextLabel(const QString& text, QWidget* parent)
 
 NotificationPopup::NotificationPopup(const QString& text, int milliseconds, QWidget* parent)
     : QFrame(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus)
-    , m_pText(TextLabel(text, this))
+    , m_strText(text)
+    , m_pText(TextLabel(this))
 {
     InstallAlertInterface();
     setObjectName(QStringLiteral("kvNotification"));
@@ -74,7 +99,7 @@ NotificationPopup::NotificationPopup(const QString& text, int milliseconds, QWid
     m_time.start(milliseconds);
 }
 
-QString NotificationPopup::Text() const { return m_pText->text(); }
+QString NotificationPopup::Text() const { return m_strText; }
 
 void NotificationPopup::Restart(int milliseconds)
 {
@@ -88,6 +113,7 @@ QSize NotificationPopup::FittedSize()
 {
     ensurePolished();
     m_pText->ensurePolished();
+    m_pText->setText(Breakable(m_strText, m_pText->fontMetrics()));
     // Otherwise a label that wraps lines takes any width.
     const QSize text = m_pText->fontMetrics()
                            .boundingRect(QRect(0, 0, kTextWidth, 0), Qt::TextWordWrap, m_pText->text())

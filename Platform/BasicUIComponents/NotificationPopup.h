@@ -33,7 +33,8 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    QLabel* m_pText;
+    const QString m_strText;
+    QLabel* m_pText; ///< shows it, with places for a line break in its longest words
     QTimer m_time; ///< stands still while the pointer is inside
     bool m_bPointerInside = false;
 };
