@@ -74,6 +74,8 @@ private Q_SLOTS:
     void wallFillsTheWidget_data();
     void wallFillsTheWidget();
     void switchedByWhatGoes();
+    void deletedByWhatGoes_data();
+    void deletedByWhatGoes();
 
     void wheelZooms();
     void wheelAtTheLimits();
@@ -245,6 +247,36 @@ void tst_OperateWall::switchedByWhatGoes()
     QVERIFY(!NormalWall(wall));
     QVERIFY(DisplayWall(wall) && EagleEye(wall));
     QCOMPARE(wall.GetScreenCount(), 0);
+}
+
+void tst_OperateWall::deletedByWhatGoes_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::newRow("from normal") << int(Wall::NormalMode) << int(Wall::DisplayMode);
+    QTest::newRow("from display") << int(Wall::DisplayMode) << int(Wall::NormalMode);
+}
+
+// Catches a wall that goes by its mode and, deleted with the operate wall meanwhile, goes twice.
+void tst_OperateWall::deletedByWhatGoes()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QWidget client;
+    client.resize(800, 600);
+    const QPointer<Wall> wall = new Wall(&client);
+    wall->resize(800, 600);
+    wall->SetShowMode(from);
+    wall->SetTVWallGridCount(1, 1);
+    wall->AddScreen(Whole, QVariant());
+    wall->OpenWindow(0, Whole, QVariant());
+    client.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&client));
+    auto* player = new QWidget(wall->GetWindowWidget(0, 0));
+    connect(player, &QObject::destroyed, &client, [&wall] { delete wall; });
+    wall->SetShowMode(to);
+    QVERIFY(!wall);
+    QVERIFY(client.findChildren<QWidget*>().isEmpty());
 }
 
 void tst_OperateWall::wheelZooms()

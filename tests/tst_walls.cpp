@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QGraphicsItem>
 #include <QGraphicsView>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
 #include <QRubberBand>
@@ -22,6 +23,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <utility>
 
 using KvGUI::StructScaleRect;
 using Wall = UICommonMdl::KvTVWallOperateWnd;
@@ -184,6 +186,10 @@ private Q_SLOTS:
 
     void slotsMayDeleteAnything_data();
     void slotsMayDeleteAnything();
+    void videosMayChangeTheWall_data();
+    void videosMayChangeTheWall();
+    void lostFocusMayChangeTheWall_data();
+    void lostFocusMayChangeTheWall();
     void wildRectanglesArePainted();
 };
 
@@ -811,6 +817,31 @@ namespace {
 
 using Action = std::function<void(Fixture&)>;
 
+/// Acts at the first event of a type that a widget gets.
+class AtEvent : public QObject
+{
+public:
+    AtEvent(QWidget* widget, QEvent::Type type, const std::function<void()>& action)
+        : m_type(type)
+        , m_action(action)
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool HasActed() const { return m_acted; }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == m_type && !std::exchange(m_acted, true))
+            m_action();
+        return false;
+    }
+
+private:
+    const QEvent::Type m_type;
+    const std::function<void()> m_action;
+    bool m_acted = false;
+};
+
 /// What a client deletes.
 const QVector<QPair<const char*, Action>> Deletions = {
     {"a window", [](Fixture& f) { f.wall->DeleteWindow(0, 0); }},
@@ -896,6 +927,8 @@ void ConnectAll(Wall* wall, const std::function<void()>& slot)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Action)
+
 void tst_Walls::slotsMayDeleteAnything_data()
 {
     QTest::addColumn<int>("deletion");
@@ -932,6 +965,91 @@ void tst_Walls::slotsMayDeleteAnything()
         QVERIFY(!f.wall && f.client.findChildren<QWidget*>().isEmpty());
     else if (deletion >= 2)
         QCOMPARE(f.wall->GetScreenCount(), 0);
+}
+
+void tst_Walls::videosMayChangeTheWall_data()
+{
+    QTest::addColumn<Action>("change");
+    QTest::addColumn<bool>("byWheel");
+    const QVector<QPair<const char*, Action>> changes = {
+        {"deletes itself", [](Fixture& f) { f.wall->DeleteWindow(0, 0); }},
+        {"deletes all windows", [](Fixture& f) { f.wall->DeleteAllWindows(); }},
+        {"deletes all screens", [](Fixture& f) { f.wall->DeleteAllScreen(); }},
+        {"deletes a video", [](Fixture& f) { f.wall->DeleteWindowWidget(0, 0); }},
+        {"opens windows",
+         [](Fixture& f) {
+             for (int i = 0; i < 50; ++i)
+                 f.wall->OpenWindow(0, LeftUpper, QVariant());
+         }},
+        {"adds screens",
+         [](Fixture& f) {
+             for (int i = 0; i < 50; ++i)
+                 f.wall->AddScreen(Whole, QVariant());
+         }},
+    };
+    for (const auto& change : changes) {
+        QTest::addRow("%s at a resize", change.first) << change.second << false;
+        QTest::addRow("%s at a wheel", change.first) << change.second << true;
+    }
+}
+
+// Catches lists of screens and windows that are walked while a video that gets another size changes them, and
+// windows forgotten in it; meant to be run under a sanitizer as well.
+void tst_Walls::videosMayChangeTheWall()
+{
+    QFETCH(Action, change);
+    QFETCH(bool, byWheel);
+    Fixture f;
+    f.wall->AddScreen({0.5, 0.5, 1.0, 1.0}, QVariant());
+    for (int w = 0; w < 3; ++w)
+        f.wall->OpenWindow(0, LeftUpper, w);
+    f.wall->OpenWindow(1, LeftUpper, QVariant());
+    f.wall->GetWindowWidget(0, 2);
+    const AtEvent atResize(f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&] { change(f); });
+    byWheel ? f.mouse.Wheel({0, 0}, 120) : f.wall->resize(1500, 900);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(atResize.HasActed());
+    for (int w = 0; w < f.wall->GetWindowCount(0); ++w) {
+        if (f.wall->GetWindowWidget(0, w) != nullptr)
+            QCOMPARE(f.Pixels(w), QRect(150, 90, 450, 360));
+    }
+}
+
+void tst_Walls::lostFocusMayChangeTheWall_data()
+{
+    QTest::addColumn<Action>("occasion");
+    QTest::addColumn<Action>("change");
+    const QVector<QPair<const char*, Action>> deletions = {
+        {"a video", [](Fixture& f) { f.wall->DeleteWindowWidget(0, 0); }},
+        {"a window", [](Fixture& f) { f.wall->DeleteWindow(0, 0); }},
+        {"all windows", [](Fixture& f) { f.wall->DeleteAllWindows(); }},
+        {"all screens", [](Fixture& f) { f.wall->DeleteAllScreen(); }},
+    };
+    for (const auto& occasion : deletions) {
+        for (const auto& change : deletions)
+            QTest::addRow("%s in that of %s", change.first, occasion.first)
+                << occasion.second << change.second;
+    }
+}
+
+// Catches a deletion that goes on with what was deleted by the focus that it moves.
+void tst_Walls::lostFocusMayChangeTheWall()
+{
+    QFETCH(Action, occasion);
+    QFETCH(Action, change);
+    Fixture f;
+    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    f.wall->OpenWindow(0, RightUpper, QVariant());
+    auto* edit = new QLineEdit(f.wall->GetWindowWidget(0, 0));
+    edit->show();
+    QApplication::setActiveWindow(&f.client);
+    f.mouse.Click(f.Pixels(0).topLeft() + QPoint(10, 36));
+    QVERIFY(edit->hasFocus());
+    const AtEvent atLoss(edit, QEvent::FocusOut, [&] { change(f); });
+    occasion(f);
+    QVERIFY(atLoss.HasActed());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(f.wall->findChild<QLineEdit*>() == nullptr);
 }
 
 // Catches endless painting and undefined conversions; each wall below is painted at once.

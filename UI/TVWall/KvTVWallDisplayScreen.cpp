@@ -118,7 +118,8 @@ void KvTVWallDisplayScreen::PlaceWindows()
         return;
     m_placedSize = size();
     m_gestures.Cancel();
-    for (KvTVWallDisplayWindow* window : qAsConst(m_windows))
+    const QList<KvTVWallDisplayWindow*> present = m_windows; // a video may change the list
+    for (KvTVWallDisplayWindow* window : present)
         window->PlaceOnScreen();
     if (m_pFrame != nullptr)
         m_pFrame->FitTo(size());

@@ -134,10 +134,11 @@ bool KvTVWallDisplayWindow::DeleteVideo()
     if (m_pVideo.isNull())
         return false;
     // An event of it may be the occasion, so it is only hidden now.
-    m_pVideo->hide();
-    m_pVideo->deleteLater();
+    QWidget* video = m_pVideo;
     m_pVideo = nullptr;
     update();
+    video->deleteLater();
+    video->hide(); // moves the focus on, of which the client may hear
     return true;
 }
 

@@ -111,7 +111,9 @@ void KvTVWallDisplayWndPrivate::SelectScreen(const KvTVWallDisplayScreen* select
 
 void KvTVWallDisplayWndPrivate::PlaceScreens()
 {
-    for (KvTVWallDisplayScreen* screen : qAsConst(screens))
+    // What the client has put into videos is resized, and may change the wall: removed ones live on for now.
+    const QList<KvTVWallDisplayScreen*> present = screens;
+    for (KvTVWallDisplayScreen* screen : present)
         screen->PlaceOnWall();
 }
 
@@ -257,10 +259,9 @@ void KvTVWallDisplayWnd::SetWindowTitleShow(bool bShow) { d_func()->titleShow = 
 
 void KvTVWallDisplayWnd::SetDeviceType(bool bNoGap)
 {
-    for (KvTVWallDisplayScreen* screen : qAsConst(d_func()->screens)) {
+    for (KvTVWallDisplayScreen* screen : qAsConst(d_func()->screens))
         screen->SetNoGap(bNoGap);
-        screen->PlaceOnWall();
-    }
+    d_func()->PlaceScreens();
 }
 
 void KvTVWallDisplayWnd::SetPtzFrameSelectedEnable(bool bEnable)

@@ -84,7 +84,8 @@ void KvTVWallNormalScreen::PlaceOnWall(const QSize& wall, const QPoint& origin)
         prepareGeometryChange();
         static_cast<Pane*>(m_pPane)->prepareGeometryChange();
         m_size = place.size();
-        for (KvTVWallNormalWindow* window : qAsConst(m_windows))
+        const QList<KvTVWallNormalWindow*> present = m_windows; // a video may change the list
+        for (KvTVWallNormalWindow* window : present)
             window->PlaceOnScreen();
         if (m_pFrame != nullptr)
             m_pFrame->FitTo(m_size);
@@ -256,9 +257,9 @@ bool KvTVWallNormalScreen::DeleteWindow(int index)
     m_windows.removeAt(index);
     m_gestures.CancelSite(); // its release may never come
     disconnect(window, nullptr, this, nullptr);
+    Q_EMIT SignalArrangementChanged();
     window->deleteLater();
     window->hide(); // moves the focus on, of which the client may hear
-    Q_EMIT SignalArrangementChanged();
     return true;
 }
 

@@ -172,13 +172,13 @@ bool KvTVWallNormalWindow::DeleteVideo()
     if (m_bVideoDeleted)
         return false;
     m_bVideoDeleted = true;
-    if (!m_pVideo.isNull()) {
-        // An event of it may be the occasion, so it is only hidden now.
-        m_pProxy->hide();
-        m_pVideo->deleteLater();
-        m_pVideo = nullptr;
-    }
     update();
+    if (m_pVideo.isNull())
+        return true;
+    // An event of it may be the occasion, so it is only hidden now.
+    m_pVideo->deleteLater();
+    m_pVideo = nullptr;
+    m_pProxy->hide(); // moves the focus on, of which the client may hear
     return true;
 }
 

@@ -112,7 +112,9 @@ void KvTVWallNormalWndPrivate::PlaceScreens()
     view->scene()->update(); // all of it, so that the items need not ask one by one
     const QSize wall(horizontal.wall, vertical.wall);
     const QPoint origin(WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset));
-    for (KvTVWallNormalScreen* screen : view->Screens())
+    // What the client has put into videos is resized, and may change the wall: removed ones live on for now.
+    const QList<KvTVWallNormalScreen*> present = view->Screens();
+    for (KvTVWallNormalScreen* screen : present)
         screen->PlaceOnWall(wall, origin);
     ShowOverview();
 }

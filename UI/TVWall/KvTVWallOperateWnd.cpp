@@ -37,17 +37,6 @@ int Truncated(double z)
     return z != z ? 0 : int(qBound(double(Limits::min()), z, double(Limits::max())));
 }
 
-/// What goes with @p child may call back, so it is out of reach first.
-template <typename Widget>
-void Delete(QPointer<Widget>& child)
-{
-    Widget* going = child;
-    child.clear();
-    if (going != nullptr)
-        going->disconnect();
-    delete going;
-}
-
 } // namespace
 
 // ---- The private object
@@ -89,12 +78,30 @@ void KvTVWallOperateWndPrivate::MakeDisplayWall()
     eagleEye->raise();
 }
 
+// What goes with the child may call back, so it is out of reach first.
+template <typename Widget>
+void KvTVWallOperateWndPrivate::Delete(QPointer<Widget>& child)
+{
+    Widget* const gone = child;
+    if (gone == nullptr)
+        return;
+    child.clear();
+    gone->disconnect();
+    going << gone;
+    const QPointer<KvTVWallOperateWndPrivate> alive(this);
+    delete gone;
+    if (alive)
+        going.removeOne(gone);
+}
+
 void KvTVWallOperateWndPrivate::DeleteNormalWall() { Delete(normalWall); }
 
 void KvTVWallOperateWndPrivate::DeleteDisplayWall()
 {
+    const QPointer<KvTVWallOperateWndPrivate> alive(this);
     Delete(eagleEye);
-    Delete(displayWall);
+    if (alive)
+        Delete(displayWall);
 }
 
 void KvTVWallOperateWndPrivate::LayOut()
@@ -142,6 +149,8 @@ KvTVWallOperateWnd::~KvTVWallOperateWnd()
 {
     d_func()->DeleteDisplayWall();
     d_func()->DeleteNormalWall();
+    for (QWidget* going : qAsConst(d_func()->going))
+        going->setParent(nullptr); // or it would go with the children once more
 }
 
 void KvTVWallOperateWnd::SetShowMode(int iMode)

@@ -65,6 +65,11 @@ public:
     int showMode = KvTVWallOperateWnd::NormalMode;
     WallZoom::Axis horizontal;
     WallZoom::Axis vertical;
+    QList<QWidget*> going; // children that are being deleted further down the stack
+
+private:
+    template <typename Widget>
+    void Delete(QPointer<Widget>& child);
 };
 
 } // namespace UICommonMdl
