@@ -6,6 +6,8 @@
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
 #include <QtTest>
 #include <QtWidgets>
+#include <UI/CutPhoto/CCutDetailPhoto.h>
+#include <UI/CutPhoto/CCutPhotoWithZoom.h>
 #include <UI/PersonImage/WmPersonImage.h>
 #include <functional>
 #include <gallery/OperatorHand.h>
@@ -19,15 +21,29 @@ using namespace OperatorClient;
 namespace {
 
 constexpr int kDialogIsThere = 150; // milliseconds
+constexpr int kLookInterval = 20; // milliseconds
 
-/// Runs @p act once a dialog of @p page is open.
+template <typename CanvasType>
+bool LacksItsPicture(const QDialog& dialog)
+{
+    const auto* canvas = dialog.findChild<CanvasType*>();
+    return canvas != nullptr && !canvas->GetCutPhoto().bHasImage;
+}
+
+/// Runs @p act once a dialog of @p page is open and shows its picture, however slow the machine is.
 void WhenOpen(Page& page, const std::function<void(QDialog&)>& act)
 {
-    QTimer::singleShot(kDialogIsThere, &page, [&page, act] {
+    auto* look = new QTimer(&page);
+    QObject::connect(look, &QTimer::timeout, &page, [&page, look, act] {
         auto* dialog = page.findChild<QDialog*>();
-        QVERIFY(dialog != nullptr);
+        if (dialog == nullptr || !dialog->isVisible()
+            || LacksItsPicture<UICommonMdl::CCutDetailPhoto>(*dialog)
+            || LacksItsPicture<UICommonMdl::CCutPhotoWithZoom>(*dialog))
+            return;
+        look->stop();
         act(*dialog);
     });
+    look->start(kLookInterval);
 }
 
 QWidget& Canvas(const QDialog& dialog)
