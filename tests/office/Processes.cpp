@@ -2,6 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+#include <unistd.h>
 
 namespace {
 
@@ -50,6 +53,36 @@ pid_t Processes::Office(pid_t client)
 }
 
 bool Processes::Runs(pid_t process) { return IsRunning(Stat(QString::number(process))); }
+
+QStringList Processes::SocketFiles(pid_t process)
+{
+    const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(process));
+    static const QRegularExpression socket(QStringLiteral("socket:\\[(\\d+)\\]"));
+    QSet<QByteArray> inodes;
+    const QStringList names = descriptors.entryList(QDir::System | QDir::Files | QDir::NoDotAndDotDot);
+    for (const QString& name : names) {
+        char target[64] = {};
+        const QByteArray link = QFile::encodeName(descriptors.filePath(name));
+        if (readlink(link.constData(), target, sizeof target - 1) < 0)
+            continue;
+        const auto match = socket.match(QString::fromLatin1(target));
+        if (match.hasMatch())
+            inodes << match.captured(1).toLatin1();
+    }
+    QFile table(QStringLiteral("/proc/%1/net/unix").arg(process));
+    if (!table.open(QIODevice::ReadOnly))
+        return {};
+    QStringList files;
+    // "address references protocol flags type state inode path"
+    const QList<QByteArray> lines = table.readAll().split('\n');
+    for (const QByteArray& line : lines) {
+        const QList<QByteArray> fields = line.simplified().split(' ');
+        if (fields.size() > 7 && fields.at(7).startsWith('/') && inodes.contains(fields.at(6)))
+            files << QFile::decodeName(fields.at(7));
+    }
+    files.removeDuplicates();
+    return files;
+}
 
 long long Processes::Ticks(pid_t process)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QVector>
 #include <sys/types.h>
 
@@ -14,6 +15,9 @@ pid_t Host(pid_t client);
 pid_t Office(pid_t client);
 
 bool Runs(pid_t process);
+
+/// The files of the sockets that the process has opened under a name.
+QStringList SocketFiles(pid_t process);
 
 /// The processor time that the process has used, in clock ticks.
 long long Ticks(pid_t process);

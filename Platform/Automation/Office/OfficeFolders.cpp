@@ -1,5 +1,7 @@
 #include <Platform/Automation/Office/OfficeFolders.h>
 
+#include <Platform/Automation/Office/OfficePipes.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -78,7 +80,7 @@ void RemoveAbandonedProfiles()
         const int lock = LockFile(folder.filePath() + QLatin1Char('/') + LockName, 0);
         if (lock < 0)
             continue;
-        QDir(folder.filePath()).removeRecursively();
+        RemoveProfile(folder.filePath());
         close(lock);
     }
 }

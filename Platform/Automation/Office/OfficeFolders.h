@@ -15,7 +15,7 @@ QString ProgramFolder();
 /// recognised by their free locks. Empty when it cannot be made.
 QString MakeProfileFolder(int& lockFile);
 
-/// Removes the profile folders that nobody uses any more.
+/// Removes the profile folders that nobody uses any more, and the socket files of their offices.
 void RemoveAbandonedProfiles();
 
 } // namespace Office

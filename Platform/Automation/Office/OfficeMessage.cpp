@@ -35,7 +35,7 @@ QByteArray ToFrame(const Answer& answer)
 {
     return Frame([&answer](QDataStream& stream) {
         stream << quint8(answer.kind) << quint8(answer.status) << answer.value << answer.object
-               << answer.officeProcess << answer.officeFiles;
+               << answer.officeProcess;
     });
 }
 
@@ -57,7 +57,7 @@ Answer ToAnswer(const QByteArray& message)
     Answer answer;
     quint8 kind = 0;
     quint8 status = 0;
-    stream >> kind >> status >> answer.value >> answer.object >> answer.officeProcess >> answer.officeFiles;
+    stream >> kind >> status >> answer.value >> answer.object >> answer.officeProcess;
     answer.kind = static_cast<Answer::Kind>(kind);
     answer.status = static_cast<Answer::Status>(status);
     return answer;

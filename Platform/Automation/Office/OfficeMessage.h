@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QStringList>
+#include <QString>
 #include <QVariant>
 #include <optional>
 
@@ -51,7 +51,6 @@ struct Answer
     QVariant value; ///< of a call or a property
     Handle object = 0; ///< that was made
     qint64 officeProcess = 0; ///< of Started: process id
-    QStringList officeFiles; ///< of Started: what a killed office leaves outside of its profile
 };
 
 QByteArray ToFrame(const Request& request);

@@ -1,6 +1,7 @@
 #include <Platform/Automation/Office/OfficeSession.h>
 
 #include <Platform/Automation/Office/OfficeFolders.h>
+#include <Platform/Automation/Office/OfficePipes.h>
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -141,10 +142,8 @@ Answer OfficeSession::Ask(const Request& request)
             Answer answer = ToAnswer(*message);
             if (answer.kind == Answer::Result)
                 return answer;
-            if (answer.kind == Answer::Started) {
+            if (answer.kind == Answer::Started)
                 m_office = answer.officeProcess;
-                m_officeFiles = answer.officeFiles;
-            }
         }
         if (!WaitFor(POLLIN))
             break;
@@ -257,9 +256,7 @@ void OfficeSession::Close()
     if (!QFileInfo::exists(m_profile))
         return;
     WaitForOfficeToEnd();
-    QDir(m_profile).removeRecursively();
-    for (const QString& file : std::as_const(m_officeFiles))
-        QFile::remove(file);
+    RemoveProfile(m_profile);
 }
 
 } // namespace Office

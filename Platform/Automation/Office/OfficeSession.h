@@ -49,7 +49,6 @@ private:
     qint64 m_host; ///< process id
     const QString m_profile;
     qint64 m_office = 0; ///< process id, when it is known
-    QStringList m_officeFiles;
     FrameBuffer m_buffer;
     const int m_limit; ///< without any progress, milliseconds
     std::unique_ptr<QSocketNotifier> m_pEnd;

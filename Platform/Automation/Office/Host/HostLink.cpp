@@ -1,6 +1,7 @@
 #include <Platform/Automation/Office/Host/HostLink.h>
 
-#include <QDir>
+#include <Platform/Automation/Office/OfficePipes.h>
+
 #include <cerrno>
 #include <chrono>
 #include <ctime>
@@ -67,11 +68,9 @@ void HostLink::Send(const Answer& answer)
 
 void HostLink::OfficeIsReady()
 {
-    m_officeFiles = m_office.SocketFiles();
     Answer started;
     started.kind = Answer::Started;
     started.officeProcess = m_office.Id();
-    started.officeFiles = m_officeFiles;
     Send(started);
     m_officeReady = true;
 }
@@ -124,11 +123,8 @@ void HostLink::End()
     m_endMutex.lock();
     const bool saved = m_saving.try_lock_for(TimeToSave);
     Q_UNUSED(saved)
-    const QStringList files = m_officeReady ? m_officeFiles : m_office.SocketFiles();
     m_office.Kill();
-    for (const QString& file : files)
-        QFile::remove(file);
-    QDir(m_profile).removeRecursively();
+    RemoveProfile(m_profile);
     _exit(0);
 }
 

@@ -43,7 +43,6 @@ private:
     OfficeProcess& m_office;
     const QString m_profile;
     const pthread_t m_mainThread;
-    QStringList m_officeFiles; ///< of the office that is ready; a dead one does not tell them
     std::atomic<bool> m_officeReady{false};
     std::atomic<bool> m_busy{true}; // starting the office is work, too
     long long m_activity = 0;

@@ -1,11 +1,8 @@
 #include <Platform/Automation/Office/Host/OfficeProcess.h>
 
-#include <QDir>
+#include <Platform/Automation/Office/OfficePipes.h>
+
 #include <QFile>
-#include <QFileInfo>
-#include <QRegularExpression>
-#include <QSet>
-#include <QUrl>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/prctl.h>
@@ -19,12 +16,11 @@ namespace {
 
 constexpr int RestartCode = 81; // exit code of an office that has set up its profile
 
-QStringList OfficeArguments(const QString& program, const QString& profile, const QString& pipe)
+QStringList OfficeArguments(const QString& program, const QString& profile)
 {
     return {
         program + QLatin1String("/soffice.bin"),
-        QLatin1String("-env:UserInstallation=")
-            + QUrl::fromLocalFile(profile + QLatin1String("/user")).toString(QUrl::FullyEncoded),
+        QLatin1String("-env:UserInstallation=") + ProfileUrl(profile),
         QStringLiteral("--headless"),
         QStringLiteral("--invisible"),
         QStringLiteral("--nologo"),
@@ -32,7 +28,7 @@ QStringList OfficeArguments(const QString& program, const QString& profile, cons
         QStringLiteral("--norestore"),
         QStringLiteral("--nolockcheck"),
         QStringLiteral("--nofirststartwizard"),
-        QStringLiteral("--accept=pipe,name=%1;urp;").arg(pipe),
+        QStringLiteral("--accept=pipe,name=%1;urp;").arg(PipeName(profile)),
     };
 }
 
@@ -82,13 +78,12 @@ QByteArray ReadProc(pid_t process, const char* name)
 OfficeProcess::OfficeProcess(QString programFolder, QString profileFolder)
     : m_program(std::move(programFolder))
     , m_profile(std::move(profileFolder))
-    , m_pipe(QFileInfo(m_profile).fileName())
 { }
 
 bool OfficeProcess::Start()
 {
     QList<QByteArray> arguments;
-    const QStringList texts = OfficeArguments(m_program, m_profile, m_pipe);
+    const QStringList texts = OfficeArguments(m_program, m_profile);
     for (const QString& text : texts)
         arguments << QFile::encodeName(text);
     QList<QByteArray> environment = OfficeEnvironment();
@@ -102,6 +97,8 @@ bool OfficeProcess::Start()
     m_ended = child < 0;
     return child > 0;
 }
+
+QString OfficeProcess::PipeName() const { return Office::PipeName(m_profile); }
 
 bool OfficeProcess::HasEnded()
 {
@@ -126,33 +123,6 @@ long long OfficeProcess::Activity() const
     if (fields.at(0) == "D")
         return -1;
     return fields.at(UserTime).toLongLong() + fields.at(UserTime + 1).toLongLong();
-}
-
-QStringList OfficeProcess::SocketFiles() const
-{
-    const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(m_id));
-    static const QRegularExpression socket(QStringLiteral("socket:\\[(\\d+)\\]"));
-    QSet<QByteArray> inodes;
-    const QStringList names = descriptors.entryList(QDir::System | QDir::Files | QDir::NoDotAndDotDot);
-    for (const QString& name : names) {
-        char target[64] = {};
-        const ssize_t size
-            = readlink(QFile::encodeName(descriptors.filePath(name)).constData(), target, sizeof target - 1);
-        const auto match
-            = socket.match(QString::fromLatin1(target, static_cast<int>(qMax<ssize_t>(size, 0))));
-        if (match.hasMatch())
-            inodes << match.captured(1).toLatin1();
-    }
-    QStringList files;
-    // "address references protocol flags type state inode path"
-    const QList<QByteArray> lines = ReadProc(m_id, "net/unix").split('\n');
-    for (const QByteArray& line : lines) {
-        const QList<QByteArray> fields = line.simplified().split(' ');
-        const QString file = fields.size() > 7 ? QFile::decodeName(fields.at(7)) : QString();
-        if (file.startsWith(QLatin1Char('/')) && inodes.contains(fields.at(6)) && !files.contains(file))
-            files << file;
-    }
-    return files;
 }
 
 void OfficeProcess::Kill()

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <sys/types.h>
 
 namespace Office {
@@ -17,7 +16,7 @@ public:
     bool Start();
 
     pid_t Id() const { return m_id; }
-    QString PipeName() const { return m_pipe; }
+    QString PipeName() const;
 
     /// True when the office does not run any more.
     bool HasEnded();
@@ -27,15 +26,11 @@ public:
     /// Grows while the office does anything; -1 while it waits for a disk or a net.
     long long Activity() const;
 
-    /// The socket files that the office has opened; a killed one leaves them behind.
-    QStringList SocketFiles() const;
-
     void Kill(); ///< and waits for its end
 
 private:
     const QString m_program;
     const QString m_profile;
-    const QString m_pipe;
     pid_t m_id = -1;
     int m_status = 0;
     bool m_ended = true;
