@@ -92,8 +92,10 @@ public:
     /// Closes the workbook without saving it, and quits the application. Both counts become 0.
     void FreeExcel();
 
-    /// Stores a workbook that was opened with bCreate, in the format of its path's suffix. Without suffix
-    /// ".xlsx" is added, or ".xls" where the application knows nothing else.
+    /// Stores a workbook that was opened with bCreate, in the format of its path's suffix; another suffix
+    /// than those of GetExcelFileFilter() is stored as xls. Without suffix ".xlsx" is added. An application
+    /// that knows nothing but xls stores that: ".xls" is added, or put in place of another suffix and its
+    /// dot ("report.xlsx" becomes "reportxls").
     /// @return false when nothing is open for writing, or when the file could not be written
     bool SaveExcel();
 
@@ -103,7 +105,9 @@ public:
     /// @}
     /// @name Writing
     ///
-    /// Each write gives its cells the present cell style. Without an open workbook all return false.
+    /// Each write gives its cells the present cell style. Without an open workbook all return false; so do
+    /// writes to cells that the application does not know, such as those of row 0. Column 26 and its
+    /// multiples have no name that it knows, neither as a corner of a block nor as its number of columns.
     /// @{
 
     /// Names the sheet. A name that the application refuses leaves the present one.
@@ -120,7 +124,7 @@ public:
     /// @p text.
     bool SetMergeCellValue(int row1, int column1, int row2, int column2, const QString& text);
 
-    /// Starts to collect a block in memory, row by row.
+    /// Starts to collect a block in memory, row by row. With less than one column each cell is a row.
     void BeginAddMemory(int columnCount, int startRow, int startColumn);
 
     /// Adds the next cell. Texts of digits only (and empty ones) are marked as text, so that no leading zero
