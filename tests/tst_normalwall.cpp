@@ -1,5 +1,6 @@
 // What only the wall drawn by a graphics view has; what it shares with the other family is in tst_walls.cpp.
 
+#include "support/AtEvent.h"
 #include "support/StrictMain.h"
 #include "support/WallMouse.h"
 
@@ -133,6 +134,8 @@ private Q_SLOTS:
     void videoWidgetsDeletedByTheClient();
     void overviewOfAZoomedWall();
     void zoomSurvivesResizing();
+    void videoEndsTheZoom();
+    void videoOpensWindowsInANewLook();
     void audioButtons();
     void buttonsNeedPressAndReleaseInside();
     void narrowWindowsCanBeMoved();
@@ -349,6 +352,42 @@ void tst_NormalWall::zoomSurvivesResizing()
     f.wall->RecoverEagleEye();
     f.wall->resize(1000, 600);
     QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
+}
+
+// Catches a zoom step that goes on with its own size after a video has shown the whole wall again.
+void tst_NormalWall::videoEndsTheZoom()
+{
+    Fixture f;
+    f.wall->AddScreen(Whole, QVariant());
+    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    f.wall->OpenWindow(1, LeftUpper, QVariant());
+    const QWidget* last = f.wall->GetWindowWidget(1, 0);
+    const TestSupport::AtEvent atResize(
+        f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&f] { f.wall->RecoverEagleEye(); });
+    f.mouse.Wheel({0, 0}, 120);
+    QVERIFY(atResize.HasActed());
+    QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
+    QCOMPARE(last->size(), QSize(296, 216));
+    QVERIFY(f.Overview() == nullptr);
+}
+
+// Catches a list of windows that is walked while a video in another colour changes it; meant to be run under
+// a sanitizer as well.
+void tst_NormalWall::videoOpensWindowsInANewLook()
+{
+    Fixture f;
+    for (int w = 0; w < 3; ++w)
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+    const TestSupport::AtEvent atColor(f.wall->GetWindowWidget(0, 0), QEvent::PaletteChange, [&f] {
+        for (int i = 0; i < 50; ++i) {
+            f.wall->AddScreen(Whole, QVariant());
+            f.wall->OpenWindow(0, LeftUpper, QVariant());
+        }
+    });
+    f.wall->setStyleSheet(
+        QStringLiteral("UICommonMdl--KvTVWallNormalView { qproperty-videoColor: #00ff00; }"));
+    QVERIFY(atColor.HasActed());
+    QCOMPARE(f.wall->GetWindowCount(0), 53);
 }
 
 // Catches windows that are forgotten, and a button that is hidden but still there for the mouse.

@@ -1,6 +1,7 @@
 // Walls of both families, as clients use them through the operate wall and operators use them by hand. Every
 // test runs once for each family; where the families differ, the difference stands in the test.
 
+#include "support/AtEvent.h"
 #include "support/StrictMain.h"
 #include "support/WallDefaults.h"
 #include "support/WallMouse.h"
@@ -23,7 +24,6 @@
 #include <functional>
 #include <limits>
 #include <memory>
-#include <utility>
 
 using KvGUI::StructScaleRect;
 using Wall = UICommonMdl::KvTVWallOperateWnd;
@@ -817,31 +817,6 @@ namespace {
 
 using Action = std::function<void(Fixture&)>;
 
-/// Acts at the first event of a type that a widget gets.
-class AtEvent : public QObject
-{
-public:
-    AtEvent(QWidget* widget, QEvent::Type type, const std::function<void()>& action)
-        : m_type(type)
-        , m_action(action)
-    {
-        widget->installEventFilter(this);
-    }
-
-    bool HasActed() const { return m_acted; }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == m_type && !std::exchange(m_acted, true))
-            m_action();
-        return false;
-    }
-
-private:
-    const QEvent::Type m_type;
-    const std::function<void()> m_action;
-    bool m_acted = false;
-};
-
 /// What a client deletes.
 const QVector<QPair<const char*, Action>> Deletions = {
     {"a window", [](Fixture& f) { f.wall->DeleteWindow(0, 0); }},
@@ -1005,7 +980,7 @@ void tst_Walls::videosMayChangeTheWall()
         f.wall->OpenWindow(0, LeftUpper, w);
     f.wall->OpenWindow(1, LeftUpper, QVariant());
     f.wall->GetWindowWidget(0, 2);
-    const AtEvent atResize(f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&] { change(f); });
+    const TestSupport::AtEvent atResize(f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&] { change(f); });
     byWheel ? f.mouse.Wheel({0, 0}, 120) : f.wall->resize(1500, 900);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(atResize.HasActed());
@@ -1045,7 +1020,7 @@ void tst_Walls::lostFocusMayChangeTheWall()
     QApplication::setActiveWindow(&f.client);
     f.mouse.Click(f.Pixels(0).topLeft() + QPoint(10, 36));
     QVERIFY(edit->hasFocus());
-    const AtEvent atLoss(edit, QEvent::FocusOut, [&] { change(f); });
+    const TestSupport::AtEvent atLoss(edit, QEvent::FocusOut, [&] { change(f); });
     occasion(f);
     QVERIFY(atLoss.HasActed());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -160,7 +160,8 @@ void KvTVWallNormalScreen::SetAudioButtonsVisible(bool visible)
 
 void KvTVWallNormalScreen::UpdateLook()
 {
-    for (KvTVWallNormalWindow* window : qAsConst(m_windows))
+    const QList<KvTVWallNormalWindow*> present = m_windows; // a video may change the list
+    for (KvTVWallNormalWindow* window : present)
         window->UpdateLook();
 }
 

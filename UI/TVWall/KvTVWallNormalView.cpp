@@ -126,7 +126,8 @@ void KvTVWallNormalView::changeEvent(QEvent* event)
 void KvTVWallNormalView::UpdateLook()
 {
     m_icons.clear();
-    for (KvTVWallNormalScreen* screen : qAsConst(m_screens))
+    const QList<KvTVWallNormalScreen*> present = m_screens; // a video in another colour may change the list
+    for (KvTVWallNormalScreen* screen : present)
         screen->UpdateLook();
     viewport()->update();
 }

@@ -47,16 +47,19 @@ void KvTVWallNormalWindow::PlaceOnScreen()
 
 void KvTVWallNormalWindow::SetGeometry(const QRect& geometry)
 {
-    if (m_size != geometry.size()) {
+    const bool resized = m_size != geometry.size();
+    if (resized) {
         prepareGeometryChange();
         m_size = geometry.size();
-        m_pTitle->FitTo(m_size);
-        if (m_pFrame != nullptr)
-            m_pFrame->FitTo(m_size);
-        if (m_pProxy != nullptr)
-            m_pProxy->setGeometry(WindowTitle::VideoRect(m_size));
     }
     setPos(geometry.topLeft());
+    if (!resized)
+        return;
+    m_pTitle->FitTo(m_size);
+    if (m_pFrame != nullptr)
+        m_pFrame->FitTo(m_size);
+    if (m_pProxy != nullptr) // last: what the client has put into it may place the window again
+        m_pProxy->setGeometry(WindowTitle::VideoRect(m_size));
 }
 
 // State, pixels and tool tips change before the report, so that a slot finds the window as it will be and

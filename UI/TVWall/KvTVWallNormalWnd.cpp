@@ -110,12 +110,14 @@ QVector<WallMiniature::Screen> KvTVWallNormalWndPrivate::Miniature() const
 void KvTVWallNormalWndPrivate::PlaceScreens()
 {
     view->scene()->update(); // all of it, so that the items need not ask one by one
-    const QSize wall(horizontal.wall, vertical.wall);
-    const QPoint origin(WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset));
-    // What the client has put into videos is resized, and may change the wall: removed ones live on for now.
+    // What the client has put into videos is resized, and may zoom the wall or change its screens meanwhile:
+    // removed ones live on for now.
     const QList<KvTVWallNormalScreen*> present = view->Screens();
-    for (KvTVWallNormalScreen* screen : present)
-        screen->PlaceOnWall(wall, origin);
+    for (KvTVWallNormalScreen* screen : present) {
+        screen->PlaceOnWall(
+            QSize(horizontal.wall, vertical.wall),
+            QPoint(WallZoom::Pixel(horizontal.offset), WallZoom::Pixel(vertical.offset)));
+    }
     ShowOverview();
 }
 

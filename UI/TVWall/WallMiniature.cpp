@@ -1,5 +1,7 @@
 #include "WallMiniature.h"
 
+#include "ScreenBackdrop.h"
+
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -8,8 +10,6 @@ namespace UICommonMdl::WallMiniature {
 
 namespace {
 
-constexpr QRgb ScreenColor = qRgb(33, 34, 37);
-constexpr QRgb SelectedScreenColor = qRgb(219, 221, 225);
 constexpr QColor Shade(0, 0, 0, 110);
 constexpr int ViewLine = 2; // pixels
 
@@ -42,15 +42,15 @@ void PaintScreen(QPainter& painter, const QRect& wall, const Screen& screen, int
     const QRect area = Covered(wall, screen.rect).adjusted(0, 0, -line, -line); // a gutter
     if (area.isEmpty())
         return;
-    painter.fillRect(area, QColor(ScreenColor));
+    painter.fillRect(area, ScreenBackdrop::Color());
     for (const Window& window : screen.windows) {
         const QRect pixels = Covered(area, window.rect);
-        painter.fillRect(pixels, QColor(ScreenColor)); // tells it from what lies below it
+        painter.fillRect(pixels, ScreenBackdrop::Color()); // tells it from what lies below it
         painter.fillRect(
             pixels.adjusted(line, line, -line, -line), window.selected ? colors.selected : colors.window);
     }
     if (screen.selected)
-        FrameInside(painter, area, line, QColor(SelectedScreenColor));
+        FrameInside(painter, area, line, ScreenBackdrop::SelectedColor());
 }
 
 } // namespace
