@@ -99,6 +99,7 @@ private slots:
     void SettingText_data();
     void SettingText();
     void SettingTextKeepsTheFocus();
+    void SettingTextInASlotKeepsTheFocus();
     void Signals();
     void OnlyKeypadEnterCounts();
     void NoticeFollowsTheFocus();
@@ -279,6 +280,23 @@ void TestIpAddrEdit::SettingTextKeepsTheFocus()
     form.address->setFocus();
     form.Type(QStringLiteral("172"));
     QCOMPARE(form.FocusedOctet(), 1); // and they work again afterwards
+}
+
+/// Catches the rules for typing at work again once a slot has set an address itself.
+void TestIpAddrEdit::SettingTextInASlotKeepsTheFocus()
+{
+    Form form;
+    form.other->setFocus();
+    bool corrected = false;
+    connect(form.address, &QIpAddrEdit::textchanged, form.address, [&] {
+        if (!corrected) {
+            corrected = true;
+            form.address->settext(QStringLiteral("1.1.1.1"));
+        }
+    });
+    form.address->settext(QStringLiteral("192.168.100.200"));
+    QVERIFY(corrected);
+    QVERIFY(form.other->hasFocus());
 }
 
 /// Catches signals with the octet's text in place of the address, and edits told of changes by the program.

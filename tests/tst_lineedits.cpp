@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMouseEvent>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -60,6 +62,9 @@ private slots:
     void ChosenFileIsTaken();
     void CancelledDialogChangesNothing();
     void AlwaysOpensAFile();
+    void GivenFileIsPreselected();
+    void DeletedWhileItsDialogIsOpen_data();
+    void DeletedWhileItsDialogIsOpen();
     void ButtonsTakeTheirOwnSheets();
 };
 
@@ -180,6 +185,67 @@ void TestLineEdits::AlwaysOpensAFile()
     edit.SetSelectDirectory(QStringLiteral("Folder"), QDir::tempPath(), QFileDialog::ShowDirsOnly);
     QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
     QCOMPARE(answer.shown, 2);
+}
+
+/// Catches a dialog that begins in the right folder and forgets the file which the client named.
+void TestLineEdits::GivenFileIsPreselected()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("camera.cfg"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    KvLineEditWithDirButton edit;
+    edit.SetOpenFile(QString(), path, QString());
+    edit.show();
+    DialogAnswer answer([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.directory().absolutePath(), folder.path());
+        QCOMPARE(dialog.selectedFiles(), QStringList(path));
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+    QCOMPARE(edit.text(), path);
+}
+
+void TestLineEdits::DeletedWhileItsDialogIsOpen_data()
+{
+    QTest::addColumn<bool>("withWindow");
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("edit, opened by the mouse") << false << false;
+    QTest::newRow("edit, opened by a key") << false << true;
+    QTest::newRow("window, opened by the mouse") << true << false;
+}
+
+/// Catches a file dialog that does not bear the end of its edit: a page is closed by a lost connection, say.
+void TestLineEdits::DeletedWhileItsDialogIsOpen()
+{
+    QFETCH(bool, withWindow);
+    QFETCH(bool, byKey);
+    QPointer<QWidget> window(new QWidget);
+    QPointer<KvLineEditWithDirButton> edit(new KvLineEditWithDirButton(window));
+    window->show();
+    QPointer<QFileDialog> opened;
+    DialogAnswer answer([&](QFileDialog& dialog) {
+        opened = &dialog;
+        if (withWindow)
+            delete window;
+        else
+            delete edit;
+    });
+    auto* button = edit->findChild<QToolButton*>();
+    // Not by QTest's clicks, which go on with the button that they were given.
+    QEvent::Type types[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease};
+    for (const QEvent::Type type : types) {
+        QMouseEvent mouse(type, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QKeyEvent key(
+            type == QEvent::MouseButtonPress ? QEvent::KeyPress : QEvent::KeyRelease, Qt::Key_Space,
+            Qt::NoModifier);
+        QCoreApplication::sendEvent(button, byKey ? static_cast<QEvent*>(&key) : &mouse);
+    }
+    QCOMPARE(answer.shown, 1);
+    QVERIFY(!edit);
+    QVERIFY(!opened);
+    delete window;
 }
 
 /// Catches buttons styled by their base class's sheet alone.

@@ -118,6 +118,7 @@ private Q_SLOTS:
     void emptyValueStopsTheRenewal();
     void tooLongValueKeepsTheCode();
     void asksForRenewalAgainAndAgain();
+    void asksByName();
     void newValueBeginsThePeriodAnew();
     void slotMayDeleteTheDialog();
     void escapeCloses();
@@ -309,6 +310,16 @@ void tst_QrCode::asksForRenewalAgainAndAgain()
     QTRY_VERIFY(asked.count() >= 3);
     for (const QVariantList& arguments : asked)
         QCOMPARE(arguments, QVariantList{Device});
+}
+
+/// Catches a renewal that only the timer can ask for, and not a client by the slot's name.
+void tst_QrCode::asksByName()
+{
+    const Fixture f;
+    QSignalSpy asked(f.dialog, &CDisplayQRcodeDlg::SignalRefreshTimeout);
+    f.dialog->SetQRCodeValue(QString(), Device);
+    QVERIFY(QMetaObject::invokeMethod(f.dialog, "OnRefreshTimeout"));
+    QCOMPARE(asked, (QList<QVariantList>{{Device}}));
 }
 
 /// Catches a renewal that comes too early for the new code.

@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWindow>
 #include <functional>
 #include <limits>
@@ -128,6 +129,8 @@ private Q_SLOTS:
     void keyboardTurnsTheSoundOn();
     void slotMayDeleteTheButton_data();
     void slotMayDeleteTheButton();
+    void slotMayDeleteTheButtonOfAnOpenPanel_data();
+    void slotMayDeleteTheButtonOfAnOpenPanel();
     void looks();
 };
 
@@ -415,6 +418,38 @@ void tst_Volume::slotMayDeleteTheButton()
         Key(Qt::Key_Up);
     }
     QVERIFY(button.isNull());
+}
+
+void tst_Volume::slotMayDeleteTheButtonOfAnOpenPanel_data()
+{
+    QTest::addColumn<bool>("wheel");
+    QTest::newRow("click beside the handle") << false;
+    QTest::newRow("wheel") << true;
+}
+
+/// Catches a slider that goes with its button while Qt is in the middle of its event, which the sanitizer
+/// reports.
+void tst_Volume::slotMayDeleteTheButtonOfAnOpenPanel()
+{
+    QFETCH(bool, wheel);
+    Fixture f;
+    const QPointer<KvVolumeButton> button = f.button;
+    button->SetVolumeState(true);
+    f.Click(OnButton);
+    const QPointer<KvVolumeWidget> panel = f.Panel();
+    const QPoint at = f.Slider()->mapTo(panel, QPoint(f.Slider()->width() / 2, 4));
+    connect(button, &KvVolumeButton::SignalVolumeValueChanged, button, [button] { delete button; });
+    if (wheel) {
+        QWheelEvent turn(
+            f.Slider()->mapFrom(panel, at), panel->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(f.Slider(), &turn);
+    } else {
+        QTest::mousePress(panel->windowHandle(), Qt::LeftButton, {}, at);
+    }
+    QVERIFY(button.isNull());
+    QVERIFY(!QApplication::activePopupWidget());
+    QTRY_VERIFY(panel.isNull());
 }
 
 /// Catches looks that the sheets do not tell apart: sound on and off, the dark and the light skin.

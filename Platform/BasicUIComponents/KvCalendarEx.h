@@ -18,7 +18,7 @@ class KvCalendarExPrivate;
 /// the first pick back, and closes a pop-up. The wheel turns a page.
 ///
 /// Names, digits and the first day of the week are those of the widget's locale. A slot may delete the
-/// calendar.
+/// calendar; one of SgnCalendarHide() by QObject::deleteLater().
 class UICOMPONENTS_EXPORT KvCalendarEx : public QWidget
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ signals:
     void SgnDateTimeChanged();
     void SgnStartYearMonthChanged(); ///< the range starts in another month; follows SgnDateTimeChanged()
     void SngEndYearMonthChanged(); ///< the range ends in another month; comes last
-    void SgnCalendarHide(); ///< the calendar was hidden
+    void SgnCalendarHide(); ///< the calendar was hidden; it must outlive this signal
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -54,8 +54,10 @@ Q_SIGNALS:
     /// @param strInitValue the second argument of the last SetQRCodeValue()
     void SignalRefreshTimeout(const QString& strInitValue);
 
-private:
+private Q_SLOTS:
     void OnRefreshTimeout();
+
+private:
     void CreateShowRCodeImage(const QString& text);
     QPixmap CreateQRcode(const QString& text);
 

@@ -31,12 +31,32 @@ KvVolumeButton::KvVolumeButton(QWidget* parent)
 {
     setAccessibleName(tr("Volume"));
     OnSoundOpenedChanged(false);
-    connect(
-        m_pPopup, &KvVolumeWidget::SignalVolumeValueChanged, this, &KvVolumeButton::SignalVolumeValueChanged);
+    connect(m_pPopup, &KvVolumeWidget::SignalVolumeValueChanged, this, &KvVolumeButton::ReportValue);
     connect(m_pPopup, &KvVolumeWidget::SignalSoundOpened, this, &KvVolumeButton::OnSoundOpenedChanged);
     connect(m_pPopup, &KvVolumeWidget::SignalSoundOpened, this, &KvVolumeButton::SignalSoundOpened);
     connect(m_pPopup, &KvVolumeWidget::resetButton, this, &KvVolumeButton::OnResetButton);
     CommonFun::SetStyleSheet(this, QStringLiteral("VolumeWnd"), QString(), QString());
+}
+
+/// A client's slot may delete the button while the slider is in the middle of a click or a turn of the wheel.
+/// Qt goes on with the slider then, so the panel lives until the event loop comes round.
+KvVolumeButton::~KvVolumeButton()
+{
+    if (m_iReporting == 0)
+        return;
+    m_pPopup->disconnect(this);
+    m_pPopup->hide();
+    m_pPopup->setParent(nullptr);
+    m_pPopup->deleteLater();
+}
+
+void KvVolumeButton::ReportValue(int value)
+{
+    const QPointer<KvVolumeButton> self(this);
+    ++m_iReporting;
+    Q_EMIT SignalVolumeValueChanged(value);
+    if (self)
+        --m_iReporting;
 }
 
 void KvVolumeButton::SetVolumeState(bool on)

@@ -32,6 +32,7 @@ class UICOMPONENTS_EXPORT KvVolumeButton : public QToolButton
 public:
     /// Sound off, volume 50.
     explicit KvVolumeButton(QWidget* parent = nullptr);
+    ~KvVolumeButton() override;
 
     /// Shows that sound is on or off, on the button and in the panel. Emits nothing.
     void SetVolumeState(bool on);
@@ -57,9 +58,11 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void ReportValue(int value);
     QRect GetAvailableGeometry(const QRect& r, const QWidget* w) const;
 
     KvVolumeWidget* m_pPopup;
+    int m_iReporting = 0; ///< depth of reports of values in progress
 };
 
 } // namespace UICommonMdl

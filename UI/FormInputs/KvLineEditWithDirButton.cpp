@@ -1,6 +1,7 @@
 #include <UI/FormInputs/KvLineEditWithDirButton.h>
 
 #include <Common/CommonFun.h>
+#include <QPointer>
 #include <QStyle>
 #include <QToolButton>
 
@@ -61,16 +62,34 @@ void KvLineEditWithDirButton::resizeEvent(QResizeEvent* event)
     m_btnDir->setGeometry(place);
 }
 
-QString KvLineEditWithDirButton::AskForPath()
+QFileDialog* KvLineEditWithDirButton::MakeDialog()
 {
+    auto* dialog = new QFileDialog(this, m_strCaption, m_strDirectory, m_strFilter);
+    dialog->setSupportedSchemes({QStringLiteral("file")});
     switch (m_iDialogMode) {
     case SaveFile:
-        return QFileDialog::getSaveFileName(this, m_strCaption, m_strDirectory, m_strFilter);
+        dialog->setAcceptMode(QFileDialog::AcceptSave);
+        break;
     case SelectDirectory:
-        return QFileDialog::getExistingDirectory(this, m_strCaption, m_strDirectory, m_option);
+        dialog->setFileMode(QFileDialog::Directory);
+        dialog->setOptions(m_option);
+        break;
     default:
-        return QFileDialog::getOpenFileName(this, m_strCaption, m_strDirectory, m_strFilter);
+        dialog->setFileMode(QFileDialog::ExistingFile);
+        break;
     }
+    return dialog;
+}
+
+/// What QFileDialog's static functions give. Their dialog lies on the stack, though, where it would be
+/// deleted as a child when the edit is deleted while it is open.
+QString KvLineEditWithDirButton::AskForPath()
+{
+    const QPointer<QFileDialog> dialog(MakeDialog());
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    const QString path = accepted && dialog ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return path;
 }
 
 void KvLineEditWithDirButton::onDirButtonClicked()

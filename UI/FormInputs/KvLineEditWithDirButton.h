@@ -11,7 +11,8 @@ namespace UICommonMdl {
 /// A line edit for a path, with a folder button inside its right end that fills it from a file dialog.
 ///
 /// The button always opens the dialog for opening a file: the three setters store what a dialog needs, and
-/// none of them chooses the kind of dialog.
+/// none of them chooses the kind of dialog. The edit may be deleted while the dialog is open, which then
+/// closes.
 class UICOMPONENTS_EXPORT KvLineEditWithDirButton : public KvGUI::KvLineEdit
 {
     Q_OBJECT
@@ -45,6 +46,7 @@ private:
         SelectDirectory = 2
     };
 
+    QFileDialog* MakeDialog();
     QString AskForPath();
 
     int m_iDialogMode = OpenFile;

@@ -107,9 +107,10 @@ void QIpAddrEdit::settext(const QString& text)
 {
     const QPointer<QIpAddrEdit> self(this);
     const QStringList parts = text.split(QLatin1Char('.'));
-    DealWithEdits(m_octets, false);
-    for (int i = 0; i < OctetCount && self; ++i)
+    for (int i = 0; i < OctetCount && self; ++i) {
+        DealWithEdits(m_octets, false); // a slot that sets an address has switched it on again
         m_octets.at(static_cast<size_t>(i))->setText(parts.value(i));
+    }
     if (self)
         DealWithEdits(m_octets, true);
 }

@@ -18,7 +18,8 @@ namespace UICommonMdl {
 /// connect(range, &WmDateCalendar::SgnDateTimeChanged, this, &Records::Search);
 /// @endcode
 /// A press, or Space with the focus, opens and closes the calendar; a click elsewhere and Escape close it.
-/// The button is checked while the calendar is open. A slot may delete the button.
+/// The button is checked while the calendar is open. A slot may delete the button;
+/// one of toggled() by QObject::deleteLater().
 class UICOMPONENTS_EXPORT WmDateCalendar : public QPushButton
 {
     Q_OBJECT
