@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>
@@ -185,8 +186,19 @@ void AlarmPage::AskForExport()
     QString filter;
     const QString path = QFileDialog::getSaveFileName(
         this, tr("Export the alarms"), QDir(DocumentsFolder()).filePath(tr("Alarms")), filters, &filter);
-    if (!path.isEmpty())
-        Export(WithSuffix(path, filter));
+    if (path.isEmpty())
+        return;
+    const QString target = WithSuffix(path, filter);
+    // The dialog has asked about the typed name only.
+    if (target == path || !QFileInfo::exists(target) || MayReplace(target))
+        Export(target);
+}
+
+bool AlarmPage::MayReplace(const QString& path)
+{
+    const QString question
+        = tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName());
+    return QMessageBox::question(this, tr("Export the alarms"), question) == QMessageBox::Yes;
 }
 
 void AlarmPage::Export(const QString& path)

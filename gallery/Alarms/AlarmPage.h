@@ -46,6 +46,7 @@ private:
     QTableView* BuildTable();
     QWidget* BuildWork();
     void AskForExport();
+    bool MayReplace(const QString& path);
     void AskForImport();
     void CancelExport();
     void Filter(const QString& text);
