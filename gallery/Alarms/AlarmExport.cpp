@@ -1,5 +1,6 @@
 #include <gallery/Alarms/AlarmExport.h>
 
+#include <QPointer>
 #include <QTimer>
 
 namespace OperatorClient {
@@ -69,8 +70,9 @@ void AlarmExport::WriteBlock()
     m_written += block.size();
     const bool done = m_written == m_rows.size();
     Next(done ? &AlarmExport::Save : &AlarmExport::WriteBlock);
+    const QPointer<AlarmExport> alive(this);
     Q_EMIT SignalProgress(m_written);
-    if (done && !m_cancelled)
+    if (alive && done && !m_cancelled)
         Q_EMIT SignalSaving();
 }
 
