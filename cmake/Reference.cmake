@@ -1,6 +1,7 @@
 # The target "docs" writes the reference pages by doxygen (Debian's package of that name).
 find_program(DOXYGEN doxygen)
 if(NOT DOXYGEN)
+    message(STATUS "No doxygen: neither reference pages nor their check")
     return()
 endif()
 get_property(public_headers GLOBAL PROPERTY UICOMPONENTS_PUBLIC_HEADERS)

@@ -108,6 +108,20 @@ endif()
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")
+if(DOXYGEN)
+    # Catches a public symbol without words, and words about a parameter that is none.
+    set(check_documentation "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-documentation.py"
+        "${DOXYGEN}" "${PROJECT_BINARY_DIR}/reference/Doxyfile")
+    add_test(NAME documentation COMMAND ${check_documentation})
+    # Catches the check itself passing over a kind of symbol.
+    add_test(NAME documentation-check
+        COMMAND ${check_documentation} "${CMAKE_CURRENT_SOURCE_DIR}/reference/Unexplained.h")
+    set(unexplained "argument 'strength'" "value Unexplained::Value::WithoutWords" "typedef Unexplained::Type"
+        "property Unexplained::property" "function Unexplained::Function" "signal Unexplained::Signal"
+        "class WordlessClass" "namespace Free is" "function Free::Wordless is not explained\n$")
+    list(JOIN unexplained ".*" unexplained)
+    set_tests_properties(documentation-check PROPERTIES PASS_REGULAR_EXPRESSION "^[^\n]*${unexplained}")
+endif()
 # Catches a header, a dependency or a skin that is missing where the library is installed.
 set(sanitizer_flags "")
 if(UICOMPONENTS_SANITIZE)

@@ -38,5 +38,7 @@ public:
 
 } // namespace Automation
 
+/// The interface's identifier. Its number changes with the interface, so that plugins of another one are left
+/// alone.
 #define UICOMPONENTS_AUTOMATION_PROVIDER "UIComponents.AutomationProvider/1"
 Q_DECLARE_INTERFACE(Automation::AutomationProvider, UICOMPONENTS_AUTOMATION_PROVIDER)

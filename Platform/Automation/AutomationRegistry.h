@@ -17,7 +17,9 @@ namespace Automation {
 class UICOMPONENTS_EXPORT AutomationRegistry
 {
 public:
+    /// Makes one object of its kind; null when it cannot.
     using ObjectFactory = std::function<std::unique_ptr<AutomationObject>()>;
+    /// Makes one control in a child widget of @p parent; null when it cannot.
     using ControlFactory = std::function<std::unique_ptr<HostedControl>(QWidget* parent)>;
 
     AutomationRegistry() = delete;

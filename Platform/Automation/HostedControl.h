@@ -36,6 +36,7 @@ public:
     /// The native window of the control; 0 when it has none yet.
     virtual WId winId() const = 0;
 
+    /// Shows widget(), which is hidden at first. Nothing when the widget is gone.
     virtual void show() = 0;
 
     /// Gives up the control that setControl() bound: it calls back no more.

@@ -51,9 +51,9 @@ public:
     void SetButtonEnabled(int iButton, bool bEnabled);
 
 signals:
-    void SignalOkButtonClicked();
-    void SignalCancelButtonClicked();
-    void SignalOtherButtonClicked(); ///< the third button
+    void SignalOkButtonClicked(); ///< by mouse, Space or Enter; the dialog stays open
+    void SignalCancelButtonClicked(); ///< not for Escape or the title bar's button; the dialog stays open
+    void SignalOtherButtonClicked(); ///< the third button; the dialog stays open
 
 private:
     void AddButton(QHBoxLayout* row, int iButton, void (KvCustomDialog::*clicked)());

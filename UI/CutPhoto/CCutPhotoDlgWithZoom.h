@@ -50,6 +50,7 @@ public:
     /// invalid frame is noted as well, though the dialog stays open.
     int GetSavePictureType() const;
 
+    /// Sets the text of the title bar, as KvDialog::SetTitle().
     void SetDlgTitle(const QString& strTitle);
 
     /// Sets the canvas's size in pixels; 800 x 520 at first. The dialog is 80 pixels higher, and wider or
@@ -59,9 +60,9 @@ public:
 
     /// @name Limits of the cut, as the canvas's operations of these names take them
     /// @{
-    void SetPicMaxSize(int iMaxWidth, int iMaxHeight);
-    void SetImageMaxCapacity(int iMaxCapacity);
-    void SetKeepAspectRatio(bool bKeep);
+    void SetPicMaxSize(int iMaxWidth, int iMaxHeight); ///< in pixels; 0 x 0, as at first, for no limit
+    void SetImageMaxCapacity(int iMaxCapacity); ///< in bytes as a JPEG; 0, as at first, for no limit
+    void SetKeepAspectRatio(bool bKeep); ///< too many pixels are halved (true) or refused (as at first)
     /// @}
 
     /// The canvas, for what the dialog does not pass on: pictures in memory, the JPEG quality. Never null.

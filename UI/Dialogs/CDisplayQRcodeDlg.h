@@ -45,8 +45,8 @@ public:
     /// @param initValue handed back with each SignalRefreshTimeout(); taken over in every case
     void SetQRCodeValue(const QString& value, const QString& initValue);
 
-    int RefreshInterval() const;
-    /// A running period begins anew. 0 or less is ignored.
+    int RefreshInterval() const; ///< in milliseconds
+    /// Sets the period in milliseconds. A running period begins anew. 0 or less is ignored.
     void SetRefreshInterval(int iMilliseconds);
 
 Q_SIGNALS:

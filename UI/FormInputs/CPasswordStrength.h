@@ -17,6 +17,7 @@ namespace UICommonMdl {
 class UICOMPONENTS_EXPORT CPasswordStrength : public QFrame
 {
     Q_OBJECT
+    /// The level that is drawn, for style sheets: 0 none, 1 weak, 2 medium, 3 strong.
     Q_PROPERTY(int strength READ GetStrength WRITE SetStrength)
 
 public:

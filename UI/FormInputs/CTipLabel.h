@@ -29,10 +29,10 @@ public:
     /// with its arrow on the left it stands to the right of the anchor.
     enum DisplayPosition
     {
-        Left = 0,
-        Top = 1,
-        Right = 2,
-        Bottom = 3,
+        Left = 0, ///< the bubble stands to the right of the anchor
+        Top = 1, ///< the bubble stands below the anchor
+        Right = 2, ///< the bubble stands to the left of the anchor
+        Bottom = 3, ///< the bubble stands above the anchor
         None = 4 ///< no arrow; the bubble stands below the anchor
     };
 

@@ -28,7 +28,9 @@ class QIpPartLineEdit;
 class UICOMPONENTS_EXPORT QIpAddrEdit : public QFrame
 {
     Q_OBJECT
+    /// Whether an octet has the keyboard focus; the sheet draws the focus around the whole field.
     Q_PROPERTY(bool notice READ notice)
+    /// Whether the field is marked as wrong by showErrorHint().
     Q_PROPERTY(bool errorState READ errorState)
 
 public:

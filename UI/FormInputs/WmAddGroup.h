@@ -74,11 +74,11 @@ public:
     void CanCloseDialog();
 
 public slots:
-    void OnBtnSave();
-    void OnBtnSaveAndNew();
-    void OnClose();
-    void OnCloseBtmClicked() override;
-    void OnLineEditTextChanged(const QString& strText);
+    void OnBtnSave(); ///< reports the name by SignalNewName() and closes; a blank one gets a tool tip
+    void OnBtnSaveAndNew(); ///< reports the name by SignalSaveAndNew(); a blank one gets a tool tip
+    void OnClose(); ///< clears the name and closes
+    void OnCloseBtmClicked() override; ///< clears the name and closes
+    void OnLineEditTextChanged(const QString& strText); ///< cuts what was typed to the maximum length
 
 signals:
     void SignalNewName(const QString& strName); ///< "Save" was pressed

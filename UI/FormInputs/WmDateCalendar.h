@@ -55,15 +55,15 @@ signals:
     void SgnEndYearMonthChanged(int year, int month); ///< the range ends in this month now
 
 public slots:
-    void OnDateTimeChanged();
-    void OnStartYearMonthChanged();
-    void OnEndYearMonthChanged();
-    void OnCalendarHide();
+    void OnDateTimeChanged(); ///< shows the calendar's range and reports it
+    void OnStartYearMonthChanged(); ///< reports the month in which the calendar's range starts
+    void OnEndYearMonthChanged(); ///< reports the month in which the calendar's range ends
+    void OnCalendarHide(); ///< unchecks the button
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void nextCheckState() override;
+    void nextCheckState() override; ///< opens or closes the calendar
 
 private:
     void ToggleCalendar();

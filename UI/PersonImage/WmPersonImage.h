@@ -37,12 +37,12 @@ public:
     /// A button that is switched off is hidden and disabled. One that is switched on again appears with the
     /// next hover.
     /// @{
-    void SetShowUpLoadButton(bool bShow);
-    void SetShowCaptureButton(bool bShow);
-    void SetShowVistorCaptureButton(bool bShow);
-    void SetShowIDCardButton(bool bShow);
-    void SetShowDeleteButton(bool bShow);
-    void SetShowTurnPageButton(bool bShow);
+    void SetShowUpLoadButton(bool bShow); ///< "Upload Pic"
+    void SetShowCaptureButton(bool bShow); ///< "CameraCaptchPicture": a picture by the desk's camera
+    void SetShowVistorCaptureButton(bool bShow); ///< "ACHCaptchPicture": a picture by the visitor terminal
+    void SetShowIDCardButton(bool bShow); ///< "ID card reading"
+    void SetShowDeleteButton(bool bShow); ///< "Delete"
+    void SetShowTurnPageButton(bool bShow); ///< "Next Picture" and "Previous Picture"
     /// @}
 
     /// Sets the caption.
@@ -69,12 +69,12 @@ public:
     void SetButtonSize();
 
 signals:
-    void SignalClickUploadPicBtn();
-    void SignalCameraBtnClick();
-    void SignalVistorSnapBtnClick();
-    void SignalIDCardBtnClick();
-    void SignalDeleteBtnClick();
-    void SignalTurnPageBtnClick();
+    void SignalClickUploadPicBtn(); ///< "Upload Pic" was clicked
+    void SignalCameraBtnClick(); ///< "CameraCaptchPicture" was clicked
+    void SignalVistorSnapBtnClick(); ///< "ACHCaptchPicture" was clicked
+    void SignalIDCardBtnClick(); ///< "ID card reading" was clicked
+    void SignalDeleteBtnClick(); ///< "Delete" was clicked; the picture stays until the client takes it away
+    void SignalTurnPageBtnClick(); ///< the page button was clicked; the page turns by RefreshUIButton()
 
 protected:
     void enterEvent(QEvent* event) override;

@@ -54,18 +54,20 @@ class UICOMPONENTS_EXPORT AxExcelFunction : public QObject
     Q_OBJECT
 
 public:
+    /// Where a text stands between the left and the right edge of its cell.
     enum ExcelHorizontalAlignment_e
     {
-        HAlign_Left = 0,
-        HAlign_Center = 1,
-        HAlign_Right = 2
+        HAlign_Left = 0, ///< at the left edge
+        HAlign_Center = 1, ///< in the middle; the alignment of every preset
+        HAlign_Right = 2 ///< at the right edge
     };
     Q_ENUM(ExcelHorizontalAlignment_e)
+    /// Where a text stands between the upper and the lower edge of its cell.
     enum ExcelVerticalAlignment_e
     {
-        VAlign_Top = 0,
-        VAlign_Center = 1,
-        VAlign_Bottom = 2
+        VAlign_Top = 0, ///< at the upper edge
+        VAlign_Center = 1, ///< in the middle; the alignment of every preset
+        VAlign_Bottom = 2 ///< at the lower edge
     };
     Q_ENUM(ExcelVerticalAlignment_e)
 
@@ -149,7 +151,7 @@ public:
     /// single row has both counts 0: it holds the column names at most.
     /// @{
 
-    int GetRowCout();
+    int GetRowCout(); ///< with the row of column names; 0 when nothing was read
     int GetColumnCout(); ///< of the longest row
 
     /// Puts the texts of a row into @p out; empty for a row that does not exist.
@@ -170,20 +172,22 @@ public:
 
     bool SetCellRowHeight(int height); ///< in points; 0 or less leaves the rows as they are
     bool SetColumnWidth(int width); ///< in characters; 0 or less leaves the columns as they are
+    /// @return false, and the alignment stays, for a value that is none of the enumeration
     bool SetCellHorizontalAlignment(ExcelHorizontalAlignment_e alignment);
+    /// @return false, and the alignment stays, for a value that is none of the enumeration
     bool SetCellVerticalAlignment(ExcelVerticalAlignment_e alignment);
-    bool SetBackgroudColor(QColor color);
-    bool SetBordersColor(QColor color);
-    bool SetFontColor(QColor color);
-    bool SetFontUnderline(bool underline);
-    bool SetFontItalic(bool italic);
-    bool SetFontBold(bool bold);
+    bool SetBackgroudColor(QColor color); ///< of the cells; a pale yellow until it is set
+    bool SetBordersColor(QColor color); ///< of the lines around every cell; black until it is set
+    bool SetFontColor(QColor color); ///< of the texts; black until it is set
+    bool SetFontUnderline(bool underline); ///< one line below the texts; none until it is set
+    bool SetFontItalic(bool italic); ///< upright until it is set
+    bool SetFontBold(bool bold); ///< regular until it is set
     bool SetFontSize(int size); ///< in points; 0 or less leaves the size as it is
     bool SetFontName(QString name); ///< empty leaves the font as it is
 
-    bool SetExcelTitleProperty(); ///< all of the style, for the title above a table
-    bool SetCellHeaderProperty(); ///< all of the style, for the row of column names
-    bool SetCellContextProperty(); ///< all of the style, for the table's cells
+    bool SetExcelTitleProperty(); ///< all of the style, for the title above a table: 16 points, white on blue
+    bool SetCellHeaderProperty(); ///< all of the style, for the row of column names: 9 points, bold on white
+    bool SetCellContextProperty(); ///< all of the style, for the table's cells: 9 points on a pale yellow
 
     /// @}
 
@@ -192,7 +196,10 @@ protected:
     QVariant ReadAll();
     /// Reads the sheet into memory. @return false for less than two rows, which count as none
     bool ReadSheets();
+    /// Puts the list of row lists that @p var holds into @p rows: none when it holds no list, an empty row
+    /// for an element that is none.
     void castVar2ListListVar(QVariant& var, QList<QList<QVariant>>& rows);
+    /// Puts @p rows into @p var as a list of row lists, the form in which blocks cross the automation.
     void castListListVar2Var(QVariant& var, QList<QList<QVariant>>& rows);
     /// Puts the name of column @p n before @p name: 1 is A, 27 is AA; a multiple of 26 has "@" in its place.
     void convertToColName(int n, QString& name);

@@ -118,13 +118,13 @@ public:
     /// As above without icon and title. The user data is dropped: set it with SetScreenUserData.
     int AddScreen(const KvGUI::StructScaleRect& rect, const QVariant& userData);
     bool DeleteAllScreen(); ///< removes every screen with its windows; always true
-    int GetScreenCount() const;
+    int GetScreenCount() const; ///< 0 without screens
     /// Gives a screen's rectangle in @p rect; false, leaving @p rect alone, without such a screen.
     bool GetScreenScale(int iScreen, KvGUI::StructScaleRect& rect) const;
     bool SetScreenTitle(int iScreen, const QString& title); ///< true for an existing screen; shows nothing
     /// Sets the text in the middle of an empty screen. @return whether the screen exists
     bool SetScreenContentText(int iScreen, const QString& text);
-    void SetScreenUserData(int iScreen, const QVariant& userData);
+    void SetScreenUserData(int iScreen, const QVariant& userData); ///< nothing without such a screen
     QVariant GetScreenUserData(int iScreen) const; ///< invalid without such a screen
 
     /// Shows up to 8 plain and 8 rolling text overlays in place of those shown before. Records beyond the
@@ -179,6 +179,7 @@ public:
     /// The largest z-value on a screen, at least 0; 1 without such a screen.
     int GetMaxWindowZValue(int iScreen) const;
 
+    /// Replaces the value that OpenWindow() was given. Nothing without such a window.
     void SetWindowUserData(int iScreen, int iWindow, const QVariant& userData);
     QVariant GetWindowUserData(int iScreen, int iWindow) const; ///< invalid without such a window
     /// Sets the text that a window's title bar shows behind its number. @return whether the window exists
@@ -202,16 +203,16 @@ public:
 
     /// @name Colours, set by the style sheet
     /// @{
-    QColor WindowFrameColor() const;
-    void SetWindowFrameColor(const QColor& color);
-    QColor WindowSelectedFrameColor() const;
-    void SetWindowSelectedFrameColor(const QColor& color);
-    QColor WindowColor() const;
-    void SetWindowColor(const QColor& color);
-    QColor ScreenTextColor() const;
-    void SetScreenTextColor(const QColor& color);
-    QColor BandColor() const;
-    void SetBandColor(const QColor& color);
+    QColor WindowFrameColor() const; ///< of a window's frame
+    void SetWindowFrameColor(const QColor& color); ///< shown at once, like each of these colours
+    QColor WindowSelectedFrameColor() const; ///< of a selected window's frame
+    void SetWindowSelectedFrameColor(const QColor& color); ///< see WindowSelectedFrameColor()
+    QColor WindowColor() const; ///< of a window behind its title bar and video
+    void SetWindowColor(const QColor& color); ///< see WindowColor()
+    QColor ScreenTextColor() const; ///< of a screen's content text
+    void SetScreenTextColor(const QColor& color); ///< see ScreenTextColor()
+    QColor BandColor() const; ///< of the frames that the operator draws
+    void SetBandColor(const QColor& color); ///< see BandColor()
     /// @}
 
     QSize sizeHint() const override;
@@ -232,6 +233,8 @@ Q_SIGNALS:
     void SignalWindowClicked(); ///< a window was clicked and the selection stayed as it was
     void SignalWindowCloseBtnClicked(int iScreen, int iWindow); ///< the window stays until it is deleted
     void SignalWindowVolumeBtnClicked(int iScreen, int iWindow); ///< the button stays until it is set
+    /// A window that was opened editable has another place, by the operator or by SetWindowScale().
+    /// @param rect the new place as fractions of the screen
     void SignalWindowGeoChanged(int iScreen, int iWindow, const KvGUI::StructScaleRect& rect);
     /// The operator drew an area on a screen; open a window there if you like.
     void SignalDrawAreaOpenWindow(int iScreen, const KvGUI::StructScaleRect& rect);

@@ -115,13 +115,13 @@ public:
     /// As above without icon and title. The user data is dropped: set it with SetScreenUserData.
     int AddScreen(const KvGUI::StructScaleRect& rect, const QVariant& userData);
     bool DeleteAllScreen(); ///< removes every screen with its windows; always true
-    int GetScreenCount() const;
+    int GetScreenCount() const; ///< 0 without screens
     /// Gives a screen's rectangle in @p rect; false, leaving @p rect alone, without such a screen.
     bool GetScreenScale(int iScreen, KvGUI::StructScaleRect& rect) const;
     bool SetScreenTitle(int iScreen, const QString& title); ///< @return whether the screen exists
     /// Sets the text in the middle of an empty screen. @return whether the screen exists
     bool SetScreenContentText(int iScreen, const QString& text);
-    void SetScreenUserData(int iScreen, const QVariant& userData);
+    void SetScreenUserData(int iScreen, const QVariant& userData); ///< nothing without such a screen
     QVariant GetScreenUserData(int iScreen) const; ///< invalid without such a screen
 
     /// Whether windows of the screen may stand anywhere (true, the state of a new screen) or end every drag
@@ -173,6 +173,7 @@ public:
     /// The largest z-value on a screen, at least 0; 1 without such a screen.
     double GetMaxWindowZValue(int iScreen) const;
 
+    /// Replaces the value that OpenWindow() was given. Nothing without such a window.
     void SetWindowUserData(int iScreen, int iWindow, const QVariant& userData);
     QVariant GetWindowUserData(int iScreen, int iWindow) const; ///< invalid without such a window
     /// Sets the text that a window's title bar shows behind its number. @return whether the window exists
@@ -214,6 +215,8 @@ Q_SIGNALS:
     void SignalWindowClicked(); ///< a window was clicked and the selection stayed as it was
     void SignalWindowCloseBtnClicked(int iScreen, int iWindow); ///< the window stays until it is deleted
     void SignalWindowVolumeBtnClicked(int iScreen, int iWindow); ///< the button stays until it is set
+    /// A window that was opened editable has another place, by the operator or by SetWindowScale().
+    /// @param rect the new place as fractions of the screen
     void SignalWindowGeoChanged(int iScreen, int iWindow, const KvGUI::StructScaleRect& rect);
     /// The operator drew an area on a screen; open a window there if you like.
     void SignalDrawAreaOpenWindow(int iScreen, const KvGUI::StructScaleRect& rect);

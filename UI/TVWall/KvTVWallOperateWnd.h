@@ -113,14 +113,14 @@ public:
     /// As above without icon and title. The user data is dropped: set it with SetScreenUserData.
     int AddScreen(const KvGUI::StructScaleRect& rect, const QVariant& userData);
     bool DeleteAllScreen(); ///< removes every screen with its windows; true unless there is no wall
-    int GetScreenCount() const;
+    int GetScreenCount() const; ///< 0 without screens or a wall
     /// Gives a screen's rectangle in @p rect; false, leaving @p rect alone, without such a screen.
     bool GetScreenScale(int iScreen, KvGUI::StructScaleRect& rect) const;
     /// Sets a screen's title, which the display family does not show. @return whether the screen exists
     bool SetScreenTitle(int iScreen, const QString& title);
     /// Sets the text in the middle of an empty screen. @return whether the screen exists
     bool SetScreenContentText(int iScreen, const QString& text);
-    void SetScreenUserData(int iScreen, const QVariant& userData);
+    void SetScreenUserData(int iScreen, const QVariant& userData); ///< nothing without such a screen
     QVariant GetScreenUserData(int iScreen) const; ///< invalid without such a screen
     /// Shows up to 8 plain and 8 rolling text overlays in place of those shown before. Their pixels are
     /// computed once: set them again after a resize or zoom. @return whether the screen exists
@@ -172,6 +172,7 @@ public:
     /// The largest z-value on a screen, without its fraction, at least 0; 1 without such a screen, 0 without
     /// a wall.
     int GetMaxWindowZValue(int iScreen) const;
+    /// Replaces the value that OpenWindow() was given. Nothing without such a window.
     void SetWindowUserData(int iScreen, int iWindow, const QVariant& userData);
     QVariant GetWindowUserData(int iScreen, int iWindow) const; ///< invalid without such a window
     /// Sets the text that a window's title bar shows behind its number. @return whether the window exists
@@ -196,13 +197,17 @@ Q_SIGNALS:
     /// @{
     void SignalScreenEvent(int iScreen, QEvent* event); ///< drag-enter or drop; accept it to take the drop
     void SignalScreenSelectedChanged(int iScreen); ///< by the operator, also when it was selected before
-    void SignalScreenCloseBtnClicked(int iScreen);
+    void SignalScreenCloseBtnClicked(int iScreen); ///< never emitted by these families
     /// An input event reached a window, after the wall acted on it; valid during the emission only.
     void SignalWindowEvent(int iScreen, int iWindow, QEvent* event);
     void SignalWindowSelectedChanged(int iScreen); ///< ask GetSelectedWindowIndexs()
     void SignalWindowCloseBtnClicked(int iScreen, int iWindow); ///< the window stays until it is deleted
     void SignalWindowVolumeBtnClicked(int iScreen, int iWindow); ///< the button stays until it is set
+    /// A window that was opened editable has another place, by the operator or by SetWindowScale().
+    /// @param rect the new place as fractions of the screen
     void SignalWindowGeoChanged(int iScreen, int iWindow, const KvGUI::StructScaleRect& rect);
+    /// The operator drew an area on a screen; open a window there if you like.
+    /// @param rect the area as fractions of the screen
     void SignalDrawAreaOpenWindow(int iScreen, const KvGUI::StructScaleRect& rect);
     /// @}
 
