@@ -192,7 +192,8 @@ def filled(template, templates, module, skin):
     filled text. A KeyError names an unknown token."""
     folder = image_folder(template, templates, module, skin)
     # @images@ is the resource folder of the template itself.
-    text = fill(template.read_text(encoding="utf-8"), {**PALETTES[skin], "skin": skin, "images": folder})
+    values = {**PALETTES[skin], "application": APPLICATION, "skin": skin, "images": folder}
+    text = fill(template.read_text(encoding="utf-8"), values)
 
     def included(match):
         tree, _, owner = TREES[0] if match.group(1) else (templates, None, module)

@@ -108,6 +108,10 @@ endif()
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")
+# Catches a widget that the styling page leaves out, and a name there that no rule can use.
+get_property(public_headers GLOBAL PROPERTY UICOMPONENTS_PUBLIC_HEADERS)
+add_test(NAME styling-page
+    COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-styling.py" ${public_headers})
 if(DOXYGEN)
     # Catches a public symbol without words, and words about a parameter that is none.
     set(check_documentation "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-documentation.py"
