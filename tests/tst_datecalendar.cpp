@@ -98,25 +98,47 @@ struct Hand
     QWidget* calendar;
 };
 
-/// A calendar in a window, showing January and February 2024.
+void MousePress(QWindow* window, const QPoint& pos) { QTest::mousePress(window, Qt::LeftButton, {}, pos); }
+void MouseRelease(QWindow* window, const QPoint& pos)
+{
+    QTest::mouseRelease(window, Qt::LeftButton, {}, pos);
+}
+
+void Open(QWidget& window)
+{
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+}
+
+/// A calendar in a window, or over it, showing January and February 2024.
 struct Form
 {
-    Form()
+    explicit Form(Qt::WindowFlags flags = {})
+        : calendar(new KvCalendarEx(window, flags))
+        , hand(calendar)
     {
+        auto* layout = new QVBoxLayout(window);
+        if (!calendar->isWindow())
+            layout->addWidget(calendar);
         calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
-        auto* layout = new QVBoxLayout(&window);
-        layout->addWidget(calendar);
         calendar->SetSelDate(At(January5, 10), At(February1, 8));
         calendar->SetTimeEditVisible(false);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Open(*window);
+        if (calendar->isWindow())
+            Open(*calendar);
     }
+    ~Form()
+    {
+        delete calendar;
+        delete window;
+    }
+    Q_DISABLE_COPY(Form)
 
-    QWidget window;
-    QPointer<KvCalendarEx> calendar = new KvCalendarEx;
-    Hand hand{calendar};
+    QPointer<QWidget> window = new QWidget;
+    QPointer<KvCalendarEx> calendar;
+    Hand hand;
 };
 
 /// A window with the button that opens a calendar, and an ordinary one.
@@ -124,33 +146,48 @@ struct ButtonForm
 {
     ButtonForm()
     {
-        window.setGeometry(100, 400, 300, 200);
+        window->setGeometry(100, 400, 300, 200);
+        panel->setGeometry(window->rect());
         button->setGeometry(20, 80, 200, 30);
         other->setGeometry(20, 20, 100, 30);
         button->SetSelDate(At(January5, 10), At(February1, 8));
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Open(*window);
     }
+    ~ButtonForm() { delete window; }
+    Q_DISABLE_COPY(ButtonForm)
 
     KvCalendarEx* Calendar() const { return button->findChild<KvCalendarEx*>(); }
-    void Press(const QPoint& pos)
+
+    /// Presses where @p pos is in the window. An open calendar gets every press.
+    void Press(const QPoint& pos) const
     {
-        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, pos);
-        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, pos);
+        const QPoint global = window->mapToGlobal(pos);
+        for (const auto send : {MousePress, MouseRelease}) {
+            QWidget* popup = QApplication::activePopupWidget();
+            if (QWidget* receiver = popup ? popup : window.data())
+                send(receiver->windowHandle(), receiver->mapFromGlobal(global));
+        }
         QCoreApplication::processEvents(); // a replayed press is posted
     }
 
-    QWidget window;
-    QPointer<WmDateCalendar> button = new WmDateCalendar(&window);
-    QPushButton* other = new QPushButton(&window);
+    QPointer<QWidget> window = new QWidget;
+    QPointer<QWidget> panel = new QWidget(window);
+    QPointer<WmDateCalendar> button = new WmDateCalendar(panel);
+    QPushButton* other = new QPushButton(panel);
 };
 
 const QPoint OnButton(100, 95);
 const QPoint OnOther(60, 35);
 
+using CalendarAct = std::function<void(const Form&)>;
+using ButtonAct = std::function<void(const ButtonForm&)>;
+using Victim = std::function<QWidget*(const ButtonForm&)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(CalendarAct)
+Q_DECLARE_METATYPE(ButtonAct)
+Q_DECLARE_METATYPE(Victim)
 
 class TestDateCalendar : public QObject
 {
@@ -183,7 +220,8 @@ private slots:
     void LocaleNamesTheDays();
     void TimesBelongToTheRange();
     void TimesStayInOrder();
-    void DeletedByItsSlot();
+    void DeletedByASlot_data();
+    void DeletedByASlot();
     void ButtonShowsTheRange();
     void Positions_data();
     void Positions();
@@ -193,8 +231,15 @@ private slots:
     void ButtonByKeyboard();
     void ButtonTellsOfChanges();
     void ButtonCorrectsAReversedRange();
-    void ButtonDeletedByItsSlot_data();
-    void ButtonDeletedByItsSlot();
+    void ButtonDeletedByASlot_data();
+    void ButtonDeletedByASlot();
+    void OpenedAgainByASlot();
+
+public slots:
+    void DeleteVictim() { delete m_victim; }
+
+private:
+    QPointer<QWidget> m_victim;
 };
 
 void TestDateCalendar::DaysOfAMonth_data()
@@ -577,14 +622,14 @@ void TestDateCalendar::EscapeTakesThePickBack()
     QVERIFY(popup.isVisible());
     hand.Click(January20);
     popup.hide();
-    QCOMPARE(hidden.count(), 1);
+    QTRY_COMPARE(hidden.count(), 1);
     popup.show();
     hand.Click(January20);
     QCOMPARE(Range(popup).start, At(January5, 10)); // a first click
     hand.Key(Qt::Key_Escape);
     hand.Key(Qt::Key_Escape);
     QVERIFY(!popup.isVisible());
-    QCOMPARE(hidden.count(), 2);
+    QTRY_COMPARE(hidden.count(), 2);
 }
 
 void TestDateCalendar::LocaleNamesTheDays_data()
@@ -661,25 +706,69 @@ void TestDateCalendar::TimesStayInOrder()
     QCOMPARE(start->time(), QTime(6, 0));
 }
 
-/// Catches a touch of the calendar after a client's slot has deleted it, which the sanitizer reports.
-void TestDateCalendar::DeletedByItsSlot()
+void TestDateCalendar::DeletedByASlot_data()
 {
-    const QVector<std::function<void(Form&)>> actions{
-        [](Form& form) { form.hand.Click(January20); },
-        [](Form& form) {
-            form.hand.View(0)->setFocus();
-            form.hand.Key(Qt::Key_Return);
-        },
-        [](Form& form) { form.calendar->SetSelDate(At(February1, 0), At(January5, 0)); },
-        [](Form& form) { form.calendar->SetRestrcitDateRange(2); },
-        [](Form& form) { form.calendar->findChild<QTimeEdit*>()->stepUp(); }};
-    for (const auto& act : actions) {
-        Form form;
-        form.hand.Click(January5);
-        connect(form.calendar, &KvCalendarEx::SgnDateTimeChanged, this, [&] { delete form.calendar; });
-        act(form);
-        QTRY_VERIFY(!form.calendar);
-    }
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<CalendarAct>("act");
+    QTest::addColumn<bool>("popup");
+    QTest::addColumn<bool>("withWindow");
+    const QByteArray range(SIGNAL(SgnDateTimeChanged()));
+    const QByteArray startMonth(SIGNAL(SgnStartYearMonthChanged()));
+    const QByteArray endMonth(SIGNAL(SngEndYearMonthChanged()));
+    const QByteArray hidden(SIGNAL(SgnCalendarHide()));
+    const auto add = [](const char* name, bool popup, const QByteArrayList& told, const CalendarAct& act) {
+        for (const QByteArray& signal : told) {
+            for (const bool withWindow : {false, true}) {
+                const char* victim = withWindow ? "the window" : "the calendar";
+                QTest::addRow("%s by %s at %s", victim, name, signal.constData() + 1)
+                    << signal << act << popup << withWindow;
+            }
+        }
+    };
+    const auto chooseOneDay = [](const Form& form, const std::function<void()>& pick) {
+        form.calendar->SetSelDate(At(January5, 0), At(January5, 0));
+        form.hand.Click(February1);
+        pick();
+    };
+    const CalendarAct click
+        = [=](const Form& form) { chooseOneDay(form, [&] { form.hand.Click(February1); }); };
+    const CalendarAct hide = [](const Form& form) { form.calendar->hide(); };
+    add("a click", false, {range, startMonth, endMonth}, click);
+    add("a click in a pop-up", true, {range, startMonth, endMonth}, click);
+    add("Return", false, {range, startMonth, endMonth}, [=](const Form& form) {
+        form.hand.View(1)->setFocus();
+        chooseOneDay(form, [&] { form.hand.Key(Qt::Key_Return); });
+    });
+    add("a correction", false, {range, startMonth, endMonth},
+        [](const Form& form) { form.calendar->SetSelDate(At(February1, 0), At(January5, 0)); });
+    add("a limit", false, {range, endMonth},
+        [](const Form& form) { form.calendar->SetRestrcitDateRange(2); });
+    add("a time edit", false, {range},
+        [](const Form& form) { form.calendar->findChild<QTimeEdit*>()->stepUp(); });
+    add("hiding", false, {hidden}, hide);
+    add("hiding a pop-up", true, {hidden}, hide);
+    add("closing a pop-up", true, {hidden}, [](const Form& form) { form.calendar->close(); });
+    add("hiding the window", false, {hidden}, [](const Form& form) { form.window->hide(); });
+    add("another parent", false, {hidden}, [](const Form& form) { form.calendar->setParent(nullptr); });
+    add("Escape", true, {hidden}, [](const Form& form) { form.hand.Key(Qt::Key_Escape); });
+    add("a press outside", true, {hidden}, [](const Form& form) {
+        MousePress(form.calendar->windowHandle(), {-20, -20});
+    });
+}
+
+/// Catches a touch of what a client's slot has deleted: the sanitizer reports ours, and a crash Qt's.
+void TestDateCalendar::DeletedByASlot()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(CalendarAct, act);
+    QFETCH(bool, popup);
+    QFETCH(bool, withWindow);
+    Form form(popup ? Qt::Popup | Qt::FramelessWindowHint : Qt::Widget);
+    m_victim = withWindow ? form.window.data() : form.calendar.data();
+    QVERIFY(connect(form.calendar, signal, this, SLOT(DeleteVictim())));
+    act(form);
+    QTRY_VERIFY(!m_victim);
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
 /// Catches another format, and a text that does not follow the calendar.
@@ -726,7 +815,7 @@ void TestDateCalendar::PressOpensAndCloses()
         QVERIFY(form.Calendar()->isVisible());
         QVERIFY(form.button->isChecked());
         QCOMPARE(form.Calendar()->pos(), form.button->GetCalendarPos());
-        QCOMPARE(form.Calendar()->x(), form.window.mapToGlobal(form.button->geometry().topRight()).x() + 1);
+        QCOMPARE(form.Calendar()->x(), form.window->mapToGlobal(form.button->geometry().topRight()).x() + 1);
         form.Press(OnButton);
         QVERIFY(!form.Calendar()->isVisible());
         QVERIFY(form.button->isChecked());
@@ -800,34 +889,98 @@ void TestDateCalendar::ButtonCorrectsAReversedRange()
     QCOMPARE(form.button->text(), QStringLiteral("2024/01/20-2024/01/22"));
 }
 
-void TestDateCalendar::ButtonDeletedByItsSlot_data()
+void TestDateCalendar::ButtonDeletedByASlot_data()
 {
-    QTest::addColumn<int>("signal");
-    QTest::newRow("range") << 0;
-    QTest::newRow("start") << 1;
-    QTest::newRow("end") << 2;
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<bool>("open");
+    QTest::addColumn<ButtonAct>("act");
+    QTest::addColumn<Victim>("victim");
+    const QByteArray toggled(SIGNAL(toggled(bool)));
+    const QByteArrayList changes{
+        SIGNAL(SgnDateTimeChanged(QDateTime, QDateTime)), SIGNAL(SgnStartYearMonthChanged(int, int)),
+        SIGNAL(SgnEndYearMonthChanged(int, int))};
+    const auto add = [](const char* name, bool open, const QByteArrayList& told, const ButtonAct& act) {
+        const QVector<QPair<const char*, Victim>> victims{
+            {"the button", [](const ButtonForm& form) { return form.button; }},
+            {"its parent", [](const ButtonForm& form) { return form.panel; }},
+            {"the window", [](const ButtonForm& form) { return form.window; }}};
+        for (const QByteArray& signal : told) {
+            for (const auto& victim : victims) {
+                QTest::addRow("%s by %s at %s", victim.first, name, signal.constData() + 1)
+                    << signal << open << act << victim.second;
+            }
+        }
+    };
+    const auto addKey = [=](const char* name, Qt::Key key) {
+        add(name, false, {toggled}, [=](const ButtonForm& form) { QTest::keyClick(form.button, key); });
+    };
+    const auto choose = [](const ButtonForm& form) {
+        const Hand hand(form.Calendar());
+        form.button->SetSelDate(At(January5, 0), At(January5, 0));
+        hand.Click(February1);
+        hand.Click(February1);
+    };
+    const ButtonAct press = [](const ButtonForm& form) { form.Press(OnButton); };
+    const ButtonAct click = [](const ButtonForm& form) { form.button->click(); };
+    add("a press", false, {toggled}, press);
+    add("a click of the program's", false, {toggled}, click);
+    addKey("Space", Qt::Key_Space);
+    addKey("Return", Qt::Key_Return);
+    add("a press when open", true, {toggled}, press);
+    add("a click of the program's when open", true, {toggled}, click);
+    add("a press outside", true, {toggled}, [](const ButtonForm& form) { form.Press(OnOther); });
+    add("Escape", true, {toggled}, [](const ButtonForm& form) { Hand(form.Calendar()).Key(Qt::Key_Escape); });
+    add("hiding", true, {toggled}, [](const ButtonForm& form) { form.Calendar()->hide(); });
+    add("closing", true, {toggled}, [](const ButtonForm& form) { form.Calendar()->close(); });
+    add("a choice that closes", true, {toggled}, [=](const ButtonForm& form) {
+        connect(form.button, &WmDateCalendar::SgnDateTimeChanged, form.Calendar(), &QWidget::hide);
+        choose(form);
+    });
+    add("a choice", true, changes, choose);
+    add("a correction", false, changes,
+        [](const ButtonForm& form) { form.button->SetSelDate(At(February1, 0), At(January5, 0)); });
 }
 
-/// Catches a touch of the button after a client's slot has deleted it, which the sanitizer reports.
-void TestDateCalendar::ButtonDeletedByItsSlot()
+/// Catches a touch of what a client's slot has deleted: the sanitizer reports ours, and a crash Qt's.
+void TestDateCalendar::ButtonDeletedByASlot()
 {
-    QFETCH(int, signal);
+    QFETCH(QByteArray, signal);
+    QFETCH(bool, open);
+    QFETCH(ButtonAct, act);
+    QFETCH(Victim, victim);
     ButtonForm form;
-    const auto remove = [&] { delete form.button; };
-    if (signal == 0)
-        connect(form.button, &WmDateCalendar::SgnDateTimeChanged, this, remove);
-    else if (signal == 1)
-        connect(form.button, &WmDateCalendar::SgnStartYearMonthChanged, this, remove);
-    else
-        connect(form.button, &WmDateCalendar::SgnEndYearMonthChanged, this, remove);
-    form.Press(OnButton);
-    const Hand hand(form.Calendar());
-    hand.Turn(0, "kvCalendarPreviousMonth");
-    hand.Turn(1, "kvCalendarNextMonth");
-    hand.Click(QDate(2023, 12, 24));
-    hand.Click(QDate(2024, 3, 1));
-    QVERIFY(!form.button);
+    const QPointer<KvCalendarEx> calendar = form.Calendar();
+    if (open)
+        form.Press(OnButton);
+    m_victim = victim(form);
+    QVERIFY(connect(form.button, signal, this, SLOT(DeleteVictim())));
+    act(form);
+    QVERIFY(!m_victim);
+    QTRY_VERIFY(!calendar);
     QVERIFY(!QApplication::activePopupWidget());
+}
+
+/// Catches a calendar that a slot of its closing opens again, and that comes up without its pages, or closed,
+/// or stays when the button goes.
+void TestDateCalendar::OpenedAgainByASlot()
+{
+    ButtonForm form;
+    const QPointer<KvCalendarEx> calendar = form.Calendar();
+    form.Press(OnButton);
+    connect(form.button, &QPushButton::toggled, calendar, [&](bool checked) {
+        if (!checked)
+            form.button->click();
+    });
+    for (const QPoint& pos : {OnOther, OnButton}) {
+        form.Press(pos);
+        QVERIFY(calendar->isVisible());
+        QVERIFY(Hand(calendar).View(1)->isVisible());
+        QVERIFY(form.button->isChecked());
+    }
+    connect(form.button, &QPushButton::toggled, calendar, [&] { delete form.button; });
+    calendar->hide();
+    QVERIFY(!form.button);
+    QTRY_VERIFY(!calendar);
 }
 
 STRICT_X_TEST_MAIN(TestDateCalendar)

@@ -330,6 +330,19 @@ void KvCalendarEx::SetTimeEditVisible(bool visible)
     adjustSize();
 }
 
+/// Shown by a slot while Qt is still hiding it, the calendar would come up without its pages: that waits.
+void KvCalendarEx::setVisible(bool visible)
+{
+    d->shallBeVisible = visible;
+    if (d->hiding)
+        return;
+    d->hiding = !visible;
+    QWidget::setVisible(visible);
+    d->hiding = false;
+    if (!visible && d->shallBeVisible)
+        QWidget::setVisible(true);
+}
+
 void KvCalendarEx::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
@@ -341,7 +354,8 @@ void KvCalendarEx::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
     d->CancelPick();
-    emit SgnCalendarHide();
+    // Qt is not through with hiding it, or the window around it, and a slot may delete either.
+    QMetaObject::invokeMethod(this, &KvCalendarEx::SgnCalendarHide, Qt::QueuedConnection);
 }
 
 void KvCalendarEx::keyPressEvent(QKeyEvent* event)

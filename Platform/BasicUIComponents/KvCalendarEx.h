@@ -17,8 +17,8 @@ class KvCalendarExPrivate;
 /// by months (with Ctrl by years), Home and End within the month; Enter or Space picks the day; Escape takes
 /// the first pick back, and closes a pop-up. The wheel turns a page.
 ///
-/// Names, digits and the first day of the week are those of the widget's locale. A slot may delete the
-/// calendar; one of SgnCalendarHide() by QObject::deleteLater().
+/// Names, digits and the first day of the week are those of the widget's locale. Any slot may delete the
+/// calendar, or the window around it.
 class UICOMPONENTS_EXPORT KvCalendarEx : public QWidget
 {
     Q_OBJECT
@@ -51,12 +51,16 @@ public:
     /// Shows or hides the time edits for start and end; shown at first.
     void SetTimeEditVisible(bool visible);
 
+    void setVisible(bool visible) override;
+
 signals:
     /// Another range is chosen. A change of a time edit is reported when the event loop comes round.
     void SgnDateTimeChanged();
     void SgnStartYearMonthChanged(); ///< the range starts in another month; follows SgnDateTimeChanged()
     void SngEndYearMonthChanged(); ///< the range ends in another month; comes last
-    void SgnCalendarHide(); ///< the calendar was hidden; it must outlive this signal
+
+    /// The calendar was hidden, by itself or with its window; reported when the event loop comes round.
+    void SgnCalendarHide();
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -54,6 +54,8 @@ public:
     QLabel* endLabel = nullptr;
     QTimeEdit* startTime = nullptr;
     QTimeEdit* endTime = nullptr;
+    bool hiding = false; ///< Qt is at it
+    bool shallBeVisible = false; ///< asked for last
 
 private:
     void ShowHint();

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QSignalBlocker>
 
 namespace UICommonMdl {
 
@@ -27,11 +28,18 @@ WmDateCalendar::WmDateCalendar(QWidget* parent)
     CommonFun::SetStyleSheet(this, QStringLiteral("DateCalendar"), QString(), QString());
 }
 
-/// Not left to QObject: a calendar that is open reports its end to a button that is still one.
+/// Not left to QObject: a calendar that is open reports its end to a button that is still one. And when a
+/// client's slot deletes the button while the calendar hides, Qt goes on with the calendar: it lives until
+/// the event loop comes round.
 WmDateCalendar::~WmDateCalendar()
 {
     disconnect(m_pCalendar, nullptr, this, nullptr);
     m_pCalendar->removeEventFilter(this);
+    if (m_iHiding == 0)
+        return;
+    m_pCalendar->hide(); // the slot may have shown it again
+    m_pCalendar->setParent(nullptr, m_pCalendar->windowFlags());
+    m_pCalendar->deleteLater();
 }
 
 void WmDateCalendar::SetSelDate(const QDateTime& start, const QDateTime& end)
@@ -64,7 +72,8 @@ QPoint WmDateCalendar::GetCalendarPos()
 void WmDateCalendar::ToggleCalendar()
 {
     const QPointer<WmDateCalendar> self(this); // unchecking it is a signal too
-    if (m_pCalendar->isVisible()) {
+    m_bClosedByButton = m_pCalendar->isVisible();
+    if (m_bClosedByButton) {
         m_pCalendar->hide();
     } else {
         m_pCalendar->adjustSize();
@@ -72,7 +81,19 @@ void WmDateCalendar::ToggleCalendar()
         m_pCalendar->show();
     }
     if (self)
-        setChecked(true);
+        Check(true);
+}
+
+/// Not by setChecked() alone, which goes on with the button after toggled(), whose slot may have deleted it.
+void WmDateCalendar::Check(bool checked)
+{
+    if (isChecked() == checked)
+        return;
+    {
+        const QSignalBlocker blocker(this);
+        setChecked(checked);
+    }
+    emit toggled(checked);
 }
 
 void WmDateCalendar::mousePressEvent(QMouseEvent*) { ToggleCalendar(); }
@@ -94,7 +115,7 @@ bool WmDateCalendar::eventFilter(QObject* watched, QEvent* event)
     if (watched != m_pCalendar)
         return QPushButton::eventFilter(watched, event);
     if (event->type() == QEvent::Hide)
-        setChecked(false);
+        UncheckAtHide();
     if (event->type() != QEvent::MouseButtonPress)
         return false;
     // While it is open the calendar gets every press. One on the button would close it and come back to the
@@ -108,6 +129,15 @@ bool WmDateCalendar::eventFilter(QObject* watched, QEvent* event)
     if (calendar)
         calendar->setAttribute(Qt::WA_NoMouseReplay, false);
     return true;
+}
+
+void WmDateCalendar::UncheckAtHide()
+{
+    const QPointer<WmDateCalendar> self(this);
+    ++m_iHiding;
+    Check(false);
+    if (self)
+        --m_iHiding;
 }
 
 void WmDateCalendar::OnDateTimeChanged()
@@ -135,6 +165,11 @@ void WmDateCalendar::OnEndYearMonthChanged()
     emit SgnEndYearMonthChanged(end.date().year(), end.date().month());
 }
 
-void WmDateCalendar::OnCalendarHide() { setChecked(false); }
+/// The calendar tells it late: the button may have stayed checked, or have opened the calendar again.
+void WmDateCalendar::OnCalendarHide()
+{
+    if (!m_bClosedByButton && !m_pCalendar->isVisible())
+        Check(false);
+}
 
 } // namespace UICommonMdl

@@ -18,8 +18,7 @@ namespace UICommonMdl {
 /// connect(range, &WmDateCalendar::SgnDateTimeChanged, this, &Records::Search);
 /// @endcode
 /// A press, or Space with the focus, opens and closes the calendar; a click elsewhere and Escape close it.
-/// The button is checked while the calendar is open. A slot may delete the button;
-/// one of toggled() by QObject::deleteLater().
+/// The button is checked while the calendar is open. Any slot may delete the button, or the window around it.
 class UICOMPONENTS_EXPORT WmDateCalendar : public QPushButton
 {
     Q_OBJECT
@@ -67,8 +66,12 @@ protected:
 
 private:
     void ToggleCalendar();
+    void Check(bool checked);
+    void UncheckAtHide();
 
     KvGUI::KvCalendarEx* m_pCalendar;
+    int m_iHiding = 0; ///< reports of a hiding calendar that are under way
+    bool m_bClosedByButton = false;
 };
 
 } // namespace UICommonMdl
