@@ -31,6 +31,7 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/UIComponentsConfigVersio
 install(FILES
     "${PROJECT_BINARY_DIR}/UIComponentsConfig.cmake"
     "${PROJECT_BINARY_DIR}/UIComponentsConfigVersion.cmake"
+    "${PROJECT_SOURCE_DIR}/cmake/SkinResources.cmake"
     DESTINATION "${package_dir}")
 
 set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

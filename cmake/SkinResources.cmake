@@ -8,6 +8,7 @@
 # module is UICommonModule; the gallery's is OperatorClient:
 #     uicomponents_skin_resources(<gallery target> "${PROJECT_SOURCE_DIR}/gallery/skins" OperatorClient)
 #     :/Corvale/OperatorClient/Black/OperatorClient/MainWindow/OperatorClient.css
+# Installed with the CMake package, so that an application can add skins of its own to the library's module.
 function(uicomponents_skin_resources target root module)
     file(GLOB skins CONFIGURE_DEPENDS LIST_DIRECTORIES true RELATIVE "${root}" "${root}/*/*")
     # The templates from which the skins are made may lie beside them.

@@ -12,10 +12,10 @@ run("${CMAKE_COMMAND}" -S "${SOURCE_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR
     "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix")
 run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
 # A provider plugin that was built must be found beside the installed library.
-set(wanted "")
+set(wanted skin)
 file(GLOB office_provider "${BUILD_DIR}/lib/UIComponents/automation/*OfficeProvider*")
 if(office_provider)
-    set(wanted office)
+    list(APPEND wanted office)
 endif()
 run("${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen "${WORK_DIR}/build/installed-check" ${wanted})
 
@@ -26,7 +26,26 @@ if(WEBENGINE_TEST)
         "LD_LIBRARY_PATH=${WORK_DIR}/prefix/${LIBDIR}" "${WEBENGINE_TEST}" PageIsPainted)
 endif()
 
-# The same program by pkg-config, which must find all by the file's own place.
+# The first program of README.md, from what stands there.
+file(READ "${SOURCE_DIR}/../../README.md" readme)
+function(write_block language file)
+    string(REGEX REPLACE "^.*## A first program" "" section "${readme}")
+    string(REGEX MATCH "```${language}\n[^`]*```" block "${section}")
+    string(REGEX REPLACE "(^```${language}\n|```$)" "" block "${block}")
+    file(WRITE "${WORK_DIR}/first/${file}" "${block}")
+endfunction()
+write_block(cpp main.cpp)
+write_block(cmake CMakeLists.txt)
+run("${CMAKE_COMMAND}" -S "${WORK_DIR}/first" -B "${WORK_DIR}/first/build" -G "${GENERATOR}"
+    "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix")
+run("${CMAKE_COMMAND}" --build "${WORK_DIR}/first/build")
+execute_process(COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen timeout 2 "${WORK_DIR}/first/build/first"
+    RESULT_VARIABLE result)
+if(NOT result EQUAL 124) # it was running until it was stopped
+    message(FATAL_ERROR "the first program of README.md ends with ${result}")
+endif()
+
+# The project's program by pkg-config, which must find all by the file's own place.
 file(GLOB_RECURSE pc_file "${WORK_DIR}/prefix/UIComponents.pc")
 get_filename_component(pc_dir "${pc_file}" DIRECTORY)
 set(ENV{PKG_CONFIG_PATH} "${pc_dir}")

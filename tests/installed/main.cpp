@@ -1,11 +1,27 @@
-// Uses the installed library as a client does: a wall with one window, styled by the installed skins, and,
-// with the argument "office", the spreadsheet application that the installed plugin drives.
+// Uses the installed library as a client does: a wall with one window, styled by the installed skins, a skin
+// of the client's own with the argument "skin", and with "office" the spreadsheet application that the
+// installed plugin drives.
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <UI/PersonImage/WmPersonImage.h>
 #include <UI/Spreadsheet/AxExcelFunction.h>
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
 
 #include <QApplication>
+
+namespace {
+
+/// Whether the client's skin reaches a living widget, and leaves alone what it has no sheet for.
+bool TakesOwnSkin(const QWidget& wall)
+{
+    const UICommonMdl::WmPersonImage person;
+    const QString sheetOfTheWall = wall.styleSheet();
+    KvGUI::SetSkinVersion(QStringLiteral("Harbour"));
+    return person.styleSheet().contains(QLatin1String("#142836")) && wall.styleSheet() == sheetOfTheWall;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -17,7 +33,9 @@ int main(int argc, char** argv)
     wall.show();
     const bool placed = wall.GetWindowWidget(0, 0) != nullptr && !wall.styleSheet().isEmpty();
     const bool cut = UICommonMdl::CommonFun::GetUtf8ValidByteLenString(QStringLiteral("abc"), 2).size() == 2;
-    const bool office
-        = argc < 2 || UICommonMdl::AxExcelFunction::CheckExcelVersion() == UICommonMdl::AxExcel_Xlsx;
-    return placed && cut && office ? 0 : 1;
+    const QStringList wanted = QApplication::arguments();
+    const bool skin = !wanted.contains(QLatin1String("skin")) || TakesOwnSkin(wall);
+    const bool office = !wanted.contains(QLatin1String("office"))
+        || UICommonMdl::AxExcelFunction::CheckExcelVersion() == UICommonMdl::AxExcel_Xlsx;
+    return placed && cut && skin && office ? 0 : 1;
 }
