@@ -32,6 +32,7 @@ set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME uicomponents-designer)
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
 set(CPACK_COMPONENT_DESIGNER_DESCRIPTION "Plugin that offers the library's widgets in Qt Designer.")
 set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_RECOMMENDS "qttools5-dev-tools") # Designer itself
 
 set(CPACK_DEBIAN_OFFICE_PACKAGE_NAME uicomponents-office)
 set(CPACK_DEBIAN_OFFICE_PACKAGE_SECTION libs)
