@@ -51,6 +51,7 @@ public:
     /// Shows or hides the time edits for start and end; shown at first.
     void SetTimeEditVisible(bool visible);
 
+    /// Shows or hides the calendar. Shown by a slot while it is being hidden, it comes up again after that.
     void setVisible(bool visible) override;
 
 signals:
