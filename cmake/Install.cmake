@@ -4,7 +4,8 @@ include(CMakePackageConfigHelpers)
 set(UICOMPONENTS_AUTOMATION_FOLDER "UIComponents/automation")
 
 # Two components, which the packages follow: Runtime is what a program needs that is linked to the
-# library, Development what building one needs. The skins are compiled into the library.
+# library, Development what building one needs. The skins and the translations are compiled into
+# the library.
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME Development)
 install(TARGETS UIComponents EXPORT UIComponentsTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development

@@ -1,5 +1,7 @@
 #include <gallery/ClientOptions.h>
 
+#include <gallery/Language.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -30,7 +32,8 @@ void AddOptions(QCommandLineParser& parser)
          TextOption(
              "screenshots", "Save pictures of all pages in both skins to the folder, and end.", "folder"),
          TextOption("layout", "Keep the wall in this file instead of the user's own.", "file"),
-         TextOption("skin", "Start in this skin: Black or White.", "name")});
+         TextOption("skin", "Start in this skin: Black or White.", "name"),
+         TextOption("language", "Start in this language: en or zh_CN.", "name")});
 }
 
 /// Files are stored with the wall, so a name must mean the same file when the program starts elsewhere.
@@ -58,6 +61,11 @@ bool ParseOptions(const QStringList& arguments, ClientOptions& options, QString&
     const QStringList skins{QString(), QStringLiteral("Black"), QStringLiteral("White")};
     if (!skins.contains(options.skin)) {
         error = Translated("There is no skin \"%1\": choose Black or White.").arg(options.skin);
+        return false;
+    }
+    options.language = parser.value(QStringLiteral("language"));
+    if (!options.language.isEmpty() && !Language::Names().contains(options.language)) {
+        error = Translated("There is no language \"%1\": choose en or zh_CN.").arg(options.language);
         return false;
     }
     options.files = Sources(parser.values(QStringLiteral("video")), &SourceSpec::Video)

@@ -16,6 +16,7 @@ struct ClientOptions
     QString screenshotFolder; ///< empty: run as usual
     QString layoutFile; ///< empty: the user's own
     QString skin; ///< empty: the one of the layout
+    QString language; ///< one of Language::Names(); empty: the desktop's
 };
 
 /// Reads the command line; --help and --version end the program.

@@ -1,5 +1,7 @@
 #include <gallery/MainWindow.h>
 
+#include <gallery/FollowLanguage.h>
+
 #include <Common/CommonFun.h>
 
 #include <QHBoxLayout>
@@ -14,9 +16,9 @@ MainWindow::MainWindow(QWidget* parent)
     , m_pPageList(new QListWidget(this))
     , m_pPages(new QStackedWidget(this))
 {
-    setWindowTitle(tr("Operator client"));
+    FollowLanguage(this, "windowTitle", [] { return tr("Operator client"); });
     m_pPageList->setObjectName(QStringLiteral("pageList"));
-    m_pPageList->setAccessibleName(tr("Pages"));
+    FollowLanguage(m_pPageList, "accessibleName", [] { return tr("Pages"); });
     m_pPageList->setFixedWidth(160);
     m_pPageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* central = new QWidget(this);
@@ -49,6 +51,17 @@ QVector<Page*> MainWindow::Pages() const
     for (int i = 0; i < m_pPages->count(); ++i)
         pages.append(qobject_cast<Page*>(m_pPages->widget(i)));
     return pages;
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    const QVector<Page*> pages = Pages();
+    for (int i = 0; i < pages.size(); ++i)
+        m_pPageList->item(i)->setText(pages.at(i)->Title());
+    statusBar()->clearMessage(); // it reports in the former language
 }
 
 void MainWindow::ShowPage(int index) { m_pPageList->setCurrentRow(index); }

@@ -21,6 +21,9 @@ public:
     QVector<Page*> Pages() const;
     void ShowPage(int index);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QListWidget* m_pPageList;
     QStackedWidget* m_pPages;

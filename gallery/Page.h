@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -34,6 +35,17 @@ public:
 
 Q_SIGNALS:
     void SignalReport(const QString& text); ///< one line for the status bar
+
+protected:
+    /// The language is another one now. For texts that do not follow it by themselves.
+    virtual void OnLanguageChanged() { }
+
+    void changeEvent(QEvent* event) override
+    {
+        QWidget::changeEvent(event);
+        if (event->type() == QEvent::LanguageChange)
+            OnLanguageChanged();
+    }
 };
 
 } // namespace OperatorClient

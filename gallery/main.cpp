@@ -3,6 +3,7 @@
 #include <gallery/Alarms/AlarmPage.h>
 #include <gallery/ClientOptions.h>
 #include <gallery/Forms/DevicePage.h>
+#include <gallery/Language.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Map/MapPage.h>
 #include <gallery/Pairing/PairingPage.h>
@@ -29,8 +30,18 @@ const QDateTime PictureMoment(QDate(2026, 3, 14), QTime(10, 24, 36));
 constexpr int SampleAlarmCount = 20000;
 constexpr int PixmapCacheKilobytes = 128 * 1024;
 
+/// Pictures for a page of a document do not depend on the desktop.
+QString FirstLanguage(const ClientOptions& options)
+{
+    if (!options.language.isEmpty())
+        return options.language;
+    return options.screenshotFolder.isEmpty() ? Language::OfDesktop() : QStringLiteral("en");
+}
+
 int Run(const ClientOptions& options)
 {
+    Language language;
+    language.Set(FirstLanguage(options));
     const bool pictures = !options.screenshotFolder.isEmpty();
     // Pictures for a page of a document show the first wall and leave the user's own alone.
     const QTemporaryDir pictureFolder;

@@ -105,6 +105,14 @@ if(TARGET OfficeProvider AND TARGET OperatorClientPages)
     target_link_libraries(tst_alarms PRIVATE OperatorClientPages)
     add_dependencies(tst_alarms OfficeProvider)
 endif()
+# Catches a text without a finished translation, one that the sources no longer have, and a translation that
+# lost a place mark, a mnemonic or an ending.
+get_target_property(lupdate Qt5::lupdate LOCATION)
+add_test(NAME translations-complete
+    COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/translations/update.py" --check --lupdate "${lupdate}")
+# Catches a text that the operator sees and that no translator can reach.
+add_test(NAME texts-translatable
+    COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/translations/check-literals.py")
 # Catches a dependency that goes against the direction of the rooms.
 add_test(NAME include-directions
     COMMAND "${Python3_EXECUTABLE}" "${PROJECT_SOURCE_DIR}/cmake/check-directions.py")

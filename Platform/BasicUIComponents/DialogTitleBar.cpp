@@ -1,5 +1,6 @@
 #include <Platform/BasicUIComponents/DialogTitleBar.h>
 
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -44,8 +45,8 @@ void DialogTitleBar::AddCloseButton()
 {
     auto* button = new QToolButton(this);
     button->setObjectName(QStringLiteral("kvDialogCloseButton"));
-    button->setAccessibleName(tr("Close"));
-    button->setToolTip(tr("Close"));
+    new KvTranslatedText(button, "accessibleName", [] { return tr("Close"); });
+    new KvTranslatedText(button, "toolTip", [] { return tr("Close"); });
     // Escape does the same; the first stop of the Tab key belongs to the content.
     button->setFocusPolicy(Qt::NoFocus);
     connect(button, &QToolButton::clicked, this, &DialogTitleBar::SignalCloseClicked);

@@ -4,6 +4,7 @@
 #include "CalendarPage.h"
 #include "KvCalendarEx_p.h"
 
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <Platform/BasicUIComponents/PlatformLook.h>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -263,7 +264,7 @@ KvCalendarEx::KvCalendarEx(QWidget* parent, Qt::WindowFlags flags)
     , d(new KvCalendarExPrivate(this))
 {
     setAttribute(Qt::WA_StyledBackground);
-    setAccessibleName(tr("Calendar"));
+    new KvTranslatedText(this, "accessibleName", [] { return tr("Calendar"); });
     d->Build();
     d->Connect();
     setFocusProxy(d->startPage->View());

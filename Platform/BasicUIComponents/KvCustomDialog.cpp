@@ -1,6 +1,7 @@
 #include <Platform/BasicUIComponents/KvCustomDialog.h>
 
 #include <Platform/BasicUIComponents/KvPushButton.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -59,7 +60,8 @@ KvCustomDialog::KvCustomDialog(QWidget* parent, int iButtons, int iDialogFlags)
 
 void KvCustomDialog::AddButton(QHBoxLayout* row, int iButton, void (KvCustomDialog::*clicked)())
 {
-    auto* button = new KvPushButton(StandardText(iButton), row->parentWidget());
+    auto* button = new KvPushButton(row->parentWidget());
+    new KvTranslatedText(button, "text", [iButton] { return StandardText(iButton); });
     connect(button, &QPushButton::clicked, this, clicked);
     row->addWidget(button);
     m_buttons.insert(iButton, button);

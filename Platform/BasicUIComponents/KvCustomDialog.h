@@ -44,7 +44,8 @@ public:
     /// no button for does nothing, here and below.
     void SetButtonVisible(int iButton, bool bVisible);
 
-    /// Sets the button's text; "&" before a letter makes it the button's shortcut.
+    /// Sets the button's text; "&" before a letter makes it the button's shortcut. The standard text
+    /// follows the language that Qt's own texts are in, this one stays as it is.
     void SetButtonText(int iButton, const QString& strText);
 
     /// Lets the button be pressed or not.

@@ -1,5 +1,6 @@
 #include <Platform/BasicUIComponents/NotificationPopup.h>
 
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <Platform/BasicUIComponents/PlatformLook.h>
 #include <QAccessibleWidget>
 #include <QHBoxLayout>
@@ -83,8 +84,8 @@ NotificationPopup::NotificationPopup(const QString& text, int milliseconds, QWid
     sign->setObjectName(QStringLiteral("kvNotificationSign"));
     auto* close = new QToolButton(this);
     close->setObjectName(QStringLiteral("kvNotificationClose"));
-    close->setAccessibleName(tr("Close the message"));
-    close->setToolTip(tr("Close"));
+    new KvTranslatedText(close, "accessibleName", [] { return tr("Close the message"); });
+    new KvTranslatedText(close, "toolTip", [] { return tr("Close"); });
     close->setFocusPolicy(Qt::NoFocus);
     connect(close, &QToolButton::clicked, this, &QWidget::close);
     auto* layout = new QHBoxLayout(this);

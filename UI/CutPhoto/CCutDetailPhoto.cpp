@@ -4,6 +4,8 @@
 #include "CropFrame.h"
 #include "CropPainting.h"
 
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -15,9 +17,9 @@ CCutDetailPhoto::CCutDetailPhoto(QWidget* parent)
 {
     CCutDetailPhotoPrivate* const d = d_func();
     setMouseTracking(true);
-    setAccessibleName(tr("Photo to crop"));
+    new KvGUI::KvTranslatedText(this, "accessibleName", [] { return tr("Photo to crop"); });
     d->tip = new CComTipWiget(this);
-    d->tip->SetTipText(tr("Please select the area to be cropped."));
+    ShowTipText();
     d->tip->setAttribute(Qt::WA_TransparentForMouseEvents);
     d->tip->show();
 }
@@ -124,6 +126,20 @@ void CCutDetailPhoto::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     UpdateTipPos();
     setAttribute(Qt::WA_OpaquePaintEvent, d_func()->state.Covers(*this));
+}
+
+void CCutDetailPhoto::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    ShowTipText();
+    UpdateTipPos();
+}
+
+void CCutDetailPhoto::ShowTipText()
+{
+    d_func()->tip->SetTipText(tr("Please select the area to be cropped."));
 }
 
 void CCutDetailPhoto::DragTo(const QPoint& pointer)

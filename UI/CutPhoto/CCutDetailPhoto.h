@@ -110,8 +110,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void ShowTipText();
     void DragTo(const QPoint& pointer);
     void SetCrop(const QRect& crop);
     void HideTip();

@@ -1,9 +1,11 @@
 #include <UI/CutPhoto/CCutPhotoDlg.h>
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <UI/CutPhoto/CCutDetailPhoto.h>
 #include <UI/CutPhoto/CutPhotoForm.h>
 
+#include <QLabel>
 #include <QTimer>
 
 namespace UICommonMdl {
@@ -17,11 +19,12 @@ constexpr int kUpdateDelay = 10; // milliseconds, after the dialog was laid out
 CCutPhotoDlg::CCutPhotoDlg(QWidget* parent)
     : KvCustomDialog(parent)
     , m_pCanvas(new CCutDetailPhoto(this))
-    , m_pForm(std::make_unique<CutPhotoForm>(BuildCutPhotoForm(
-          this, m_pCanvas,
-          tr("Please cut photo refer to the default background picture, or upload the original picture "
-             "below 10m to achieve automatic compression."))))
+    , m_pForm(std::make_unique<CutPhotoForm>(BuildCutPhotoForm(this, m_pCanvas)))
 {
+    new KvGUI::KvTranslatedText(m_pForm->hint, "text", [] {
+        return tr("Please cut photo refer to the default background picture, or upload the original picture "
+                  "below 10m to achieve automatic compression.");
+    });
     connect(this, SIGNAL(SignalOkButtonClicked()), this, SLOT(OnBtnOkClicked()));
     connect(this, SIGNAL(SignalCancelButtonClicked()), this, SLOT(OnBtnCancelClicked()));
     connect(
@@ -77,6 +80,14 @@ void CCutPhotoDlg::OnUpdateCutRect(const QRect& rcCut, bool bAddX, bool bAddY)
 }
 
 void CCutPhotoDlg::OnUpdateImage() { m_pCanvas->SetSrcPhoto(m_strPath); }
+
+bool CCutPhotoDlg::event(QEvent* event)
+{
+    // Also when the buttons take another width, in another language for example.
+    if (event->type() == QEvent::LayoutRequest)
+        FitCutPhotoHint(this, *m_pForm);
+    return KvCustomDialog::event(event);
+}
 
 void CCutPhotoDlg::resizeEvent(QResizeEvent* event)
 {

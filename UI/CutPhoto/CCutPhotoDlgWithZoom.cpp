@@ -1,9 +1,11 @@
 #include <UI/CutPhoto/CCutPhotoDlgWithZoom.h>
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
 #include <UI/CutPhoto/CutPhotoForm.h>
 
+#include <QLabel>
 #include <QTimer>
 
 namespace UICommonMdl {
@@ -21,11 +23,12 @@ constexpr int kHumanBody = 3;
 CCutPhotoDlgWithZoom::CCutPhotoDlgWithZoom(QWidget* parent)
     : KvCustomDialog(parent)
     , m_pCanvas(new CCutPhotoWithZoom(this))
-    , m_pForm(std::make_unique<CutPhotoForm>(BuildCutPhotoForm(
-          this, m_pCanvas,
-          tr("Please cut photo refer to the default background picture, or upload the original picture "
-             "below 10m to achieve automatic compression."))))
+    , m_pForm(std::make_unique<CutPhotoForm>(BuildCutPhotoForm(this, m_pCanvas)))
 {
+    new KvGUI::KvTranslatedText(m_pForm->hint, "text", [] {
+        return tr("Please cut photo refer to the default background picture, or upload the original picture "
+                  "below 10m to achieve automatic compression.");
+    });
     connect(this, SIGNAL(SignalOkButtonClicked()), this, SLOT(OnBtnOkClicked()));
     connect(this, SIGNAL(SignalCancelButtonClicked()), this, SLOT(OnBtnCancelClicked()));
     connect(
@@ -110,6 +113,14 @@ void CCutPhotoDlgWithZoom::OnUpdateCutRect(const QRect& rcCut, bool bAddX, bool 
 }
 
 void CCutPhotoDlgWithZoom::OnUpdateImage() { m_pCanvas->SetSrcPhoto(m_strPath); }
+
+bool CCutPhotoDlgWithZoom::event(QEvent* event)
+{
+    // Also when the buttons take another width, in another language for example.
+    if (event->type() == QEvent::LayoutRequest)
+        FitCutPhotoHint(this, *m_pForm);
+    return KvCustomDialog::event(event);
+}
 
 void CCutPhotoDlgWithZoom::resizeEvent(QResizeEvent* event)
 {

@@ -88,6 +88,7 @@ public slots:
     void OnUpdateImage(); ///< reads the picture
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -76,6 +76,13 @@ QRegion CCutPhotoWithZoomPrivate::IconRegion(const QRect& crop) const
         + Square(CropFrame::SearchHandle(frame), SearchIcon);
 }
 
+void CCutPhotoWithZoomPrivate::ShowTipText()
+{
+    tip->SetTipText(CCutPhotoWithZoom::tr(
+        "Please cut photo refer to the default background picture, or upload the original "
+        "picture below 10m to achieve automatic compression."));
+}
+
 void CCutPhotoWithZoomPrivate::UpdateTipPos()
 {
     if (tip == nullptr)
@@ -231,22 +238,25 @@ bool CCutPhotoWithZoomPrivate::PopupMenu()
     menu->setStyle(new SearchMenuIcons(menu));
     menu->setStyleSheet(SearchMenuStyle(QLatin1String(Application)));
     AddAction(
-        CCutPhotoWithZoom::tr("Vehicle Images Search"), SkinFile("Vehicle-n.png"),
+        [] { return CCutPhotoWithZoom::tr("Vehicle Images Search"); }, SkinFile("Vehicle-n.png"),
         SLOT(OnVehicleSearchPicture()));
     AddAction(
-        CCutPhotoWithZoom::tr("Face Image Search"), SkinFile("iconFace_n.png"), SLOT(OnFaceSearchPicture()));
+        [] { return CCutPhotoWithZoom::tr("Face Image Search"); }, SkinFile("iconFace_n.png"),
+        SLOT(OnFaceSearchPicture()));
     menu->addSeparator();
     AddAction(
-        CCutPhotoWithZoom::tr("Human Body Image Search"), SkinFile("iconBody_n.png"),
+        [] { return CCutPhotoWithZoom::tr("Human Body Image Search"); }, SkinFile("iconBody_n.png"),
         SLOT(OnHumanSearchPicture()));
-    AddAction(CCutPhotoWithZoom::tr("Cancel"), SkinFile("close.png"), SLOT(OnClose()));
+    AddAction([] { return CCutPhotoWithZoom::tr("Cancel"); }, SkinFile("close.png"), SLOT(OnClose()));
     return !menu->isEmpty() && menu->exec(QCursor::pos()) != nullptr;
 }
 
-void CCutPhotoWithZoomPrivate::AddAction(const QString& text, const QString& picture, const char* slot)
+void CCutPhotoWithZoomPrivate::AddAction(
+    const KvGUI::KvTranslatedText::Source& text, const QString& picture, const char* slot)
 {
     const QIcon icon(CommonFun::GetSkinPath(QStringLiteral("UICommonModule"), picture));
-    auto* action = new QAction(icon, text, menu);
+    auto* action = new QAction(icon, QString(), menu);
+    new KvGUI::KvTranslatedText(action, "text", text);
     // Queued, so that the menu has gone when the slot runs and may delete it.
     QObject::connect(action, SIGNAL(triggered(bool)), q, slot, Qt::QueuedConnection);
     menu->addAction(action);
@@ -279,11 +289,10 @@ CCutPhotoWithZoom::CCutPhotoWithZoom(QWidget* parent)
 {
     CCutPhotoWithZoomPrivate* const d = d_func();
     setFocusPolicy(Qt::ClickFocus);
-    setAccessibleName(tr("Photo to crop"));
+    new KvGUI::KvTranslatedText(this, "accessibleName", [] { return tr("Photo to crop"); });
 
     d->tip = new CComTipWigetWithZoom(this);
-    d->tip->SetTipText(tr("Please cut photo refer to the default background picture, or upload the original "
-                          "picture below 10m to achieve automatic compression."));
+    d->ShowTipText();
     d->tip->setAttribute(Qt::WA_TransparentForMouseEvents);
     d->tip->show();
 
@@ -437,6 +446,15 @@ void CCutPhotoWithZoom::resizeEvent(QResizeEvent* event)
     if (!d->searchRequested)
         d->ReadSource(QString(d->state.cutInfo.strFilePath));
     setAttribute(Qt::WA_OpaquePaintEvent, d->state.Covers(*this));
+}
+
+void CCutPhotoWithZoom::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    d_func()->ShowTipText();
+    d_func()->UpdateTipPos();
 }
 
 void CCutPhotoWithZoom::keyReleaseEvent(QKeyEvent* event)

@@ -4,6 +4,7 @@
 #include "CropState.h"
 
 #include <Platform/BasicUIComponents/KvMenu.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 
 #include <QPixmap>
 #include <QPointer>
@@ -21,6 +22,7 @@ public:
 
     void LoadSkin();
     void PaintIcons(QPainter& painter);
+    void ShowTipText();
     void UpdateTipPos();
     void ReadSource(const QString& path);
 
@@ -67,7 +69,7 @@ private:
     QRegion IconRegion(const QRect& crop) const;
     QRegion CoveredByTip() const;
     void LoadIcons(qreal ratio);
-    void AddAction(const QString& text, const QString& picture, const char* slot);
+    void AddAction(const KvGUI::KvTranslatedText::Source& text, const QString& picture, const char* slot);
 
     QPixmap moveIcon;
     QPixmap scaleIcon;

@@ -69,7 +69,7 @@ int FollowedScrollValue(int value, bool forward, int start, int length, int cont
     return qMax(value, start + length - containerLength + margin);
 }
 
-CutPhotoForm BuildCutPhotoForm(KvGUI::KvCustomDialog* dialog, QWidget* canvas, const QString& hint)
+CutPhotoForm BuildCutPhotoForm(KvGUI::KvCustomDialog* dialog, QWidget* canvas)
 {
     CutPhotoForm form;
     form.container = new QWidget;
@@ -83,7 +83,6 @@ CutPhotoForm BuildCutPhotoForm(KvGUI::KvCustomDialog* dialog, QWidget* canvas, c
     form.sign = BottomItem(dialog, "hintSign");
     form.sign->resize(kSignSize, kBottomItemHeight);
     form.hint = BottomItem(dialog, "hint");
-    form.hint->setText(hint);
     form.hint->setWordWrap(true);
     form.hint->setMinimumWidth(kHintLeastWidth);
     return form;

@@ -40,8 +40,8 @@ struct CutPhotoForm
     QLabel* hint = nullptr; ///< second item of the bottom row
 };
 
-/// Builds the form in the dialog's central widget, @p canvas in its container.
-CutPhotoForm BuildCutPhotoForm(KvGUI::KvCustomDialog* dialog, QWidget* canvas, const QString& hint);
+/// Builds the form in the dialog's central widget, @p canvas in its container. The hint has no text yet.
+CutPhotoForm BuildCutPhotoForm(KvGUI::KvCustomDialog* dialog, QWidget* canvas);
 
 /// Gives the container this size and the dialog the size for it, and places the bottom row.
 void SetCutPhotoResolution(KvGUI::KvCustomDialog* dialog, const CutPhotoForm& form, int width, int height);

@@ -3,6 +3,7 @@
 #include "ui_CDisplayQRcodeDlg.h"
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <UI/Dialogs/QRCodePicture.h>
 
 #include <QPixmap>
@@ -23,7 +24,7 @@ CDisplayQRcodeDlg::CDisplayQRcodeDlg(QWidget* parent)
     , m_pRefreshTimer(new QTimer(this))
 {
     m_ui->setupUi(GetCentralWidget());
-    SetTitle(tr("Display QRcode"));
+    new KvGUI::KvTranslatedText(this, "windowTitle", [] { return tr("Display QRcode"); });
     resize(FirstSize);
     setObjectName(QStringLiteral("CDisplayQRcodeDlg"));
     m_pRefreshTimer->setInterval(FirstRefreshInterval);
@@ -33,6 +34,13 @@ CDisplayQRcodeDlg::CDisplayQRcodeDlg(QWidget* parent)
 }
 
 CDisplayQRcodeDlg::~CDisplayQRcodeDlg() = default;
+
+void CDisplayQRcodeDlg::changeEvent(QEvent* event)
+{
+    KvDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        m_ui->retranslateUi(GetCentralWidget());
+}
 
 void CDisplayQRcodeDlg::SetQRCodeValue(const QString& value, const QString& initValue)
 {

@@ -54,6 +54,9 @@ Q_SIGNALS:
     /// @param strInitValue the second argument of the last SetQRCodeValue()
     void SignalRefreshTimeout(const QString& strInitValue);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void OnRefreshTimeout();
 

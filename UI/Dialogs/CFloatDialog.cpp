@@ -194,6 +194,13 @@ void CFloatDialog::resizeEvent(QResizeEvent* event)
     QDialog::resizeEvent(event);
 }
 
+void CFloatDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        m_ui->retranslateUi(m_floatWgt);
+}
+
 void CFloatDialog::closeEvent(QCloseEvent* event)
 {
     if (event->spontaneous()) {

@@ -1,6 +1,7 @@
 #include <UI/Dialogs/KvVolumeButton.h>
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <UI/Dialogs/KvVolumeWidget.h>
 #include <UI/Dialogs/PopupPlacement.h>
 
@@ -29,7 +30,7 @@ KvVolumeButton::KvVolumeButton(QWidget* parent)
     : QToolButton(parent)
     , m_pPopup(new KvVolumeWidget(this))
 {
-    setAccessibleName(tr("Volume"));
+    new KvGUI::KvTranslatedText(this, "accessibleName", [] { return tr("Volume"); });
     OnSoundOpenedChanged(false);
     connect(m_pPopup, &KvVolumeWidget::SignalVolumeValueChanged, this, &KvVolumeButton::ReportValue);
     connect(m_pPopup, &KvVolumeWidget::SignalSoundOpened, this, &KvVolumeButton::OnSoundOpenedChanged);

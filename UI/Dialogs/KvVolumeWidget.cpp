@@ -1,6 +1,7 @@
 #include <UI/Dialogs/KvVolumeWidget.h>
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 
 #include <QMouseEvent>
 #include <QSignalBlocker>
@@ -36,7 +37,7 @@ KvVolumeWidget::KvVolumeWidget(QWidget* parent)
 
     m_pSlider->setRange(0, 100);
     m_pSlider->setValue(FirstVolume);
-    m_pSlider->setAccessibleName(tr("Volume"));
+    new KvGUI::KvTranslatedText(m_pSlider, "accessibleName", [] { return tr("Volume"); });
     OnSignalVolumeValueChanged(FirstVolume);
     UpdateLook();
     connect(m_pSlider, &QSlider::valueChanged, this, &KvVolumeWidget::SignalVolumeValueChanged);
@@ -109,11 +110,23 @@ void KvVolumeWidget::hideEvent(QHideEvent* event)
     QWidget::hideEvent(event);
 }
 
+void KvVolumeWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        NameSoundButton();
+}
+
+void KvVolumeWidget::NameSoundButton()
+{
+    m_btnSound->setAccessibleName(m_bSoundOpened ? tr("Turn the sound off") : tr("Turn the sound on"));
+}
+
 void KvVolumeWidget::UpdateLook()
 {
     m_btnSound->setObjectName(
         m_bSoundOpened ? QStringLiteral("btnVolumeOn") : QStringLiteral("btnVolumeOff"));
-    m_btnSound->setAccessibleName(m_bSoundOpened ? tr("Turn the sound off") : tr("Turn the sound on"));
+    NameSoundButton();
     m_btnSound->style()->polish(m_btnSound);
     m_btnSound->update();
     m_pSlider->setEnabled(m_bSoundOpened);

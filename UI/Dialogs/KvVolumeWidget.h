@@ -42,8 +42,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void NameSoundButton();
     void UpdateLook();
 
     bool m_bSoundOpened = false;

@@ -3,6 +3,7 @@
 #include <Common/QCommon.h>
 #include <Common/SkinPicture.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QStyle>
@@ -13,7 +14,7 @@ CPasswordStrength::CPasswordStrength(QWidget* parent)
     : QFrame(parent)
 {
     LoadPictures();
-    setAccessibleName(tr("Password strength"));
+    new KvGUI::KvTranslatedText(this, "accessibleName", [] { return tr("Password strength"); });
     connect(
         KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, this,
         &CPasswordStrength::LoadPictures);

@@ -1,6 +1,7 @@
 #include <UI/FormInputs/KvLineEditWithDirButton.h>
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <QPointer>
 #include <QStyle>
 #include <QToolButton>
@@ -24,8 +25,8 @@ KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
     m_btnDir->setAutoRaise(true);
     m_btnDir->setIconSize(QSize(ButtonSize, ButtonSize));
     m_btnDir->setCursor(Qt::ArrowCursor);
-    m_btnDir->setToolTip(tr("Choose"));
-    m_btnDir->setAccessibleName(tr("Choose a file"));
+    new KvGUI::KvTranslatedText(m_btnDir, "toolTip", [] { return tr("Choose"); });
+    new KvGUI::KvTranslatedText(m_btnDir, "accessibleName", [] { return tr("Choose a file"); });
     connect(m_btnDir, &QToolButton::clicked, this, &KvLineEditWithDirButton::onDirButtonClicked);
     setTextMargins(0, 0, ButtonSize, 0);
     CommonFun::SetStyleSheet(this, QStringLiteral("LineEdit"), QString(), QString());

@@ -226,6 +226,8 @@ void QIpAddrEdit::resizeEvent(QResizeEvent* event)
 void QIpAddrEdit::changeEvent(QEvent* event)
 {
     QFrame::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        NameOctets();
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) {
         updateGeometry();
         AdjustPartLenth();

@@ -4,6 +4,8 @@
 #include "ui_WmAddGroup.h"
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvPushButton.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <QPointer>
 #include <QRegExpValidator>
 #include <QToolTip>
@@ -33,9 +35,9 @@ void WmAddGroup::Init()
         return;
     m_ui.reset(new ::Ui::AddGroup);
     m_ui->setupUi(GetCentralWidget());
-    SetButtonText(QDialogButtonBox::Ok, tr("Save"));
-    SetButtonText(QDialogButtonBox::Cancel, tr("Cancel"));
-    SetButtonText(SaveAndNew, tr("Save and New"));
+    new KvGUI::KvTranslatedText(GetButton(QDialogButtonBox::Ok), "text", [] { return tr("Save"); });
+    new KvGUI::KvTranslatedText(GetButton(QDialogButtonBox::Cancel), "text", [] { return tr("Cancel"); });
+    new KvGUI::KvTranslatedText(GetButton(SaveAndNew), "text", [] { return tr("Save and New"); });
     connect(this, &KvCustomDialog::SignalOtherButtonClicked, this, &WmAddGroup::OnBtnSaveAndNew);
     connect(this, &KvCustomDialog::SignalOkButtonClicked, this, &WmAddGroup::OnBtnSave);
     connect(this, &KvCustomDialog::SignalCancelButtonClicked, this, &WmAddGroup::OnClose);
@@ -44,6 +46,13 @@ void WmAddGroup::Init()
     SetNameRegExp(QRegExp());
     resize(1, 1); // the layout decides
     m_ui->edtName->setFocus();
+}
+
+void WmAddGroup::changeEvent(QEvent* event)
+{
+    KvCustomDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        m_ui->retranslateUi(GetCentralWidget());
 }
 
 void WmAddGroup::SetParentGroupID(qint64 iParentID) { m_iParentID = iParentID; }

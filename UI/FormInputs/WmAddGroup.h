@@ -85,6 +85,9 @@ signals:
     void SignalNewName(qint64 iParentID, const QString& strName); ///< the same; comes second
     void SignalSaveAndNew(qint64 iParentID, const QString& strName); ///< "Save and New" was pressed
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void ApplyMaxLen();
     bool TakeName(QString& strName);

@@ -1,6 +1,7 @@
 #include <UI/PersonImage/WmPersonImage.h>
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 
 #include <QPushButton>
 #include <QResizeEvent>
@@ -29,13 +30,18 @@ void SetInUse(QWidget* child, bool bInUse)
 
 WmPersonImage::WmPersonImage(QWidget* parent)
     : QLabel(parent)
-    , m_btnUpLoad(AddButton("m_btnUpLoad", tr("Upload Pic"), &WmPersonImage::SignalClickUploadPicBtn))
-    , m_btnCapture(AddButton("m_btnCapture", tr("CameraCaptchPicture"), &WmPersonImage::SignalCameraBtnClick))
-    , m_btnVistorCapture(
-          AddButton("m_btnVistorCapture", tr("ACHCaptchPicture"), &WmPersonImage::SignalVistorSnapBtnClick))
-    , m_btnIDCard(AddButton("m_btnIDCard", tr("ID card reading"), &WmPersonImage::SignalIDCardBtnClick))
-    , m_btnPhotoDelete(AddButton("m_btnPhotoDelete", tr("Delete"), &WmPersonImage::SignalDeleteBtnClick))
-    , m_btnTurnPage(AddButton("m_btnTurnPage", tr("Next Picture"), &WmPersonImage::SignalTurnPageBtnClick))
+    , m_btnUpLoad(AddButton(
+          "m_btnUpLoad", [] { return tr("Upload Pic"); }, &WmPersonImage::SignalClickUploadPicBtn))
+    , m_btnCapture(AddButton(
+          "m_btnCapture", [] { return tr("CameraCaptchPicture"); }, &WmPersonImage::SignalCameraBtnClick))
+    , m_btnVistorCapture(AddButton(
+          "m_btnVistorCapture", [] { return tr("ACHCaptchPicture"); },
+          &WmPersonImage::SignalVistorSnapBtnClick))
+    , m_btnIDCard(AddButton(
+          "m_btnIDCard", [] { return tr("ID card reading"); }, &WmPersonImage::SignalIDCardBtnClick))
+    , m_btnPhotoDelete(AddButton(
+          "m_btnPhotoDelete", [] { return tr("Delete"); }, &WmPersonImage::SignalDeleteBtnClick))
+    , m_btnTurnPage(AddButton("m_btnTurnPage", nullptr, &WmPersonImage::SignalTurnPageBtnClick))
     , m_lbAvatarOrFace(new QLabel(this))
 {
     setObjectName(QStringLiteral("WmPersonImage"));
@@ -49,9 +55,12 @@ WmPersonImage::WmPersonImage(QWidget* parent)
     SetPhotoBtnVisible(false);
 }
 
-QPushButton* WmPersonImage::AddButton(const char* name, const QString& text, void (WmPersonImage::*clicked)())
+QPushButton*
+WmPersonImage::AddButton(const char* name, QString (*caption)(), void (WmPersonImage::*clicked)())
 {
-    auto* button = new QPushButton(text, this);
+    auto* button = new QPushButton(this);
+    if (caption != nullptr)
+        new KvGUI::KvTranslatedText(button, "text", caption);
     button->setObjectName(QLatin1String(name));
     button->setCursor(Qt::PointingHandCursor);
     button->setFocusPolicy(Qt::NoFocus);
@@ -75,11 +84,16 @@ void WmPersonImage::SetShowTurnPageButton(bool bShow) { SetInUse(m_btnTurnPage, 
 void WmPersonImage::SetShowAvatarOrFaceLabel(bool bShow, int type)
 {
     m_iCaptionType = type;
-    if (type == kAvatar)
+    ShowCaption();
+    SetInUse(m_lbAvatarOrFace, bShow);
+}
+
+void WmPersonImage::ShowCaption()
+{
+    if (m_iCaptionType == kAvatar)
         m_lbAvatarOrFace->setText(tr("Avatar"));
     else // the numbers are one below the types
-        m_lbAvatarOrFace->setText(tr("Face") + QLatin1String(type == kFirstFace ? "1" : "2"));
-    SetInUse(m_lbAvatarOrFace, bShow);
+        m_lbAvatarOrFace->setText(tr("Face") + QLatin1String(m_iCaptionType == kFirstFace ? "1" : "2"));
 }
 
 int WmPersonImage::CaptionType() const { return m_iCaptionType; }
@@ -156,6 +170,16 @@ void WmPersonImage::leaveEvent(QEvent* event)
     if (!m_bAlwaysShow)
         SetPhotoBtnVisible(false);
     QLabel::leaveEvent(event);
+}
+
+void WmPersonImage::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    ShowTurnText();
+    if (!m_lbAvatarOrFace->text().isEmpty())
+        ShowCaption();
 }
 
 void WmPersonImage::resizeEvent(QResizeEvent* event)

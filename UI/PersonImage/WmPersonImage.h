@@ -80,10 +80,13 @@ protected:
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
-    QPushButton* AddButton(const char* name, const QString& text, void (WmPersonImage::*clicked)());
+    /// @param caption null for one that changes with the page
+    QPushButton* AddButton(const char* name, QString (*caption)(), void (WmPersonImage::*clicked)());
     void ShowTurnText();
+    void ShowCaption();
 
     QPushButton* m_btnUpLoad;
     QPushButton* m_btnCapture;

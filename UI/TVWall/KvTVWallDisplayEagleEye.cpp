@@ -5,6 +5,7 @@
 #include <Common/CommonFun.h>
 #include <Common/SkinPicture.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -43,7 +44,7 @@ KvTVWallDisplayEagleEye::KvTVWallDisplayEagleEye(const WallArrangement* wall, QW
     : QWidget(parent)
     , m_pWall(wall)
 {
-    setAccessibleName(tr("Overview of the wall"));
+    new KvGUI::KvTranslatedText(this, "accessibleName", [] { return tr("Overview of the wall"); });
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     LoadPictures();
@@ -217,6 +218,13 @@ void KvTVWallDisplayEagleEye::keyPressEvent(QKeyEvent* event)
     default:
         return QWidget::keyPressEvent(event);
     }
+}
+
+void KvTVWallDisplayEagleEye::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        ShowWhatAPressDoes(mapFromGlobal(QCursor::pos()));
 }
 
 // The overview is often the first widget that the keyboard could reach, and gets the focus with its window:

@@ -224,7 +224,7 @@ int KvTVWallDisplayScreen::OpenWindow(
     auto* window = new KvTVWallDisplayWindow(this, m_pWall->GetWindowScalePrecision(), scale, userData);
     m_windows.append(window);
     if (showTitle)
-        window->SetTitle(WindowTitle::Numbered(m_windows.size()));
+        window->ShowNumber(m_windows.size());
     window->PlaceOnScreen();
     window->installEventFilter(m_pWatcher);
     if (scale.bEditable) {

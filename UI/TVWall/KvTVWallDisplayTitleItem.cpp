@@ -2,6 +2,7 @@
 
 #include "WindowTitle.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -58,11 +59,13 @@ void StyleAgain(QWidget* widget)
 }
 
 // The sheet selects the restoring icon by this property. A button that was never set has none.
-void SetRestore(QPushButton* button, bool restore, const QString& toolTip)
+bool IsRestore(const QPushButton* button) { return button->property("restore").toBool(); }
+
+void SetRestore(QPushButton* button, Button kind, bool restore)
 {
-    if (button->property("restore").toBool() == restore)
+    if (IsRestore(button) == restore)
         return;
-    SetToolTip(button, toolTip);
+    SetToolTip(button, WindowTitle::ToolTip(kind, restore));
     button->setProperty("restore", restore);
     StyleAgain(button);
 }
@@ -85,10 +88,22 @@ KvTVWallDisplayTitleItem::KvTVWallDisplayTitleItem(QWidget* parent)
     layout->addWidget(m_pText, 1);
     for (QPushButton* button : {m_btnVolume, m_btnSnap, m_btnMax, m_btnClose})
         layout->addWidget(button);
-    SetToolTip(m_btnVolume, WindowTitle::ToolTip(Button::Volume, false));
-    SetToolTip(m_btnSnap, WindowTitle::ToolTip(Button::Snap, false));
-    SetToolTip(m_btnMax, WindowTitle::ToolTip(Button::Max, false));
+    ShowToolTips();
+}
+
+void KvTVWallDisplayTitleItem::ShowToolTips()
+{
+    SetToolTip(m_btnVolume, WindowTitle::ToolTip(Button::Volume, m_bVolumeOn));
+    SetToolTip(m_btnSnap, WindowTitle::ToolTip(Button::Snap, IsRestore(m_btnSnap)));
+    SetToolTip(m_btnMax, WindowTitle::ToolTip(Button::Max, IsRestore(m_btnMax)));
     SetToolTip(m_btnClose, WindowTitle::ToolTip(Button::Close, false));
+}
+
+void KvTVWallDisplayTitleItem::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        ShowToolTips();
 }
 
 QPushButton* KvTVWallDisplayTitleItem::AddButton(const QString& objectName)
@@ -107,20 +122,15 @@ void KvTVWallDisplayTitleItem::SetText(const QString& text) { m_pText->setText(t
 
 void KvTVWallDisplayTitleItem::SetVolumeOn(bool on)
 {
+    m_bVolumeOn = on;
     m_btnVolume->setObjectName(
         on ? QStringLiteral("pWindowVolumeOnBtn") : QStringLiteral("pWindowVolumeOffBtn"));
     SetToolTip(m_btnVolume, WindowTitle::ToolTip(Button::Volume, on));
     StyleAgain(m_btnVolume);
 }
 
-void KvTVWallDisplayTitleItem::SetMaximized(bool maximized)
-{
-    SetRestore(m_btnMax, maximized, WindowTitle::ToolTip(Button::Max, maximized));
-}
+void KvTVWallDisplayTitleItem::SetMaximized(bool maximized) { SetRestore(m_btnMax, Button::Max, maximized); }
 
-void KvTVWallDisplayTitleItem::SetSnapped(bool snapped)
-{
-    SetRestore(m_btnSnap, snapped, WindowTitle::ToolTip(Button::Snap, snapped));
-}
+void KvTVWallDisplayTitleItem::SetSnapped(bool snapped) { SetRestore(m_btnSnap, Button::Snap, snapped); }
 
 } // namespace UICommonMdl

@@ -27,14 +27,19 @@ public:
     QPushButton* MaxButton() const { return m_btnMax; }
     QPushButton* CloseButton() const { return m_btnClose; }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QPushButton* AddButton(const QString& objectName);
+    void ShowToolTips();
 
     QLabel* m_pText;
     QPushButton* m_btnVolume;
     QPushButton* m_btnSnap;
     QPushButton* m_btnMax;
     QPushButton* m_btnClose;
+    bool m_bVolumeOn = false;
 };
 
 } // namespace UICommonMdl

@@ -108,9 +108,9 @@ void KvTVWallDisplayWindow::SetVolumeOn(bool on)
     m_pTitle->SetVolumeOn(on);
 }
 
-void KvTVWallDisplayWindow::SetTitle(const QString& title)
+void KvTVWallDisplayWindow::ShowNumber(int number)
 {
-    m_strTitle = title;
+    m_iNumber = number;
     UpdateTitle();
 }
 
@@ -122,7 +122,7 @@ void KvTVWallDisplayWindow::SetContentText(const QString& text)
 
 void KvTVWallDisplayWindow::UpdateTitle()
 {
-    const QString text = WindowTitle::Joined(m_strTitle, m_strContent);
+    const QString text = WindowTitle::Joined(WindowTitle::Numbered(m_iNumber), m_strContent);
     m_pTitle->SetText(text);
     setAccessibleName(text);
 }
@@ -313,6 +313,8 @@ void KvTVWallDisplayWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::EnabledChange)
         CancelDrag();
+    if (event->type() == QEvent::LanguageChange)
+        UpdateTitle();
     QWidget::changeEvent(event);
 }
 

@@ -48,7 +48,7 @@ public:
     const QVariant& GetUserData() const { return m_userData; }
     void SetUserData(const QVariant& userData) { m_userData = userData; }
 
-    void SetTitle(const QString& title); ///< the window's number
+    void ShowNumber(int number); ///< in the title, from 1
     void SetContentText(const QString& text); ///< shown behind the title
     KvTVWallDisplayVideo* GetVideo() const; ///< null when it was deleted
     bool DeleteVideo(); ///< false when there is none
@@ -110,7 +110,7 @@ private:
     bool m_bSelected = false;
     bool m_bVolumeOn = false;
     bool m_bKeyboardFocus = false; // the focus came by keyboard, so the eye has to find it
-    QString m_strTitle;
+    int m_iNumber = 0; ///< 0: none is shown
     QString m_strContent;
     WindowDrag m_drag;
 };

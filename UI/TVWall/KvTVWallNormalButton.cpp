@@ -26,7 +26,7 @@ KvTVWallNormalButton::KvTVWallNormalButton(
     setFlag(ItemIsFocusable);
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
-    setToolTip(WindowTitle::ToolTip(kind, false));
+    UpdateToolTip();
 }
 
 void KvTVWallNormalButton::SetOn(bool on)
@@ -34,9 +34,11 @@ void KvTVWallNormalButton::SetOn(bool on)
     if (m_bOn == on)
         return;
     m_bOn = on;
-    setToolTip(WindowTitle::ToolTip(m_kind, on));
+    UpdateToolTip();
     update();
 }
+
+void KvTVWallNormalButton::UpdateToolTip() { setToolTip(WindowTitle::ToolTip(m_kind, m_bOn)); }
 
 void KvTVWallNormalButton::SetGeometry(const QRect& geometry)
 {

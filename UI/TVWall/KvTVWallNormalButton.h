@@ -24,6 +24,7 @@ public:
         QGraphicsItem* parent);
 
     void SetOn(bool on); ///< volume on, maximised or snapped
+    void UpdateToolTip(); ///< in the present language
     void SetGeometry(const QRect& geometry); ///< in the title bar
 
     int type() const override { return Type; }

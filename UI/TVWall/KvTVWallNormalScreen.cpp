@@ -165,6 +165,12 @@ void KvTVWallNormalScreen::UpdateLook()
         window->UpdateLook();
 }
 
+void KvTVWallNormalScreen::UpdateTexts()
+{
+    for (KvTVWallNormalWindow* window : qAsConst(m_windows))
+        window->UpdateTexts();
+}
+
 WallMiniature::Screen KvTVWallNormalScreen::Miniature() const
 {
     QVector<const KvTVWallNormalWindow*> ascending(m_windows.begin(), m_windows.end());
@@ -217,7 +223,7 @@ int KvTVWallNormalScreen::OpenWindow(
         = new KvTVWallNormalWindow(this, m_pView, m_pPane, WallGeometry::NormalPrecision, scale, userData);
     m_windows.append(window);
     if (showTitle)
-        window->SetTitle(WindowTitle::Numbered(m_windows.size()));
+        window->ShowNumber(m_windows.size());
     if (!m_pView->AreAudioButtonsVisible())
         window->SetAudioButtonVisible(false);
     window->PlaceOnScreen();

@@ -65,6 +65,7 @@ public:
     bool IsPositioning() const override { return m_bPositioning; } ///< drags over windows draw 3D frames
     void SetPositioning(bool positioning);
     void UpdateLook(); ///< in the view's present colours
+    void UpdateTexts(); ///< in the present language
     WallMiniature::Screen Miniature() const;
     void Remove(); ///< takes it off the wall; it emits nothing more and is deleted later
     /// @}

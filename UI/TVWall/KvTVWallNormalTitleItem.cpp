@@ -44,6 +44,12 @@ void KvTVWallNormalTitleItem::SetMaximized(bool maximized)
 
 void KvTVWallNormalTitleItem::SetSnapped(bool snapped) { m_buttons.at(int(Button::Snap))->SetOn(snapped); }
 
+void KvTVWallNormalTitleItem::UpdateToolTips()
+{
+    for (KvTVWallNormalButton* button : qAsConst(m_buttons))
+        button->UpdateToolTip();
+}
+
 void KvTVWallNormalTitleItem::SetAudioButtonVisible(bool visible)
 {
     m_buttons.at(int(Button::Volume))->setVisible(visible);

@@ -22,6 +22,7 @@ public:
     void SetMaximized(bool maximized);
     void SetSnapped(bool snapped);
     void SetAudioButtonVisible(bool visible);
+    void UpdateToolTips(); ///< in the present language
     void FitTo(const QSize& window); ///< takes its place in a window of this size
     const QList<KvTVWallNormalButton*>& Buttons() const { return m_buttons; } ///< from left to right
 

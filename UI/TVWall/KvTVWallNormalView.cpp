@@ -4,6 +4,8 @@
 #include "KvTVWallNormalScreen.h"
 #include "KvTVWallNormalWindow.h"
 
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
+
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDragLeaveEvent>
@@ -47,7 +49,7 @@ KvTVWallNormalView::KvTVWallNormalView(QWidget* parent)
     auto* scene = new QGraphicsScene(this);
     scene->setItemIndexMethod(QGraphicsScene::NoIndex); // its top level holds the screens only
     setScene(scene);
-    setAccessibleName(tr("Video wall"));
+    new KvGUI::KvTranslatedText(this, "accessibleName", [] { return tr("Video wall"); });
     setFocusPolicy(Qt::StrongFocus);
     setFrameStyle(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -121,6 +123,10 @@ void KvTVWallNormalView::changeEvent(QEvent* event)
         CancelMouse();
     if (event->type() == QEvent::StyleChange)
         UpdateLook();
+    if (event->type() == QEvent::LanguageChange) {
+        for (KvTVWallNormalScreen* screen : qAsConst(m_screens))
+            screen->UpdateTexts();
+    }
 }
 
 void KvTVWallNormalView::UpdateLook()

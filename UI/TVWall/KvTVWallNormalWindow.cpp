@@ -102,9 +102,9 @@ void KvTVWallNormalWindow::SetVolumeOn(bool on)
     m_pTitle->SetVolumeOn(on);
 }
 
-void KvTVWallNormalWindow::SetTitle(const QString& title)
+void KvTVWallNormalWindow::ShowNumber(int number)
 {
-    m_strTitle = title;
+    m_iNumber = number;
     UpdateTitle();
 }
 
@@ -114,7 +114,16 @@ void KvTVWallNormalWindow::SetContentText(const QString& text)
     UpdateTitle();
 }
 
-void KvTVWallNormalWindow::UpdateTitle() { m_pTitle->SetText(WindowTitle::Joined(m_strTitle, m_strContent)); }
+void KvTVWallNormalWindow::UpdateTitle()
+{
+    m_pTitle->SetText(WindowTitle::Joined(WindowTitle::Numbered(m_iNumber), m_strContent));
+}
+
+void KvTVWallNormalWindow::UpdateTexts()
+{
+    UpdateTitle();
+    m_pTitle->UpdateToolTips();
+}
 
 void KvTVWallNormalWindow::SetAudioButtonVisible(bool visible) { m_pTitle->SetAudioButtonVisible(visible); }
 

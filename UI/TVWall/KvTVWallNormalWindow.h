@@ -54,10 +54,11 @@ public:
     void SetVolumeOn(bool on);
     const QVariant& GetUserData() const { return m_userData; }
     void SetUserData(const QVariant& userData) { m_userData = userData; }
-    void SetTitle(const QString& title); ///< the window's number
+    void ShowNumber(int number); ///< in the title, from 1
     void SetContentText(const QString& text); ///< shown behind the title
     void SetAudioButtonVisible(bool visible);
     void UpdateLook(); ///< in the view's present colours
+    void UpdateTexts(); ///< in the present language
     void AddFocusStops(QVector<QGraphicsItem*>& stops); ///< the window and its buttons
 
     /// @name The video area; null or false when it was deleted
@@ -116,7 +117,7 @@ private:
     bool m_bSelected = false;
     bool m_bVolumeOn = false;
     bool m_bKeyboardFocus = false; // the focus came by keyboard, so the eye has to find it
-    QString m_strTitle;
+    int m_iNumber = 0; ///< 0: none is shown
     QString m_strContent;
     KvTVWallNormalFrame* m_pFrame = nullptr; // of a selected window
     QString m_strVideoText;

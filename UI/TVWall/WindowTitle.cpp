@@ -30,6 +30,8 @@ QString WindowTitle::ToolTip(Button button, bool on)
 
 QString WindowTitle::Numbered(int number)
 {
+    if (number <= 0)
+        return QString();
     return QStringLiteral("%1 %2").arg(tr("Window"), QString::number(number));
 }
 

@@ -14,7 +14,7 @@ namespace UICommonMdl {
 /// the buttons and their tool tips, and where bar and video area stand in a window.
 class WindowTitle
 {
-    Q_DECLARE_TR_FUNCTIONS(WindowTitle)
+    Q_DECLARE_TR_FUNCTIONS(UICommonMdl::WindowTitle)
 
 public:
     enum class Button
@@ -27,7 +27,7 @@ public:
 
     /// What a button says: its action. @p on: the volume is on, the window is snapped, is maximised.
     static QString ToolTip(Button button, bool on);
-    static QString Numbered(int number); ///< "Window 1"
+    static QString Numbered(int number); ///< "Window 1"; empty for a number below 1
     /// Number and content text in one; either may be empty.
     static QString Joined(const QString& title, const QString& content);
 

@@ -7,6 +7,7 @@
 #include <gallery/Alarms/AlarmExport.h>
 #include <gallery/Alarms/AlarmImport.h>
 #include <gallery/Alarms/AlarmTable.h>
+#include <gallery/FollowLanguage.h>
 
 #include <QApplication>
 #include <QDir>
@@ -61,7 +62,7 @@ AlarmPage::AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent)
     m_pShown->setSourceModel(m_pAlarms);
     m_pShown->setFilterKeyColumn(-1); // all of them
     m_pShown->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    auto* title = new QLabel(AlarmPage::Title(), this);
+    auto* title = FollowLanguage(new QLabel(this), "text", [this] { return AlarmPage::Title(); });
     title->setObjectName(QStringLiteral("pageTitle"));
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(24, 20, 24, 12);
@@ -81,14 +82,14 @@ QString AlarmPage::Name() const { return QStringLiteral("alarms"); }
 QHBoxLayout* AlarmPage::BuildTools()
 {
     m_pFilter = new KvGUI::KvLineEdit(this);
-    m_pFilter->setPlaceholderText(tr("Filter the alarms"));
-    m_pFilter->setAccessibleName(tr("Filter the alarms"));
+    FollowLanguage(m_pFilter, "placeholderText", [] { return tr("Filter the alarms"); });
+    FollowLanguage(m_pFilter, "accessibleName", [] { return tr("Filter the alarms"); });
     m_pFilter->setFixedWidth(FilterWidth);
     m_pFilter->setClearButtonEnabled(true);
     m_pCount = new QLabel(this);
     m_pCount->setObjectName(QStringLiteral("hint"));
-    m_pImport = new KvGUI::KvPushButton(tr("&Import\u2026"), this);
-    m_pExport = new KvGUI::KvPushButton(tr("&Export\u2026"), this);
+    m_pImport = FollowLanguage(new KvGUI::KvPushButton(this), "text", [] { return tr("&Import\u2026"); });
+    m_pExport = FollowLanguage(new KvGUI::KvPushButton(this), "text", [] { return tr("&Export\u2026"); });
     auto* tools = new QHBoxLayout;
     tools->setSpacing(8);
     tools->addWidget(m_pFilter);
@@ -106,7 +107,7 @@ QHBoxLayout* AlarmPage::BuildTools()
 QTableView* AlarmPage::BuildTable()
 {
     auto* table = new QTableView(this);
-    table->setAccessibleName(tr("Alarms"));
+    FollowLanguage(table, "accessibleName", [] { return tr("Alarms"); });
     table->setModel(m_pShown);
     table->setAlternatingRowColors(true);
     table->setShowGrid(false);
@@ -131,10 +132,10 @@ QWidget* AlarmPage::BuildWork()
     m_pWork->setSizePolicy(policy);
     m_pWorkText = new QLabel(m_pWork);
     m_pProgress = new QProgressBar(m_pWork);
-    m_pProgress->setAccessibleName(tr("Progress of the export"));
+    FollowLanguage(m_pProgress, "accessibleName", [] { return tr("Progress of the export"); });
     m_pProgress->setFixedWidth(ProgressWidth);
     m_pProgress->setTextVisible(false);
-    auto* cancel = new KvGUI::KvPushButton(tr("&Cancel"), m_pWork);
+    auto* cancel = FollowLanguage(new KvGUI::KvPushButton(m_pWork), "text", [] { return tr("&Cancel"); });
     auto* line = new QHBoxLayout(m_pWork);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(12);
@@ -152,13 +153,19 @@ void AlarmPage::Filter(const QString& text)
     ShowCount();
 }
 
+void AlarmPage::OnLanguageChanged()
+{
+    m_pAlarms->ShowTexts();
+    ShowCount();
+}
+
 void AlarmPage::ShowCount()
 {
-    const QLocale locale;
-    const QString all = locale.toString(m_pAlarms->rowCount());
-    const QString shown = locale.toString(m_pShown->rowCount());
+    const int all = m_pAlarms->rowCount();
+    const QString shown = QLocale().toString(m_pShown->rowCount());
     m_pCount->setText(
-        m_pFilter->text().isEmpty() ? tr("%1 alarms").arg(all) : tr("%1 of %2 alarms").arg(shown, all));
+        m_pFilter->text().isEmpty() ? tr("%Ln alarm(s)", nullptr, all)
+                                    : tr("%1 of %Ln alarm(s)", nullptr, all).arg(shown));
 }
 
 QList<QList<QString>> AlarmPage::ShownRows() const
@@ -208,9 +215,8 @@ void AlarmPage::Export(const QString& path)
     const QList<QList<QString>> rows = ShownRows();
     const int all = rows.size();
     m_pRunning = new AlarmExport(path, tr("Alarms"), AlarmRecord::Columns(), rows, this);
-    connect(m_pRunning, &AlarmExport::SignalProgress, this, [this, all](int done) {
-        ShowWork(tr("%1 of %2 alarms").arg(QLocale().toString(done), QLocale().toString(all)), done, all);
-    });
+    connect(
+        m_pRunning, &AlarmExport::SignalProgress, this, [this, all](int done) { ShowExported(done, all); });
     connect(m_pRunning, &AlarmExport::SignalSaving, this, [this, all] {
         ShowWork(tr("Storing the file\u2026"), all, all);
     });
@@ -260,15 +266,19 @@ void AlarmPage::Import(const QString& path)
         m_pFilter->clear();
         m_pAlarms->SetAlarms(import.alarms);
         ShowCount();
-        const QString alarms = QLocale().toString(import.alarms.size());
-        Q_EMIT SignalReport(
-            import.skipped == 0
-                ? tr("%1 alarms were imported.").arg(alarms)
-                : tr("%1 alarms were imported; %2 rows are none.").arg(alarms).arg(import.skipped));
+        QString report = tr("%Ln alarm(s) imported.", nullptr, import.alarms.size());
+        if (import.skipped > 0)
+            report += QLatin1Char(' ') + tr("%Ln row(s) left out.", nullptr, import.skipped);
+        Q_EMIT SignalReport(report);
     } else {
         Tell(import.error);
     }
     Q_EMIT SignalDone(well);
+}
+
+void AlarmPage::ShowExported(int done, int all)
+{
+    ShowWork(tr("%1 of %Ln alarm(s)", nullptr, all).arg(QLocale().toString(done)), done, all);
 }
 
 void AlarmPage::ShowWork(const QString& text, int done, int all)
@@ -304,9 +314,7 @@ QVector<Page::Picture> AlarmPage::Pictures()
         {QStringLiteral("exporting"),
          [this] {
              m_pFilter->clear();
-             ShowWork(
-                 tr("%1 of %2 alarms").arg(QLocale().toString(12000), QLocale().toString(20000)), 12000,
-                 20000);
+             ShowExported(12000, 20000);
          },
          [this] { EndWork(); }}};
 }

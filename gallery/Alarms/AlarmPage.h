@@ -41,6 +41,9 @@ public:
 Q_SIGNALS:
     void SignalDone(bool well); ///< an export or an import has ended
 
+protected:
+    void OnLanguageChanged() override;
+
 private:
     QHBoxLayout* BuildTools();
     QTableView* BuildTable();
@@ -52,6 +55,7 @@ private:
     void Filter(const QString& text);
     QList<QList<QString>> ShownRows() const;
     void ShowCount();
+    void ShowExported(int done, int all);
     void ShowWork(const QString& text, int done, int all);
     void EndWork();
     void Tell(const QString& text);

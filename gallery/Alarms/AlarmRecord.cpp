@@ -1,6 +1,7 @@
 #include <gallery/Alarms/AlarmRecord.h>
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <random>
 
 namespace OperatorClient {
@@ -48,8 +49,16 @@ QString Translated(const char* text)
 template <std::size_t Size>
 QString OneOf(const char* const (&texts)[Size], std::minstd_rand& random)
 {
-    const char* text = texts[random() % Size];
-    return *text ? Translated(text) : QString();
+    return QString::fromUtf8(texts[random() % Size]);
+}
+
+/// The text in the operator's language where the program knows it; a number behind it stays.
+QString InLanguage(const QString& text)
+{
+    static const QRegularExpression number(QStringLiteral(" \\d+$"));
+    const QString behind = number.match(text).captured();
+    const QByteArray words = text.left(text.size() - behind.size()).toUtf8();
+    return words.isEmpty() ? text : Translated(words.constData()) + behind;
 }
 
 QDateTime TimeOf(const QVariant& cell)
@@ -70,7 +79,8 @@ QStringList AlarmRecord::Columns()
 
 QStringList AlarmRecord::Texts() const
 {
-    return {QString::number(number), time.toString(TimeFormat), camera, kind, level, state, note};
+    return {QString::number(number), time.toString(TimeFormat), InLanguage(camera), InLanguage(kind),
+            InLanguage(level),       InLanguage(state),         InLanguage(note)};
 }
 
 std::optional<AlarmRecord> AlarmRecord::FromRow(const QVariantList& row)

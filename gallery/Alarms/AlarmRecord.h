@@ -22,7 +22,8 @@ struct AlarmRecord
     /// The titles of the columns of a table of alarms, and of a workbook with them.
     static QStringList Columns();
 
-    QStringList Texts() const; ///< one a column
+    /// One a column. Words that the program knows are shown in the operator's language.
+    QStringList Texts() const;
 
     /// The alarm in a row of a workbook; none when the row has no number or no time.
     static std::optional<AlarmRecord> FromRow(const QVariantList& row);

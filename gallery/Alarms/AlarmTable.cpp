@@ -4,10 +4,17 @@ namespace OperatorClient {
 
 void AlarmTable::SetAlarms(const QVector<AlarmRecord>& alarms)
 {
+    m_alarms = alarms;
+    ShowTexts();
+}
+
+void AlarmTable::ShowTexts()
+{
     beginResetModel();
+    m_columns = AlarmRecord::Columns();
     m_rows.clear();
-    m_rows.reserve(alarms.size());
-    for (const AlarmRecord& alarm : alarms)
+    m_rows.reserve(m_alarms.size());
+    for (const AlarmRecord& alarm : qAsConst(m_alarms))
         m_rows << alarm.Texts();
     endResetModel();
 }

@@ -15,6 +15,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void SetAlarms(const QVector<AlarmRecord>& alarms);
+    void ShowTexts(); ///< in the present language
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -22,8 +23,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
-    QVector<QStringList> m_rows;
-    const QStringList m_columns = AlarmRecord::Columns();
+    QVector<AlarmRecord> m_alarms;
+    QVector<QStringList> m_rows; ///< their texts
+    QStringList m_columns = AlarmRecord::Columns();
 };
 
 } // namespace OperatorClient

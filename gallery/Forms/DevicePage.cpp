@@ -15,6 +15,7 @@
 #include <UI/FormInputs/WmAddGroup.h>
 #include <UI/FormInputs/WmDateCalendar.h>
 #include <UI/FormInputs/WmNoImpPushButton.h>
+#include <gallery/FollowLanguage.h>
 #include <gallery/Forms/PasswordRating.h>
 
 #include <QComboBox>
@@ -23,6 +24,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -47,12 +49,19 @@ QFormLayout* FormIn(QGroupBox* group)
     return form;
 }
 
-/// A row whose field is also called by the label's text, without the mark of its shortcut.
-void AddRow(QFormLayout* form, const QString& label, QWidget* field, QWidget* row = nullptr)
+/// A label without the mark of its shortcut, which stands in brackets where the letter is not in the word.
+QString WithoutShortcut(QString label)
 {
-    QString name = label;
-    field->setAccessibleName(name.remove(QLatin1Char('&')));
-    auto* text = new QLabel(label);
+    label.remove(QRegularExpression(QStringLiteral("\\s*\\(&\\w\\)")));
+    return label.remove(QLatin1Char('&'));
+}
+
+/// A row whose field is also called by the label's text, without the mark of its shortcut.
+void AddRow(
+    QFormLayout* form, const KvGUI::KvTranslatedText::Source& label, QWidget* field, QWidget* row = nullptr)
+{
+    FollowLanguage(field, "accessibleName", [label] { return WithoutShortcut(label()); });
+    auto* text = FollowLanguage(new QLabel, "text", label);
     text->setMinimumWidth(LabelWidth);
     text->setBuddy(field);
     form->addRow(text, row ? row : field);
@@ -77,9 +86,10 @@ QString StrengthName(int level)
 DevicePage::DevicePage(QWidget* parent)
     : Page(parent)
 {
-    auto* title = new QLabel(tr("Device and account"), this);
+    auto* title = FollowLanguage(new QLabel(this), "text", [] { return tr("Device and account"); });
     title->setObjectName(QStringLiteral("pageTitle"));
-    auto* hint = new QLabel(tr("Fields with an asterisk must be filled in."), this);
+    auto* hint = FollowLanguage(
+        new QLabel(this), "text", [] { return tr("Fields with an asterisk must be filled in."); });
     hint->setObjectName(QStringLiteral("hint"));
     auto* left = new QVBoxLayout;
     left->setSpacing(16);
@@ -112,17 +122,21 @@ QString DevicePage::Name() const { return QStringLiteral("device"); }
 
 QWidget* DevicePage::BuildDevice()
 {
-    auto* group = new QGroupBox(tr("Device"), this);
+    auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Device"); });
     QFormLayout* form = FormIn(group);
     m_pName = new UICommonMdl::CRequiredEdit(group);
     m_pAddress = new UICommonMdl::QIpAddrEdit(group);
     m_pAddress->setRequired(true);
     m_pSerial = new UICommonMdl::KvLineEditEx(group);
-    AddRow(form, tr("&Name"), m_pName);
-    AddRow(form, tr("&IP address"), m_pAddress);
-    AddRow(form, tr("Serial n&umber"), m_pSerial);
+    AddRow(
+        form, [] { return tr("&Name"); }, m_pName);
+    AddRow(
+        form, [] { return tr("&IP address"); }, m_pAddress);
+    AddRow(
+        form, [] { return tr("Serial n&umber"); }, m_pSerial);
     QWidget* row = GroupRow(group);
-    AddRow(form, tr("&Group"), m_pGroups, row);
+    AddRow(
+        form, [] { return tr("&Group"); }, m_pGroups, row);
     // The keypad's Enter goes on, as the Tab key does.
     connect(
         m_pAddress, &UICommonMdl::QIpAddrEdit::sgnEnterPress, m_pSerial, [this] { m_pSerial->setFocus(); });
@@ -136,8 +150,9 @@ QWidget* DevicePage::GroupRow(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     m_pGroups = new QComboBox(row);
-    m_pGroups->addItems({tr("Entrances"), tr("Car park"), tr("Warehouse")});
-    auto* add = new KvGUI::KvPushButton(tr("New gr&oup\u2026"), row);
+    m_pGroups->addItems({QString(), QString(), QString()});
+    NameGroups();
+    auto* add = FollowLanguage(new KvGUI::KvPushButton(row), "text", [] { return tr("New gr&oup\u2026"); });
     layout->addWidget(m_pGroups, 1);
     layout->addWidget(add);
     connect(add, &QPushButton::clicked, this, &DevicePage::OpenNewGroup);
@@ -146,12 +161,14 @@ QWidget* DevicePage::GroupRow(QWidget* parent)
 
 QWidget* DevicePage::BuildAccount()
 {
-    auto* group = new QGroupBox(tr("Account"), this);
+    auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Account"); });
     QFormLayout* form = FormIn(group);
     m_pUser = new UICommonMdl::CRequiredEdit(group);
     m_pPassword = new UICommonMdl::CPasswordEdit(group);
-    AddRow(form, tr("Us&er"), m_pUser);
-    AddRow(form, tr("&Password"), m_pPassword);
+    AddRow(
+        form, [] { return tr("Us&er"); }, m_pUser);
+    AddRow(
+        form, [] { return tr("&Password"); }, m_pPassword);
     form->addRow(new QLabel, StrengthRow(group));
     connect(m_pPassword, &QLineEdit::textChanged, this, &DevicePage::ShowStrength);
     return group;
@@ -174,23 +191,49 @@ QWidget* DevicePage::StrengthRow(QWidget* parent)
 
 QWidget* DevicePage::BuildRecording()
 {
-    auto* group = new QGroupBox(tr("Recording"), this);
+    auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Recording"); });
     QFormLayout* form = FormIn(group);
     m_pCertificate = new UICommonMdl::KvLineEditWithDirButton(group);
-    m_pCertificate->SetOpenFile(
-        tr("Certificate of the device"), QString(), tr("Certificates (*.pem *.crt);;All files (*)"));
     m_pFolder = new UICommonMdl::KvLineEditWithDirButton(group);
-    m_pFolder->SetOpenFile(tr("Choose any file of the folder"), QString(), tr("All files (*)"));
+    NameFileDialogs();
     m_pPeriod = new UICommonMdl::WmDateCalendar(group);
     m_pPeriod->SetRestrcitDateRange(LongestPeriod);
-    auto* times = new KvGUI::KvCheckBox(tr("Choose &times of day as well"), group);
-    AddRow(form, tr("Certi&ficate"), m_pCertificate);
-    AddRow(form, tr("Fol&der"), m_pFolder);
-    AddRow(form, tr("Pe&riod"), m_pPeriod);
+    auto* times = FollowLanguage(
+        new KvGUI::KvCheckBox(group), "text", [] { return tr("Choose &times of day as well"); });
+    AddRow(
+        form, [] { return tr("Certi&ficate"); }, m_pCertificate);
+    AddRow(
+        form, [] { return tr("Fol&der"); }, m_pFolder);
+    AddRow(
+        form, [] { return tr("Pe&riod"); }, m_pPeriod);
     form->addRow(new QLabel, times);
     connect(m_pFolder, &QLineEdit::textChanged, this, &DevicePage::TakeFolderOfFile);
     connect(times, &QCheckBox::toggled, m_pPeriod, &UICommonMdl::WmDateCalendar::SetTimeEditVisible);
     return group;
+}
+
+void DevicePage::OnLanguageChanged()
+{
+    NameGroups();
+    NameFileDialogs();
+    ShowStrength();
+    if (m_pNewGroup)
+        m_pNewGroup->SetToolTip(tr("Enter a name"));
+}
+
+/// The groups that are there from the start; the others have the names that the operator gave them.
+void DevicePage::NameGroups()
+{
+    int index = 0;
+    for (const QString& name : {tr("Entrances"), tr("Car park"), tr("Warehouse")})
+        m_pGroups->setItemText(index++, name);
+}
+
+void DevicePage::NameFileDialogs()
+{
+    m_pCertificate->SetOpenFile(
+        tr("Certificate of the device"), QString(), tr("Certificates (*.pem *.crt);;All files (*)"));
+    m_pFolder->SetOpenFile(tr("Choose any file of the folder"), QString(), tr("All files (*)"));
 }
 
 QWidget* DevicePage::BuildButtons()
@@ -199,8 +242,10 @@ QWidget* DevicePage::BuildButtons()
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
-    auto* clear = new UICommonMdl::WmNoImpPushButton(tr("&Clear"), row);
-    auto* save = new UICommonMdl::KvImpPushButton(tr("&Save the device"), row);
+    auto* clear
+        = FollowLanguage(new UICommonMdl::WmNoImpPushButton(row), "text", [] { return tr("&Clear"); });
+    auto* save = FollowLanguage(
+        new UICommonMdl::KvImpPushButton(row), "text", [] { return tr("&Save the device"); });
     layout->addStretch(1);
     layout->addWidget(clear);
     layout->addWidget(save);
@@ -278,7 +323,7 @@ void DevicePage::OpenNewGroup()
 {
     if (!m_pNewGroup) {
         m_pNewGroup = new UICommonMdl::WmAddGroup(this);
-        m_pNewGroup->SetTitle(tr("New group"));
+        FollowLanguage(m_pNewGroup, "windowTitle", [] { return tr("New group"); });
         m_pNewGroup->SetToolTip(tr("Enter a name"));
         m_pNewGroup->SetParentGroupID(RootGroup);
         m_pNewGroup->SetIsCloseAfterSave(false); // a name that is there already is typed again
@@ -311,6 +356,7 @@ bool DevicePage::AddGroup(const QString& name)
     return true;
 }
 
+// not translated: what an operator would have typed
 void DevicePage::FillIn()
 {
     Clear();
@@ -331,6 +377,7 @@ QVector<Page::Picture> DevicePage::Pictures()
         {QStringLiteral("error"),
          [this] {
              FillIn();
+             // not translated: what an operator would have typed
              m_pPassword->setText(QStringLiteral("wren"));
              m_pAddress->settext(QStringLiteral("192.168."));
              Save();

@@ -38,6 +38,9 @@ public:
     bool Save();
     void Clear(); ///< empties the form
 
+protected:
+    void OnLanguageChanged() override;
+
 private:
     QWidget* BuildDevice();
     QWidget* BuildAccount();
@@ -45,6 +48,8 @@ private:
     QWidget* BuildButtons();
     QWidget* StrengthRow(QWidget* parent);
     QWidget* GroupRow(QWidget* parent);
+    void NameGroups();
+    void NameFileDialogs();
     void ShowStrength();
     void TakeFolderOfFile(const QString& path);
     bool IsFilled(QLineEdit* edit, const QString& complaint);

@@ -4,6 +4,7 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/LinkWeb/CActiveXLinkWebCtrl.h>
+#include <gallery/FollowLanguage.h>
 #include <gallery/Map/MapRules.h>
 #include <gallery/Pictures/DrawnCamera.h>
 
@@ -25,6 +26,21 @@ using UICommonMdl::CActiveXLinkWebCtrl;
 
 constexpr int CamerasOnMap = 12;
 constexpr int LongestWaitForMap = 10000; // milliseconds, for screenshots
+
+// clang-format off
+const char* const TextsOfMap[] = {
+    QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Plan of the site"), QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Not on the wall"),
+    QT_TRANSLATE_NOOP("OperatorClient::MapPage", "On the wall"), QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Selected there"),
+    QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Camera"), QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Administration"),
+    QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Warehouse"), QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Workshop"),
+    QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Car park"), QT_TRANSLATE_NOOP("OperatorClient::MapPage", "Garden"),
+};
+// clang-format on
+
+QString Json(const QJsonObject& object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
 
 /// Two monitors of four windows, with two cameras to begin with.
 WallLayout StartWall()
@@ -99,7 +115,7 @@ QWidget* MapPage::NewFaultPanel()
     m_pFaultTitle->setObjectName(QStringLiteral("pageTitle"));
     m_pFaultHint = new QLabel(panel);
     m_pFaultHint->setObjectName(QStringLiteral("hint"));
-    m_pLoadAgain = new QPushButton(tr("Load the map again"), panel);
+    m_pLoadAgain = FollowLanguage(new QPushButton(panel), "text", [] { return tr("Load the map again"); });
     m_pLoadAgain->setObjectName(QStringLiteral("loadMapAgain"));
     connect(m_pLoadAgain, &QPushButton::clicked, this, &MapPage::Load);
     auto* all = new QVBoxLayout(panel);
@@ -125,28 +141,40 @@ void MapPage::showEvent(QShowEvent* event)
 void MapPage::Load()
 {
     m_bLoaded = false;
+    m_fault = Fault::None;
     m_pMapOrFault->setCurrentIndex(0);
     m_pMap->SetUrl(QUrl::fromLocalFile(m_strMapFile).toString());
     if (!m_pMap->HasControl())
-        ShowFault(
-            tr("The map cannot be shown here"),
-            tr("It needs the browser engine: a plugin of its own, and a display for it to paint on. The wall "
-               "beside it works without."),
-            false);
+        ShowFault(Fault::NoEngine);
 }
 
-void MapPage::ShowFault(const QString& title, const QString& hint, bool loadAgain)
+void MapPage::ShowFault(Fault fault)
 {
-    m_pFaultTitle->setText(title);
-    m_pFaultHint->setText(hint);
-    m_pLoadAgain->setVisible(loadAgain);
+    m_fault = fault;
+    const bool noEngine = fault == Fault::NoEngine;
+    m_pFaultTitle->setText(noEngine ? tr("The map cannot be shown here") : tr("The map has stopped"));
+    m_pFaultHint->setText(
+        noEngine ? tr(
+            "It needs the browser engine: a plugin of its own, and a display for it to paint on. The wall "
+            "beside it works without.")
+                 : tr("Its process has ended. The wall goes on."));
+    m_pLoadAgain->setVisible(!noEngine);
     m_pMapOrFault->setCurrentIndex(1);
+}
+
+void MapPage::OnLanguageChanged()
+{
+    if (m_fault != Fault::None)
+        ShowFault(m_fault);
+    SendTexts();
+    SendNames();
 }
 
 void MapPage::OnLoaded()
 {
     m_bLoaded = true;
     SendSkin();
+    SendTexts();
     SendNames();
     SendWall();
 }
@@ -157,7 +185,7 @@ void MapPage::OnCall(const QString& name, const QString& param)
         OpenCamera(param.toInt());
     } else if (name == QLatin1String("webTerminated")) {
         m_bLoaded = false;
-        ShowFault(tr("The map has stopped"), tr("Its process has ended. The wall goes on."), true);
+        ShowFault(Fault::Ended);
     }
 }
 
@@ -186,14 +214,24 @@ void MapPage::SendSkin()
             QStringLiteral("setSkin(\"%1\")").arg(XCM::QCommon::HostToWebSkinName(KvGUI::GetSkinVersion())));
 }
 
+void MapPage::SendTexts()
+{
+    if (!m_bLoaded)
+        return;
+    QJsonObject texts;
+    for (const char* text : TextsOfMap)
+        texts.insert(QString::fromUtf8(text), tr(text));
+    m_pMap->ExecuteJavaScript(QStringLiteral("setTexts(%1, \"%2\")").arg(Json(texts), locale().bcp47Name()));
+}
+
 void MapPage::SendNames()
 {
+    if (!m_bLoaded)
+        return;
     QJsonObject names;
     for (int camera = 1; camera <= CamerasOnMap; ++camera)
         names.insert(QString::number(camera), DrawnCamera(camera).Title());
-    m_pMap->ExecuteJavaScript(
-        QStringLiteral("nameCameras(%1)")
-            .arg(QString::fromUtf8(QJsonDocument(names).toJson(QJsonDocument::Compact))));
+    m_pMap->ExecuteJavaScript(QStringLiteral("nameCameras(%1)").arg(Json(names)));
 }
 
 void MapPage::SendWall()

@@ -35,16 +35,26 @@ public:
     bool IsMapLoaded() const { return m_bLoaded; }
 
 protected:
+    void OnLanguageChanged() override;
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// Why the map is not there.
+    enum class Fault
+    {
+        None,
+        NoEngine,
+        Ended
+    };
+
     QWidget* NewFaultPanel();
     void Load();
-    void ShowFault(const QString& title, const QString& hint, bool loadAgain);
+    void ShowFault(Fault fault);
     void OnLoaded();
     void OnCall(const QString& name, const QString& param);
     void OpenCamera(int camera);
     void SendSkin();
+    void SendTexts();
     void SendNames();
     void SendWall();
     void WaitForMap();
@@ -58,6 +68,7 @@ private:
     CameraWall* m_pCameras;
     QTimer m_wallChanged; ///< one message for all changes of a moment
     bool m_bLoaded = false;
+    Fault m_fault = Fault::None; ///< shown in place of the map
 };
 
 } // namespace OperatorClient

@@ -1,6 +1,7 @@
 #include <gallery/Pairing/PairingPage.h>
 
 #include <UI/Dialogs/CDisplayQRcodeDlg.h>
+#include <gallery/FollowLanguage.h>
 #include <gallery/Pairing/PairingToken.h>
 
 #include <QComboBox>
@@ -33,20 +34,20 @@ PairingPage::PairingPage(QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(24, 20, 24, 20);
     all->setSpacing(12);
-    auto* title = new QLabel(tr("Pair a phone"), this);
+    auto* title = FollowLanguage(new QLabel(this), "text", [] { return tr("Pair a phone"); });
     title->setObjectName(QStringLiteral("pageTitle"));
     all->addWidget(title);
-    auto* hint = new QLabel(
-        tr("The phone scans a token that is good for a short time. While the code is shown, a new "
-           "one is issued at the end of each period."),
-        this);
+    auto* hint = FollowLanguage(new QLabel(this), "text", [] {
+        return tr("The phone scans a token that is good for a short time. While the code is shown, a new "
+                  "one is issued at the end of each period.");
+    });
     hint->setObjectName(QStringLiteral("hint"));
     hint->setWordWrap(true);
     all->addWidget(hint);
     AddInputs();
     m_pIssued->setReadOnly(true);
-    m_pIssued->setAccessibleName(tr("Issued tokens"));
-    m_pIssued->setPlaceholderText(tr("Issued tokens"));
+    FollowLanguage(m_pIssued, "accessibleName", [] { return tr("Issued tokens"); });
+    FollowLanguage(m_pIssued, "placeholderText", [] { return tr("Issued tokens"); });
     all->addWidget(m_pIssued, 1);
 
     connect(m_pDialog, &UICommonMdl::CDisplayQRcodeDlg::SignalRefreshTimeout, this, &PairingPage::Issue);
@@ -58,14 +59,17 @@ void PairingPage::AddInputs()
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(16);
     form->setVerticalSpacing(10);
-    m_pPhone->setText(tr("Guard's phone"));
+    FollowLanguage(m_pPhone, "text", [] { return tr("Guard's phone"); });
     m_pPhone->setFixedWidth(InputWidth);
-    form->addRow(tr("&Phone"), m_pPhone);
-    m_pPeriod->addItem(tr("every two minutes"), UsualPeriod);
-    m_pPeriod->addItem(tr("every five seconds, as a demonstration"), DemonstrationPeriod);
+    AddRowWithText(
+        form, [] { return tr("&Phone"); }, m_pPhone);
+    m_pPeriod->addItem(QString(), UsualPeriod);
+    m_pPeriod->addItem(QString(), DemonstrationPeriod);
+    PairingPage::OnLanguageChanged();
     m_pPeriod->setFixedWidth(InputWidth);
-    form->addRow(tr("&Renewal"), m_pPeriod);
-    auto* show = new QPushButton(tr("&Show the code"), this);
+    AddRowWithText(
+        form, [] { return tr("&Renewal"); }, m_pPeriod);
+    auto* show = FollowLanguage(new QPushButton(this), "text", [] { return tr("&Show the code"); });
     show->setObjectName(QStringLiteral("showCode"));
     form->addRow(QString(), show);
     // The field would stretch the button over its width.
@@ -78,6 +82,12 @@ void PairingPage::AddInputs()
 QString PairingPage::Title() const { return tr("Phone pairing"); }
 
 QString PairingPage::Name() const { return QStringLiteral("pairing"); }
+
+void PairingPage::OnLanguageChanged()
+{
+    m_pPeriod->setItemText(0, tr("every two minutes"));
+    m_pPeriod->setItemText(1, tr("every five seconds, as a demonstration"));
+}
 
 void PairingPage::ShowCode()
 {

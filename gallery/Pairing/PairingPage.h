@@ -25,6 +25,9 @@ public:
     QString Name() const override;
     QVector<Picture> Pictures() override;
 
+protected:
+    void OnLanguageChanged() override;
+
 private:
     void AddInputs();
     void ShowCode();

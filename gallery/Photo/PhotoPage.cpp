@@ -2,6 +2,7 @@
 
 #include <Platform/BasicUIComponents/KvCheckBox.h>
 #include <Platform/BasicUIComponents/KvPushButton.h>
+#include <gallery/FollowLanguage.h>
 #include <gallery/OperatorHand.h>
 #include <gallery/Photo/PhotoView.h>
 #include <gallery/Photo/Visitors.h>
@@ -81,7 +82,7 @@ QWidget* PhotoPage::BuildPhotoSide()
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
-    auto* title = new QLabel(PhotoPage::Title(), side);
+    auto* title = FollowLanguage(new QLabel(side), "text", [this] { return PhotoPage::Title(); });
     title->setObjectName(QStringLiteral("pageTitle"));
     m_pPhotoText = new QLabel(side);
     m_pPhotoText->setObjectName(QStringLiteral("hint"));
@@ -90,8 +91,9 @@ QWidget* PhotoPage::BuildPhotoSide()
     texts->setSpacing(2);
     texts->addWidget(title);
     texts->addWidget(m_pPhotoText);
-    auto* open = new KvGUI::KvPushButton(tr("&Open a photo\u2026"), side);
-    auto* drawn = new KvGUI::KvPushButton(tr("&Drawn photo"), side);
+    auto* open
+        = FollowLanguage(new KvGUI::KvPushButton(side), "text", [] { return tr("&Open a photo\u2026"); });
+    auto* drawn = FollowLanguage(new KvGUI::KvPushButton(side), "text", [] { return tr("&Drawn photo"); });
     auto* head = new QHBoxLayout;
     head->setSpacing(8);
     head->addLayout(texts, 1);
@@ -99,7 +101,7 @@ QWidget* PhotoPage::BuildPhotoSide()
     head->addWidget(open, 0, Qt::AlignBottom);
     m_pView = new PhotoView(side);
     m_pView->setAcceptDrops(true);
-    m_pView->setToolTip(tr("Drop a photo here"));
+    FollowLanguage(m_pView, "toolTip", [] { return tr("Drop a photo here"); });
     column->addLayout(head);
     column->addWidget(m_pView, 1);
     connect(open, &QPushButton::clicked, this, &PhotoPage::AskForFile);
@@ -112,44 +114,51 @@ QWidget* PhotoPage::BuildPhotoSide()
     return side;
 }
 
-QSpinBox*
-PhotoPage::AddLimit(QFormLayout* form, const QString& label, int most, int value, const QString& unit)
+QSpinBox* PhotoPage::AddLimit(QFormLayout* form, QString (*label)(), int most, int value, QString (*unit)())
 {
-    auto* box = new QSpinBox(this);
+    auto* box = FollowLanguage(new QSpinBox(this), "suffix", unit);
     box->setRange(0, most);
-    box->setSuffix(unit);
-    box->setSpecialValueText(tr("no limit"));
+    FollowLanguage(box, "specialValueText", [] { return tr("no limit"); });
     box->setValue(value);
-    form->addRow(label, box); // makes the label's text the box's accessible name, and its letter a shortcut
+    AddRowWithText(form, label, box); // the label's text is the box's accessible name, too
     return box;
 }
 
 QWidget* PhotoPage::BuildLimits()
 {
-    auto* group = new QGroupBox(tr("Limits of the cut"), this);
+    auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Limits of the cut"); });
     group->setFixedWidth(SideWidth);
     auto* form = new QFormLayout(group);
     form->setVerticalSpacing(8);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_pKilobytes = AddLimit(form, tr("&JPEG size"), 100000, 60, tr(" kB"));
-    m_pWidth = AddLimit(form, tr("&Width"), 20000, 640, tr(" pixels"));
-    m_pHeight = AddLimit(form, tr("&Height"), 20000, 640, tr(" pixels"));
-    m_pHalve = new KvGUI::KvCheckBox(tr("Hal&ve a cut with more pixels"), group);
+    const auto pixels = [] { return tr(" pixels"); };
+    m_pKilobytes = AddLimit(
+        form, [] { return tr("&JPEG size"); }, 100000, 60, [] { return tr(" kB"); });
+    m_pWidth = AddLimit(
+        form, [] { return tr("&Width"); }, 20000, 640, pixels);
+    m_pHeight = AddLimit(
+        form, [] { return tr("&Height"); }, 20000, 640, pixels);
+    m_pHalve = FollowLanguage(
+        new KvGUI::KvCheckBox(group), "text", [] { return tr("Hal&ve a cut with more pixels"); });
     m_pHalve->setChecked(true);
-    m_pHalve->setToolTip(tr("Otherwise a cut with more pixels is refused"));
+    FollowLanguage(m_pHalve, "toolTip", [] { return tr("Otherwise a cut with more pixels is refused"); });
     form->addRow(m_pHalve);
     return group;
 }
 
 QWidget* PhotoPage::BuildCommands()
 {
-    auto* group = new QGroupBox(tr("Crop"), this);
+    auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Crop"); });
     auto* column = new QVBoxLayout(group);
     column->setSpacing(8);
-    auto* zoom = new KvGUI::KvPushButton(tr("With handles and &search\u2026"), group);
-    auto* plain = new KvGUI::KvPushButton(tr("By a &plain frame\u2026"), group);
-    zoom->setToolTip(tr("Frame a part, move and resize the frame, or search for what is in it"));
-    plain->setToolTip(tr("Drag a frame over the photo"));
+    auto* zoom = FollowLanguage(
+        new KvGUI::KvPushButton(group), "text", [] { return tr("With handles and &search\u2026"); });
+    auto* plain = FollowLanguage(
+        new KvGUI::KvPushButton(group), "text", [] { return tr("By a &plain frame\u2026"); });
+    FollowLanguage(zoom, "toolTip", [] {
+        return tr("Frame a part, move and resize the frame, or search for what is in it");
+    });
+    FollowLanguage(plain, "toolTip", [] { return tr("Drag a frame over the photo"); });
     column->addWidget(zoom);
     column->addWidget(plain);
     connect(zoom, &QPushButton::clicked, this, &PhotoPage::CropWithZoom);
@@ -159,17 +168,17 @@ QWidget* PhotoPage::BuildCommands()
 
 QWidget* PhotoPage::BuildCut()
 {
-    auto* group = new QGroupBox(tr("Cut"), this);
+    auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Cut"); });
     auto* column = new QVBoxLayout(group);
     column->setSpacing(8);
     m_pCutView = new PhotoView(group);
-    m_pCutView->SetHint(tr("Crop the photo to see the cut here."));
     m_pCutView->setMinimumHeight(140);
     m_pCutText = new QLabel(group);
     m_pCutText->setTextFormat(Qt::PlainText);
     m_pCutText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_pCutText->setAccessibleName(tr("Facts of the cut"));
-    m_pSave = new KvGUI::KvPushButton(tr("Save &as JPEG\u2026"), group);
+    FollowLanguage(m_pCutText, "accessibleName", [] { return tr("Facts of the cut"); });
+    m_pSave
+        = FollowLanguage(new KvGUI::KvPushButton(group), "text", [] { return tr("Save &as JPEG\u2026"); });
     column->addWidget(m_pCutView, 1);
     column->addWidget(m_pCutText);
     column->addWidget(m_pSave);
@@ -191,16 +200,41 @@ void PhotoPage::OpenFile(const QString& path)
         ShowPhoto({QFileInfo(path).fileName(), path, image});
 }
 
-void PhotoPage::ShowDrawn() { ShowPhoto({tr("Drawn photo of the entrance"), QString(), EntrancePhoto()}); }
+void PhotoPage::ShowDrawn()
+{
+    ShowPhoto({QString(), QString(), EntrancePhoto()});
+    m_bDrawn = true;
+    ShowTexts();
+}
+
+void PhotoPage::OnLanguageChanged() { ShowTexts(); }
 
 void PhotoPage::ShowPhoto(const Photo& photo)
 {
     m_photo = photo;
+    m_bDrawn = false;
     m_pView->SetPicture(photo.image);
-    const QString text = QStringLiteral("%1, %2").arg(photo.title, SizeText(photo.image.size()));
+    ShowCut(std::nullopt);
+}
+
+/// The texts that say what is shown, in the present language.
+void PhotoPage::ShowTexts()
+{
+    if (m_bDrawn)
+        m_photo.title = tr("Drawn photo of the entrance");
+    const QString text = QStringLiteral("%1, %2").arg(m_photo.title, SizeText(m_photo.image.size()));
     m_pPhotoText->setText(text);
     m_pView->setAccessibleName(text);
-    ShowCut(std::nullopt);
+    m_pCutView->SetHint(tr("Crop the photo to see the cut here."));
+    m_pCutView->setAccessibleName(m_cut ? tr("The cut") : tr("No cut yet"));
+    if (!m_cut)
+        return;
+    m_pCutText->setText(
+        tr("%1\nJPEG of %2 at quality %3\nSearch: %4")
+            .arg(
+                SizeText(m_cut->image.size()),
+                QLocale().formattedDataSize(m_cut->jpeg.size(), 1, QLocale::DataSizeTraditionalFormat),
+                QString::number(m_cut->quality), SearchText(m_cut->search)));
 }
 
 CutLimits PhotoPage::Limits() const
@@ -232,18 +266,9 @@ void PhotoPage::ShowCut(const std::optional<PhotoCut>& cut)
     m_pSave->setEnabled(cut.has_value());
     m_pCutView->SetPicture(cut ? cut->image : QImage());
     m_pCutText->setVisible(cut.has_value());
-    if (!cut) {
-        m_pCutView->setAccessibleName(tr("No cut yet"));
-        return;
-    }
-    m_pCutView->setAccessibleName(tr("The cut"));
-    m_pCutText->setText(
-        tr("%1\nJPEG of %2 at quality %3\nSearch: %4")
-            .arg(
-                SizeText(cut->image.size()),
-                QLocale().formattedDataSize(cut->jpeg.size(), 1, QLocale::DataSizeTraditionalFormat),
-                QString::number(cut->quality), SearchText(cut->search)));
-    Q_EMIT SignalReport(tr("The photo was cropped"));
+    ShowTexts();
+    if (cut)
+        Q_EMIT SignalReport(tr("The photo was cropped"));
 }
 
 void PhotoPage::SaveCut()

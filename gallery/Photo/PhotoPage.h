@@ -36,15 +36,19 @@ public:
 
     const std::optional<PhotoCut>& Cut() const { return m_cut; }
 
+protected:
+    void OnLanguageChanged() override;
+
 private:
     QWidget* BuildPhotoSide();
     QWidget* BuildLimits();
     QWidget* BuildCommands();
     QWidget* BuildCut();
-    QSpinBox* AddLimit(QFormLayout* form, const QString& label, int most, int value, const QString& unit);
+    QSpinBox* AddLimit(QFormLayout* form, QString (*label)(), int most, int value, QString (*unit)());
     void AskForFile();
     void ShowDrawn();
     void ShowPhoto(const Photo& photo);
+    void ShowTexts();
     void ShowCut(const std::optional<PhotoCut>& cut);
     void SaveCut();
     CutLimits Limits() const;
@@ -52,6 +56,7 @@ private:
     void CloseDialogs();
 
     Photo m_photo;
+    bool m_bDrawn = false; ///< no file's: its title is in the operator's language
     std::optional<PhotoCut> m_cut;
     PhotoView* m_pView;
     QLabel* m_pPhotoText;

@@ -8,6 +8,7 @@
 #include <UI/FormInputs/CRequiredEdit.h>
 #include <UI/FormInputs/KvImpPushButton.h>
 #include <UI/PersonImage/WmPersonImage.h>
+#include <gallery/FollowLanguage.h>
 #include <gallery/Photo/Visitors.h>
 #include <gallery/Pictures/PictureFit.h>
 
@@ -82,12 +83,12 @@ RecordPage::RecordPage(const QString& folder, QWidget* parent)
     : Page(parent)
     , m_file(folder)
 {
-    auto* title = new QLabel(RecordPage::Title(), this);
+    auto* title = FollowLanguage(new QLabel(this), "text", [this] { return RecordPage::Title(); });
     title->setObjectName(QStringLiteral("pageTitle"));
-    auto* hint = new QLabel(
-        tr("Point at the picture for its buttons, or use the menu below it. "
-           "Pictures are cropped and kept below 100 kB."),
-        this);
+    auto* hint = FollowLanguage(new QLabel(this), "text", [] {
+        return tr("Point at the picture for its buttons, or use the menu below it. "
+                  "Pictures are cropped and kept below 100 kB.");
+    });
     hint->setObjectName(QStringLiteral("hint"));
     auto* columns = new QHBoxLayout;
     columns->setSpacing(24);
@@ -120,26 +121,27 @@ QWidget* RecordPage::BuildPhoto()
     m_pPanel->setFixedSize(PanelSize);
     m_pPanel->setAlignment(Qt::AlignCenter);
     m_pMenu = new KvGUI::KvMenu(side);
-    AddPictureAction(tr("&Upload a photo\u2026"), &RecordPage::UploadPicture);
-    AddPictureAction(tr("&Crop the camera's picture\u2026"), &RecordPage::CapturePicture);
-    AddPictureAction(tr("&Take a picture of the visitor"), &RecordPage::SnapVisitor);
-    AddPictureAction(tr("&Read an ID card"), &RecordPage::ReadCard);
+    AddPictureAction([] { return tr("&Upload a photo\u2026"); }, &RecordPage::UploadPicture);
+    AddPictureAction([] { return tr("&Crop the camera's picture\u2026"); }, &RecordPage::CapturePicture);
+    AddPictureAction([] { return tr("&Take a picture of the visitor"); }, &RecordPage::SnapVisitor);
+    AddPictureAction([] { return tr("&Read an ID card"); }, &RecordPage::ReadCard);
     m_pMenu->addSeparator();
-    AddPictureAction(tr("&Delete the picture\u2026"), &RecordPage::DeletePicture);
+    AddPictureAction([] { return tr("&Delete the picture\u2026"); }, &RecordPage::DeletePicture);
     m_pDelete = m_pMenu->actions().last();
-    AddPictureAction(tr("&Other picture"), &RecordPage::TurnPage);
-    m_pTurn = m_pMenu->actions().last();
-    m_pMenuButton = new KvGUI::KvPushButton(tr("&Picture"), side);
+    m_pTurn = m_pMenu->addAction(QString(), this, &RecordPage::TurnPage);
+    m_pMenuButton = FollowLanguage(new KvGUI::KvPushButton(side), "text", [] { return tr("&Picture"); });
     m_pMenuButton->setMenu(m_pMenu);
     column->addWidget(m_pPanel);
     column->addWidget(m_pMenuButton);
     return side;
 }
 
-void RecordPage::AddPictureAction(const QString& text, void (RecordPage::*act)())
+void RecordPage::AddPictureAction(QString (*text)(), void (RecordPage::*act)())
 {
-    m_pMenu->addAction(text, this, act);
+    FollowLanguage(m_pMenu->addAction(QString(), this, act), "text", text);
 }
+
+void RecordPage::OnLanguageChanged() { ShowTexts(); }
 
 void RecordPage::ConnectPanel()
 {
@@ -154,18 +156,22 @@ void RecordPage::ConnectPanel()
 
 QWidget* RecordPage::BuildForm()
 {
-    auto* group = new QGroupBox(tr("Person"), this);
+    auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Person"); });
     group->setFixedWidth(FormWidth);
     m_pName = new UICommonMdl::CRequiredEdit(group);
     m_pCard = new KvGUI::KvLineEdit(group);
     m_pDepartment = new KvGUI::KvLineEdit(group);
     auto* form = new QFormLayout;
     form->setVerticalSpacing(10);
-    form->addRow(tr("&Name"), m_pName);
-    form->addRow(tr("&ID card"), m_pCard);
-    form->addRow(tr("Depart&ment"), m_pDepartment);
-    auto* reset = new KvGUI::KvPushButton(tr("R&eset"), group);
-    auto* save = new UICommonMdl::KvImpPushButton(tr("&Save the record"), group);
+    AddRowWithText(
+        form, [] { return tr("&Name"); }, m_pName);
+    AddRowWithText(
+        form, [] { return tr("&ID card"); }, m_pCard);
+    AddRowWithText(
+        form, [] { return tr("Depart&ment"); }, m_pDepartment);
+    auto* reset = FollowLanguage(new KvGUI::KvPushButton(group), "text", [] { return tr("R&eset"); });
+    auto* save = FollowLanguage(
+        new UICommonMdl::KvImpPushButton(group), "text", [] { return tr("&Save the record"); });
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addStretch(1);
@@ -218,11 +224,13 @@ void RecordPage::ReadCard()
 void RecordPage::DeletePicture()
 {
     const QPointer<KvGUI::KvCustomDialog> dialog(new KvGUI::KvCustomDialog(this));
-    dialog->SetTitle(tr("Delete the picture"));
-    dialog->SetButtonText(QDialogButtonBox::Ok, tr("&Delete"));
+    FollowLanguage(dialog.data(), "windowTitle", [] { return tr("Delete the picture"); });
+    FollowLanguage(dialog->GetButton(QDialogButtonBox::Ok), "text", [] { return tr("&Delete"); });
     auto* layout = new QVBoxLayout(dialog->GetCentralWidget());
     layout->setContentsMargins(20, 20, 20, 20);
-    layout->addWidget(new QLabel(tr("Delete this picture from the record?"), dialog->GetCentralWidget()));
+    layout->addWidget(FollowLanguage(new QLabel(dialog->GetCentralWidget()), "text", [] {
+        return tr("Delete this picture from the record?");
+    }));
     connect(dialog, &KvGUI::KvCustomDialog::SignalOkButtonClicked, dialog, &QDialog::accept);
     connect(dialog, &KvGUI::KvCustomDialog::SignalCancelButtonClicked, dialog, &QDialog::reject);
     dialog->resize(360, 1);
@@ -283,16 +291,24 @@ void RecordPage::ShowPicture()
 {
     const QImage image = QImage::fromData(PresentPicture());
     const bool avatar = m_iPage == PersonRecord::Avatar;
-    const QString page = avatar ? tr("Avatar") : tr("Face");
-    m_pPanel->setAccessibleName(image.isNull() ? tr("%1, no picture").arg(page) : page);
-    if (image.isNull())
-        m_pPanel->setText(tr("No picture"));
-    else
+    m_pPanel->clear();
+    if (!image.isNull())
         m_pPanel->setPixmap(Filling(image, PanelSize - QSize(2, 2), devicePixelRatioF()));
     m_pDelete->setEnabled(!image.isNull());
     m_pPanel->SetShowDeleteButton(!image.isNull());
     m_pPanel->SetShowAvatarOrFaceLabel(true, avatar ? AvatarCaption : FaceCaption);
     m_pPanel->SetPhotoBtnVisible(m_pPanel->underMouse());
+    ShowTexts();
+}
+
+void RecordPage::ShowTexts()
+{
+    const bool avatar = m_iPage == PersonRecord::Avatar;
+    const bool none = PresentPicture().isEmpty();
+    const QString page = avatar ? tr("Avatar") : tr("Face");
+    m_pPanel->setAccessibleName(none ? tr("%1, no picture").arg(page) : page);
+    if (none)
+        m_pPanel->setText(tr("No picture"));
     m_pTurn->setText(avatar ? tr("&Next picture") : tr("&Previous picture"));
 }
 

@@ -34,10 +34,13 @@ public:
 
     const PersonRecord& Record() const { return m_record; }
 
+protected:
+    void OnLanguageChanged() override;
+
 private:
     QWidget* BuildPhoto();
     QWidget* BuildForm();
-    void AddPictureAction(const QString& text, void (RecordPage::*act)());
+    void AddPictureAction(QString (*text)(), void (RecordPage::*act)());
     void ConnectPanel();
 
     void UploadPicture();
@@ -51,6 +54,7 @@ private:
 
     void Show(const PersonRecord& record);
     void ShowPicture();
+    void ShowTexts();
     void SetPicture(const QByteArray& jpeg);
     QByteArray& PresentPicture();
     void ShowVisitor(int number);

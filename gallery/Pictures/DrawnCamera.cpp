@@ -2,6 +2,7 @@
 
 #include <gallery/Pictures/PictureFit.h>
 
+#include <QCoreApplication>
 #include <QPaintDevice>
 #include <QPainter>
 
@@ -32,7 +33,8 @@ DrawnCamera::DrawnCamera(int number)
 QString DrawnCamera::Title() const
 {
     const int round = (m_iNumber - 1) / SceneCount() + 1;
-    return round == 1 ? m_scene.name : QStringLiteral("%1 %2").arg(m_scene.name).arg(round);
+    const QString name = QCoreApplication::translate("OperatorClient::Scene", m_scene.name);
+    return round == 1 ? name : QStringLiteral("%1 %2").arg(name).arg(round);
 }
 
 qint64 DrawnCamera::FrameNumber(const QDateTime& now) const { return now.toMSecsSinceEpoch(); }

@@ -1,5 +1,6 @@
 #include <gallery/Wall/CameraWall.h>
 
+#include <gallery/FollowLanguage.h>
 #include <gallery/Pictures/CameraTile.h>
 #include <gallery/SkinIcon.h>
 #include <gallery/Wall/SampleOverlays.h>
@@ -41,6 +42,8 @@ QString RectText(const KvGUI::StructScaleRect& rect)
         .arg(number(rect.dLeft), number(rect.dTop), number(rect.dRight), number(rect.dBottom));
 }
 
+QString ScreenTitle(int screen) { return CameraWall::tr("Screen %1").arg(screen + 1); }
+
 QString NumbersText(const QList<int>& indices)
 {
     QStringList numbers;
@@ -60,7 +63,7 @@ CameraWall::CameraWall(SourcePool& pool, FrameClock& clock, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pWall);
-    m_pWall->setAccessibleName(tr("Video wall"));
+    FollowLanguage(m_pWall, "accessibleName", [] { return tr("Video wall"); });
     ShowFamily(WallLayout::DisplayFamily);
     // Overlays keep the pixels of the moment in which they were set; they are set again when a resize or
     // a zoom has come to rest.
@@ -126,6 +129,19 @@ void CameraWall::ConnectReports()
     });
 }
 
+void CameraWall::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
+        m_pWall->SetScreenTitle(screen, ScreenTitle(screen));
+        ShowNote(screen, Note(screen));
+        for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window)
+            NameSource(screen, window);
+    }
+}
+
 bool CameraWall::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize || event->type() == QEvent::Wheel)
@@ -180,9 +196,9 @@ void CameraWall::AddScreenFor(const ScreenLayout& layout)
     note.overlays = layout.overlays;
     note.baseMap = layout.baseMap;
     note.cellBound = layout.cellBound;
-    const QString title = tr("Screen %1").arg(m_pWall->GetScreenCount() + 1);
     const int screen = m_pWall->AddScreen(
-        layout.rect, SkinIcon(QStringLiteral("Screen")), title, QVariant::fromValue(note));
+        layout.rect, SkinIcon(QStringLiteral("Screen")), ScreenTitle(m_pWall->GetScreenCount()),
+        QVariant::fromValue(note));
     ShowNote(screen, note);
     RestoreWindows(screen, layout.windows);
 }
@@ -377,6 +393,15 @@ void CameraWall::PlaceTile(int screen, int window, const SourceSpec& source)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tile);
     tile->show();
+    NameSource(screen, window);
+}
+
+void CameraWall::NameSource(int screen, int window)
+{
+    CameraTile* tile = Tile(screen, window);
+    if (!tile)
+        return;
+    tile->setAccessibleName(tile->Source().Title());
     m_pWall->SetWindowContentText(screen, window, tile->Source().Title());
 }
 
@@ -398,7 +423,7 @@ void CameraWall::ReplaceSource(int screen, int window, const SourceSpec& source)
     auto note = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
     note.source = source.ToText();
     m_pWall->SetWindowUserData(screen, window, QVariant::fromValue(note));
-    m_pWall->SetWindowContentText(screen, window, tile->Source().Title());
+    NameSource(screen, window);
     Q_EMIT SignalReport(
         tr("Screen %1, window %2 shows %3")
             .arg(QString::number(screen + 1), QString::number(window + 1), tile->Source().Title()));
@@ -498,7 +523,12 @@ ScreenNote CameraWall::Note(int screen) const
 
 void CameraWall::ShowNote(int screen, const ScreenNote& note)
 {
-    m_pWall->SetScreenContentText(screen, note.text);
+    // The text of the first wall is the program's own; one that the operator wrote has no translation.
+    const QByteArray text = note.text.toUtf8();
+    m_pWall->SetScreenContentText(
+        screen,
+        text.isEmpty() ? QString()
+                       : QCoreApplication::translate("OperatorClient::WallPage", text.constData()));
     m_pWall->SetScreenFreeMode(screen, !note.cellBound);
     m_pWall->SetScreenBaseMap(
         screen, note.baseMap ? BaseMapPath().toStdString() : std::string(), note.baseMap);

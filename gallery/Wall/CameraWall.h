@@ -104,6 +104,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void ConnectReports();
@@ -115,6 +116,7 @@ private:
     QVector<int> ZValues(int screen) const;
     void PlaceTile(int screen, int window, const SourceSpec& source);
     CameraTile* Tile(int screen, int window) const;
+    void NameSource(int screen, int window); ///< in the window's title
     SourceSpec NextSource();
     bool IsShown(const SourceSpec& source) const;
     void SetAudible(int screen, int window, bool bAudible);

@@ -1,5 +1,6 @@
 #include <gallery/Wall/DetailsPanel.h>
 
+#include <gallery/FollowLanguage.h>
 #include <gallery/Wall/CameraWall.h>
 #include <gallery/Wall/WindowDetails.h>
 
@@ -16,7 +17,7 @@ DetailsPanel::DetailsPanel(CameraWall* cameras)
     , m_pCameras(cameras)
     , m_pDetails(new WindowDetails)
 {
-    setAccessibleName(tr("Details"));
+    FollowLanguage(this, "accessibleName", [] { return tr("Details"); });
     SetTitle(tr("Details"));
     InitUI();
     SetFixWidth(Width);
@@ -40,6 +41,16 @@ void DetailsPanel::SetWanted(bool bWanted)
 {
     m_bWanted = bWanted;
     Follow();
+}
+
+void DetailsPanel::changeEvent(QEvent* event)
+{
+    CFloatDialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    SetTitle(tr("Details"));
+    if (IsCalledFor())
+        ShowFacts();
 }
 
 void DetailsPanel::EndSlide()

@@ -22,6 +22,9 @@ public:
 Q_SIGNALS:
     void SignalClosed(); ///< by the operator; it is not wanted any more
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void Follow();
     void ShowFacts();

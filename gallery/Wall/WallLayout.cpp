@@ -179,8 +179,9 @@ WallLayout FirstWall()
 
     ScreenLayout empty;
     empty.rect = {0.5, 0.5, 1, 1, false};
-    empty.text = QCoreApplication::translate(
-        "OperatorClient::WallPage", "Reserve\nDraw an area or drop a file to open a window");
+    // Translated where it is shown, so that a stored wall speaks every language.
+    empty.text = QString::fromUtf8(QT_TRANSLATE_NOOP(
+        "OperatorClient::WallPage", "Reserve\nDraw an area or drop a file to open a window"));
 
     layout.screens = {quarters, full, free, empty};
     return layout;

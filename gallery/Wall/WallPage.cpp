@@ -3,6 +3,7 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/Dialogs/KvVolumeButton.h>
+#include <gallery/FollowLanguage.h>
 #include <gallery/OperatorHand.h>
 
 #include <QAction>
@@ -215,22 +216,30 @@ void WallPage::ShowMenu(int screen)
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(tr("New window filling the screen"), this, [=] {
-        m_pCameras->OpenWindow(screen, KvGUI::StructScaleRect{0, 0, 1, 1, true});
-    });
-    menu->addAction(tr("Snap all windows"), this, [=] { m_pCameras->SnapWindows(screen); });
-    menu->addAction(tr("Close all windows"), this, [=] { m_pCameras->CloseWindows(screen); });
+    const auto addCommand = [&](QString (*text)(), const std::function<void()>& act) {
+        FollowLanguage(menu->addAction(QString(), this, act), "text", text);
+    };
+    addCommand(
+        [] { return tr("New window filling the screen"); },
+        [=] {
+            m_pCameras->OpenWindow(screen, KvGUI::StructScaleRect{0, 0, 1, 1, true});
+        });
+    addCommand([] { return tr("Snap all windows"); }, [=] { m_pCameras->SnapWindows(screen); });
+    addCommand([] { return tr("Close all windows"); }, [=] { m_pCameras->CloseWindows(screen); });
     menu->addSeparator();
     const ScreenNote note = m_pCameras->Note(screen);
-    const auto addSwitch = [&](const QString& text, bool checked, const std::function<void(bool)>& set) {
-        QAction* action = menu->addAction(text);
+    const auto addSwitch = [&](QString (*text)(), bool checked, const std::function<void(bool)>& set) {
+        QAction* action = FollowLanguage(menu->addAction(QString()), "text", text);
         action->setCheckable(true);
         action->setChecked(checked);
         connect(action, &QAction::triggered, this, set);
         connect(action, &QAction::triggered, this, &WallPage::ShowScreenStates);
     };
-    addSwitch(tr("Text overlays"), note.overlays, [=](bool on) { m_pCameras->SetOverlays(screen, on); });
-    addSwitch(tr("Base map"), note.baseMap, [=](bool on) { m_pCameras->SetBaseMap(screen, on); });
+    addSwitch(
+        [] { return tr("Text overlays"); }, note.overlays,
+        [=](bool on) { m_pCameras->SetOverlays(screen, on); });
+    addSwitch(
+        [] { return tr("Base map"); }, note.baseMap, [=](bool on) { m_pCameras->SetBaseMap(screen, on); });
     menu->popup(QCursor::pos());
 }
 

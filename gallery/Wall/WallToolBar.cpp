@@ -3,6 +3,7 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/Dialogs/KvVolumeButton.h>
+#include <gallery/FollowLanguage.h>
 #include <gallery/SkinIcon.h>
 #include <gallery/Wall/WallLayout.h>
 
@@ -84,7 +85,7 @@ const CommandEntry Entries[] = {
 WallToolBar::WallToolBar(QWidget* parent)
     : QToolBar(parent)
 {
-    setAccessibleName(tr("Wall tools"));
+    FollowLanguage(this, "accessibleName", [] { return tr("Wall tools"); });
     setIconSize(QSize(20, 20));
     setMovable(false);
     AddGridBoxes();
@@ -96,12 +97,12 @@ WallToolBar::WallToolBar(QWidget* parent)
         &WallToolBar::LoadIcons);
 }
 
-QSpinBox* WallToolBar::AddGridBox(const QString& name, const QString& tip)
+QSpinBox* WallToolBar::AddGridBox(QString (*name)(), QString (*tip)())
 {
     auto* box = new QSpinBox(this);
     box->setRange(1, WallLayout::MaxGrid);
-    box->setAccessibleName(name);
-    box->setToolTip(tip);
+    FollowLanguage(box, "accessibleName", name);
+    FollowLanguage(box, "toolTip", tip);
     box->setKeyboardTracking(false);
     addWidget(box);
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] {
@@ -115,11 +116,12 @@ void WallToolBar::AddGridBoxes()
     m_pGridIcon = new QLabel(this);
     m_pGridIcon->setContentsMargins(4, 0, 6, 0);
     addWidget(m_pGridIcon);
-    m_pRows = AddGridBox(tr("Rows of the grid"), tr("Rows of the wall's grid"));
+    m_pRows = AddGridBox([] { return tr("Rows of the grid"); }, [] { return tr("Rows of the wall's grid"); });
     auto* times = new QLabel(QStringLiteral("\u00d7"), this);
     times->setContentsMargins(4, 0, 4, 0);
     addWidget(times);
-    m_pColumns = AddGridBox(tr("Columns of the grid"), tr("Columns of the wall's grid"));
+    m_pColumns = AddGridBox(
+        [] { return tr("Columns of the grid"); }, [] { return tr("Columns of the wall's grid"); });
 }
 
 void WallToolBar::AddCommands()
@@ -128,11 +130,12 @@ void WallToolBar::AddCommands()
     for (const CommandEntry& entry : Entries) {
         if (entry.first)
             addSeparator();
-        QAction* action = addAction(tr(entry.text));
+        QAction* action = FollowLanguage(addAction(QString()), "text", [&entry] { return tr(entry.text); });
         const QKeySequence shortcut(QString::fromLatin1(entry.shortcut));
         action->setShortcut(shortcut);
-        action->setToolTip(
-            QStringLiteral("%1 (%2)").arg(tr(entry.tip), shortcut.toString(QKeySequence::NativeText)));
+        FollowLanguage(action, "toolTip", [&entry, shortcut] {
+            return QStringLiteral("%1 (%2)").arg(tr(entry.tip), shortcut.toString(QKeySequence::NativeText));
+        });
         action->setCheckable(entry.checkable);
         m_actions.insert(entry.command, action);
     }
@@ -144,7 +147,7 @@ void WallToolBar::AddVolumeButton()
 {
     m_pVolume = new UICommonMdl::KvVolumeButton(this);
     m_pVolume->SetVolumeState(true);
-    m_pVolume->setToolTip(tr("Sound of the whole wall"));
+    FollowLanguage(m_pVolume, "toolTip", [] { return tr("Sound of the whole wall"); });
     insertWidget(Action(Command::Skin), m_pVolume);
 }
 

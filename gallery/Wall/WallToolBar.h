@@ -57,7 +57,7 @@ private:
     void AddGridBoxes();
     void AddCommands();
     void AddVolumeButton();
-    QSpinBox* AddGridBox(const QString& name, const QString& tip);
+    QSpinBox* AddGridBox(QString (*name)(), QString (*tip)());
     void LoadIcons();
 
     QHash<Command, QAction*> m_actions;

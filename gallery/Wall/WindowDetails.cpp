@@ -1,5 +1,7 @@
 #include <gallery/Wall/WindowDetails.h>
 
+#include <gallery/FollowLanguage.h>
+
 #include <UI/Dialogs/KvVolumeButton.h>
 
 #include <QFormLayout>
@@ -32,11 +34,11 @@ WindowDetails::WindowDetails(QWidget* parent)
     form->setContentsMargins(0, 0, 0, 0);
     form->setVerticalSpacing(8);
     form->setHorizontalSpacing(16);
-    m_pScreen = AddRow(tr("Screen"));
-    m_pWindow = AddRow(tr("Window"));
-    m_pPlace = AddRow(tr("Place"));
-    m_pSize = AddRow(tr("Size"));
-    m_pOrder = AddRow(tr("Order"));
+    m_pScreen = AddRow([] { return tr("Screen"); });
+    m_pWindow = AddRow([] { return tr("Window"); });
+    m_pPlace = AddRow([] { return tr("Place"); });
+    m_pSize = AddRow([] { return tr("Size"); });
+    m_pOrder = AddRow([] { return tr("Order"); });
     AddSoundRow();
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(10, 12, 10, 12);
@@ -46,13 +48,13 @@ WindowDetails::WindowDetails(QWidget* parent)
     all->addStretch(1);
 }
 
-QLabel* WindowDetails::AddRow(const QString& name)
+QLabel* WindowDetails::AddRow(QString (*name)())
 {
-    auto* label = new QLabel(name, m_pFacts);
+    auto* label = FollowLanguage(new QLabel(m_pFacts), "text", name);
     label->setObjectName(QStringLiteral("hint"));
     auto* value = new QLabel(m_pFacts);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    value->setAccessibleName(name);
+    FollowLanguage(value, "accessibleName", name);
     static_cast<QFormLayout*>(m_pFacts->layout())->addRow(label, value);
     return value;
 }
@@ -60,8 +62,8 @@ QLabel* WindowDetails::AddRow(const QString& name)
 void WindowDetails::AddSoundRow()
 {
     m_pVolume = new UICommonMdl::KvVolumeButton(m_pFacts);
-    m_pVolume->setToolTip(tr("Sound of this window"));
-    auto* label = new QLabel(tr("Sound"), m_pFacts);
+    FollowLanguage(m_pVolume, "toolTip", [] { return tr("Sound of this window"); });
+    auto* label = FollowLanguage(new QLabel(m_pFacts), "text", [] { return tr("Sound"); });
     label->setObjectName(QStringLiteral("hint"));
     label->setMinimumHeight(m_pVolume->sizeHint().height());
     static_cast<QFormLayout*>(m_pFacts->layout())->addRow(label, m_pVolume);

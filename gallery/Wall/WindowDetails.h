@@ -41,7 +41,7 @@ Q_SIGNALS:
     void SignalVolume(int volume); ///< by the operator, per cent
 
 private:
-    QLabel* AddRow(const QString& name);
+    QLabel* AddRow(QString (*name)());
     void AddSoundRow();
 
     QLabel* m_pHeading;

@@ -1,9 +1,11 @@
-// Uses the installed library as a client does: a wall with one window, styled by the installed skins, a skin
-// of the client's own with the argument "skin", and with "office" the spreadsheet application that the
-// installed plugin drives.
+// Uses the installed library as a client does: a wall with one window, styled by the installed skins, a
+// dialog in another language, a skin of the client's own with the argument "skin", and with "office" the
+// spreadsheet application that the installed plugin drives.
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/KvLanguage.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
+#include <UI/Dialogs/CDisplayQRcodeDlg.h>
 #include <UI/PersonImage/WmPersonImage.h>
 #include <UI/Spreadsheet/AxExcelFunction.h>
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
@@ -37,5 +39,8 @@ int main(int argc, char** argv)
     const bool skin = !wanted.contains(QLatin1String("skin")) || TakesOwnSkin(wall);
     const bool office = !wanted.contains(QLatin1String("office"))
         || UICommonMdl::AxExcelFunction::CheckExcelVersion() == UICommonMdl::AxExcel_Xlsx;
-    return placed && cut && skin && office ? 0 : 1;
+    KvGUI::SetLanguage(QStringLiteral("zh_CN"));
+    const bool translated
+        = UICommonMdl::CDisplayQRcodeDlg().windowTitle() == QStringLiteral("\u663e\u793a\u4e8c\u7ef4\u7801");
+    return placed && cut && skin && office && translated ? 0 : 1;
 }

@@ -16,6 +16,7 @@ RestrictedPage::RestrictedPage(const Allowances& allowances)
     connect(
         this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl& origin, Feature feature) {
             setFeaturePermission(origin, feature, PermissionDeniedByUser);
+            // not translated: a line of the log
             Refuse(QStringLiteral("The use of a device"), origin.toDisplayString());
         });
 }
@@ -50,6 +51,7 @@ bool RestrictedPage::acceptNavigationRequest(const QUrl& url, NavigationType, bo
 {
     if (m_allowances.MayGoTo(url))
         return true;
+    // not translated: a line of the log
     Refuse(QStringLiteral("The way to another scheme"), url.toDisplayString());
     return false;
 }
@@ -75,6 +77,7 @@ QWebEnginePage* RestrictedPage::createWindow(WebWindowType)
 
 QStringList RestrictedPage::chooseFiles(FileSelectionMode, const QStringList&, const QStringList&)
 {
+    // not translated: a line of the log
     Refuse(QStringLiteral("The choice of a file"), url().toDisplayString());
     return {};
 }

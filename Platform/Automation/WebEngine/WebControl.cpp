@@ -2,12 +2,14 @@
 
 #include <Platform/Automation/LinkWebMembers.h>
 
+#include <QCoreApplication>
+
 namespace WebEngine {
 
 WebControl::WebControl(QWidget* parent)
     : m_pView(new QWebEngineView(parent))
 {
-    m_pView->setAccessibleName(QWebEngineView::tr("Web page"));
+    m_pView->setAccessibleName(QCoreApplication::translate("WebEngine::WebControl", "Web page"));
     // A file dropped on the page would take its place.
     m_pView->setAcceptDrops(false);
     // The menu offers to leave, reload, save and dissect the page, which is part of the client.

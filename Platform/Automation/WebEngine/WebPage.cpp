@@ -120,6 +120,7 @@ void WebPage::OnTerminated(RenderProcessTerminationStatus status)
 {
     m_state = State::Dead;
     m_waitingScripts.clear();
+    // not translated: a line of the log
     qCWarning(EngineLog).noquote() << "The render process of a page has ended:" << TextOf(status);
     m_bridge.Report(QStringLiteral("webTerminated"), TextOf(status));
 }

@@ -72,7 +72,7 @@ void PaintMoving(QPainter& painter, double seconds)
 
 Scene CarParkScene()
 {
-    return {QCoreApplication::translate("OperatorClient::Scene", "Car park"), &PaintStill, &PaintMoving};
+    return {QT_TRANSLATE_NOOP("OperatorClient::Scene", "Car park"), &PaintStill, &PaintMoving};
 }
 
 } // namespace OperatorClient

@@ -76,8 +76,7 @@ void PaintMoving(QPainter& painter, double seconds)
 
 Scene CorridorScene()
 {
-    return {
-        QCoreApplication::translate("OperatorClient::Scene", "Corridor, floor 2"), &PaintStill, &PaintMoving};
+    return {QT_TRANSLATE_NOOP("OperatorClient::Scene", "Corridor, floor 2"), &PaintStill, &PaintMoving};
 }
 
 } // namespace OperatorClient

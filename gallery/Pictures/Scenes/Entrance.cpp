@@ -83,7 +83,7 @@ void PaintMoving(QPainter& painter, double seconds)
 
 Scene EntranceScene()
 {
-    return {QCoreApplication::translate("OperatorClient::Scene", "Main entrance"), &PaintStill, &PaintMoving};
+    return {QT_TRANSLATE_NOOP("OperatorClient::Scene", "Main entrance"), &PaintStill, &PaintMoving};
 }
 
 } // namespace OperatorClient

@@ -103,8 +103,7 @@ void PaintMoving(QPainter& painter, double seconds)
 
 Scene JunctionScene()
 {
-    return {
-        QCoreApplication::translate("OperatorClient::Scene", "Street junction"), &PaintStill, &PaintMoving};
+    return {QT_TRANSLATE_NOOP("OperatorClient::Scene", "Street junction"), &PaintStill, &PaintMoving};
 }
 
 } // namespace OperatorClient

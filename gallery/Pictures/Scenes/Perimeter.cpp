@@ -69,8 +69,7 @@ void PaintMoving(QPainter& painter, double seconds)
 
 Scene PerimeterScene()
 {
-    return {
-        QCoreApplication::translate("OperatorClient::Scene", "Perimeter north"), &PaintStill, &PaintMoving};
+    return {QT_TRANSLATE_NOOP("OperatorClient::Scene", "Perimeter north"), &PaintStill, &PaintMoving};
 }
 
 } // namespace OperatorClient

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QSize>
-#include <QString>
 
 class QPainter;
 
@@ -10,7 +9,7 @@ namespace OperatorClient {
 /// A drawn place for a camera to look at. Both functions paint in the coordinates of SceneSize.
 struct Scene
 {
-    QString name;
+    const char* name; ///< in English, translated by the context "OperatorClient::Scene"
     void (*paintStill)(QPainter&); ///< everything that does not move
     void (*paintMoving)(QPainter&, double seconds); ///< what moves, at this time of the scene
 };

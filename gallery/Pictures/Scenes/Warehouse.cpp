@@ -88,8 +88,7 @@ void PaintMoving(QPainter& painter, double seconds)
 
 Scene WarehouseScene()
 {
-    return {
-        QCoreApplication::translate("OperatorClient::Scene", "Warehouse aisle"), &PaintStill, &PaintMoving};
+    return {QT_TRANSLATE_NOOP("OperatorClient::Scene", "Warehouse aisle"), &PaintStill, &PaintMoving};
 }
 
 } // namespace OperatorClient
