@@ -1,6 +1,5 @@
 #include <Common/CIniFile.h>
 
-#include <Common/CommonFun.h>
 #include <Common/IniSettings.h>
 
 namespace UICommonMdl {
@@ -33,7 +32,5 @@ bool CIniFile::loadIniFile(const QString& path)
     m_settings = OpenIniFile(path);
     return true;
 }
-
-bool CIniFile::CheckIniFile(const QString& path) { return CommonFun::CheckFileHasData(path); }
 
 } // namespace UICommonMdl

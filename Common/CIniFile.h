@@ -50,7 +50,6 @@ public:
 
 private:
     bool loadIniFile(const QString& path);
-    bool CheckIniFile(const QString& path);
 
     std::unique_ptr<QSettings> m_settings;
 };

@@ -3,8 +3,8 @@
 #include <Common/ByteBudget.h>
 #include <Common/ElidedText.h>
 #include <Common/QIniFile.h>
-#include <Platform/BasicUIComponents/SkinPath.h>
 #include <Platform/BasicUIComponents/KvDir.h>
+#include <Platform/BasicUIComponents/SkinPath.h>
 #include <Platform/kvl/DMD5.h>
 #include <Platform/kvl/DStr.h>
 #include <QGuiApplication>

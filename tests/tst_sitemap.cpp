@@ -201,11 +201,17 @@ void tst_sitemap::ClickOpensWindow()
     QCOMPARE(client.page.Cameras()->Wall()->GetWindowCount(0), windows);
 }
 
-// Catches a map that does not follow what the operator selects and closes on the wall.
+// Catches a map that does not follow what the operator selects and closes on the wall, and names under what
+// a camera beside them sees.
 void tst_sitemap::SelectionIsHighlighted()
 {
     Client client;
     QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
+    const QString painted
+        = QStringLiteral("[...document.querySelectorAll('.view, .name')].map(e => e.classList[0]).join()");
+    QVERIFY(
+        client.Value(painted).lastIndexOf(QLatin1String("view"))
+        < client.Value(painted).indexOf(QLatin1String("name")));
     QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(3), QStringLiteral("camera shown"), Patience);
     CameraWall* cameras = client.page.Cameras();
     const WallPlace place = PlaceOfCamera(cameras->Layout(), 3);
