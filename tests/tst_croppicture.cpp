@@ -148,156 +148,107 @@ class TestCropPicture : public QObject
     Q_OBJECT
 
 private slots:
-    void FramesFollowAResizedPhoto_data();
     void FramesFollowAResizedPhoto();
-    void FramesMeanSourcePixels_data();
     void FramesMeanSourcePixels();
-    void CutsSurviveAnyFrame_data();
     void CutsSurviveAnyFrame();
-    void HalvingStopsInTime_data();
     void HalvingStopsInTime();
     void LimitsAreChecked_data();
     void LimitsAreChecked();
     void ResizingKeepsToItsSteps();
-    void CursorsTellPlaces_data();
     void CursorsTellPlaces();
     void ChangedRegionsHoldAllThatDiffers();
     void DotsAreThoseOfAPen();
     void JpegFittingEqualsThePlainLoop_data();
     void JpegFittingEqualsThePlainLoop();
-    void ForecastCoversUsualPictures_data();
     void ForecastCoversUsualPictures();
 };
 
 // Catches ratios in double precision, products that are rounded, and a division by an empty photo.
-void TestCropPicture::FramesFollowAResizedPhoto_data()
-{
-    QTest::addColumn<QRect>("crop");
-    QTest::addColumn<QRect>("before");
-    QTest::addColumn<QRect>("now");
-    QTest::addColumn<QRect>("followed");
-
-    const QRect photo(0, 0, 300, 200);
-    QTest::newRow("doubled") << QRect(10, 20, 30, 40) << photo << QRect(0, 0, 600, 400)
-                             << QRect(20, 40, 60, 80);
-    QTest::newRow("towards zero") << QRect(-5, 5, 101, 99) << photo << QRect(0, 0, 200, 100)
-                                  << QRect(-3, 2, 67, 49);
-    // 7 * (31 / 7) is 31 in double precision, and 11 * (185 / 11) less than 185.
-    QTest::newRow("single precision, less")
-        << QRect(7, 0, 7, 10) << QRect(0, 0, 7, 10) << QRect(0, 0, 31, 10) << QRect(30, 0, 30, 10);
-    QTest::newRow("single precision, more")
-        << QRect(11, 0, 11, 10) << QRect(0, 0, 11, 10) << QRect(0, 0, 185, 10) << QRect(185, 0, 185, 10);
-    QTest::newRow("backwards") << QRect(50, 50, -20, -10) << photo << QRect(0, 0, 150, 100)
-                               << QRect(25, 25, -10, -5);
-    QTest::newRow("no photo before") << QRect(1, 2, 3, 4) << QRect(0, 0, 0, 200) << photo
-                                     << QRect(1, 2, 3, 4);
-    QTest::newRow("no photo now") << QRect(1, 2, 3, 4) << photo << QRect(0, 0, 0, 0) << QRect(0, 0, 0, 0);
-}
-
 void TestCropPicture::FramesFollowAResizedPhoto()
 {
-    QFETCH(QRect, crop);
-    QFETCH(QRect, before);
-    QFETCH(QRect, now);
-    QTEST(CropPicture::FollowedCrop(crop, before, now), "followed");
+    const auto followed = CropPicture::FollowedCrop; // crop, photo before, photo now
+    const QRect photo(0, 0, 300, 200);
+    QCOMPARE(followed({10, 20, 30, 40}, photo, {0, 0, 600, 400}), QRect(20, 40, 60, 80));
+    QCOMPARE(followed({-5, 5, 101, 99}, photo, {0, 0, 200, 100}), QRect(-3, 2, 67, 49)); // towards zero
+    // 7 * (31 / 7) is 31 in double precision, and 11 * (185 / 11) less than 185.
+    QCOMPARE(followed({7, 0, 7, 10}, {0, 0, 7, 10}, {0, 0, 31, 10}), QRect(30, 0, 30, 10));
+    QCOMPARE(followed({11, 0, 11, 10}, {0, 0, 11, 10}, {0, 0, 185, 10}), QRect(185, 0, 185, 10));
+    QCOMPARE(followed({50, 50, -20, -10}, photo, {0, 0, 150, 100}), QRect(25, 25, -10, -5)); // backwards
+    QCOMPARE(followed({1, 2, 3, 4}, {0, 0, 0, 200}, photo), QRect(1, 2, 3, 4)); // no photo before
+    QCOMPARE(followed({1, 2, 3, 4}, photo, {0, 0, 0, 0}), QRect(0, 0, 0, 0));
 }
 
 // Catches a frame mapped without the photo's place, with swapped directions, or rounded.
-void TestCropPicture::FramesMeanSourcePixels_data()
-{
-    QTest::addColumn<QRect>("crop");
-    QTest::addColumn<QRect>("photo");
-    QTest::addColumn<QSize>("source");
-    QTest::addColumn<QRect>("pixels");
-
-    const QRect photo(0, 0, 200, 100);
-    QTest::newRow("larger") << QRect(10, 20, 30, 40) << photo << QSize(800, 300) << QRect(40, 60, 120, 120);
-    QTest::newRow("smaller") << QRect(15, 9, 33, 18) << photo << QSize(20, 50) << QRect(1, 4, 3, 9);
-    QTest::newRow("in the middle of the widget")
-        << QRect(60, 45, 20, 10) << QRect(50, 40, 200, 100) << QSize(400, 200) << QRect(20, 10, 40, 20);
-    QTest::newRow("outside") << QRect(-3, -3, 300, 200) << photo << QSize(100, 50) << QRect(-1, -1, 150, 100);
-    QTest::newRow("one pixel") << QRect(0, 0, 199, 99) << photo << QSize(1, 1) << QRect(0, 0, 0, 0);
-    QTest::newRow("no source") << QRect(10, 20, 30, 40) << photo << QSize(0, 0) << QRect(0, 0, 0, 0);
-    QTest::newRow("no photo") << QRect(10, 20, 30, 40) << QRect(0, 0, 0, 0) << QSize(8, 8)
-                              << QRect(0, 0, 0, 0);
-}
-
 void TestCropPicture::FramesMeanSourcePixels()
 {
-    QFETCH(QRect, crop);
-    QFETCH(QRect, photo);
-    QFETCH(QSize, source);
-    QTEST(CropPicture::SourceRect(crop, photo, photo.size(), source), "pixels");
+    const auto pixels = [](const QRect& crop, const QRect& photo, const QSize& source) {
+        return CropPicture::SourceRect(crop, photo, photo.size(), source);
+    };
+    const QRect photo(0, 0, 200, 100);
+    QCOMPARE(pixels({10, 20, 30, 40}, photo, {800, 300}), QRect(40, 60, 120, 120));
+    QCOMPARE(pixels({15, 9, 33, 18}, photo, {20, 50}), QRect(1, 4, 3, 9));
+    QCOMPARE(pixels({60, 45, 20, 10}, {50, 40, 200, 100}, {400, 200}), QRect(20, 10, 40, 20));
+    QCOMPARE(pixels({-3, -3, 300, 200}, photo, {100, 50}), QRect(-1, -1, 150, 100)); // outside
+    QCOMPARE(pixels({0, 0, 199, 99}, photo, {1, 1}), QRect(0, 0, 0, 0));
+    QCOMPARE(pixels({10, 20, 30, 40}, photo, {0, 0}), QRect(0, 0, 0, 0)); // no source
+    QCOMPARE(pixels({10, 20, 30, 40}, {0, 0, 0, 0}, {8, 8}), QRect(0, 0, 0, 0)); // no photo
 }
 
 // Catches overflows (seen by a sanitizer) and pictures of gigabytes made from a wild frame.
-void TestCropPicture::CutsSurviveAnyFrame_data()
-{
-    QTest::addColumn<QRect>("crop");
-
-    const int most = std::numeric_limits<int>::max();
-    const int least = std::numeric_limits<int>::min();
-    QTest::newRow("everything") << QRect(QPoint(least, least), QPoint(most, most));
-    QTest::newRow("nothing") << QRect(QPoint(most, most), QPoint(least, least));
-    QTest::newRow("far right") << QRect(QPoint(most, most), QPoint(most, most));
-    QTest::newRow("far left") << QRect(QPoint(least, least), QPoint(least, least));
-    QTest::newRow("broad") << QRect(QPoint(least, 0), QPoint(most, 10));
-    QTest::newRow("backwards") << QRect(50, 50, -20, -10);
-    QTest::newRow("half empty") << QRect(5, 5, 10, 0);
-}
-
 void TestCropPicture::CutsSurviveAnyFrame()
 {
-    QFETCH(QRect, crop);
+    const int most = std::numeric_limits<int>::max();
+    const int least = std::numeric_limits<int>::min();
+    const QRect crops[] = {
+        {QPoint(least, least), QPoint(most, most)},
+        {QPoint(most, most), QPoint(least, least)},
+        {QPoint(most, most), QPoint(most, most)},
+        {QPoint(least, least), QPoint(least, least)},
+        {QPoint(least, 0), QPoint(most, 10)},
+        {50, 50, -20, -10},
+        {5, 5, 10, 0},
+    };
     CutImageInfo info;
     info.bHasImage = true;
     info.image = Gradient(QSize(400, 300));
     const QRect photo(0, 0, 200, 150);
-    const QImage cut = CropPicture::GetCutImage(info, crop, photo, photo.size());
-    QVERIFY(qint64(cut.width()) * cut.height() <= 1 << 28);
     CropPicture::Limits limits;
     limits.iMaxCapacity = 100000;
-    CropPicture::CheckCut(info, crop, photo, photo.size(), limits);
-    CropPicture::FollowedCrop(crop, photo, QRect(0, 0, 9999, 1));
+    for (const QRect& crop : crops) {
+        const QImage cut = CropPicture::GetCutImage(info, crop, photo, photo.size());
+        QVERIFY(qint64(cut.width()) * cut.height() <= 1 << 28);
+        CropPicture::CheckCut(info, crop, photo, photo.size(), limits);
+        CropPicture::FollowedCrop(crop, photo, QRect(0, 0, 9999, 1));
 
-    const QRect bounded = CropFrame::Bounded(crop);
-    CropFrame::Normalized(bounded);
-    CropFrame::BackwardsRect(bounded, QSize(std::numeric_limits<int>::min(), -7));
-    CropFrame::HoverCursor(QPoint(1, 1), bounded, photo);
-    CropPainting::ChangedRegion(bounded, QRect(3, 3, 9, 9));
-    QImage canvas(50, 50, QImage::Format_RGB32);
-    QPainter painter(&canvas);
-    CropPainting::PaintFrame(painter, canvas.rect(), canvas.rect(), bounded);
+        const QRect bounded = CropFrame::Bounded(crop);
+        CropFrame::Normalized(bounded);
+        CropFrame::BackwardsRect(bounded, QSize(least, -7));
+        CropFrame::HoverCursor(QPoint(1, 1), bounded, photo);
+        CropPainting::ChangedRegion(bounded, QRect(3, 3, 9, 9));
+        QImage canvas(50, 50, QImage::Format_RGB32);
+        QPainter painter(&canvas);
+        CropPainting::PaintFrame(painter, canvas.rect(), canvas.rect(), bounded);
+    }
 }
 
 // Catches halving that ends at nothing, one step late, or for one limit only, and a negative limit that
 // leaves one pixel.
-void TestCropPicture::HalvingStopsInTime_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("maximum");
-    QTest::addColumn<QSize>("halved");
-
-    QTest::newRow("three times") << QSize(3000, 2000) << QSize(640, 480) << QSize(375, 250);
-    QTest::newRow("fits exactly") << QSize(640, 480) << QSize(640, 480) << QSize(640, 480);
-    QTest::newRow("one too wide") << QSize(641, 10) << QSize(640, 480) << QSize(320, 5);
-    QTest::newRow("one too high, proportions kept") << QSize(10, 481) << QSize(640, 480) << QSize(4, 240);
-    QTest::newRow("no width") << QSize(3000, 2000) << QSize(0, 480) << QSize(3000, 2000);
-    QTest::newRow("no height") << QSize(3000, 2000) << QSize(640, 0) << QSize(3000, 2000);
-    QTest::newRow("thread") << QSize(1, 20000) << QSize(100, 100) << QSize(1, 20000);
-    QTest::newRow("thin") << QSize(4, 2000) << QSize(100, 100) << QSize(1, 500);
-    QTest::newRow("negative limits") << QSize(9, 9) << QSize(-5, -5) << QSize(9, 9);
-    QTest::newRow("negative height") << QSize(9, 9) << QSize(4, -1) << QSize(9, 9);
-    QTest::newRow("nothing") << QSize(0, 0) << QSize(-1, -1) << QSize(0, 0);
-}
-
 void TestCropPicture::HalvingStopsInTime()
 {
-    QFETCH(QSize, size);
-    QFETCH(QSize, maximum);
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QTEST(CropPicture::ChanageImageByAspectRatio(image, maximum).size(), "halved");
+    const auto halved = [](const QSize& size, const QSize& maximum) {
+        return CropPicture::ChanageImageByAspectRatio(QImage(size, QImage::Format_RGB32), maximum).size();
+    };
+    QCOMPARE(halved({3000, 2000}, {640, 480}), QSize(375, 250));
+    QCOMPARE(halved({640, 480}, {640, 480}), QSize(640, 480));
+    QCOMPARE(halved({641, 10}, {640, 480}), QSize(320, 5));
+    QCOMPARE(halved({10, 481}, {640, 480}), QSize(4, 240)); // proportions kept
+    QCOMPARE(halved({3000, 2000}, {0, 480}), QSize(3000, 2000)); // one limit is none
+    QCOMPARE(halved({3000, 2000}, {640, 0}), QSize(3000, 2000));
+    QCOMPARE(halved({1, 20000}, {100, 100}), QSize(1, 20000));
+    QCOMPARE(halved({4, 2000}, {100, 100}), QSize(1, 500));
+    QCOMPARE(halved({9, 9}, {-5, -5}), QSize(9, 9));
+    QCOMPARE(halved({9, 9}, {4, -1}), QSize(9, 9));
+    QCOMPARE(halved({0, 0}, {-1, -1}), QSize(0, 0));
 }
 
 // Catches limits checked in another order, one of two limits taken for none, and a compress ratio touched
@@ -325,7 +276,7 @@ void TestCropPicture::LimitsAreChecked_data()
         << whole << 0 << QSize(10, 10) << false << valid << QSize(400, 300) << -2;
     QTest::newRow("fits at once") << whole << 900000 << none << false << valid << QSize(400, 300) << 90;
     QTest::newRow("never fits") << whole << 1 << none << false << bytes << none << -1;
-    QTest::newRow("negative bytes") << whole << -9 << none << false << bytes << none << -1;
+    QTest::newRow("negative bytes") << whole << -9 << none << false << valid << QSize(400, 300) << -2;
     QTest::newRow("negative pixels") << whole << 900000 << QSize(-1, -1) << false << valid << QSize(400, 300)
                                      << 90;
     QTest::newRow("too wide") << whole << 900000 << QSize(399, 300) << false << pixels << none << -2;
@@ -368,27 +319,20 @@ void TestCropPicture::ResizingKeepsToItsSteps()
 }
 
 // Catches the frame's corners taken where the photo's count, and another order of the tests.
-void TestCropPicture::CursorsTellPlaces_data()
-{
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<int>("cursor");
-
-    QTest::newRow("left of the corner") << QPoint(20, 40) << int(Qt::SizeAllCursor);
-    QTest::newRow("further left") << QPoint(19, 40) << int(Qt::ArrowCursor);
-    QTest::newRow("a photo's width to the right") << QPoint(230, 30) << int(Qt::SizeAllCursor);
-    QTest::newRow("past it") << QPoint(231, 40) << int(Qt::ArrowCursor);
-    QTest::newRow("below the upper edge") << QPoint(100, 50) << int(Qt::SizeAllCursor);
-    QTest::newRow("further below") << QPoint(100, 51) << int(Qt::ArrowCursor);
-    QTest::newRow("photo's top right") << QPoint(190, 10) << int(Qt::SizeBDiagCursor);
-    QTest::newRow("photo's bottom right") << QPoint(210, 160) << int(Qt::OpenHandCursor);
-    QTest::newRow("frame's bottom right") << QPoint(130, 90) << int(Qt::ArrowCursor);
-}
-
 void TestCropPicture::CursorsTellPlaces()
 {
-    QFETCH(QPoint, pos);
-    const QRect crop(30, 40, 100, 50);
-    QTEST(int(CropFrame::HoverCursor(pos, crop, QRect(0, 0, 200, 150))), "cursor");
+    const auto cursor = [](int x, int y) {
+        return CropFrame::HoverCursor({x, y}, QRect(30, 40, 100, 50), QRect(0, 0, 200, 150));
+    };
+    QCOMPARE(cursor(20, 40), Qt::SizeAllCursor);
+    QCOMPARE(cursor(19, 40), Qt::ArrowCursor);
+    QCOMPARE(cursor(230, 30), Qt::SizeAllCursor); // a photo's width to the right
+    QCOMPARE(cursor(231, 40), Qt::ArrowCursor);
+    QCOMPARE(cursor(100, 50), Qt::SizeAllCursor); // below the upper edge
+    QCOMPARE(cursor(100, 51), Qt::ArrowCursor);
+    QCOMPARE(cursor(190, 10), Qt::SizeBDiagCursor); // the photo's top right
+    QCOMPARE(cursor(210, 160), Qt::OpenHandCursor); // and bottom right
+    QCOMPARE(cursor(130, 90), Qt::ArrowCursor); // the frame's
 }
 
 // Catches traces that a dragged frame leaves behind because too little is painted again.
@@ -489,30 +433,27 @@ void TestCropPicture::JpegFittingEqualsThePlainLoop()
 }
 
 // Catches counting that no longer agrees with the encoder, which costs nothing but all of the speed.
-void TestCropPicture::ForecastCoversUsualPictures_data()
-{
-    QTest::addColumn<QImage>("image");
-
-    const QImage scene = Scene(QSize(333, 217));
-    QTest::newRow("scene") << scene;
-    QTest::newRow("noise") << Noise(QSize(256, 200), 128);
-    QTest::newRow("comments, resolution, colour space") << WithDetails(scene);
-    QTest::newRow("grey") << scene.convertToFormat(QImage::Format_Grayscale8);
-    QTest::newRow("palette") << scene.convertToFormat(QImage::Format_Indexed8);
-    QTest::newRow("translucent") << Translucent(scene, QImage::Format_ARGB32);
-    QTest::newRow("16 bits") << scene.convertToFormat(QImage::Format_RGBA64);
-}
-
 void TestCropPicture::ForecastCoversUsualPictures()
 {
-    QFETCH(QImage, image);
-    JpegForecast forecast(image);
-    for (int quality = 90; quality >= 0; quality = NextLowerQuality(quality)) {
-        const QByteArray bytes = Encoded(image, quality);
-        // Bytes of 255 among the picture's bits are followed by a zero, which is not counted.
-        const int counted = bytes.size() - bytes.count(QByteArray("\xFF\x00", 2));
-        QVERIFY(forecast.Exceeds(quality, counted - 1));
-        QVERIFY(!forecast.Exceeds(quality, bytes.size()));
+    const QImage scene = Scene(QSize(333, 217));
+    const QImage images[] = {
+        scene,
+        Noise(QSize(256, 200), 128),
+        WithDetails(scene),
+        scene.convertToFormat(QImage::Format_Grayscale8),
+        scene.convertToFormat(QImage::Format_Indexed8),
+        Translucent(scene, QImage::Format_ARGB32),
+        scene.convertToFormat(QImage::Format_RGBA64),
+    };
+    for (const QImage& image : images) {
+        JpegForecast forecast(image);
+        for (int quality = 90; quality >= 0; quality = NextLowerQuality(quality)) {
+            const QByteArray bytes = Encoded(image, quality);
+            // Bytes of 255 among the picture's bits are followed by a zero, which is not counted.
+            const int counted = bytes.size() - bytes.count(QByteArray("\xFF\x00", 2));
+            QVERIFY(forecast.Exceeds(quality, counted - 1));
+            QVERIFY(!forecast.Exceeds(quality, bytes.size()));
+        }
     }
 }
 

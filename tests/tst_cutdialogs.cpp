@@ -57,14 +57,18 @@ int JpegSize(const QImage& image, int quality)
     return bytes.size();
 }
 
+void MoveHeld(QWidget* canvas, const QPoint& to)
+{
+    QMouseEvent move(
+        QEvent::MouseMove, to, canvas->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(canvas, &move);
+}
+
 void Drag(QWidget* canvas, const QPoint& from, const QPoint& to)
 {
     QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, from);
-    for (const QPoint& at : {(from + to) / 2, to}) {
-        QMouseEvent move(
-            QEvent::MouseMove, at, canvas->mapToGlobal(at), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(canvas, &move);
-    }
+    MoveHeld(canvas, (from + to) / 2);
+    MoveHeld(canvas, to);
     QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, to);
 }
 
@@ -117,24 +121,18 @@ private slots:
     void Resolution();
     void WildResolutions();
     void FirstSizeNeedsNoScrollBars();
-    void HintNeverCoversButtons_data();
     void HintNeverCoversButtons();
     void PictureIsReadAfterLayout();
     void PictureInMemoryStays();
     void EnterAcceptsTheCut();
     void SavedCutKeepsTheLimit();
-    void OkWithoutAFrameStaysOpen_data();
     void OkWithoutAFrameStaysOpen();
-    void WaysToReject_data();
     void WaysToReject();
-    void SearchAccepts_data();
     void SearchAccepts();
     void SearchWithoutAPictureStaysOpen();
     void CancelInTheMenuStaysOpen();
-    void SlotDeletesTheDialog_data();
     void SlotDeletesTheDialog();
     void ParentDestroyedBeforeThePictureIsRead();
-    void FollowedScrollValues_data();
     void FollowedScrollValues();
     void DragScrollsTheCanvas();
     void BubbleFitsItsText_data();
@@ -216,29 +214,23 @@ void TestCutDialogs::FirstSizeNeedsNoScrollBars()
     QCOMPARE(dialog.GetCanvas()->size(), area->viewport()->size());
 }
 
-void TestCutDialogs::HintNeverCoversButtons_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("wide") << 800 << true;
-    QTest::newRow("narrow") << 500 << false;
-}
-
 /// Catches a hint over the buttons of a narrow dialog, and one that stays away.
 void TestCutDialogs::HintNeverCoversButtons()
 {
-    QFETCH(int, width);
-    QFETCH(bool, shown);
-    CCutPhotoDlg dialog;
-    dialog.SetPhotoResolution(width, width * 3 / 4 - 80);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    const auto* hint = dialog.findChild<QLabel*>(QStringLiteral("hint"));
-    QVERIFY(hint->width() >= 500);
-    QCOMPARE(hint->isVisible(), shown);
-    const KvGUI::KvPushButton* ok = dialog.GetButton(QDialogButtonBox::Ok);
-    QVERIFY(!shown || hint->geometry().right() < ok->mapTo(&dialog, QPoint()).x());
-    QVERIFY(!shown || hint->heightForWidth(hint->width()) <= hint->height());
+    for (const int width : {800, 500}) {
+        CCutPhotoDlg dialog;
+        dialog.SetPhotoResolution(width, width * 3 / 4 - 80);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        const auto* hint = dialog.findChild<QLabel*>(QStringLiteral("hint"));
+        QVERIFY(hint->width() >= 500);
+        QCOMPARE(hint->isVisible(), width == 800);
+        if (width == 800) {
+            const QWidget* ok = dialog.GetButton(QDialogButtonBox::Ok);
+            QVERIFY(hint->geometry().right() < ok->mapTo(&dialog, QPoint()).x());
+            QVERIFY(hint->heightForWidth(hint->width()) <= hint->height());
+        }
+    }
 }
 
 /// Catches a picture that is read before the dialog has its size: the canvas would stretch it over another.
@@ -307,21 +299,10 @@ void TestCutDialogs::SavedCutKeepsTheLimit()
     QVERIFY(JpegSize(cut, quality) <= 20000);
 }
 
-void TestCutDialogs::OkWithoutAFrameStaysOpen_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("nothing framed") << QString();
-    QTest::newRow("unreadable picture") << m_folder.filePath(QStringLiteral("none.png"));
-    QTest::newRow("no picture") << m_folder.path();
-}
-
 /// Catches a dialog that is accepted without a cut, and an operator who is not told why it is not.
 void TestCutDialogs::OkWithoutAFrameStaysOpen()
 {
-    QFETCH(QString, path);
-    const auto zoom = ZoomDialog();
-    CCutPhotoDlg plain;
-    const auto check = [&](auto& dialog) {
+    const auto check = [](auto& dialog, const QString& path) {
         dialog.SetSrcPhoto(path);
         const int result = ExecAnd(&dialog, [&] {
             QTest::mouseClick(dialog.GetButton(QDialogButtonBox::Ok), Qt::LeftButton);
@@ -332,59 +313,46 @@ void TestCutDialogs::OkWithoutAFrameStaysOpen()
         });
         QCOMPARE(result, int(QDialog::Rejected));
     };
-    check(*zoom);
-    check(plain);
-}
-
-void TestCutDialogs::WaysToReject_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char* way : {"Cancel", "Escape", "title bar", "canvas"})
-        QTest::newRow(way) << QString::fromLatin1(way);
+    for (const QString& path : {QString(), m_folder.filePath(QStringLiteral("none.png")), m_folder.path()}) {
+        CCutPhotoDlg plain;
+        check(*ZoomDialog(), path);
+        check(plain, path);
+    }
 }
 
 /// Catches a way out that does nothing or that accepts.
 void TestCutDialogs::WaysToReject()
 {
-    QFETCH(QString, way);
-    const auto dialog = ZoomDialog();
-    dialog->SetSrcPhoto(m_photo);
-    const int result = ExecAnd(dialog.get(), [&] {
-        if (way == QLatin1String("Cancel"))
-            QTest::mouseClick(dialog->GetButton(QDialogButtonBox::Cancel), Qt::LeftButton);
-        else if (way == QLatin1String("Escape"))
-            QTest::keyClick(dialog.get(), Qt::Key_Escape);
-        else if (way == QLatin1String("title bar"))
-            QTest::mouseClick(
-                dialog->findChild<QWidget*>(QStringLiteral("kvDialogCloseButton")), Qt::LeftButton);
-        else
-            dialog->GetCanvas()->OnKeyPressed();
-    });
-    QCOMPARE(result, int(QDialog::Rejected));
-}
-
-void TestCutDialogs::SearchAccepts_data()
-{
-    QTest::addColumn<int>("item");
-    QTest::addColumn<int>("type");
-    QTest::newRow("vehicle") << 0 << 1;
-    QTest::newRow("face") << 1 << 2;
-    QTest::newRow("human body") << 2 << 3;
+    using Dialog = CCutPhotoDlgWithZoom;
+    const std::function<void(Dialog&)> ways[] = {
+        [](Dialog& dialog) { QTest::mouseClick(dialog.GetButton(QDialogButtonBox::Cancel), Qt::LeftButton); },
+        [](Dialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
+        [](Dialog& dialog) {
+            auto* cross = dialog.findChild<QWidget*>(QStringLiteral("kvDialogCloseButton"));
+            QTest::mouseClick(cross, Qt::LeftButton);
+        },
+        [](Dialog& dialog) { dialog.GetCanvas()->OnKeyPressed(); },
+    };
+    for (const auto& way : ways) {
+        const auto dialog = ZoomDialog();
+        dialog->SetSrcPhoto(m_photo);
+        QCOMPARE(ExecAnd(dialog.get(), [&] { way(*dialog); }), int(QDialog::Rejected));
+    }
 }
 
 /// Catches crossed types, and a choice in the menu that does not end the dialog.
 void TestCutDialogs::SearchAccepts()
 {
-    QFETCH(int, item);
-    QFETCH(int, type);
-    const auto dialog = ZoomDialog();
-    dialog->SetSrcPhoto(m_photo);
-    const int result = ExecAnd(dialog.get(), [&] {
-        Drag(dialog->GetCanvas(), QPoint(100, 100), QPoint(300, 200));
-        ChooseInMenu(dialog->GetCanvas(), item);
-    });
-    QCOMPARE(result, int(QDialog::Accepted));
-    QCOMPARE(dialog->GetSavePictureType(), type);
+    for (const int item : {0, 1, 2}) {
+        const auto dialog = ZoomDialog();
+        dialog->SetSrcPhoto(m_photo);
+        const int result = ExecAnd(dialog.get(), [&] {
+            Drag(dialog->GetCanvas(), QPoint(100, 100), QPoint(300, 200));
+            ChooseInMenu(dialog->GetCanvas(), item);
+        });
+        QCOMPARE(result, int(QDialog::Accepted));
+        QCOMPARE(dialog->GetSavePictureType(), item + 1); // vehicle, face, human body
+    }
 }
 
 /// Catches a search that is forgotten, or accepted without a cut.
@@ -415,46 +383,30 @@ void TestCutDialogs::CancelInTheMenuStaysOpen()
     });
 }
 
-void TestCutDialogs::SlotDeletesTheDialog_data()
-{
-    QTest::addColumn<QString>("signal");
-    for (const char* signal : {"search", "accepted", "drag"})
-        QTest::newRow(signal) << QString::fromLatin1(signal);
-}
-
 /// Catches any use of the dialog or its canvas after a slot of the client deleted the dialog.
 void TestCutDialogs::SlotDeletesTheDialog()
 {
-    QFETCH(QString, signal);
-    CCutPhotoDlgWithZoom* zoom = ZoomDialog().release();
-    const QPointer<QDialog> zoomGuard(zoom);
-    auto* plain = new CCutPhotoDlg;
-    const QPointer<QDialog> plainGuard(plain);
+    // By a search, before the dialog's own slot.
+    const QPointer<CCutPhotoDlgWithZoom> zoom = ZoomDialog().release();
+    zoom->GetCanvas()->disconnect(zoom);
+    connect(zoom->GetCanvas(), &CCutPhotoWithZoom::SignClickFaceSearch, this, [&] { delete zoom; });
+    ExecAnd(zoom.data(), [&] { ChooseInMenu(zoom->GetCanvas(), 1); });
+    QVERIFY(!zoom);
+
+    QPointer<CCutPhotoDlg> plain = new CCutPhotoDlg;
     plain->SetSrcPhoto(m_photo);
-    if (signal == QLatin1String("search")) {
-        // Before the dialog's own slot, by a canvas that is asked first.
-        zoom->GetCanvas()->disconnect(zoom);
-        connect(zoom->GetCanvas(), &CCutPhotoWithZoom::SignClickFaceSearch, this, [=] { delete zoom; });
-        ExecAnd(zoom, [=] { ChooseInMenu(zoom->GetCanvas(), 1); });
-        QVERIFY(zoomGuard.isNull());
-    } else if (signal == QLatin1String("accepted")) {
-        connect(plain, &QDialog::accepted, this, [=] { delete plain; });
-        ExecAnd(plain, [=] { QTest::keyPress(plain, Qt::Key_Return); });
-        QVERIFY(plainGuard.isNull());
-    } else {
-        connect(plain->GetCanvas(), &CCutDetailPhoto::SignalUpdateCutRect, this, [=] { delete plain; });
-        ExecAnd(plain, [=] {
-            QWidget* canvas = plain->GetCanvas();
-            QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
-            QMouseEvent move(
-                QEvent::MouseMove, QPoint(60, 60), canvas->mapToGlobal(QPoint(60, 60)), Qt::NoButton,
-                Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(canvas, &move);
-        });
-        QVERIFY(plainGuard.isNull());
-    }
-    delete zoomGuard;
-    delete plainGuard;
+    connect(plain, &QDialog::accepted, this, [&] { delete plain; });
+    ExecAnd(plain.data(), [&] { QTest::keyPress(plain, Qt::Key_Return); });
+    QVERIFY(!plain);
+
+    plain = new CCutPhotoDlg;
+    plain->SetSrcPhoto(m_photo);
+    connect(plain->GetCanvas(), &CCutDetailPhoto::SignalUpdateCutRect, this, [&] { delete plain; });
+    ExecAnd(plain.data(), [&] {
+        QTest::mousePress(plain->GetCanvas(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+        MoveHeld(plain->GetCanvas(), QPoint(60, 60));
+    });
+    QVERIFY(!plain);
 }
 
 /// Catches a late reading of the picture in a dialog that is gone, and a loop that does not end.
@@ -469,30 +421,18 @@ void TestCutDialogs::ParentDestroyedBeforeThePictureIsRead()
     QTest::qWait(kLoadTime);
 }
 
-void TestCutDialogs::FollowedScrollValues_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<bool>("forward");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("length");
-    QTest::addColumn<int>("result");
-    // A container of 600 pixels with a margin of 12.
-    QTest::newRow("grows, seen already") << 20 << true << 100 << 300 << 20;
-    QTest::newRow("grows to the end") << 5 << true << 100 << 500 << 12;
-    QTest::newRow("grows, never back") << 40 << true << 100 << 500 << 40;
-    QTest::newRow("shrinks before the view") << 50 << false << 30 << 200 << 30;
-    QTest::newRow("shrinks inside the view") << 50 << false << 60 << 200 << 50;
-}
-
 /// Catches a bar that is moved when it need not be, or in the wrong direction.
 void TestCutDialogs::FollowedScrollValues()
 {
-    QFETCH(int, value);
-    QFETCH(bool, forward);
-    QFETCH(int, start);
-    QFETCH(int, length);
-    QFETCH(int, result);
-    QCOMPARE(FollowedScrollValue(value, forward, start, length, 600, 12), result);
+    const auto followed = [](int value, bool forward, int start, int length) {
+        return FollowedScrollValue(
+            value, forward, start, length, 600, 12); // of the container, and its margin
+    };
+    QCOMPARE(followed(20, true, 100, 300), 20); // seen already
+    QCOMPARE(followed(5, true, 100, 500), 12);
+    QCOMPARE(followed(40, true, 100, 500), 40); // never back
+    QCOMPARE(followed(50, false, 30, 200), 30);
+    QCOMPARE(followed(50, false, 60, 200), 50); // inside the view
 }
 
 /// Catches a canvas that does not report its drag to the dialog, and swapped axes.

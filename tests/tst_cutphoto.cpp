@@ -14,7 +14,9 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScreen>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -80,9 +82,19 @@ void MoveHeld(QWidget& widget, const QPoint& pos)
     QApplication::sendEvent(&widget, &move);
 }
 
+void Press(QWidget& widget, const QPoint& pos, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mousePress(&widget, button, Qt::NoModifier, pos);
+}
+
+void Click(QWidget& widget, const QPoint& pos)
+{
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, pos);
+}
+
 void Drag(QWidget& widget, const QPoint& from, const QPoint& to)
 {
-    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, from);
+    Press(widget, from);
     MoveHeld(widget, (from + to) / 2);
     MoveHeld(widget, to);
     QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, to);
@@ -176,10 +188,7 @@ class TestCutPhoto : public QObject
     Q_OBJECT
 
 private slots:
-    void DraggingMarksAFrame_data();
     void DraggingMarksAFrame();
-    void ANewSelectionForgetsTheLastDrag();
-    void TheCornerMovesToThePointer_data();
     void TheCornerMovesToThePointer();
     void ResizingFollowsThePointer();
     void AResizedWholePhotoStaysResized();
@@ -187,12 +196,10 @@ private slots:
     void OnlyAPressedCanvasIsDimmed();
     void PaintedStepsEqualAFreshPaint();
     void TheMenuOffersSearchesInOrder();
-    void SearchesAreReported_data();
     void SearchesAreReported();
     void ASearchEndsReloading();
     void CancelTakesTheFrameAway();
     void SearchHandleOpensTheMenu();
-    void AMenuMayDeleteTheCanvas_data();
     void AMenuMayDeleteTheCanvas();
     void ASlotMayDeleteTheCanvas();
     void KeysEmptyTheFrame();
@@ -203,95 +210,71 @@ private slots:
     void CanvasesWithoutASizeWork();
     void InvalidChoicesAreTold();
     void LimitsReachTheCut();
-    void PlainDragsAreReported_data();
     void PlainDragsAreReported();
     void PlainDragsBeginOnThePhoto();
     void PlainTipGoesWithTheFirstDrag();
     void APlainSlotMayDeleteTheCanvas();
-    void PlainCursorTellsThePhoto();
 };
 
-// Catches a drag whose frame is off, and the least size taken without its sign or its limit.
-void TestCutPhoto::DraggingMarksAFrame_data()
-{
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QRect>("framed");
-
-    QTest::newRow("right and down") << QPoint(20, 10) << QPoint(120, 60) << QRect(20, 10, 100, 50);
-    QTest::newRow("least size") << QPoint(20, 10) << QPoint(26, 16) << QRect(20, 10, 6, 6);
-    QTest::newRow("too narrow") << QPoint(20, 10) << QPoint(25, 60) << Whole;
-    QTest::newRow("too low") << QPoint(20, 10) << QPoint(90, 15) << Whole;
-    QTest::newRow("click") << QPoint(20, 10) << QPoint(20, 10) << Whole;
-    QTest::newRow("left and up") << QPoint(120, 60) << QPoint(20, 10) << Whole;
-    QTest::newRow("left and down") << QPoint(120, 10) << QPoint(20, 60) << Whole;
-    QTest::newRow("right and up") << QPoint(20, 60) << QPoint(120, 10) << Whole;
-}
-
+// Catches a drag whose frame is off, the least size taken without its sign or its limit, and the extents of
+// an earlier selection that make a click a frame of no size.
 void TestCutPhoto::DraggingMarksAFrame()
 {
-    QFETCH(QPoint, from);
-    QFETCH(QPoint, to);
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, from, to);
-    QTEST(Framed(*canvas), "framed");
-}
-
-// Catches the extents of an earlier selection that make a click a frame of no size.
-void TestCutPhoto::ANewSelectionForgetsTheLastDrag()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    const auto framed = [&](const QPoint& from, const QPoint& to) {
+        canvas->OnClose();
+        Drag(*canvas, from, to);
+        return Framed(*canvas);
+    };
+    QCOMPARE(framed({20, 10}, {120, 60}), QRect(20, 10, 100, 50));
+    QCOMPARE(framed({20, 10}, {26, 16}), QRect(20, 10, 6, 6));
+    QCOMPARE(framed({20, 10}, {25, 60}), Whole);
+    QCOMPARE(framed({20, 10}, {90, 15}), Whole);
+    QCOMPARE(framed({20, 10}, {20, 10}), Whole);
+    QCOMPARE(framed({120, 60}, {20, 10}), Whole); // left and up
+    QCOMPARE(framed({120, 10}, {20, 60}), Whole);
+    QCOMPARE(framed({20, 60}, {120, 10}), Whole);
+    QCOMPARE(framed({20, 10}, {120, 60}), QRect(20, 10, 100, 50));
     canvas->OnClose();
-    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 30));
+    Click(*canvas, {30, 30});
     QCOMPARE(Framed(*canvas), Whole);
 }
 
 // Catches a move that keeps the distance between corner and pointer, one that leaves the picture, and a
 // handle that reaches too far or not far enough.
-void TestCutPhoto::TheCornerMovesToThePointer_data()
-{
-    QTest::addColumn<QPoint>("press");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QPoint>("corner");
-
-    const QPoint corner(40, 30); // of a frame of 60 x 40
-    QTest::newRow("at the corner") << corner << QPoint(70, 50) << QPoint(70, 50);
-    QTest::newRow("farthest in the handle") << QPoint(50, 20) << QPoint(70, 50) << QPoint(70, 50);
-    QTest::newRow("beside the handle") << QPoint(51, 30) << QPoint(70, 50) << corner;
-    QTest::newRow("above the handle") << QPoint(40, 19) << QPoint(70, 50) << corner;
-    QTest::newRow("to the right edge") << corner << QPoint(140, 50) << QPoint(140, 50);
-    QTest::newRow("past the right edge") << corner << QPoint(141, 50) << QPoint(91, 40);
-    QTest::newRow("to the bottom") << corner << QPoint(60, 110) << QPoint(60, 110);
-    QTest::newRow("past the bottom") << corner << QPoint(60, 111) << QPoint(50, 71);
-    QTest::newRow("to the left edge") << corner << QPoint(0, 20) << QPoint(0, 20);
-    QTest::newRow("past the left edge") << corner << QPoint(-1, 20) << QPoint(20, 25);
-}
-
 void TestCutPhoto::TheCornerMovesToThePointer()
 {
-    QFETCH(QPoint, press);
-    QFETCH(QPoint, to);
-    QFETCH(QPoint, corner);
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, QPoint(40, 30), QPoint(100, 70));
-    Drag(*canvas, press, to);
-    QCOMPARE(Framed(*canvas), QRect(corner, QSize(60, 40)));
-    // The button is up: nothing moves any more.
-    MoveHeld(*canvas, QPoint(60, 60));
-    QCOMPARE(Framed(*canvas), QRect(corner, QSize(60, 40)));
+    const auto corner = [&](const QPoint& press, const QPoint& to) {
+        canvas->OnClose();
+        Drag(*canvas, {40, 30}, {100, 70});
+        Drag(*canvas, press, to);
+        MoveHeld(*canvas, {60, 60}); // the button is up: nothing moves any more
+        const QRect framed = Framed(*canvas);
+        return framed.size() == QSize(60, 40) ? framed.topLeft() : QPoint(-1, -1);
+    };
+    QCOMPARE(corner({40, 30}, {70, 50}), QPoint(70, 50));
+    QCOMPARE(corner({50, 20}, {70, 50}), QPoint(70, 50)); // farthest in the handle
+    QCOMPARE(corner({51, 30}, {70, 50}), QPoint(40, 30)); // beside it
+    QCOMPARE(corner({40, 19}, {70, 50}), QPoint(40, 30)); // above it
+    QCOMPARE(corner({40, 30}, {140, 50}), QPoint(140, 50)); // to the edges, and past them
+    QCOMPARE(corner({40, 30}, {141, 50}), QPoint(91, 40));
+    QCOMPARE(corner({40, 30}, {60, 110}), QPoint(60, 110));
+    QCOMPARE(corner({40, 30}, {60, 111}), QPoint(50, 71));
+    QCOMPARE(corner({40, 30}, {0, 20}), QPoint(0, 20));
+    QCOMPARE(corner({40, 30}, {-1, 20}), QPoint(20, 25));
 }
 
 // Catches a resize by another corner, or one that does not stop near the opposite edges.
 void TestCutPhoto::ResizingFollowsThePointer()
 {
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, QPoint(50, 60), QPoint(150, 120));
-    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 60));
+    Drag(*canvas, {50, 60}, {150, 120});
+    Press(*canvas, {150, 60});
     QCOMPARE(canvas->cursor().shape(), Qt::SizeBDiagCursor);
-    MoveHeld(*canvas, QPoint(160, 50));
+    MoveHeld(*canvas, {160, 50});
     QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
-    MoveHeld(*canvas, QPoint(69, 50)); // too near to the left edge
+    MoveHeld(*canvas, {69, 50}); // too near to the left edge
     QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
     QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(69, 50));
     QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
@@ -302,14 +285,14 @@ void TestCutPhoto::ResizingFollowsThePointer()
 void TestCutPhoto::AResizedWholePhotoStaysResized()
 {
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 30));
-    Drag(*canvas, QPoint(195, 5), QPoint(151, 41));
+    Click(*canvas, {30, 30});
+    Drag(*canvas, {195, 5}, {151, 41});
     QCOMPARE(Framed(*canvas).width(), 152);
     // And one that does not: a click beside all handles makes it the whole photo again.
     canvas->OnClose();
-    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 30));
+    Click(*canvas, {30, 30});
     canvas->SetCutRegion(QRect(50, 50, 20, 20));
-    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 20));
+    Click(*canvas, {150, 20});
     QCOMPARE(Framed(*canvas), Whole);
 }
 
@@ -320,11 +303,11 @@ void TestCutPhoto::HoverLooksAtTheLastPress()
     canvas->setCursor(Qt::WaitCursor);
     canvas->OnTimeOut();
     QCOMPARE(canvas->cursor().shape(), Qt::WaitCursor);
-    Drag(*canvas, QPoint(40, 30), QPoint(100, 70));
+    Drag(*canvas, {40, 30}, {100, 70});
     canvas->OnTimeOut();
     QCOMPARE(canvas->cursor().shape(), Qt::SizeAllCursor);
-    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 120));
-    MoveHeld(*canvas, QPoint(40, 30));
+    Click(*canvas, {150, 120});
+    MoveHeld(*canvas, {40, 30});
     canvas->setCursor(Qt::WaitCursor);
     canvas->OnTimeOut();
     QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
@@ -342,8 +325,8 @@ void TestCutPhoto::OnlyAPressedCanvasIsDimmed()
     const QRgb brightOutside = PixelAt(*canvas, outside);
     QCOMPARE(bright, PlacePicture(Source).pixel(inside * 2));
 
-    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(120, 110));
-    MoveHeld(*canvas, QPoint(60, 60));
+    Press(*canvas, {120, 110});
+    MoveHeld(*canvas, {60, 60});
     QCOMPARE(PixelAt(*canvas, inside), bright);
     QVERIFY(qAbs(qRed(PixelAt(*canvas, outside)) - qRed(brightOutside) / 2) <= 1);
     QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
@@ -401,7 +384,7 @@ void TestCutPhoto::TheMenuOffersSearchesInOrder()
             QStringLiteral("QMenu::item:hover{background-color:#29465a;color:#bbbbbb}"
                            "QMenu::item:selected{background-color:#29465a;color:#bbbbbb}"));
     });
-    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(100, 100));
+    Press(*canvas, {100, 100}, Qt::RightButton);
     QCOMPARE(menus, 1);
     // Dismissed, it stays until a choice or a close.
     QCOMPARE(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).size(), 1);
@@ -411,36 +394,22 @@ void TestCutPhoto::TheMenuOffersSearchesInOrder()
 }
 
 // Catches actions connected to another search, at once instead of queued, or a menu that stays.
-void TestCutPhoto::SearchesAreReported_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("vehicle");
-    QTest::addColumn<int>("face");
-    QTest::addColumn<int>("human");
-
-    QTest::newRow("vehicle") << QStringLiteral("Vehicle Images Search") << 1 << 0 << 0;
-    QTest::newRow("face") << QStringLiteral("Face Image Search") << 0 << 1 << 0;
-    QTest::newRow("human") << QStringLiteral("Human Body Image Search") << 0 << 0 << 1;
-}
-
 void TestCutPhoto::SearchesAreReported()
 {
-    QFETCH(QString, text);
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    QSignalSpy vehicle(canvas.get(), &CCutPhotoWithZoom::SignClickVehicleSearch);
-    QSignalSpy face(canvas.get(), &CCutPhotoWithZoom::SignClickFaceSearch);
-    QSignalSpy human(canvas.get(), &CCutPhotoWithZoom::SignClickHumanSearch);
-    OnNextMenu([&](QMenu* menu) {
-        ChooseInMenu(menu, text);
-        QVERIFY(vehicle.isEmpty() && face.isEmpty() && human.isEmpty());
-    });
-    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(100, 100));
-    QVERIFY(vehicle.isEmpty() && face.isEmpty() && human.isEmpty());
-    QCoreApplication::processEvents();
-    QTEST(vehicle.size(), "vehicle");
-    QTEST(face.size(), "face");
-    QTEST(human.size(), "human");
-    QTRY_VERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
+    const char* const texts[] = {"Vehicle Images Search", "Face Image Search", "Human Body Image Search"};
+    for (int chosen = 0; chosen < 3; ++chosen) {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        QVector<int> reported;
+        connect(canvas.get(), &CCutPhotoWithZoom::SignClickVehicleSearch, [&] { reported << 0; });
+        connect(canvas.get(), &CCutPhotoWithZoom::SignClickFaceSearch, [&] { reported << 1; });
+        connect(canvas.get(), &CCutPhotoWithZoom::SignClickHumanSearch, [&] { reported << 2; });
+        OnNextMenu([&](QMenu* menu) { ChooseInMenu(menu, QLatin1String(texts[chosen])); });
+        Press(*canvas, {100, 100}, Qt::RightButton);
+        QCOMPARE(reported, QVector<int>());
+        QCoreApplication::processEvents();
+        QCOMPARE(reported, QVector<int>{chosen});
+        QTRY_VERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
+    }
 }
 
 // Catches a picture that is read again while the host closes after a search.
@@ -459,12 +428,12 @@ void TestCutPhoto::ASearchEndsReloading()
 void TestCutPhoto::CancelTakesTheFrameAway()
 {
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    Drag(*canvas, {20, 10}, {120, 60});
     OnNextMenu([](QMenu* menu) { ChooseInMenu(menu, QStringLiteral("Cancel")); });
-    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(150, 100));
+    Press(*canvas, {150, 100}, Qt::RightButton);
     QCoreApplication::processEvents();
     QCOMPARE(Framed(*canvas), QRect());
-    Drag(*canvas, QPoint(30, 40), QPoint(60, 80));
+    Drag(*canvas, {30, 40}, {60, 80});
     QCOMPARE(Framed(*canvas), QRect(30, 40, 30, 40));
     KvGUI::KvMessageNotify::Instance()->CloseAll();
 }
@@ -473,53 +442,45 @@ void TestCutPhoto::CancelTakesTheFrameAway()
 void TestCutPhoto::SearchHandleOpensTheMenu()
 {
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    Drag(*canvas, {20, 10}, {120, 60});
     int menus = 0;
     const auto count = [&](QMenu*) { ++menus; };
     OnNextMenu(count);
-    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(130, 70));
+    Press(*canvas, {130, 70});
     QCOMPARE(menus, 1);
     OnNextMenu([&](QMenu* menu) {
         OnNextMenu(count);
         count(menu);
     });
-    QTest::mousePress(canvas.get(), Qt::RightButton, Qt::NoModifier, QPoint(120, 60));
+    Press(*canvas, {120, 60}, Qt::RightButton);
     QCOMPARE(menus, 3);
 }
 
 // Catches a canvas that goes on after it was deleted while its modal menu was open, or by what was chosen.
-void TestCutPhoto::AMenuMayDeleteTheCanvas_data()
-{
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("byChoice");
-
-    QTest::newRow("while the menu is open") << int(Qt::LeftButton) << false;
-    QTest::newRow("by a choice") << int(Qt::LeftButton) << true;
-    QTest::newRow("by a choice, right button") << int(Qt::RightButton) << true;
-}
-
 void TestCutPhoto::AMenuMayDeleteTheCanvas()
 {
-    QFETCH(int, button);
-    QFETCH(bool, byChoice);
-    QWidget host;
-    host.resize(Canvas);
-    TestSupport::AnnounceCropCanvases();
-    const QPointer<CCutPhotoWithZoom> canvas = new CCutPhotoWithZoom(&host);
-    canvas->resize(Canvas);
-    host.show();
-    canvas->SetSrcImage(PlacePicture(Source));
-    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
-    connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, this, [&] { delete canvas; });
-    OnNextMenu([&](QMenu* menu) {
-        if (byChoice)
-            ChooseInMenu(menu, QStringLiteral("Face Image Search"));
-        else
-            delete canvas;
-    });
-    QTest::mousePress(host.windowHandle(), Qt::MouseButton(button), Qt::NoModifier, QPoint(120, 60));
-    QTRY_VERIFY(canvas.isNull());
-    QTest::mouseRelease(host.windowHandle(), Qt::MouseButton(button), Qt::NoModifier, QPoint(120, 60));
+    for (const auto& [button, byChoice] :
+         {std::pair(Qt::LeftButton, false), std::pair(Qt::LeftButton, true),
+          std::pair(Qt::RightButton, true)}) {
+        QWidget host;
+        host.resize(Canvas);
+        TestSupport::AnnounceCropCanvases();
+        const QPointer<CCutPhotoWithZoom> canvas = new CCutPhotoWithZoom(&host);
+        canvas->resize(Canvas);
+        host.show();
+        canvas->SetSrcImage(PlacePicture(Source));
+        Drag(*canvas, {20, 10}, {120, 60});
+        connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, this, [&] { delete canvas; });
+        OnNextMenu([&, choose = byChoice](QMenu* menu) {
+            if (choose)
+                ChooseInMenu(menu, QStringLiteral("Face Image Search"));
+            else
+                delete canvas;
+        });
+        QTest::mousePress(host.windowHandle(), button, Qt::NoModifier, QPoint(120, 60));
+        QTRY_VERIFY(canvas.isNull());
+        QTest::mouseRelease(host.windowHandle(), button, Qt::NoModifier, QPoint(120, 60));
+    }
 }
 
 // Catches state that is touched after a slot has deleted the canvas.
@@ -540,15 +501,15 @@ void TestCutPhoto::KeysEmptyTheFrame()
 {
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
     QSignalSpy closed(canvas.get(), &CCutPhotoWithZoom::SignCloseWind);
-    Drag(*canvas, QPoint(40, 30), QPoint(120, 80));
+    Drag(*canvas, {40, 30}, {120, 80});
     QTest::keyRelease(canvas.get(), Qt::Key_Return);
     QCOMPARE(Framed(*canvas), QRect(40, 30, 80, 50));
     QTest::keyRelease(canvas.get(), Qt::Key_Escape);
     QCOMPARE(Framed(*canvas), QRect());
     QVERIFY(closed.isEmpty());
     // A frame counts as completed still: a press selects nothing new.
-    QTest::mousePress(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(90, 90));
-    MoveHeld(*canvas, QPoint(140, 130));
+    Press(*canvas, {90, 90});
+    MoveHeld(*canvas, {140, 130});
     QCOMPARE(Framed(*canvas), QRect());
 
     canvas->SetCutRegion(QRect(40, 30, 80, 50));
@@ -565,7 +526,7 @@ void TestCutPhoto::ResizingReadsTheFileAgain()
     const QString path = WriteFile(folder, QStringLiteral("photo.png"), Encoded(PlacePicture(Source), "PNG"));
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
     canvas->SetSrcPhoto(path);
-    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    Drag(*canvas, {20, 10}, {120, 60});
     canvas->resize(Canvas / 2);
     QCOMPARE(canvas->GetCutPhoto().strFilePath, path);
     QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50)); // the same pixels of the picture
@@ -596,17 +557,15 @@ void TestCutPhoto::FilesOfAllKindsAreRead_data()
 
     const QImage scene = PlacePicture(QSize(60, 40));
     const QByteArray png = Encoded(scene, "PNG");
-    QTest::newRow("jpeg") << "a.jpg" << Encoded(scene, "JPG") << QSize(60, 40);
+    const auto encoded = [&](QImage::Format format) { return Encoded(scene.convertToFormat(format), "PNG"); };
+    QTest::newRow("jpeg") << "a.jpg" << Encoded(scene, "JPG") << scene.size();
     QTest::newRow("renamed png") << "a.jpg" << png << QSize(60, 40);
     QTest::newRow("without a suffix") << "a" << Encoded(scene, "BMP") << QSize(60, 40);
     QTest::newRow("1 x 1") << "a.png" << Encoded(PlacePicture(QSize(1, 1)), "PNG") << QSize(1, 1);
     QTest::newRow("thread") << "a.png" << Encoded(PlacePicture(QSize(1, 20000)), "PNG") << QSize(1, 20000);
-    QTest::newRow("16 bits") << "a.png" << Encoded(scene.convertToFormat(QImage::Format_RGBA64), "PNG")
-                             << QSize(60, 40);
-    QTest::newRow("palette") << "a.png" << Encoded(scene.convertToFormat(QImage::Format_Indexed8), "PNG")
-                             << QSize(60, 40);
-    QTest::newRow("two colours") << "a.png" << Encoded(scene.convertToFormat(QImage::Format_Mono), "PNG")
-                                 << QSize(60, 40);
+    QTest::newRow("16 bits") << "a.png" << encoded(QImage::Format_RGBA64) << scene.size();
+    QTest::newRow("palette") << "a.png" << encoded(QImage::Format_Indexed8) << scene.size();
+    QTest::newRow("two colours") << "a.png" << encoded(QImage::Format_Mono) << scene.size();
     QImage clear(QSize(60, 40), QImage::Format_ARGB32);
     clear.fill(Qt::transparent);
     QTest::newRow("alpha") << "a.png" << Encoded(clear, "PNG") << QSize(60, 40);
@@ -646,12 +605,23 @@ void TestCutPhoto::FilesOfAllKindsAreRead()
     KvGUI::KvMessageNotify::Instance()->CloseAll();
 }
 
-// Catches a division by the size of a canvas that has none yet.
+// Catches a division by the size of a canvas that has none yet, and an event that a client's canvas passes on
+// and that is none.
 void TestCutPhoto::CanvasesWithoutASizeWork()
 {
+    struct OpenZoom : CCutPhotoWithZoom
+    {
+        using CCutPhotoWithZoom::mouseMoveEvent;
+    };
+    struct OpenPlain : CCutDetailPhoto
+    {
+        using CCutDetailPhoto::mouseMoveEvent;
+    };
     TestSupport::AnnounceCropCanvases();
-    CCutPhotoWithZoom zoom;
-    CCutDetailPhoto plain;
+    OpenZoom zoom;
+    OpenPlain plain;
+    zoom.mouseMoveEvent(nullptr);
+    plain.mouseMoveEvent(nullptr);
     zoom.resize(0, 0);
     plain.resize(0, 40);
     zoom.SetSrcImage(PlacePicture(Source));
@@ -675,7 +645,7 @@ void TestCutPhoto::InvalidChoicesAreTold()
     QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
     QVERIFY(IsTold(NoArea));
 
-    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    Drag(*canvas, {20, 10}, {120, 60});
     canvas->SetImageMaxCapacity(50000);
     canvas->SetPicMaxSize(199, 300);
     QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
@@ -694,7 +664,7 @@ void TestCutPhoto::InvalidChoicesAreTold()
 void TestCutPhoto::LimitsReachTheCut()
 {
     const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, QPoint(20, 10), QPoint(120, 60));
+    Drag(*canvas, {20, 10}, {120, 60});
     QVERIFY(canvas->IsCutPhotoVaildWithNotify());
     QCOMPARE(canvas->GetCompressRatio(), 100);
 
@@ -711,51 +681,42 @@ void TestCutPhoto::LimitsReachTheCut()
 }
 
 // Catches wrong corners or flags of a drag, and a clamp one pixel off.
-void TestCutPhoto::PlainDragsAreReported_data()
-{
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<QRect>("crop");
-    QTest::addColumn<bool>("addX");
-    QTest::addColumn<bool>("addY");
-
-    const QPoint middle(100, 80);
-    QTest::newRow("right and down") << middle << QPoint(150, 100) << QRect(100, 80, 51, 21) << true << true;
-    QTest::newRow("left and up") << middle << QPoint(50, 60) << QRect(50, 60, 51, 21) << false << false;
-    QTest::newRow("left and down") << middle << QPoint(50, 100) << QRect(50, 80, 51, 21) << false << true;
-    QTest::newRow("right and up") << middle << QPoint(150, 60) << QRect(100, 60, 51, 21) << true << false;
-    QTest::newRow("on the spot") << middle << middle << QRect(100, 80, 1, 1) << true << true;
-    QTest::newRow("straight down") << middle << QPoint(100, 90) << QRect(100, 80, 1, 11) << true << true;
-    QTest::newRow("past the right") << middle << QPoint(500, 80) << QRect(100, 80, 101, 1) << true << true;
-    QTest::newRow("past the bottom") << middle << QPoint(100, 500) << QRect(100, 80, 1, 70) << true << true;
-    QTest::newRow("past the top left") << middle << QPoint(-9, -9) << QRect(0, 0, 101, 81) << false << false;
-}
-
 void TestCutPhoto::PlainDragsAreReported()
 {
-    QFETCH(QPoint, from);
-    QFETCH(QPoint, to);
-    const auto canvas = MakeCanvas<CCutDetailPhoto>();
-    QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
-    Drag(*canvas, from, to);
-    QCOMPARE(updated.size(), 2); // one a step
-    QTEST(updated.last().at(0).toRect(), "crop");
-    QTEST(updated.last().at(1).toBool(), "addX");
-    QTEST(updated.last().at(2).toBool(), "addY");
-    MoveHeld(*canvas, QPoint(3, 3));
-    QCOMPARE(updated.size(), 2);
+    const QPoint middle(100, 80);
+    const auto reported = [&](const QPoint& to) {
+        const auto canvas = MakeCanvas<CCutDetailPhoto>();
+        QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
+        Drag(*canvas, middle, to);
+        MoveHeld(*canvas, {3, 3});
+        return updated.size() == 2 ? QVariantList(updated.last()) : QVariantList(); // one a step
+    };
+    QCOMPARE(reported({150, 100}), (QVariantList{QRect(100, 80, 51, 21), true, true}));
+    QCOMPARE(reported({50, 60}), (QVariantList{QRect(50, 60, 51, 21), false, false}));
+    QCOMPARE(reported({50, 100}), (QVariantList{QRect(50, 80, 51, 21), false, true}));
+    QCOMPARE(reported({150, 60}), (QVariantList{QRect(100, 60, 51, 21), true, false}));
+    QCOMPARE(reported(middle), (QVariantList{QRect(100, 80, 1, 1), true, true}));
+    QCOMPARE(reported({100, 90}), (QVariantList{QRect(100, 80, 1, 11), true, true}));
+    QCOMPARE(reported({500, 80}), (QVariantList{QRect(100, 80, 101, 1), true, true})); // past the edges
+    QCOMPARE(reported({100, 500}), (QVariantList{QRect(100, 80, 1, 70), true, true}));
+    QCOMPARE(reported({-9, -9}), (QVariantList{QRect(0, 0, 101, 81), false, false}));
 }
 
-// Catches a drag from beside the photo that marks something, and a new picture that is not wholly selected.
+// Catches a drag from beside the photo that marks something, a new picture that is not wholly selected, and
+// a cursor that stays when the pointer leaves the photo.
 void TestCutPhoto::PlainDragsBeginOnThePhoto()
 {
     const auto canvas = MakeCanvas<CCutDetailPhoto>();
     canvas->resize(300, 200);
     QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
-    Drag(*canvas, QPoint(200, 50), QPoint(100, 100));
+    MoveHeld(*canvas, {199, 149});
+    QCOMPARE(canvas->cursor().shape(), Qt::CrossCursor);
+    MoveHeld(*canvas, {200, 149});
+    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
+    Drag(*canvas, {200, 50}, {100, 100});
     QVERIFY(updated.isEmpty());
     QCOMPARE(Framed(*canvas), Whole);
-    Drag(*canvas, QPoint(199, 149), QPoint(100, 100));
+    Drag(*canvas, {199, 149}, {100, 100});
     QCOMPARE(Framed(*canvas), QRect(100, 100, 100, 50));
 }
 
@@ -765,9 +726,9 @@ void TestCutPhoto::PlainTipGoesWithTheFirstDrag()
     const auto canvas = MakeCanvas<CCutDetailPhoto>();
     auto* tip = canvas->findChild<QWidget*>(QStringLiteral("CComTipWiget"));
     QVERIFY(tip != nullptr && tip->isVisible());
-    QTest::mouseClick(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+    Click(*canvas, {50, 50});
     QVERIFY(tip->isVisible());
-    Drag(*canvas, QPoint(50, 50), QPoint(90, 90));
+    Drag(*canvas, {50, 50}, {90, 90});
     QVERIFY(!tip->isVisible());
     canvas->SetSrcImage(PlacePicture(Source));
     QVERIFY(!tip->isVisible());
@@ -789,17 +750,6 @@ void TestCutPhoto::APlainSlotMayDeleteTheCanvas()
     QCoreApplication::processEvents();
     QVERIFY(guard.isNull());
     QTest::mouseRelease(host.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(80, 80));
-}
-
-// Catches a cursor that stays when the pointer leaves the photo.
-void TestCutPhoto::PlainCursorTellsThePhoto()
-{
-    const auto canvas = MakeCanvas<CCutDetailPhoto>();
-    canvas->resize(300, 200);
-    MoveHeld(*canvas, QPoint(199, 149));
-    QCOMPARE(canvas->cursor().shape(), Qt::CrossCursor);
-    MoveHeld(*canvas, QPoint(200, 149));
-    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
 }
 
 STRICT_TEST_MAIN(TestCutPhoto)

@@ -67,7 +67,7 @@ public:
     void SetCutRegion(const QRect& rcCut);
 
     /// Size in bytes that the cut may have as a JPEG; 0, the initial value, does not limit it (and no other
-    /// check is made then). A negative limit counts as 0 bytes: no picture fits it.
+    /// check is made then). A negative limit counts as 0.
     void SetImageMaxCapacity(int iMaxCapacity);
 
     /// Resolution in pixels that the cut may have; 0 x 0, the initial value, does not limit it. With only

@@ -121,7 +121,7 @@ CheckedCut CheckCut(
         return {};
 
     QImage image = GetCutImage(info, crop, photo, display);
-    if (limits.iMaxCapacity == 0)
+    if (limits.iMaxCapacity <= 0)
         return {Verdict::Valid, image, std::nullopt};
 
     const bool limited = limits.maximum.width() > 0 || limits.maximum.height() > 0;
@@ -131,9 +131,8 @@ CheckedCut CheckCut(
         image = ChanageImageByAspectRatio(image, limits.maximum);
     }
 
-    const int capacity = qMax(0, limits.iMaxCapacity);
-    const JpegFit fit = FitJpeg(image, capacity);
-    if (fit.bytes > capacity)
+    const JpegFit fit = FitJpeg(image, limits.iMaxCapacity);
+    if (fit.bytes > limits.iMaxCapacity)
         return {Verdict::TooManyBytes, QImage(), fit.ratio};
     return {Verdict::Valid, image, fit.ratio};
 }

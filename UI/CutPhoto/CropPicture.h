@@ -43,7 +43,7 @@ QImage ChanageImageByAspectRatio(const QImage& image, const QSize& maximum);
 /// What a client wants of a cut.
 struct Limits
 {
-    int iMaxCapacity = 0; ///< bytes as a JPEG; 0 for no limit of any kind
+    int iMaxCapacity = 0; ///< bytes as a JPEG; 0 or less for no limit of any kind
     QSize maximum = QSize(0, 0); ///< pixels; 0 x 0 for no limit, one of them 0 for a limit that nothing meets
     bool bKeepAspectRatio = false; ///< halve a cut with too many pixels instead of refusing it
 };

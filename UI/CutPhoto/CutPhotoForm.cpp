@@ -115,14 +115,10 @@ void FollowCutRect(const CutPhotoForm& form, const QRect& rcCut, bool bAddX, boo
     QScrollBar* horizontal = form.scrollArea->horizontalScrollBar();
     QScrollBar* vertical = form.scrollArea->verticalScrollBar();
     // Each bar keeps free what it is thick itself, across: the height and the width stand as they are.
-    if (horizontal != nullptr)
-        horizontal->setValue(FollowedScrollValue(
-            horizontal->value(), bAddX, rcCut.x(), rcCut.width(), form.container->width(),
-            horizontal->height()));
-    if (vertical != nullptr)
-        vertical->setValue(FollowedScrollValue(
-            vertical->value(), bAddY, rcCut.y(), rcCut.height(), form.container->height(),
-            vertical->width()));
+    horizontal->setValue(FollowedScrollValue(
+        horizontal->value(), bAddX, rcCut.x(), rcCut.width(), form.container->width(), horizontal->height()));
+    vertical->setValue(FollowedScrollValue(
+        vertical->value(), bAddY, rcCut.y(), rcCut.height(), form.container->height(), vertical->width()));
 }
 
 } // namespace UICommonMdl
