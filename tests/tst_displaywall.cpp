@@ -1,5 +1,6 @@
 // What only the display wall has; what both families have is tested in tst_walls.
 
+#include "support/ScaleRects.h"
 #include "support/StrictMain.h"
 #include "support/WallMouse.h"
 
@@ -15,24 +16,26 @@
 #include <QTest>
 #include <memory>
 
-using KvGUI::StructScaleRect;
+using Rect = KvGUI::StructScaleRect;
 using Wall = UICommonMdl::KvTVWallDisplayWnd;
 
 namespace {
 
-constexpr StructScaleRect Whole{0.0, 0.0, 1.0, 1.0, true};
-constexpr StructScaleRect LeftUpper{0.1, 0.1, 0.4, 0.5, true}; // 300 x 240 pixels at 100, 60
+constexpr Rect Whole{0.0, 0.0, 1.0, 1.0, true};
+constexpr Rect LeftUpper{0.1, 0.1, 0.4, 0.5, true}; // 300 x 240 pixels at 100, 60
 const QPoint OnVideo(160, 180);
 const QPoint OnTitle(140, 72);
 
 /// One wall of 1000 x 600 pixels, shown, with one screen of 2 x 2 cells over all of it.
 struct Fixture
 {
-    Fixture()
+    explicit Fixture(std::initializer_list<Rect> windows = {})
     {
         wall->resize(1000, 600);
         wall->SetTVWallGridCount(2, 2);
         wall->AddScreen(Whole, QVariant());
+        for (const Rect& rect : windows)
+            wall->OpenWindow(0, rect, QVariant());
         wall->show();
         QVERIFY(QTest::qWaitForWindowExposed(wall.get()));
     }
@@ -71,12 +74,9 @@ private Q_SLOTS:
     void hiddenWallIsLaidOut();
     void windowsAreNumberedWhenOpened();
     void zOrder();
-    void zOrderOfASingleWindow();
     void positioningFrame();
-    void cursorShowsTheEdge();
     void videoMayBeDeletedInADrag();
     void nothingOfTheBaseClassActs();
-    void wheelIsReported();
     void spaceSelects();
     void overlaysAreShown();
     void overlaysAreReused();
@@ -164,22 +164,10 @@ void tst_DisplayWall::zOrder()
     QCOMPARE(f.wall->GetMaxWindowZValue(0), 5);
 }
 
-void tst_DisplayWall::zOrderOfASingleWindow()
-{
-    const Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    auto* foreign = new QWidget(f.Empty()); // the client may put widgets of its own over the screen
-    foreign->show();
-    f.wall->SetWindowZValue(0, 0, -3, false);
-    QCOMPARE(f.Empty()->children().last(), f.Window(0));
-    QCOMPARE(f.wall->GetMaxWindowZValue(0), 0);
-}
-
 // Catches a frame normalised on its way, which loses the direction that the camera shall turn.
 void tst_DisplayWall::positioningFrame()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, {0.1, 0.1, 0.9, 0.9, true}, QVariant());
+    Fixture f({{0.1, 0.1, 0.9, 0.9, true}});
     QSignalSpy spy(f.wall.get(), SIGNAL(SignalWindow3DSite(int, int, int, int, int)));
     f.wall->SetPtzFrameSelectedEnable(true); // no screen is selected: nothing
     f.mouse.Drag({500, 300}, {250, 150});
@@ -192,20 +180,9 @@ void tst_DisplayWall::positioningFrame()
     QCOMPARE(f.Window(0)->geometry(), QRect(100, 60, 800, 480)); // not dragged
 }
 
-void tst_DisplayWall::cursorShowsTheEdge()
-{
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.mouse.Move({102, 180});
-    QCOMPARE(f.Window(0)->cursor().shape(), Qt::SizeHorCursor);
-    f.mouse.Move(OnVideo);
-    QCOMPARE(f.Window(0)->cursor().shape(), Qt::ArrowCursor);
-}
-
 void tst_DisplayWall::videoMayBeDeletedInADrag()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper});
     QWidget* window = f.Window(0);
     f.mouse.Press(OnTitle);
     f.mouse.Move(OnTitle + QPoint(80, 80));
@@ -221,9 +198,7 @@ void tst_DisplayWall::videoMayBeDeletedInADrag()
 // on click and activation, and window states.
 void tst_DisplayWall::nothingOfTheBaseClassActs()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.wall->OpenWindow(0, {0.2, 0.2, 0.5, 0.6, false}, QVariant());
+    Fixture f({LeftUpper, {0.2, 0.2, 0.5, 0.6, false}});
     auto* window = qobject_cast<QMdiSubWindow*>(f.Window(0));
     QVERIFY(window != nullptr);
     window->setFocus();
@@ -245,22 +220,9 @@ void tst_DisplayWall::nothingOfTheBaseClassActs()
     QCOMPARE(f.Empty()->size(), f.Screen()->size()); // no scroll bar takes room
 }
 
-void tst_DisplayWall::wheelIsReported()
-{
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    QSignalSpy wheel(f.wall.get(), SIGNAL(SignalWheelEvent(int, QPoint)));
-    f.mouse.Wheel(OnVideo, -240);
-    f.mouse.Wheel({900, 500}, 0); // sideways
-    QCOMPARE(wheel.count(), 2);
-    QCOMPARE(wheel.at(0), (QVariantList{-240, OnVideo}));
-    QCOMPARE(wheel.at(1), (QVariantList{0, QPoint(900, 500)}));
-}
-
 void tst_DisplayWall::spaceSelects()
 {
-    const Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    const Fixture f({LeftUpper});
     f.wall->SetWindowSelectionMode(Wall::MultiSelection);
     f.Window(0)->setFocus(Qt::TabFocusReason);
     QTest::keyClick(f.Window(0), Qt::Key_Space);
@@ -297,8 +259,7 @@ QList<QLabel*> ShownOverlays(const Fixture& f)
 
 void tst_DisplayWall::overlaysAreShown()
 {
-    const Fixture f;
-    f.wall->OpenWindow(0, Whole, QVariant());
+    const Fixture f({Whole});
     std::vector<KvGUI::StructOSDInfo> infos;
     for (int i = 0; i < 10; ++i) {
         infos.push_back(Overlay("<b>plain</b>", false));
@@ -401,16 +362,13 @@ void tst_DisplayWall::paintedColours()
     const Fixture f;
     f.wall->OpenWindow(0, Whole, QVariant()); // covers the whole screen
     f.wall->SetSelectedScreenIndex(0);
-    QCOMPARE(f.PixelAt({500, 0}), qRgb(219, 221, 225));
+    QCOMPARE(f.PixelAt({500, 0}), qRgb(219, 221, 225)); // and not the selected screen's frame
     f.wall->DeleteWindow(0, 0);
     const QImage painted = f.wall->grab().toImage();
     int dashes = 0; // on the line between the two columns of cells
     for (int y = 10; y < 290; ++y)
         dashes += painted.pixel(500, y) != qRgb(33, 34, 37);
     QVERIFY(dashes > 70 && dashes < 210);
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.wall->SetSelectedWindowIndexs(0, 0, true);
-    QCOMPARE(f.PixelAt({250, 299}), f.wall->WindowSelectedFrameColor().rgb()); // over the video
 }
 
 STRICT_TEST_MAIN(tst_DisplayWall)

@@ -1,6 +1,7 @@
 // What only the wall drawn by a graphics view has; what it shares with the other family is in tst_walls.cpp.
 
 #include "support/AtEvent.h"
+#include "support/ScaleRects.h"
 #include "support/StrictMain.h"
 #include "support/WallMouse.h"
 
@@ -17,20 +18,17 @@
 #include <QTest>
 #include <QToolTip>
 #include <QWindow>
-#include <cmath>
 #include <limits>
 
-using KvGUI::StructScaleRect;
+using Rect = KvGUI::StructScaleRect;
 using Wall = UICommonMdl::KvTVWallNormalWnd;
-
-Q_DECLARE_METATYPE(KvGUI::StructScaleRect)
 
 namespace {
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
-constexpr StructScaleRect Whole{0.0, 0.0, 1.0, 1.0, true};
-constexpr StructScaleRect LeftUpper{0.1, 0.2, 0.4, 0.6, true}; // 300 x 240 pixels at 100, 120
-constexpr StructScaleRect RightUpper{0.5, 0.2, 0.8, 0.6, true}; // the same at 500, 120
+constexpr Rect Whole{0.0, 0.0, 1.0, 1.0, true};
+constexpr Rect LeftUpper{0.1, 0.2, 0.4, 0.6, true}; // 300 x 240 pixels at 100, 120
+constexpr Rect RightUpper{0.5, 0.2, 0.8, 0.6, true}; // the same at 500, 120
 const QPoint OnLeftTitle(150, 132);
 const QPoint OnLeftVideo(160, 240);
 const QPoint OnRightVideo(560, 240);
@@ -39,19 +37,21 @@ const QPoint OnHeading(16, 18); // the middle of a screen's icon
 /// A wall of 1000 x 600 pixels with one screen of 4 x 2 cells over all of it.
 struct Fixture
 {
-    Fixture()
+    explicit Fixture(std::initializer_list<Rect> windows = {})
     {
         client.resize(1000, 600);
         wall->resize(1000, 600);
         wall->SetTVWallGridCount(2, 4);
         wall->AddScreen(Whole, QIcon(), QString(), QVariant());
+        for (const Rect& rect : windows)
+            wall->OpenWindow(0, rect, QVariant());
         client.show();
         QVERIFY(QTest::qWaitForWindowExposed(&client));
     }
 
-    StructScaleRect Scale(int window) const
+    Rect Scale(int window) const
     {
-        StructScaleRect rect;
+        Rect rect;
         wall->GetWindowScale(0, window, rect);
         return rect;
     }
@@ -90,14 +90,6 @@ struct Fixture
     TestSupport::WallMouse mouse{wall};
 };
 
-void CompareRects(const StructScaleRect& a, const StructScaleRect& b)
-{
-    QVERIFY(std::abs(a.dLeft - b.dLeft) <= 1e-9);
-    QVERIFY(std::abs(a.dTop - b.dTop) <= 1e-9);
-    QVERIFY(std::abs(a.dRight - b.dRight) <= 1e-9);
-    QVERIFY(std::abs(a.dBottom - b.dBottom) <= 1e-9);
-}
-
 QIcon GreenIcon()
 {
     QPixmap picture(16, 16);
@@ -126,7 +118,6 @@ private Q_SLOTS:
     void zDecidesThePaintingOrder_data();
     void zDecidesThePaintingOrder();
     void headings();
-    void titlesAreToldWhereTheyAreCovered_data();
     void titlesAreToldWhereTheyAreCovered();
     void boundScreensEndDragsOnCells();
     void videoWidgets();
@@ -164,9 +155,7 @@ void tst_NormalWall::zDecidesThePaintingOrder()
 {
     QFETCH(double, first);
     QFETCH(double, second);
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper, LeftUpper});
     f.Fill(0, Qt::red);
     f.Fill(1, Qt::blue);
     f.Picture();
@@ -199,24 +188,18 @@ void tst_NormalWall::headings()
     QVERIFY(f.Picture().pixelColor(OnHeading + QPoint(0, 30)) != QColor(Qt::green));
 }
 
-void tst_NormalWall::titlesAreToldWhereTheyAreCovered_data()
-{
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("told");
-    QTest::newRow("plain") << QStringLiteral("Gate 7 & 8 < 9") << QStringLiteral("Gate 7 & 8 < 9");
-    QTest::newRow("marked up") << QStringLiteral("<b>7</b>") << QStringLiteral("&lt;b&gt;7&lt;/b&gt;");
-}
-
 // Catches a title that cannot be read once windows fill the screen, and one taken for rich text.
 void tst_NormalWall::titlesAreToldWhereTheyAreCovered()
 {
-    QFETCH(QString, title);
-    Fixture f;
-    f.wall->SetScreenTitle(0, title);
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    QHelpEvent help(QEvent::ToolTip, OnLeftVideo, f.wall->mapToGlobal(OnLeftVideo));
-    QApplication::sendEvent(f.Viewport(), &help);
-    QTEST(QToolTip::text(), "told");
+    Fixture f({LeftUpper});
+    const auto told = [&f](const char* title) {
+        f.wall->SetScreenTitle(0, QString::fromLatin1(title));
+        QHelpEvent help(QEvent::ToolTip, OnLeftVideo, f.wall->mapToGlobal(OnLeftVideo));
+        QApplication::sendEvent(f.Viewport(), &help);
+        return QToolTip::text();
+    };
+    QCOMPARE(told("Gate 7 & 8 < 9"), QStringLiteral("Gate 7 & 8 < 9"));
+    QCOMPARE(told("<b>7</b>"), QStringLiteral("&lt;b&gt;7&lt;/b&gt;"));
     QToolTip::hideText();
 }
 
@@ -230,29 +213,28 @@ void tst_NormalWall::boundScreensEndDragsOnCells()
     f.wall->SetScreenFreeMode(7, false);
     QVERIFY(!f.wall->IsScreenFreeMode(0) && f.wall->IsScreenFreeMode(7));
     f.wall->OpenWindow(0, LeftUpper, QVariant());
-    CompareRects(f.Scale(0), LeftUpper);
+    QCOMPARE(f.Scale(0), LeftUpper);
     f.mouse.Press(OnLeftTitle);
     f.mouse.Move(OnLeftTitle + QPoint(200, 0));
     QCOMPARE(f.Video(0), QRect(251, 26, 496, 576)); // of the window at 250, 0 with 500 x 600 pixels
-    CompareRects(f.Scale(0), LeftUpper);
+    QCOMPARE(f.Scale(0), LeftUpper);
     f.mouse.Release(OnLeftTitle + QPoint(200, 0));
-    CompareRects(f.Scale(0), {0.25, 0.0, 0.75, 1.0, true});
+    QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.75, 1.0, true}));
     f.mouse.Drag({749, 300}, {600, 300}); // its right edge
-    CompareRects(f.Scale(0), {0.25, 0.0, 0.75, 1.0, true});
+    QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.75, 1.0, true}));
     f.mouse.Drag({749, 300}, {480, 300});
-    CompareRects(f.Scale(0), {0.25, 0.0, 0.5, 1.0, true});
+    QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.5, 1.0, true}));
     f.wall->SetWindowScale(0, 0, LeftUpper);
-    CompareRects(f.Scale(0), LeftUpper);
+    QCOMPARE(f.Scale(0), LeftUpper);
     f.wall->SetScreenFreeMode(0, true);
     f.mouse.Drag(OnLeftTitle, OnLeftTitle + QPoint(50, 0));
-    CompareRects(f.Scale(0), {0.15, 0.2, 0.45, 0.6, true});
+    QCOMPARE(f.Scale(0), (Rect{0.15, 0.2, 0.45, 0.6, true}));
 }
 
 // Catches settings that are lost because they came before the widget, and a widget that does not follow.
 void tst_NormalWall::videoWidgets()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper});
     const QImage without = f.Picture();
     QVERIFY(f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("Connecting")));
     const QImage painted = f.Picture();
@@ -294,8 +276,7 @@ void tst_NormalWall::videosOfTheClient()
 // Catches a proxy that is used after its widget.
 void tst_NormalWall::videoWidgetsDeletedByTheClient()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper});
     f.Fill(0, Qt::red);
     QCOMPARE(f.Picture().pixelColor(OnLeftVideo), QColor(Qt::red));
     delete f.wall->GetWindowWidget(0, 0);
@@ -314,8 +295,7 @@ void tst_NormalWall::videoWidgetsDeletedByTheClient()
 // Catches an overview in the way of an operator who sees the whole wall, and a way back that is none.
 void tst_NormalWall::overviewOfAZoomedWall()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper});
     const QRect unzoomed = f.Video(0);
     QVERIFY(f.Overview() == nullptr);
     QSignalSpy wheel(f.wall, &Wall::SignalWheelEvent);
@@ -341,8 +321,7 @@ void tst_NormalWall::overviewOfAZoomedWall()
 // Catches a zoom that a resize forgets, an overview left where the corner was, and a division by no size.
 void tst_NormalWall::zoomSurvivesResizing()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper});
     f.mouse.Wheel({0, 0}, 120);
     f.wall->resize(500, 300);
     QCOMPARE(f.Video(0), QRect(76, 116, 221, 156)); // of 750 x 450 pixels
@@ -416,8 +395,7 @@ void tst_NormalWall::audioButtons()
 // Catches a window that is closed by a press alone, or after the operator has thought better of it.
 void tst_NormalWall::buttonsNeedPressAndReleaseInside()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper});
     const QPoint onClose(400 - 2 - 10, 132);
     const QSignalSpy close(f.wall, &Wall::SignalWindowCloseBtnClicked);
     f.mouse.Press(onClose);
@@ -432,7 +410,7 @@ void tst_NormalWall::buttonsNeedPressAndReleaseInside()
     f.mouse.Move(onClose);
     f.mouse.Release(onClose);
     QCOMPARE(close.count(), 1);
-    CompareRects(f.Scale(0), LeftUpper);
+    QCOMPARE(f.Scale(0), LeftUpper);
 }
 
 // Catches buttons that fill the whole title bar, so that nothing is left to take hold of.
@@ -441,15 +419,13 @@ void tst_NormalWall::narrowWindowsCanBeMoved()
     Fixture f;
     f.wall->OpenWindow(0, {0.1, 0.2, 0.16, 0.6, true}, QVariant()); // 60 pixels
     f.mouse.Drag({108, 132}, {208, 132});
-    CompareRects(f.Scale(0), {0.2, 0.2, 0.26, 0.6, true});
+    QCOMPARE(f.Scale(0), (Rect{0.2, 0.2, 0.26, 0.6, true}));
 }
 
 // Catches a cursor that promises what the mouse does not do.
 void tst_NormalWall::cursors()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.wall->OpenWindow(0, {0.5, 0.2, 0.8, 0.6, false}, QVariant());
+    Fixture f({LeftUpper, {0.5, 0.2, 0.8, 0.6, false}});
     const auto shapeAt = [&f](const QPoint& pos) {
         f.mouse.Move(pos);
         return f.Viewport()->cursor().shape();
@@ -507,9 +483,7 @@ void tst_NormalWall::keyboard()
 // Catches a drag that is offered once to the wall as a whole, and drops that go to the wrong window.
 void tst_NormalWall::dragsFromElsewhere()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.wall->OpenWindow(0, RightUpper, QVariant());
+    Fixture f({LeftUpper, RightUpper});
     QVector<QPair<int, QEvent::Type>> seen; // -1: the screen
     const int takes = 1; // window that takes the drop
     connect(f.wall, &Wall::SignalWindowEvent, f.wall, [&](int, int window, QEvent* event) {
@@ -552,8 +526,7 @@ void tst_NormalWall::dragsFromElsewhere()
 // Catches colours and pictures that are read once and kept.
 void tst_NormalWall::styleReachesThePainting()
 {
-    Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
+    Fixture f({LeftUpper});
     f.wall->SetSelectedScreenIndex(0);
     f.wall->SetSelectedWindowIndexs(0, 0, true);
     f.wall->OpenWindow(0, RightUpper, QVariant());

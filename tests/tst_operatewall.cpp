@@ -13,15 +13,16 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <cmath>
+#include <functional>
 #include <memory>
 
-using KvGUI::StructScaleRect;
+using Rect = KvGUI::StructScaleRect;
 using TestSupport::WallMouse;
 using Wall = UICommonMdl::KvTVWallOperateWnd;
 
 namespace {
 
-constexpr StructScaleRect Whole{0.0, 0.0, 1.0, 1.0, true};
+constexpr Rect Whole{0.0, 0.0, 1.0, 1.0, true};
 constexpr int NoMode = 7;
 
 /// The child of a class that the library keeps to itself; null when there is none.
@@ -71,15 +72,12 @@ private Q_SLOTS:
     void withoutAWall();
     void familiesDiffer();
     void familiesAreSwitched();
-    void wallFillsTheWidget_data();
     void wallFillsTheWidget();
     void switchedByWhatGoes();
-    void deletedByWhatGoes_data();
     void deletedByWhatGoes();
 
     void wheelZooms();
     void wheelAtTheLimits();
-    void cursorKeepsItsPoint();
     void zoomSurvivesAResize();
     void nothingWithoutASize();
 
@@ -87,7 +85,6 @@ private Q_SLOTS:
     void overviewCollapses();
     void overviewByKeys();
     void overviewFollowsTheSkin();
-    void miniatureIsLive_data();
     void miniatureIsLive();
 };
 
@@ -201,36 +198,28 @@ void tst_OperateWall::familiesAreSwitched()
     QCOMPARE(DisplayWall(wall)->geometry(), QRect(0, 0, 800, 600));
 }
 
-void tst_OperateWall::wallFillsTheWidget_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("shownFirst");
-    QTest::newRow("normal, then shown") << int(Wall::NormalMode) << false;
-    QTest::newRow("normal in a shown widget") << int(Wall::NormalMode) << true;
-    QTest::newRow("display, then shown") << int(Wall::DisplayMode) << false;
-    QTest::newRow("display in a shown widget") << int(Wall::DisplayMode) << true;
-}
-
 // Catches a wall that keeps the size in which widgets are born, or waits for a resize that never comes.
 void tst_OperateWall::wallFillsTheWidget()
 {
-    QFETCH(int, mode);
-    QFETCH(bool, shownFirst);
-    QWidget window;
-    window.resize(703, 411);
-    auto* wall = new Wall;
-    if (!shownFirst)
-        wall->SetShowMode(mode);
-    auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(wall);
-    layout->setContentsMargins(0, 0, 0, 0);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    if (shownFirst)
-        wall->SetShowMode(mode);
-    QCOMPARE(wall->GetTVWallRect(), QRect(0, 0, 703, 411));
-    window.resize(333, 777);
-    QTRY_COMPARE(wall->GetTVWallRect(), QRect(0, 0, 333, 777));
+    for (const int variant : {0, 1, 2, 3}) {
+        const int mode = variant / 2 == 0 ? Wall::NormalMode : Wall::DisplayMode;
+        const bool shownFirst = variant % 2 == 0;
+        QWidget window;
+        window.resize(703, 411);
+        auto* wall = new Wall;
+        if (!shownFirst)
+            wall->SetShowMode(mode);
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(wall);
+        layout->setContentsMargins(0, 0, 0, 0);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        if (shownFirst)
+            wall->SetShowMode(mode);
+        QCOMPARE(wall->GetTVWallRect(), QRect(0, 0, 703, 411));
+        window.resize(333, 777);
+        QTRY_COMPARE(wall->GetTVWallRect(), QRect(0, 0, 333, 777));
+    }
 }
 
 // Catches a mode set by what the client kept in a wall, as that wall goes, undone by the rest of the switch.
@@ -249,34 +238,26 @@ void tst_OperateWall::switchedByWhatGoes()
     QCOMPARE(wall.GetScreenCount(), 0);
 }
 
-void tst_OperateWall::deletedByWhatGoes_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::newRow("from normal") << int(Wall::NormalMode) << int(Wall::DisplayMode);
-    QTest::newRow("from display") << int(Wall::DisplayMode) << int(Wall::NormalMode);
-}
-
 // Catches a wall that goes by its mode and, deleted with the operate wall meanwhile, goes twice.
 void tst_OperateWall::deletedByWhatGoes()
 {
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QWidget client;
-    client.resize(800, 600);
-    const QPointer<Wall> wall = new Wall(&client);
-    wall->resize(800, 600);
-    wall->SetShowMode(from);
-    wall->SetTVWallGridCount(1, 1);
-    wall->AddScreen(Whole, QVariant());
-    wall->OpenWindow(0, Whole, QVariant());
-    client.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&client));
-    auto* player = new QWidget(wall->GetWindowWidget(0, 0));
-    connect(player, &QObject::destroyed, &client, [&wall] { delete wall; });
-    wall->SetShowMode(to);
-    QVERIFY(!wall);
-    QVERIFY(client.findChildren<QWidget*>().isEmpty());
+    for (const int mode : {Wall::NormalMode, Wall::DisplayMode}) {
+        QWidget client;
+        client.resize(800, 600);
+        const QPointer<Wall> wall = new Wall(&client);
+        wall->resize(800, 600);
+        wall->SetShowMode(mode);
+        wall->SetTVWallGridCount(1, 1);
+        wall->AddScreen(Whole, QVariant());
+        wall->OpenWindow(0, Whole, QVariant());
+        client.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&client));
+        auto* player = new QWidget(wall->GetWindowWidget(0, 0));
+        connect(player, &QObject::destroyed, &client, [&wall] { delete wall; });
+        wall->SetShowMode(Wall::NormalMode + Wall::DisplayMode - mode);
+        QVERIFY(!wall);
+        QVERIFY(client.findChildren<QWidget*>().isEmpty());
+    }
 }
 
 void tst_OperateWall::wheelZooms()
@@ -305,26 +286,6 @@ void tst_OperateWall::wheelAtTheLimits()
     for (int i = 0; i < 10; ++i)
         z.mouse.Wheel({0, 0}, -120);
     QCOMPARE(z.Geometry(), QRect(0, 0, 800, 600));
-}
-
-// Catches a wall that jumps away from the cursor, also where the cursor is over a window and where rounding
-// could add up.
-void tst_OperateWall::cursorKeepsItsPoint()
-{
-    Zoomable z;
-    z.wall.OpenWindow(0, {0.1, 0.1, 0.9, 0.9, true}, QVariant());
-    const QPoint cursor(533, 207);
-    const auto under = [&](const QPoint& at) {
-        const QPointF point = at - z.Geometry().topLeft();
-        return QPointF(point.x() / z.Geometry().width(), point.y() / z.Geometry().height());
-    };
-    for (const int angle : {120, 120, 120, -120, 120, 120, -120, -120}) {
-        const QPointF before = under(cursor);
-        z.mouse.Wheel(cursor, angle);
-        const QPointF way = under(cursor) - before;
-        QVERIFY(std::abs(way.x()) * z.Geometry().width() <= 2.0);
-        QVERIFY(std::abs(way.y()) * z.Geometry().height() <= 2.0);
-    }
 }
 
 void tst_OperateWall::zoomSurvivesAResize()
@@ -453,66 +414,46 @@ void tst_OperateWall::overviewFollowsTheSkin()
     QVERIFY(z.Eye()->grab().toImage() == black);
 }
 
-void tst_OperateWall::miniatureIsLive_data()
-{
-    QTest::addColumn<int>("change");
-    const char* changes[]
-        = {"opened",          "deleted",         "moved by call", "moved by hand", "maximised", "selected",
-           "screen selected", "screens removed", "screen added",  "raised",        "zoomed"};
-    for (int i = 0; i < 11; ++i)
-        QTest::newRow(changes[i]) << i;
-}
-
 // Catches a miniature that shows what the wall was, whoever changed it.
 void tst_OperateWall::miniatureIsLive()
 {
-    QFETCH(int, change);
-    Zoomable z;
-    const StructScaleRect fixed{0.1, 0.1, 0.4, 0.5, false}; // whose changes are not reported
-    z.wall.OpenWindow(0, fixed, QVariant());
-    z.wall.OpenWindow(0, {0.3, 0.3, 0.6, 0.6, true}, QVariant());
-    z.wall.SetWindowZValue(0, 0, 1, true);
-    z.wall.SetWindowZValue(0, 1, 2, true);
-    z.wall.AddScreen({0.6, 0.6, 0.9, 0.9}, QVariant());
-    const QImage before = z.Eye()->grab().toImage();
-    QWidget* const video = z.wall.GetWindowWidget(0, 0);
-    switch (change) {
-    case 0:
-        z.wall.OpenWindow(0, {0.7, 0.1, 0.9, 0.4, true}, QVariant());
-        break;
-    case 1:
-        z.wall.DeleteWindow(0, 0);
-        break;
-    case 2:
-        z.wall.SetWindowScale(0, 0, {0.0, 0.6, 0.3, 1.0, false});
-        break;
-    case 3:
-        z.mouse.Drag({260, 192}, {400, 300});
-        break;
-    case 4:
-        QTest::mouseClick(
-            video->parentWidget()->findChild<QWidget*>(QStringLiteral("pWindowMaxBtn")), Qt::LeftButton);
-        break;
-    case 5:
-        z.wall.SetSelectedWindowIndexs(0, 1, true);
-        break;
-    case 6:
-        z.mouse.Click({600, 390});
-        break;
-    case 7:
-        z.wall.DeleteAllScreen();
-        break;
-    case 8:
-        z.wall.AddScreen({0.5, 0.5, 1.0, 1.0}, QVariant());
-        break;
-    case 9:
-        z.wall.SetWindowZValue(0, 0, 9, true);
-        break;
-    default:
-        z.mouse.Wheel({100, 100}, 120);
-        break;
+    const QVector<QPair<const char*, std::function<void(Zoomable&)>>> changes = {
+        {"opened",
+         [](Zoomable& z) {
+             z.wall.OpenWindow(0, {0.7, 0.1, 0.9, 0.4, true}, QVariant());
+         }},
+        {"deleted", [](Zoomable& z) { z.wall.DeleteWindow(0, 0); }},
+        {"moved by call",
+         [](Zoomable& z) {
+             z.wall.SetWindowScale(0, 0, {0.0, 0.6, 0.3, 1.0, false});
+         }},
+        {"moved by hand", [](Zoomable& z) { z.mouse.Drag(QPoint(260, 192), QPoint(400, 300)); }},
+        {"maximised",
+         [](Zoomable& z) {
+             const QWidget* window = z.wall.GetWindowWidget(0, 0)->parentWidget();
+             QTest::mouseClick(window->findChild<QWidget*>(QStringLiteral("pWindowMaxBtn")), Qt::LeftButton);
+         }},
+        {"selected", [](Zoomable& z) { z.wall.SetSelectedWindowIndexs(0, 1, true); }},
+        {"screen selected", [](Zoomable& z) { z.mouse.Click(QPoint(600, 390)); }},
+        {"screens removed", [](Zoomable& z) { z.wall.DeleteAllScreen(); }},
+        {"screen added",
+         [](Zoomable& z) {
+             z.wall.AddScreen({0.5, 0.5, 1.0, 1.0}, QVariant());
+         }},
+        {"raised", [](Zoomable& z) { z.wall.SetWindowZValue(0, 0, 9, true); }},
+        {"zoomed", [](Zoomable& z) { z.mouse.Wheel(QPoint(100, 100), 120); }},
+    };
+    for (const auto& change : changes) {
+        Zoomable z;
+        z.wall.OpenWindow(0, {0.1, 0.1, 0.4, 0.5, false}, QVariant()); // whose changes are not reported
+        z.wall.OpenWindow(0, {0.3, 0.3, 0.6, 0.6, true}, QVariant());
+        z.wall.SetWindowZValue(0, 0, 1, true);
+        z.wall.SetWindowZValue(0, 1, 2, true);
+        z.wall.AddScreen({0.6, 0.6, 0.9, 0.9}, QVariant());
+        const QImage before = z.Eye()->grab().toImage();
+        change.second(z);
+        QVERIFY2(z.Eye()->grab().toImage() != before, change.first);
     }
-    QVERIFY(z.Eye()->grab().toImage() != before);
 }
 
 STRICT_TEST_MAIN(tst_OperateWall)
