@@ -1,4 +1,5 @@
 #include "support/StrictMain.h"
+#include "support/Text.h"
 
 #include <Common/CommonFun.h>
 #include <Common/QCommon.h>
@@ -10,16 +11,17 @@
 #include <memory>
 #include <new>
 
+using namespace TestSupport;
 using UICommonMdl::CommonFun;
 
 namespace {
 
-const QString kApp = QStringLiteral("Test %2");
-const QString kDay = QStringLiteral("Day");
-const QString kNight = QStringLiteral("Night");
-const QString kForms = QStringLiteral("forms");
-const QString kShared = QStringLiteral("Shared.css");
-const QString kSample = QStringLiteral("SampleWidget.css");
+const QString kApp = "Test %2"_s;
+const QString kDay = "Day"_s;
+const QString kNight = "Night"_s;
+const QString kForms = "forms"_s;
+const QString kShared = "Shared.css"_s;
+const QString kSample = "SampleWidget.css"_s;
 
 QString SheetOf(const char* file)
 {
@@ -103,9 +105,7 @@ private slots:
     void SheetsOnDiskBelongToNoSkin();
     void SheetsAreReadOnce();
     void WholeFilesAreReadAsLatin1();
-    void CurrentPath_data();
     void CurrentPath();
-    void JoinedPaths_data();
     void JoinedPaths();
 };
 
@@ -119,39 +119,37 @@ void TestSkin::init()
 /// Catches path parts in the wrong order.
 void TestSkin::SkinPaths()
 {
-    const QString file = QStringLiteral("a.png");
-    const QString module = QStringLiteral("UICommonModule");
-    KvGUI::SetAppName(QStringLiteral("App"));
-    KvGUI::SetSkinVersion(QStringLiteral("Skin2"));
-    const QString path = QStringLiteral(":/App/UICommonModule/Skin2/UICommonModule/a.png");
+    const QString file = "a.png"_s;
+    const QString module = "UICommonModule"_s;
+    KvGUI::SetAppName("App"_s);
+    KvGUI::SetSkinVersion("Skin2"_s);
+    const QString path = ":/App/UICommonModule/Skin2/UICommonModule/a.png"_s;
     QCOMPARE(CommonFun::GetSkinPath(module, file), path);
     QCOMPARE(XCM::GetSkinPath(module, file), path);
-    KvGUI::KvDir::SetCurrentPath(QStringLiteral("/opt/client"));
-    QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx(file)), QStringLiteral("/opt/client/Skin/a.png"));
+    KvGUI::KvDir::SetCurrentPath("/opt/client"_s);
+    QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx(file)), "/opt/client/Skin/a.png"_s);
 }
 
 /// Catches the first part of a module path in place of the whole, or the other way round.
 void TestSkin::SkinPathsOfNestedModules()
 {
-    const QString nested = QStringLiteral("Client/Maps");
-    const QString file = QStringLiteral("a.png");
-    QCOMPARE(
-        CommonFun::GetSkinPath(nested, file), QStringLiteral(":/Test %2/Client/Maps/Day/Client/Maps/a.png"));
-    QCOMPARE(XCM::GetSkinPath(nested, file), QStringLiteral(":/Test %2/Client/Day/Client/Maps/a.png"));
-    QCOMPARE(XCM::GetSkinPath(QStringLiteral("/a"), file), QStringLiteral(":/Test %2//Day//a/a.png"));
+    const QString nested = "Client/Maps"_s;
+    const QString file = "a.png"_s;
+    QCOMPARE(CommonFun::GetSkinPath(nested, file), ":/Test %2/Client/Maps/Day/Client/Maps/a.png"_s);
+    QCOMPARE(XCM::GetSkinPath(nested, file), ":/Test %2/Client/Day/Client/Maps/a.png"_s);
+    QCOMPARE(XCM::GetSkinPath("/a"_s, file), ":/Test %2//Day//a/a.png"_s);
 }
 
 /// Catches place marks filled one after the other: a name with "%1" would be filled as well.
 void TestSkin::NamesAreNoPlaceMarks()
 {
-    KvGUI::SetAppName(QStringLiteral("%5%1"));
-    KvGUI::SetSkinVersion(QStringLiteral("100%3"));
-    const QString path = QStringLiteral(":/%5%1/M%4/100%3/M%4/%2.png");
-    QCOMPARE(CommonFun::GetSkinPath(QStringLiteral("M%4"), QStringLiteral("%2.png")), path);
-    QCOMPARE(XCM::GetSkinPath(QStringLiteral("M%4"), QStringLiteral("%2.png")), path);
-    KvGUI::KvDir::SetCurrentPath(QStringLiteral("/opt/%2"));
-    QCOMPARE(
-        QDir::cleanPath(CommonFun::GetSkinPathEx(QStringLiteral("%1"))), QStringLiteral("/opt/%2/Skin/%1"));
+    KvGUI::SetAppName("%5%1"_s);
+    KvGUI::SetSkinVersion("100%3"_s);
+    const QString path = ":/%5%1/M%4/100%3/M%4/%2.png"_s;
+    QCOMPARE(CommonFun::GetSkinPath("M%4"_s, "%2.png"_s), path);
+    QCOMPARE(XCM::GetSkinPath("M%4"_s, "%2.png"_s), path);
+    KvGUI::KvDir::SetCurrentPath("/opt/%2"_s);
+    QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx("%1"_s)), "/opt/%2/Skin/%1"_s);
 }
 
 /// Catches a namespace left in the file name, a sheet read as Latin-1, and a wrong folder.
@@ -166,7 +164,7 @@ void TestSkin::SheetIsNamedByTheClass()
 void TestSkin::ModuleNamesTheFolder()
 {
     QWidget widget;
-    CommonFun::SetStyleSheet(&widget, kForms, kSample, QStringLiteral("Client/Maps"));
+    CommonFun::SetStyleSheet(&widget, kForms, kSample, "Client/Maps"_s);
     QCOMPARE(widget.styleSheet(), SheetOf("client.css"));
 }
 
@@ -174,11 +172,11 @@ void TestSkin::ModuleNamesTheFolder()
 void TestSkin::MissingSheetLeavesTheStyle()
 {
     QWidget widget;
-    const QString own = QStringLiteral("color: blue");
+    const QString own = "color: blue"_s;
     widget.setStyleSheet(own);
     CommonFun::SetStyleSheet(&widget, kForms, QString(), QString());
-    CommonFun::SetStyleSheet(&widget, kForms, QStringLiteral("Empty.css"), QString());
-    CommonFun::SetStyleSheet(&widget, QStringLiteral("nowhere"), kSample, QString());
+    CommonFun::SetStyleSheet(&widget, kForms, "Empty.css"_s, QString());
+    CommonFun::SetStyleSheet(&widget, "nowhere"_s, kSample, QString());
     CommonFun::SetStyleSheetEx(&widget, kSample, kForms);
     QCOMPARE(widget.styleSheet(), own);
 }
@@ -208,10 +206,10 @@ void TestSkin::SkinChangeRestyles()
 void TestSkin::SheetMissingInTheNewSkinLeavesTheOld()
 {
     QWidget widget;
-    CommonFun::SetStyleSheet(&widget, kForms, QStringLiteral("OnlyDay.css"), QString());
+    CommonFun::SetStyleSheet(&widget, kForms, "OnlyDay.css"_s, QString());
     KvGUI::SetSkinVersion(kNight);
     QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-    KvGUI::SetAppName(QStringLiteral("Another application"));
+    KvGUI::SetAppName("Another application"_s);
     QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
     widget.setStyleSheet(QString());
     KvGUI::SetSkinVersion(kDay);
@@ -307,25 +305,25 @@ void TestSkin::RestylingSurvivesDeletions()
 void TestSkin::SheetsOnDisk()
 {
     QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("Skin/forms")));
-    Write(folder.filePath(QStringLiteral("Skin/forms/disk.css")), "QWidget { color: \"\xE6\x97\xA5\" }");
+    QVERIFY(QDir(folder.path()).mkpath("Skin/forms"_s));
+    Write(folder.filePath("Skin/forms/disk.css"_s), "QWidget { color: \"\xE6\x97\xA5\" }");
     KvGUI::KvDir::SetCurrentPath(folder.path());
     QWidget widget;
-    CommonFun::SetStyleSheetEx(&widget, QStringLiteral("disk.css"), kForms);
-    QCOMPARE(widget.styleSheet(), QStringLiteral("QWidget { color: \"\u65E5\" }"));
+    CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
+    QCOMPARE(widget.styleSheet(), "QWidget { color: \"\u65E5\" }"_s);
 }
 
 /// Catches a skin change that takes a client's own sheet away.
 void TestSkin::SheetsOnDiskBelongToNoSkin()
 {
     QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("Skin")));
-    Write(folder.filePath(QStringLiteral("Skin/own.css")), "QWidget { color: blue }");
+    QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
+    Write(folder.filePath("Skin/own.css"_s), "QWidget { color: blue }");
     KvGUI::KvDir::SetCurrentPath(folder.path());
     SampleWidget widget;
-    CommonFun::SetStyleSheetEx(&widget, QStringLiteral("own.css"), QString());
+    CommonFun::SetStyleSheetEx(&widget, "own.css"_s, QString());
     KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget.styleSheet(), QStringLiteral("QWidget { color: blue }"));
+    QCOMPARE(widget.styleSheet(), "QWidget { color: blue }"_s);
     CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
     KvGUI::SetSkinVersion(kDay);
     QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
@@ -335,87 +333,70 @@ void TestSkin::SheetsOnDiskBelongToNoSkin()
 void TestSkin::SheetsAreReadOnce()
 {
     QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("Skin")));
+    QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
     KvGUI::KvDir::SetCurrentPath(folder.path());
-    const QString path = folder.filePath(QStringLiteral("Skin/a.css"));
+    const QString path = folder.filePath("Skin/a.css"_s);
     const auto styled = [] {
         QWidget widget;
-        CommonFun::SetStyleSheetEx(&widget, QStringLiteral("a.css"), QString());
+        CommonFun::SetStyleSheetEx(&widget, "a.css"_s, QString());
         return widget.styleSheet();
     };
     QCOMPARE(styled(), QString());
     Write(path, "QWidget { margin: 1px }");
-    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
+    QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
     Write(path, "QWidget { margin: 2px }");
-    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 1px }"));
+    QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
     KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 2px }"));
+    QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
     QFile::remove(path);
-    QCOMPARE(styled(), QStringLiteral("QWidget { margin: 2px }"));
+    QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
 }
 
 /// Catches bytes that are decoded as UTF-8 or end at a zero, and an output that a failure clears.
 void TestSkin::WholeFilesAreReadAsLatin1()
 {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.css"));
+    const QString path = folder.filePath("a.css"_s);
     Write(path, QByteArray("\xE6\x97\xA5\0z", 5));
     for (const auto load : {&CommonFun::loadStyleSheet, &XCM::loadStyleSheet}) {
-        QString out = QStringLiteral("before");
-        QVERIFY(!load(folder.filePath(QStringLiteral("b.css")), out));
+        QString out = "before"_s;
+        QVERIFY(!load(folder.filePath("b.css"_s), out));
         QVERIFY(!load(QString(), out));
-        QCOMPARE(out, QStringLiteral("before"));
+        QCOMPARE(out, "before"_s);
         QVERIFY(load(path, out));
         QCOMPARE(out, QString::fromLatin1("\xE6\x97\xA5\0z", 5));
     }
 }
 
-void TestSkin::CurrentPath_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("result");
-    const QString result = QStringLiteral("/opt/client/");
-    QTest::newRow("no slash") << QStringLiteral("/opt/client") << result;
-    QTest::newRow("one slash") << QStringLiteral("/opt/client/") << result;
-    QTest::newRow("many slashes") << QStringLiteral("/opt//client///") << result;
-    QTest::newRow("root") << QStringLiteral("/") << QStringLiteral("/");
-    QTest::newRow("relative") << QStringLiteral("x/..") << QDir::currentPath() + QLatin1Char('/');
-    QTest::newRow("back to the program's")
-        << QString() << QCoreApplication::applicationDirPath() + QLatin1Char('/');
-}
-
 /// Catches a path without its "/" or with two: files are named by appending to it.
 void TestSkin::CurrentPath()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, result);
-    KvGUI::KvDir::SetCurrentPath(path);
-    QCOMPARE(KvGUI::KvDir::GetCurrentPath(), result);
-}
-
-void TestSkin::JoinedPaths_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("file");
-    const QString folder = QStringLiteral(SKIN_SOURCES);
-    QTest::newRow("none") << folder << QStringLiteral("night.css");
-    QTest::newRow("behind the folder") << folder + QStringLiteral("//") << QStringLiteral("night.css");
-    QTest::newRow("before the file") << folder << QStringLiteral("/night.css");
-    QTest::newRow("both") << folder + QLatin1Char('/') << QStringLiteral("/night.css");
-    QTest::newRow("no folder") << QString() << folder + QStringLiteral("/night.css");
+    const auto set = [](const QString& path) {
+        KvGUI::KvDir::SetCurrentPath(path);
+        return KvGUI::KvDir::GetCurrentPath();
+    };
+    for (const char* path : {"/opt/client", "/opt/client/", "/opt//client///"})
+        QCOMPARE(set(QLatin1String(path)), "/opt/client/"_s);
+    QCOMPARE(set("/"_s), "/"_s);
+    QCOMPARE(set("x/.."_s), QDir::currentPath() + QLatin1Char('/'));
+    QCOMPARE(set(QString()), QCoreApplication::applicationDirPath() + QLatin1Char('/'));
 }
 
 /// Catches joins with no or two slashes (a resource is not found then), and a missing file that cannot be
 /// told from an empty one.
 void TestSkin::JoinedPaths()
 {
-    QFETCH(QString, folder);
-    QFETCH(QString, file);
-    QCOMPARE(KvGUI::KvFile::ReadAll(file, folder), QByteArray("QWidget { color: #d0e0f0; }\n"));
-    QVERIFY(KvGUI::KvFile::ReadAll(QStringLiteral("none.css"), folder).isNull());
-    QVERIFY(KvGUI::KvFile::ReadAll(QString(), folder).isNull());
-    const QByteArray empty
-        = KvGUI::KvFile::ReadAll(QStringLiteral("empty.css"), QStringLiteral(SKIN_SOURCES));
+    const auto read = KvGUI::KvFile::ReadAll;
+    const QByteArray night("QWidget { color: #d0e0f0; }\n");
+    const QString folder = QStringLiteral(SKIN_SOURCES);
+    QCOMPARE(read("night.css"_s, folder), night);
+    QCOMPARE(read("night.css"_s, folder + "//"_s), night);
+    QCOMPARE(read("/night.css"_s, folder), night);
+    QCOMPARE(read("/night.css"_s, folder + "/"_s), night);
+    QCOMPARE(read(folder + "/night.css"_s, QString()), night);
+    QVERIFY(read("none.css"_s, folder).isNull());
+    QVERIFY(read(QString(), folder).isNull());
+    const QByteArray empty = read("empty.css"_s, folder);
     QVERIFY(empty.isEmpty() && !empty.isNull());
 }
 
