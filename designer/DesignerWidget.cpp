@@ -5,6 +5,12 @@
 
 namespace UIComponentsDesigner {
 
+namespace {
+
+constexpr int IconSize = 22; // pixels, as in Designer's widget box
+
+} // namespace
+
 DesignerWidget::DesignerWidget(const WidgetEntry& entry, QObject* parent)
     : QObject(parent)
     , m_entry(entry)
@@ -20,9 +26,15 @@ QString DesignerWidget::whatsThis() const { return toolTip(); }
 
 QString DesignerWidget::includeFile() const { return QString::fromLatin1(m_entry.header); }
 
+/// As pixmaps: Designer's widget box passes over icons without sizes, and an SVG picture has none.
 QIcon DesignerWidget::icon() const
 {
-    return QIcon(QStringLiteral(":/UIComponentsDesigner/icons/%1.svg").arg(QLatin1String(m_entry.icon)));
+    const QIcon drawing(
+        QStringLiteral(":/UIComponentsDesigner/icons/%1.svg").arg(QLatin1String(m_entry.icon)));
+    QIcon icon;
+    for (const int size : {IconSize, 2 * IconSize})
+        icon.addPixmap(drawing.pixmap(size, size));
+    return icon;
 }
 
 bool DesignerWidget::isContainer() const { return false; }
@@ -32,12 +44,13 @@ QWidget* DesignerWidget::createWidget(QWidget* parent) { return m_entry.create(p
 QString DesignerWidget::domXml() const
 {
     const QString className = name();
-    QString objectName = className.section(QStringLiteral("::"), -1);
+    const QString displayName = className.section(QStringLiteral("::"), -1);
+    QString objectName = displayName;
     objectName[0] = objectName.at(0).toLower();
     return QStringLiteral(
-               R"(<ui language="c++"><widget class="%1" name="%2"><property name="geometry"><rect><x>0</x><y>0</y>)"
-               R"(<width>%3</width><height>%4</height></rect></property></widget></ui>)")
-        .arg(className, objectName)
+               R"(<ui language="c++" displayname="%1"><widget class="%2" name="%3"><property name="geometry">)"
+               R"(<rect><x>0</x><y>0</y><width>%4</width><height>%5</height></rect></property></widget></ui>)")
+        .arg(displayName, className, objectName)
         .arg(m_entry.size.width())
         .arg(m_entry.size.height());
 }

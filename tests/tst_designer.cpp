@@ -96,8 +96,8 @@ private Q_SLOTS:
             const auto widget = Load(form, error);
             QVERIFY2(widget, qPrintable(listedWidget->name() + error));
             QVERIFY2(!widget->size().isEmpty(), qPrintable(listedWidget->name()));
-            QVERIFY2(
-                !listedWidget->icon().pixmap(22, 22).toImage().isNull(), qPrintable(listedWidget->name()));
+            // The widget box shows its own sign in place of an icon without sizes.
+            QVERIFY2(!listedWidget->icon().availableSizes().isEmpty(), qPrintable(listedWidget->name()));
             QVERIFY2(
                 QFile::exists(QStringLiteral(SOURCE_TREE "/") + listedWidget->includeFile()),
                 qPrintable(listedWidget->includeFile()));
