@@ -22,6 +22,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Shared library with its skins, for programs that use it.")
 # The skins' icons need Qt's SVG icon engine, which is loaded at run time and linked by nobody.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt5svg5")
+# "OK" and "Cancel" in other languages than English.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qttranslations5-l10n")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libuicomponents-dev)
