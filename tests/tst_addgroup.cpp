@@ -1,5 +1,6 @@
 // The dialog for a new group's name, typed by keys, under different codecs of the process.
 
+#include "support/Deletion.h"
 #include "support/LocaleCodec.h"
 #include "support/StrictMain.h"
 
@@ -11,9 +12,8 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QTest>
-#include <QTimer>
 #include <QToolTip>
-#include <memory>
+#include <functional>
 
 using namespace UICommonMdl;
 using TestSupport::LocaleCodec;
@@ -64,13 +64,15 @@ constexpr int SaveAndNew = QDialogButtonBox::Open;
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(WmAddGroup*)>)
+
 class TestAddGroup : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { TestSupport::SpoilFreedMemory(); }
     void SaveReportsAndCloses();
-    void EnterSaves();
     void SaveAndNewStays();
     void SaveWaitsForTheClient();
     void BlankNames_data();
@@ -82,35 +84,29 @@ private slots:
     void Characters_data();
     void Characters();
     void OwnExpression();
-    void CancelClears_data();
     void CancelClears();
-    void DeletedByItsSlot_data();
-    void DeletedByItsSlot();
-    void RunsModally();
+    void DeletedByASlot_data();
+    void DeletedByASlot();
 };
 
-/// Catches signals in the wrong order, names with blanks around them, and a dialog that stays.
+/// Catches signals in the wrong order, names with blanks around them, and a dialog that stays or needs the
+/// mouse.
 void TestAddGroup::SaveReportsAndCloses()
 {
-    Dialog form;
-    form.dialog->SetParentGroupID(42);
-    form.Type(QStringLiteral("  North gate "));
-    form.Click(Save);
-    const QStringList expected{QStringLiteral("name North gate"), QStringLiteral("name below 42 North gate")};
-    QCOMPARE(form.reports, expected);
-    QVERIFY(!form.dialog->isVisible());
-    QCOMPARE(form.Edit()->text(), QString());
-}
-
-/// Catches a dialog that cannot be used by the keyboard alone.
-void TestAddGroup::EnterSaves()
-{
-    Dialog form;
-    QVERIFY(form.Edit()->hasFocus());
-    form.Type(QStringLiteral("North gate"));
-    QTest::keyClick(form.Edit(), Qt::Key_Return);
-    QCOMPARE(form.reports.first(), QStringLiteral("name North gate"));
-    QVERIFY(!form.dialog->isVisible());
+    for (const bool byMouse : {true, false}) {
+        Dialog form;
+        QVERIFY(form.Edit()->hasFocus());
+        form.dialog->SetParentGroupID(42);
+        form.Type(QStringLiteral("  North gate "));
+        if (byMouse)
+            form.Click(Save);
+        else
+            QTest::keyClick(form.Edit(), Qt::Key_Return);
+        QCOMPARE(
+            form.reports.join(QLatin1Char(',')), QStringLiteral("name North gate,name below 42 North gate"));
+        QVERIFY(!form.dialog->isVisible());
+        QCOMPARE(form.Edit()->text(), QString());
+    }
 }
 
 /// Catches the other button's signals, and a text in the way of the next name.
@@ -290,69 +286,59 @@ void TestAddGroup::OwnExpression()
     }
 }
 
-void TestAddGroup::CancelClears_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char* way : {"button", "escape", "title bar"})
-        QTest::newRow(way) << QString::fromLatin1(way);
-}
-
 /// Catches a name that waits in the edit for the next opening, and a cancelled one that is reported.
 void TestAddGroup::CancelClears()
 {
-    QFETCH(QString, way);
     Dialog form;
-    form.Type(QStringLiteral("A"));
-    if (way == QLatin1String("button"))
-        form.Click(Cancel);
-    else if (way == QLatin1String("escape"))
-        QTest::keyClick(form.Edit(), Qt::Key_Escape);
-    else
-        QTest::mouseClick(
-            form.dialog->findChild<QWidget*>(QStringLiteral("kvDialogCloseButton")), Qt::LeftButton);
-    QVERIFY(!form.dialog->isVisible());
-    QCOMPARE(form.Edit()->text(), QString());
-    QVERIFY(form.reports.isEmpty());
+    const QVector<std::function<void()>> ways{
+        [&] { form.Click(Cancel); }, [&] { QTest::keyClick(form.Edit(), Qt::Key_Escape); },
+        [&] {
+            QTest::mouseClick(
+                form.dialog->findChild<QWidget*>(QStringLiteral("kvDialogCloseButton")), Qt::LeftButton);
+        }};
+    for (const auto& cancel : ways) {
+        form.dialog->show();
+        form.Type(QStringLiteral("A"));
+        cancel();
+        QVERIFY(!form.dialog->isVisible());
+        QCOMPARE(form.Edit()->text(), QString());
+        QVERIFY(form.reports.isEmpty());
+    }
 }
 
-void TestAddGroup::DeletedByItsSlot_data()
+void TestAddGroup::DeletedByASlot_data()
 {
+    using Connect = std::function<void(WmAddGroup*)>;
+    QTest::addColumn<Connect>("connectTo");
     QTest::addColumn<int>("button");
     QTest::addColumn<bool>("closes");
-    QTest::newRow("save") << Save << true;
-    QTest::newRow("save and wait") << Save << false;
-    QTest::newRow("save and new") << SaveAndNew << true;
+    const auto row = [](const char* name, int button, bool closes, auto signal) {
+        QTest::newRow(name) << Connect([signal](WmAddGroup* dialog) {
+            TestSupport::DeleteAt(dialog, signal);
+        }) << button << closes;
+    };
+    const auto saved = QOverload<const QString&>::of(&WmAddGroup::SignalNewName);
+    row("save", Save, true, saved);
+    row("save and wait", Save, false, saved);
+    row("save, second signal", Save, true, QOverload<qint64, const QString&>::of(&WmAddGroup::SignalNewName));
+    row("save and new", SaveAndNew, true, &WmAddGroup::SignalSaveAndNew);
+    row("closed by save", Save, true, &QDialog::rejected);
+    row("closed by save, over", Save, true, &QDialog::finished);
+    row("cancelled", Cancel, true, &QDialog::rejected);
 }
 
-/// Catches a touch of the dialog after a client's slot has deleted it, which the sanitizer reports.
-void TestAddGroup::DeletedByItsSlot()
+/// Catches a touch of the dialog after a client's slot has deleted it.
+void TestAddGroup::DeletedByASlot()
 {
+    QFETCH(std::function<void(WmAddGroup*)>, connectTo);
     QFETCH(int, button);
     QFETCH(bool, closes);
-    auto* dialog = new WmAddGroup;
-    const QPointer<WmAddGroup> living(dialog);
-    dialog->SetIsCloseAfterSave(closes);
-    dialog->findChild<QLineEdit*>(QStringLiteral("edtName"))->setText(QStringLiteral("A"));
-    connect(dialog, QOverload<const QString&>::of(&WmAddGroup::SignalNewName), this, [&] { delete dialog; });
-    connect(dialog, &WmAddGroup::SignalSaveAndNew, this, [&] { delete dialog; });
-    if (button == Save)
-        dialog->OnBtnSave();
-    else
-        dialog->OnBtnSaveAndNew();
-    QVERIFY(!living);
-}
-
-/// Catches a dialog whose event loop does not end with a save.
-void TestAddGroup::RunsModally()
-{
     Dialog form;
-    form.dialog->hide();
-    QTimer::singleShot(0, form.dialog, [&] {
-        form.Type(QStringLiteral("A"));
-        form.Click(Save);
-    });
-    form.dialog->exec();
-    QCOMPARE(form.reports.size(), 2);
+    form.dialog->SetIsCloseAfterSave(closes);
+    form.Type(QStringLiteral("A"));
+    connectTo(form.dialog);
+    form.Click(button);
+    QVERIFY(!form.dialog);
 }
 
 STRICT_TEST_MAIN(TestAddGroup)

@@ -1,3 +1,4 @@
+#include "support/Deletion.h"
 #include "support/StrictMain.h"
 
 #include <Common/CommonFun.h>
@@ -79,6 +80,18 @@ void Notify(const char* text, QWidget* parent)
     KvMessageNotify::Instance()->AddTextNotification(QString::fromLatin1(text), parent);
 }
 
+/// A window in front. Under a layout, as windows of clients are.
+struct Window : public QWidget
+{
+    explicit Window(const QRect& place = {})
+    {
+        setLayout(new QVBoxLayout);
+        if (place.isValid())
+            setGeometry(place);
+        Show(*this);
+    }
+};
+
 class NotingDialog : public KvCustomDialog
 {
 public:
@@ -88,27 +101,33 @@ public:
     void OnCloseBtmClicked() override { ++m_closes; }
 };
 
+using DialogAct = std::function<void(KvCustomDialog&, QWidget*)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(DialogAct)
+Q_DECLARE_METATYPE(Qt::MouseButton)
+Q_DECLARE_METATYPE(std::function<void(KvCustomDialog*)>)
+Q_DECLARE_METATYPE(std::function<QWidget*()>)
 
 class TestBasicUi : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { TestSupport::SpoilFreedMemory(); }
     void init();
     void cleanup();
+    void TitleBarDragsTheDialog_data();
     void TitleBarDragsTheDialog();
-    void DragEndsWithALostRelease();
     void LongTitlesAreShortened();
-    void DialogFlags();
-    void ClosingRejects_data();
     void ClosingRejects();
+    void EndsAsQtsDialogsDo();
     void ClosingCanBeOverridden();
     void Buttons_data();
     void Buttons();
-    void ButtonsOnlyReport();
-    void EnterPressesOk();
-    void EnterSkipsAHiddenOk();
+    void ButtonsReport_data();
+    void ButtonsReport();
     void SlotDeletesTheDialog_data();
     void SlotDeletesTheDialog();
     void ParentDestroyedInsideTheLoop();
@@ -131,7 +150,6 @@ private slots:
     void MessageClosesInsideAModalLoop();
     void MessageIsAnAlert();
     void RepeatedMessages();
-    void ManyMessages();
     void MessageOfAMenuBelongsToItsWindow();
     void MessagesOfNoWindow();
     void MessagesGoWithTheirWindow();
@@ -145,44 +163,34 @@ void TestBasicUi::init()
 
 void TestBasicUi::cleanup() { KvMessageNotify::Instance()->CloseAll(); }
 
-/// Catches a frameless dialog that cannot be moved, one that jumps when it is grabbed, and one that
-/// follows any button.
-void TestBasicUi::TitleBarDragsTheDialog()
+void TestBasicUi::TitleBarDragsTheDialog_data()
 {
-    KvDialog dialog;
-    dialog.resize(300, 200);
-    dialog.move(100, 100);
-    Show(dialog);
-    QWidget* bar = Part(dialog, "kvDialogTitleBar");
-    const QPoint grip(60, 10);
-    const auto drag = [&](Qt::MouseButton button, const QPoint& by) {
-        QTest::mousePress(bar, button, Qt::NoModifier, grip);
-        QMouseEvent move(
-            QEvent::MouseMove, grip + by, bar->mapToGlobal(grip + by), Qt::NoButton, button, Qt::NoModifier);
-        QApplication::sendEvent(bar, &move);
-        QTest::mouseRelease(bar, button, Qt::NoModifier, grip);
-    };
-    drag(Qt::LeftButton, QPoint(35, -20));
-    QCOMPARE(dialog.pos(), QPoint(135, 80));
-    drag(Qt::RightButton, QPoint(10, 10));
-    QCOMPARE(dialog.pos(), QPoint(135, 80));
+    QTest::addColumn<Qt::MouseButton>("pressed");
+    QTest::addColumn<Qt::MouseButton>("held");
+    QTest::addColumn<QPoint>("moved");
+    QTest::newRow("drag") << Qt::LeftButton << Qt::LeftButton << QPoint(35, -20);
+    QTest::newRow("other button") << Qt::RightButton << Qt::RightButton << QPoint(0, 0);
+    QTest::newRow("the release went to another window") << Qt::LeftButton << Qt::NoButton << QPoint(0, 0);
+    QTest::newRow("then another button") << Qt::LeftButton << Qt::RightButton << QPoint(0, 0);
 }
 
-/// Catches a dialog that sticks to the pointer after the release went to another window.
-void TestBasicUi::DragEndsWithALostRelease()
+/// Catches a frameless dialog that cannot be moved, jumps when it is grabbed, follows any button, or sticks
+/// to the pointer.
+void TestBasicUi::TitleBarDragsTheDialog()
 {
+    QFETCH(Qt::MouseButton, pressed);
+    QFETCH(Qt::MouseButton, held);
     KvDialog dialog;
-    dialog.resize(300, 200);
+    dialog.setGeometry(100, 100, 300, 200);
     Show(dialog);
     const QPoint before = dialog.pos();
     QWidget* bar = Part(dialog, "kvDialogTitleBar");
-    QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, QPoint(60, 10));
-    for (const Qt::MouseButton held : {Qt::NoButton, Qt::RightButton}) {
-        const QPoint to = bar->mapToGlobal(QPoint(90, 40));
-        QMouseEvent move(QEvent::MouseMove, QPoint(90, 40), to, Qt::NoButton, held, Qt::NoModifier);
-        QApplication::sendEvent(bar, &move);
-        QCOMPARE(dialog.pos(), before);
-    }
+    const QPoint grip(60, 10);
+    const QPoint to = grip + QPoint(35, -20);
+    QTest::mousePress(bar, pressed, Qt::NoModifier, grip);
+    QMouseEvent move(QEvent::MouseMove, to, bar->mapToGlobal(to), Qt::NoButton, held, Qt::NoModifier);
+    QApplication::sendEvent(bar, &move);
+    QTEST(dialog.pos() - before, "moved");
 }
 
 /// Catches a long title that makes the dialog wider, and one that stays short when there is room again.
@@ -201,37 +209,52 @@ void TestBasicUi::LongTitlesAreShortened()
     QTRY_COMPARE(label->text(), title);
 }
 
-/// Catches a close button that is always or never there.
-void TestBasicUi::DialogFlags()
-{
-    const KvDialog without(nullptr, KvDialog::NoFlag);
-    QVERIFY(Part(without, "kvDialogCloseButton") == nullptr);
-    const KvDialog with(nullptr, 1);
-    QVERIFY(Part(with, "kvDialogCloseButton") != nullptr);
-}
-
-void TestBasicUi::ClosingRejects_data()
-{
-    QTest::addColumn<bool>("byKey");
-    QTest::newRow("close button") << false;
-    QTest::newRow("Escape") << true;
-}
-
 /// Catches a dialog that its modal loop does not end, and one that ends as accepted.
 void TestBasicUi::ClosingRejects()
 {
-    QFETCH(bool, byKey);
-    KvDialog dialog;
-    QSignalSpy rejected(&dialog, &QDialog::rejected);
-    const int result = ExecAnd(&dialog, [&] {
-        if (byKey)
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-        else
-            ClickOn(Part(dialog, "kvDialogCloseButton"));
-    });
-    QCOMPARE(result, int(QDialog::Rejected));
-    QCOMPARE(rejected.count(), 1);
-    QVERIFY(!dialog.isVisible());
+    for (const bool byKey : {false, true}) {
+        KvDialog dialog;
+        QSignalSpy rejected(&dialog, &QDialog::rejected);
+        const int result = ExecAnd(&dialog, [&] {
+            if (byKey)
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            else
+                ClickOn(Part(dialog, "kvDialogCloseButton"));
+        });
+        QCOMPARE(result, int(QDialog::Rejected));
+        QCOMPARE(rejected.count(), 1);
+        QVERIFY(!dialog.isVisible());
+    }
+}
+
+/// Catches signals that Qt's dialogs have not, in another order, or with the result of before.
+void TestBasicUi::EndsAsQtsDialogsDo()
+{
+    QDialog plain;
+    KvDialog own;
+    QStringList logs;
+    for (QDialog* dialog : {&plain, static_cast<QDialog*>(&own)}) {
+        QString log;
+        const auto note = [&log, dialog](const char* what) {
+            log += QStringLiteral("%1 %2 %3;")
+                       .arg(QLatin1String(what))
+                       .arg(dialog->result())
+                       .arg(dialog->isVisible());
+        };
+        connect(dialog, &QDialog::accepted, dialog, [&] { note("accepted"); });
+        connect(dialog, &QDialog::rejected, dialog, [&] { note("rejected"); });
+        connect(dialog, &QDialog::finished, dialog, [&] { note("finished"); });
+        for (const int result : {int(QDialog::Accepted), int(QDialog::Rejected), 7}) {
+            dialog->show();
+            dialog->done(result);
+        }
+        dialog->open();
+        dialog->close();
+        note(dialog->isModal() ? "modal" : "not modal");
+        logs << log;
+        dialog->disconnect();
+    }
+    QCOMPARE(logs.at(1), logs.at(0));
 }
 
 /// Catches a way to close the dialog that goes past a subclass's own handler.
@@ -264,7 +287,8 @@ void TestBasicUi::Buttons()
 {
     QFETCH(int, flags);
     QFETCH(QList<int>, there);
-    KvCustomDialog dialog(nullptr, flags);
+    KvCustomDialog dialog(nullptr, flags, KvDialog::NoFlag);
+    QVERIFY(Part(dialog, "kvDialogCloseButton") == nullptr);
     QCOMPARE(dialog.findChildren<KvPushButton*>().size(), there.size());
     for (const int value : {kOk, kCancel, kOpen, int(QDialogButtonBox::Help), 0, -1}) {
         KvPushButton* button = dialog.GetButton(value);
@@ -277,93 +301,93 @@ void TestBasicUi::Buttons()
     }
 }
 
-/// Catches swapped signals, and buttons that close the dialog before the client has looked at its input.
-void TestBasicUi::ButtonsOnlyReport()
+void TestBasicUi::ButtonsReport_data()
 {
+    QTest::addColumn<DialogAct>("act");
+    QTest::addColumn<QString>("log");
+    const auto row = [](const char* name, const char* log, const DialogAct& act) {
+        QTest::newRow(name) << act << QString::fromLatin1(log);
+    };
+    row("clicks", "other ok cancel ", [](KvCustomDialog& dialog, QWidget*) {
+        for (const int button : {kOpen, kOk, kCancel})
+            QTest::mouseClick(dialog.GetButton(button), Qt::LeftButton);
+    });
+    row("Return in an input", "ok ",
+        [](KvCustomDialog&, QWidget* input) { QTest::keyClick(input, Qt::Key_Return); });
+    row("Enter on another button", "cancel ", [](KvCustomDialog& dialog, QWidget*) {
+        dialog.GetButton(kCancel)->setFocus();
+        QTest::keyClick(dialog.GetButton(kCancel), Qt::Key_Enter);
+    });
+    row("Return, OK disabled", "", [](KvCustomDialog& dialog, QWidget* input) {
+        dialog.SetButtonEnabled(kOk, false);
+        QTest::keyClick(input, Qt::Key_Return);
+    });
+    row("Return, OK hidden and shown again", "ok ", [](KvCustomDialog& dialog, QWidget* input) {
+        dialog.SetButtonVisible(kOk, false);
+        QTest::keyClick(input, Qt::Key_Return);
+        dialog.SetButtonVisible(kOk, true);
+        QTest::keyClick(input, Qt::Key_Return);
+    });
+}
+
+/// Catches swapped signals, buttons that close the dialog before the client has looked at its input, and an
+/// Enter key that presses nothing, the first button of the row, or one that cannot be seen or pressed.
+void TestBasicUi::ButtonsReport()
+{
+    QFETCH(DialogAct, act);
     KvCustomDialog dialog(nullptr, kOk | kCancel | kOpen);
-    QStringList log;
-    connect(&dialog, &KvCustomDialog::SignalOkButtonClicked, this, [&] { log << QStringLiteral("ok"); });
-    connect(
-        &dialog, &KvCustomDialog::SignalCancelButtonClicked, this, [&] { log << QStringLiteral("cancel"); });
-    connect(
-        &dialog, &KvCustomDialog::SignalOtherButtonClicked, this, [&] { log << QStringLiteral("other"); });
+    auto* input = new QLineEdit(dialog.GetCentralWidget());
+    QString log;
+    connect(&dialog, &KvCustomDialog::SignalOkButtonClicked, [&] { log += QStringLiteral("ok "); });
+    connect(&dialog, &KvCustomDialog::SignalCancelButtonClicked, [&] { log += QStringLiteral("cancel "); });
+    connect(&dialog, &KvCustomDialog::SignalOtherButtonClicked, [&] { log += QStringLiteral("other "); });
     Show(dialog);
-    for (const int button : {kOpen, kOk, kCancel})
-        QTest::mouseClick(dialog.GetButton(button), Qt::LeftButton);
-    QCOMPARE(log, QStringList({QStringLiteral("other"), QStringLiteral("ok"), QStringLiteral("cancel")}));
+    input->setFocus();
+    act(dialog, input);
+    QTEST(log, "log");
     QVERIFY(dialog.isVisible());
-}
-
-/// Catches an Enter key that presses nothing, or the first button of the row instead of OK.
-void TestBasicUi::EnterPressesOk()
-{
-    KvCustomDialog dialog(nullptr, kOk | kCancel | kOpen);
-    auto* edit = new QLineEdit(dialog.GetCentralWidget());
-    QSignalSpy ok(&dialog, &KvCustomDialog::SignalOkButtonClicked);
-    QSignalSpy cancel(&dialog, &KvCustomDialog::SignalCancelButtonClicked);
-    Show(dialog);
-    edit->setFocus();
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCOMPARE(ok.count(), 1);
-    dialog.GetButton(kCancel)->setFocus();
-    QTest::keyClick(dialog.GetButton(kCancel), Qt::Key_Enter);
-    QCOMPARE(ok.count(), 1);
-    QCOMPARE(cancel.count(), 1);
-}
-
-/// Catches an Enter key that presses a button which the operator cannot see or press.
-void TestBasicUi::EnterSkipsAHiddenOk()
-{
-    KvCustomDialog dialog;
-    auto* edit = new QLineEdit(dialog.GetCentralWidget());
-    QSignalSpy ok(&dialog, &KvCustomDialog::SignalOkButtonClicked);
-    Show(dialog);
-    edit->setFocus();
-    dialog.SetButtonEnabled(kOk, false);
-    QTest::keyClick(edit, Qt::Key_Return);
-    dialog.SetButtonEnabled(kOk, true);
-    dialog.SetButtonVisible(kOk, false);
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCOMPARE(ok.count(), 0);
-    dialog.SetButtonVisible(kOk, true);
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCOMPARE(ok.count(), 1);
 }
 
 void TestBasicUi::SlotDeletesTheDialog_data()
 {
-    QTest::addColumn<QString>("what");
-    for (const char* what : {"OK clicked", "Enter", "closed", "Escape"})
-        QTest::newRow(what) << QString::fromLatin1(what);
+    using Act = std::function<void(KvCustomDialog*)>;
+    QTest::addColumn<Act>("connectTo");
+    QTest::addColumn<Act>("act");
+    const auto row = [](const char* name, auto signal, const Act& act) {
+        QTest::newRow(name) << Act([signal](KvCustomDialog* dialog) {
+            TestSupport::DeleteAt(dialog, signal);
+        }) << act;
+    };
+    // The release of a key would go to a window that is gone.
+    const auto press = [](Qt::Key key) {
+        return [key](KvCustomDialog* dialog) { QTest::keyPress(dialog->windowHandle(), key); };
+    };
+    const auto close = [](KvCustomDialog* dialog) { ClickOn(Part(*dialog, "kvDialogCloseButton")); };
+    row("OK clicked", &KvCustomDialog::SignalOkButtonClicked,
+        [](KvCustomDialog* dialog) { ClickOn(dialog->GetButton(kOk)); });
+    row("Enter", &KvCustomDialog::SignalOkButtonClicked, press(Qt::Key_Return));
+    row("rejected by Escape", &QDialog::rejected, press(Qt::Key_Escape));
+    row("rejected by the close button", &QDialog::rejected, close);
+    row("rejected by the desktop", &QDialog::rejected, [](KvCustomDialog* dialog) { dialog->close(); });
+    row("finished", &QDialog::finished, close);
+    row("accepted", &QDialog::accepted, [](KvCustomDialog* dialog) { dialog->accept(); });
 }
 
 /// Catches any use of the dialog after the signal in whose slot the client deleted it.
 void TestBasicUi::SlotDeletesTheDialog()
 {
-    QFETCH(QString, what);
-    auto* dialog = new KvCustomDialog;
-    const QPointer<KvCustomDialog> guard(dialog);
-    connect(dialog, &KvCustomDialog::SignalOkButtonClicked, this, [=] { delete dialog; });
-    connect(dialog, &QDialog::rejected, this, [=] { delete dialog; });
-    const int result = ExecAnd(dialog, [=] {
-        if (what == QLatin1String("OK clicked"))
-            ClickOn(dialog->GetButton(kOk));
-        else if (what == QLatin1String("closed"))
-            ClickOn(Part(*dialog, "kvDialogCloseButton"));
-        else
-            QTest::keyPress( // its release would go to a window that is gone
-                dialog->windowHandle(), what == QLatin1String("Enter") ? Qt::Key_Return : Qt::Key_Escape);
-    });
-    QCOMPARE(result, int(QDialog::Rejected));
-    QVERIFY(guard.isNull());
+    QFETCH(std::function<void(KvCustomDialog*)>, connectTo);
+    QFETCH(std::function<void(KvCustomDialog*)>, act);
+    const QPointer<KvCustomDialog> dialog(new KvCustomDialog);
+    connectTo(dialog);
+    QCOMPARE(ExecAnd(dialog, [=] { act(dialog); }), int(QDialog::Rejected)); // what exec() says then
+    QVERIFY(dialog.isNull());
 }
 
 /// Catches a modal loop that touches its dialog after the parent took it along.
 void TestBasicUi::ParentDestroyedInsideTheLoop()
 {
-    auto* parent = new QWidget;
-    parent->setLayout(new QVBoxLayout);
-    Show(*parent);
+    auto* parent = new Window;
     auto* outer = new KvCustomDialog(parent);
     auto* inner = new KvCustomDialog(outer);
     int innerResult = -1;
@@ -414,32 +438,23 @@ void TestBasicUi::OwnSheetLeavesTheFrame()
 
 void TestBasicUi::WidgetsFollowTheSkin_data()
 {
-    QTest::addColumn<QString>("kind");
-    for (const char* kind : {"button", "check box", "menu", "bar", "bars", "dialog", "message"})
-        QTest::newRow(kind) << QString::fromLatin1(kind);
+    using Make = std::function<QWidget*()>;
+    QTest::addColumn<Make>("make");
+    const auto row = [](const char* name, const Make& make) { QTest::newRow(name) << make; };
+    row("button", [] { return new KvPushButton(QStringLiteral("OK")); });
+    row("check box", [] { return new KvCheckBox(QStringLiteral("Keep")); });
+    row("menu", [] { return new KvMenu(QStringLiteral("Menu")); });
+    row("bar", [] { return new KvHorScrollBar; });
+    row("bars", [] { return new KvVerScrollBar; });
+    row("dialog", [] { return new KvDialog; });
+    row("message", [] { return new NotificationPopup(QStringLiteral("Saved"), 1000, nullptr); });
 }
 
 /// Catches a widget that has no look, the same in both skins, or keeps the old one.
 void TestBasicUi::WidgetsFollowTheSkin()
 {
-    QFETCH(QString, kind);
-    QWidget host;
-    host.setLayout(new QVBoxLayout);
-    std::unique_ptr<QWidget> widget;
-    if (kind == QLatin1String("button"))
-        widget = std::make_unique<KvPushButton>(QStringLiteral("OK"));
-    else if (kind == QLatin1String("check box"))
-        widget = std::make_unique<KvCheckBox>(QStringLiteral("Keep"));
-    else if (kind == QLatin1String("menu"))
-        widget = std::make_unique<KvMenu>(QStringLiteral("Menu"));
-    else if (kind == QLatin1String("bar"))
-        widget = std::make_unique<KvHorScrollBar>();
-    else if (kind == QLatin1String("bars"))
-        widget = std::make_unique<KvVerScrollBar>();
-    else if (kind == QLatin1String("dialog"))
-        widget = std::make_unique<KvDialog>();
-    else
-        widget = std::make_unique<NotificationPopup>(QStringLiteral("Saved"), 1000, nullptr);
+    QFETCH(std::function<QWidget*()>, make);
+    const std::unique_ptr<QWidget> widget(make());
     widget->setAttribute(Qt::WA_DeleteOnClose, false);
     widget->resize(300, 120);
     const auto look = [&] {
@@ -570,10 +585,7 @@ void TestBasicUi::MessagePlaces()
 /// Catches messages that cover each other, cut their text or leave the screen.
 void TestBasicUi::MessagesStackInsideTheScreen()
 {
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
-    window.setGeometry(500, 550, 290, 200);
-    Show(window);
+    Window window({500, 550, 290, 200});
     Notify("Saved", &window);
     Notify(
         "A message that is a good deal longer than one line can be, so that its words are wrapped, "
@@ -603,10 +615,7 @@ void TestBasicUi::MessagesStackInsideTheScreen()
 /// Catches messages that stay behind when the window is dragged away.
 void TestBasicUi::MessagesFollowTheirWindow()
 {
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
-    window.setGeometry(10, 10, 300, 200);
-    Show(window);
+    Window window({10, 10, 300, 200});
     Notify("Saved", &window);
     const QPoint before = Messages().at(0)->pos();
     window.move(window.pos() + QPoint(200, 150));
@@ -616,9 +625,7 @@ void TestBasicUi::MessagesFollowTheirWindow()
 /// Catches messages that stay for ever, and objects that stay behind.
 void TestBasicUi::MessagesGoInTime()
 {
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
-    Show(window);
+    Window window;
     KvMessageNotify::Instance()->SetDisplayTime(30);
     Notify("Saved", &window);
     const QPointer<NotificationPopup> message(Messages().at(0));
@@ -631,9 +638,7 @@ void TestBasicUi::MessagesGoInTime()
 /// Catches a message that goes while it is read.
 void TestBasicUi::PointerKeepsAMessage()
 {
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
-    Show(window);
+    Window window;
     Notify("Saved", &window);
     const QPointer<NotificationPopup> message(Messages().at(0));
     QVERIFY(QTest::qWaitForWindowExposed(message));
@@ -651,11 +656,9 @@ void TestBasicUi::PointerKeepsAMessage()
 /// Catches a message that takes the keyboard from an operator who is typing.
 void TestBasicUi::MessageTakesNoFocus()
 {
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
+    Window window;
     auto* edit = new QLineEdit;
     window.layout()->addWidget(edit);
-    Show(window);
     edit->setFocus();
     Notify("Saved", &window);
     QVERIFY(QTest::qWaitForWindowExposed(Messages().at(0)));
@@ -685,9 +688,7 @@ void TestBasicUi::MessageClosesInsideAModalLoop()
 /// Catches a message that a screen reader takes for a window like any other, and one without its text.
 void TestBasicUi::MessageIsAnAlert()
 {
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
-    Show(window);
+    Window window;
     Notify("Saved", &window);
     const QAccessibleInterface* message = QAccessible::queryAccessibleInterface(Messages().at(0));
     QCOMPARE(message->role(), QAccessible::AlertMessage);
@@ -697,7 +698,8 @@ void TestBasicUi::MessageIsAnAlert()
     QVERIFY(!close->text(QAccessible::Name).isEmpty());
 }
 
-/// Catches a pile of equal messages after as many clicks, and equal texts that are held back elsewhere.
+/// Catches a pile of equal messages after as many clicks, equal texts that are held back elsewhere, a screen
+/// that fills with messages, and the newest as the one that goes.
 void TestBasicUi::RepeatedMessages()
 {
     QWidget window;
@@ -710,14 +712,7 @@ void TestBasicUi::RepeatedMessages()
     QCOMPARE(Messages().size(), 2);
     Notify("", &window);
     QCOMPARE(Messages().size(), 2);
-}
-
-/// Catches a screen that fills with messages, and the newest as the one that goes.
-void TestBasicUi::ManyMessages()
-{
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
-    Show(window);
+    KvMessageNotify::Instance()->CloseAll();
     for (const char* text : {"a", "b", "c", "d", "e", "f", "g"})
         Notify(text, &window);
     QCOMPARE(Texts().join(QString()), QStringLiteral("cdefg"));
@@ -726,9 +721,7 @@ void TestBasicUi::ManyMessages()
 /// Catches a message that vanishes together with the menu in whose action it was shown.
 void TestBasicUi::MessageOfAMenuBelongsToItsWindow()
 {
-    QWidget window;
-    window.setLayout(new QVBoxLayout);
-    Show(window);
+    Window window;
     {
         KvMenu menu(&window);
         menu.addAction(QStringLiteral("Search"));
@@ -744,9 +737,7 @@ void TestBasicUi::MessagesOfNoWindow()
     Notify("Connected", nullptr);
     QCOMPARE(Texts(), QStringList(QStringLiteral("Connected")));
     {
-        QWidget window;
-        window.setLayout(new QVBoxLayout);
-        Show(window);
+        Window window;
         Notify("Saved", nullptr);
         QCOMPARE(Messages().size(), 2);
     }
@@ -758,9 +749,7 @@ void TestBasicUi::MessagesOfNoWindow()
 /// Catches messages that outlive their window or touch it on the way out, whatever goes first.
 void TestBasicUi::MessagesGoWithTheirWindow()
 {
-    auto* window = new QWidget;
-    window->setLayout(new QVBoxLayout);
-    Show(*window);
+    auto* window = new Window;
     Notify("a", window);
     Notify("b", window);
     Notify("c", window);

@@ -1,5 +1,6 @@
 // The floating dialog beside a parent that moves, resizes, hides, changes its own parent and dies.
 
+#include "support/Deletion.h"
 #include "support/StrictMain.h"
 
 #include <Platform/BasicUIComponents/KvSkin.h>
@@ -104,6 +105,7 @@ class tst_FloatDialog : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { TestSupport::SpoilFreedMemory(); }
     void docksToTheUpperRightCorner();
     void slidesInAndOut();
     void sameRequestStartsNothing();
@@ -122,14 +124,12 @@ private Q_SLOTS:
     void withoutParent();
 
     void keysEndHere();
-    void desktopCloseIsAClick();
-    void closeButtonOnlyReports();
+    void closingOnlyReports();
     void givesTheKeyboardBack();
     void slotMayDeleteTheDialog_data();
     void slotMayDeleteTheDialog();
 
     void content();
-    void longTitleLeavesTheButton();
     void styles();
 };
 
@@ -426,29 +426,20 @@ void tst_FloatDialog::keysEndHere()
     QVERIFY(ended.isEmpty());
 }
 
-/// Catches a dialog that the desktop closes: no later slide could be seen.
-void tst_FloatDialog::desktopCloseIsAClick()
-{
-    const Fixture f;
-    QSignalSpy closed(f.dialog, &CFloatDialog::SignalBtnCloseClicked);
-    CloseByTheDesktop(f.dialog);
-    QVERIFY(f.dialog->isVisible());
-    QCOMPARE(closed.count(), 1);
-    f.dialog->close(); // by the client
-    QVERIFY(!f.dialog->isVisible());
-}
-
-/// Catches a button that acts on its own.
-void tst_FloatDialog::closeButtonOnlyReports()
+/// Catches a button that acts on its own, and a dialog that the desktop closes: no later slide could be seen.
+void tst_FloatDialog::closingOnlyReports()
 {
     const Fixture f;
     QSignalSpy closed(f.dialog, &CFloatDialog::SignalBtnCloseClicked);
     f.dialog->DirectShow(true);
     const QPoint pos = f.CloseButton()->mapTo(f.dialog, f.CloseButton()->rect().center());
     QTest::mouseClick(f.dialog->windowHandle(), Qt::LeftButton, {}, pos);
-    QCOMPARE(closed.count(), 1);
-    QVERIFY(f.dialog->IsShown());
+    CloseByTheDesktop(f.dialog);
+    QCOMPARE(closed.count(), 2);
+    QVERIFY(f.dialog->isVisible());
     QCOMPARE(f.Panel()->pos(), In);
+    f.dialog->close(); // by the client
+    QVERIFY(!f.dialog->isVisible());
 }
 
 /// Catches keys that go to a panel which cannot be seen.
@@ -470,27 +461,26 @@ void tst_FloatDialog::givesTheKeyboardBack()
 
 void tst_FloatDialog::slotMayDeleteTheDialog_data()
 {
+    QTest::addColumn<Step>("connectTo");
     QTest::addColumn<Step>("act");
-    QTest::newRow("finished") << Step([](const Fixture& f) {
-        connect(f.dialog, &CFloatDialog::SignalAnimationFinished, f.page, [&] { delete f.dialog; });
-        f.SlideTo(true);
-    });
-    QTest::newRow("finished at once") << Step([](const Fixture& f) {
+    const auto row = [](const char* name, auto signal, const Step& act) {
+        const Step connectTo
+            = [signal](const Fixture& f) { TestSupport::DeleteAt<CFloatDialog>(f.dialog.data(), signal); };
+        QTest::newRow(name) << connectTo << act;
+    };
+    row("finished", &CFloatDialog::SignalAnimationFinished, [](const Fixture& f) { f.SlideTo(true); });
+    row("finished at once", &CFloatDialog::SignalAnimationFinished, [](const Fixture& f) {
         f.dialog->AnimaShow(true);
-        connect(f.dialog, &CFloatDialog::SignalAnimationFinished, f.page, [&] { delete f.dialog; });
         f.dialog->AnimaShow(false);
     });
-    QTest::newRow("close button") << Step([](const Fixture& f) {
-        connect(f.dialog, &CFloatDialog::SignalBtnCloseClicked, f.page, [&] { delete f.dialog; });
+    row("close button", &CFloatDialog::SignalBtnCloseClicked, [](const Fixture& f) {
         f.dialog->DirectShow(true);
         QTest::mouseClick(f.CloseButton(), Qt::LeftButton);
     });
-    QTest::newRow("closed by the desktop") << Step([](const Fixture& f) {
-        connect(f.dialog, &CFloatDialog::SignalBtnCloseClicked, f.page, [&] { delete f.dialog; });
-        CloseByTheDesktop(f.dialog);
-    });
-    QTest::newRow("parent change") << Step([](const Fixture& f) {
-        connect(f.dialog, &CFloatDialog::SignalParentChange, f.page, [&] { delete f.dialog; });
+    row("closed by the desktop", &CFloatDialog::SignalBtnCloseClicked,
+        [](const Fixture& f) { CloseByTheDesktop(f.dialog); });
+    row("closed by the client", &QDialog::rejected, [](const Fixture& f) { f.dialog->close(); });
+    row("parent change", &CFloatDialog::SignalParentChange, [](const Fixture& f) {
         f.page->setParent(nullptr);
         delete f.page;
     });
@@ -499,13 +489,16 @@ void tst_FloatDialog::slotMayDeleteTheDialog_data()
 /// Catches a dialog that goes on after its client deleted it.
 void tst_FloatDialog::slotMayDeleteTheDialog()
 {
+    QFETCH(Step, connectTo);
     QFETCH(Step, act);
     const Fixture f;
+    connectTo(f);
     act(f);
     QVERIFY(f.dialog.isNull());
 }
 
-/// Catches a second widget that lies over the first, gaps around the content, and a wrong title bar.
+/// Catches a second widget that lies over the first, gaps around the content, and a title that pushes the
+/// close button out of the panel.
 void tst_FloatDialog::content()
 {
     const Fixture f;
@@ -515,8 +508,10 @@ void tst_FloatDialog::content()
     auto* second = new QLabel;
     f.dialog->AddCentralWidget(first);
     f.dialog->AddCentralWidget(second);
-    f.dialog->SetTitle(QStringLiteral("<b>Camera</b>"));
+    f.dialog->SetTitle(QString(200, QLatin1Char('m')));
     QCoreApplication::processEvents();
+    QCOMPARE(f.CloseButton()->size(), QSize(20, 20));
+    QCOMPARE(f.CloseButton()->mapTo(f.Panel(), QPoint(20, 0)).x(), Width - 1 - 15);
     const QWidget* center = f.dialog->GetCentralWidget();
     QCOMPARE(center->mapTo(f.Panel(), QPoint(0, 0)), QPoint(1, 41));
     QCOMPARE(first->pos(), QPoint(0, 0));
@@ -527,16 +522,6 @@ void tst_FloatDialog::content()
     QVERIFY(!icon->isHidden());
     f.dialog->InitUI();
     QVERIFY(icon->isHidden());
-}
-
-/// Catches a title that pushes the close button out of the panel.
-void tst_FloatDialog::longTitleLeavesTheButton()
-{
-    const Fixture f;
-    f.dialog->SetTitle(QString(200, QLatin1Char('m')));
-    QCoreApplication::processEvents();
-    QCOMPARE(f.CloseButton()->size(), QSize(20, 20));
-    QCOMPARE(f.CloseButton()->mapTo(f.Panel(), QPoint(20, 0)).x(), Width - 1 - 15);
 }
 
 /// Catches a change of skin that drops what was appended or overwrites the client's sheet, and a parent's

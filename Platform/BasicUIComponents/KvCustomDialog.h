@@ -19,7 +19,7 @@ class KvPushButton;
 /// connect(&dialog, &KvGUI::KvCustomDialog::SignalOkButtonClicked, &dialog, &QDialog::accept);
 /// connect(&dialog, &KvGUI::KvCustomDialog::SignalCancelButtonClicked, &dialog, &QDialog::reject);
 /// @endcode
-/// OK is the default button, which the Enter key presses from any input of the dialog. A slot may delete
+/// OK is the default button, which the Enter key presses from any input of the dialog. Any slot may delete
 /// the dialog.
 class UICOMPONENTS_EXPORT KvCustomDialog : public KvDialog
 {

@@ -1,5 +1,6 @@
 #include <Platform/BasicUIComponents/KvDialog.h>
 
+#include <Platform/BasicUIComponents/DialogEnd.h>
 #include <Platform/BasicUIComponents/DialogTitleBar.h>
 #include <Platform/BasicUIComponents/PlatformLook.h>
 #include <QKeyEvent>
@@ -45,6 +46,8 @@ void KvDialog::SetTitle(const QString& strTitle) { setWindowTitle(strTitle); }
 QWidget* KvDialog::GetCentralWidget() const { return m_pCentralWidget; }
 
 QVBoxLayout* KvDialog::FrameLayout() const { return m_pFrameLayout; }
+
+void KvDialog::done(int iResult) { EndDialog(*this, iResult); }
 
 void KvDialog::OnCloseBtmClicked() { reject(); }
 

@@ -24,6 +24,8 @@ namespace KvGUI {
 /// replace it, with CommonFun::SetStyleSheet for one that follows the skin, and then styles the content.
 /// The frame's line is one pixel wide and lies below the central widget: leave a margin of 1 at the
 /// sides where it should be seen.
+///
+/// Any slot may delete the dialog, also one of accepted(), rejected() and finished().
 class UICOMPONENTS_EXPORT KvDialog : public QDialog
 {
     Q_OBJECT
@@ -46,6 +48,8 @@ public:
 
     /// The place for the content; never null, owned by the dialog.
     QWidget* GetCentralWidget() const;
+
+    void done(int iResult) override;
 
 public slots:
     /// The title bar's button was clicked or Escape pressed. Rejects the dialog; override it to do more.

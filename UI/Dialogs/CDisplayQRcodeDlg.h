@@ -27,7 +27,7 @@ class CDisplayQRcodeDlg;
 /// @endcode
 ///
 /// The code is 200 x 200 pixels without the light margin that readers need around it; the skins' sheets
-/// leave the dialog's background white for it. A slot may delete the dialog.
+/// leave the dialog's background white for it. Any slot may delete the dialog.
 class UICOMPONENTS_EXPORT CDisplayQRcodeDlg : public KvGUI::KvDialog
 {
     Q_OBJECT

@@ -3,6 +3,7 @@
 #include "ui_CFloatDialog.h"
 
 #include <Common/CommonFun.h>
+#include <Platform/BasicUIComponents/DialogEnd.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/Dialogs/FloatSlide.h>
 
@@ -112,6 +113,8 @@ void CFloatDialog::UpdatePos()
         move(isWindow() ? parent->mapToGlobal(corner) : corner);
     }
 }
+
+void CFloatDialog::done(int iResult) { EndDialog(*this, iResult); }
 
 void CFloatDialog::OnBtnCloseClicked() { Q_EMIT SignalBtnCloseClicked(); }
 

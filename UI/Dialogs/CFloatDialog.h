@@ -37,7 +37,7 @@ class CFloatDialog;
 /// that slid out does not come back.
 ///
 /// Keys that the content does not want end here: Escape closes nothing. A request to close from the desktop
-/// counts as a click on the close button. A slot may delete the dialog.
+/// counts as a click on the close button. Any slot may delete the dialog.
 class UICOMPONENTS_EXPORT CFloatDialog : public QDialog
 {
     Q_OBJECT
@@ -90,6 +90,8 @@ public:
     void UpdateHeight(int h); ///< fixes the dialog's height in pixels; 0 or less leaves it
     void UpdatePos(); ///< moves the dialog to the parent's upper right corner
     /// @}
+
+    void done(int iResult) override;
 
 public Q_SLOTS:
     void OnBtnCloseClicked(); ///< emits SignalBtnCloseClicked()

@@ -27,7 +27,7 @@ namespace UICommonMdl {
 /// nothing but blanks is answered by a tool tip. Names are reported without the white space around them.
 ///
 /// Where a server has the last word, call SetIsCloseAfterSave(false), and CanCloseDialog() once it has
-/// accepted the name. A slot may delete the dialog.
+/// accepted the name. Any slot may delete the dialog.
 class UICOMPONENTS_EXPORT WmAddGroup : public KvGUI::KvCustomDialog
 {
     Q_OBJECT
