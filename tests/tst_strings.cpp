@@ -8,6 +8,7 @@
 #include <QtTest>
 #include <algorithm>
 #include <climits>
+#include <functional>
 #include <random>
 
 using TestSupport::LocaleCodec;
@@ -53,20 +54,12 @@ QString RandomText(std::mt19937& random, int size)
     return text;
 }
 
-/// Text of one character repeated, and what is left of it: how many before and after the "...".
-struct Elided
-{
-    int before;
-    int after;
-};
-
-Elided Measure(const QString& text)
-{
-    const int dots = text.indexOf(QStringLiteral("..."));
-    return {dots, text.size() - dots - 3};
-}
+/// What a function makes of a text.
+using Reading = std::function<QVariant(const QString&)>;
 
 } // namespace
+
+Q_DECLARE_METATYPE(Reading)
 
 class TestStrings : public QObject
 {
@@ -80,22 +73,12 @@ private slots:
     void ByteBudgetOfLongTexts_data();
     void ByteBudgetOfLongTexts();
     void ByteBudgetsFollowTheirEncoding();
-    void Blanks_data();
-    void Blanks();
-    void ElidesInTheMiddle_data();
-    void ElidesInTheMiddle();
-    void ElidesAtTheEnd_data();
-    void ElidesAtTheEnd();
+    void Elides_data();
+    void Elides();
     void ElidesAnything();
     void ToolTipKeepsItsLook();
-    void Rectangles_data();
-    void Rectangles();
-    void Sizes_data();
-    void Sizes();
-    void Colours_data();
-    void Colours();
-    void Digits_data();
-    void Digits();
+    void WhatATextSays_data();
+    void WhatATextSays();
     void DeviceIds_data();
     void DeviceIds();
     void IpAddressIsBounded_data();
@@ -103,12 +86,9 @@ private slots:
     void PatchedPaths_data();
     void PatchedPaths();
     void Ha1();
-    void Ha1WritesNothingIntoTooLittle();
     void Extracts_data();
     void Extracts();
-    void WebSkinNames();
     void RecordKeysDiffer();
-    void AsciiBytes();
 };
 
 void TestStrings::ByteBudgets_data()
@@ -217,83 +197,42 @@ void TestStrings::ByteBudgetsFollowTheirEncoding()
     QCOMPARE(QCommon::GetValidByteLenStringEx(text, 5), text.left(2));
 }
 
-void TestStrings::Blanks_data()
+void TestStrings::Elides_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("blank");
-    QTest::newRow("empty") << QString() << true;
-    QTest::newRow("all three") << QStringLiteral(" \u3000\uFFFD ") << true;
-    QTest::newRow("tab") << QStringLiteral(" \t") << false;
-    QTest::newRow("newline") << QStringLiteral("\n") << false;
-    QTest::newRow("no-break space") << QStringLiteral("\u00A0") << false;
-    QTest::newRow("brackets") << QStringLiteral("[ ]") << false;
-    QTest::newRow("text between") << QStringLiteral("  a ") << false;
-}
-
-/// Catches a trim in place of the three blanks, and brackets taken for blanks.
-void TestStrings::Blanks()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, blank);
-    QCOMPARE(CommonFun::IsQStrEmpty(text), blank);
-}
-
-void TestStrings::ElidesInTheMiddle_data()
-{
+    QTest::addColumn<bool>("middle");
     QTest::addColumn<int>("characters");
     QTest::addColumn<int>("pixels");
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("after");
     // The room beside "..." is so many widths of the character and so many pixels.
-    QTest::newRow("nothing but dots") << 0 << 0 << 0 << 0;
-    QTest::newRow("less than the dots") << -1 << 0 << 0 << 0;
-    QTest::newRow("half ends on a character") << 6 << 2 << 2 << 4;
-    QTest::newRow("half ends behind a character") << 6 << 4 << 3 << 3;
-    QTest::newRow("the one character tried stays counted") << 2 << 2 << 0 << 1;
+    QTest::newRow("nothing but dots") << true << 0 << 0 << 0 << 0;
+    QTest::newRow("less than the dots") << true << -1 << 0 << 0 << 0;
+    QTest::newRow("half ends on a character") << true << 6 << 2 << 2 << 4;
+    QTest::newRow("half ends behind a character") << true << 6 << 4 << 3 << 3;
+    QTest::newRow("the one character tried stays counted") << true << 2 << 2 << 0 << 1;
+    QTest::newRow("at the end, less than the dots") << false << -1 << 0 << 0 << 0;
+    QTest::newRow("at the end, one character") << false << 1 << 2 << 1 << 0;
+    QTest::newRow("at the end, ends on a character") << false << 3 << 1 << 2 << 0;
+    QTest::newRow("at the end, ends behind a character") << false << 3 << 2 << 3 << 0;
 }
 
 /// Catches a side that is one character too long or short, and the width of a left part that is left out
 /// but given to the right.
-void TestStrings::ElidesInTheMiddle()
+void TestStrings::Elides()
 {
+    QFETCH(bool, middle);
     QFETCH(int, characters);
     QFETCH(int, pixels);
-    QFETCH(int, before);
-    QFETCH(int, after);
     const QFontMetrics metrics(QApplication::font());
     const int unit = metrics.horizontalAdvance(QStringLiteral("x"));
     QVERIFY2(unit > 4, "the font is too small for the cases");
     const int width = metrics.horizontalAdvance(QStringLiteral("...")) + characters * unit + pixels;
+    const auto elide = middle ? &QCommon::GetSuitableText : &QCommon::GetSuitableTextEx;
     QString out;
-    QCommon::GetSuitableText(metrics, width, QString(50, QLatin1Char('x')), out);
-    QCOMPARE(Measure(out).before, before);
-    QCOMPARE(Measure(out).after, after);
-}
-
-void TestStrings::ElidesAtTheEnd_data()
-{
-    QTest::addColumn<int>("characters");
-    QTest::addColumn<int>("pixels");
-    QTest::addColumn<int>("before");
-    QTest::newRow("less than the dots") << -1 << 0 << 0;
-    QTest::newRow("one character") << 1 << 2 << 1;
-    QTest::newRow("ends on a character") << 3 << 1 << 2;
-    QTest::newRow("ends behind a character") << 3 << 2 << 3;
-}
-
-/// Catches an end that is one character too long or short.
-void TestStrings::ElidesAtTheEnd()
-{
-    QFETCH(int, characters);
-    QFETCH(int, pixels);
-    QFETCH(int, before);
-    const QFontMetrics metrics(QApplication::font());
-    const int unit = metrics.horizontalAdvance(QStringLiteral("x"));
-    const int width = metrics.horizontalAdvance(QStringLiteral("...")) + characters * unit + pixels;
-    QString out;
-    QCommon::GetSuitableTextEx(metrics, width, QString(50, QLatin1Char('x')), out);
-    QCOMPARE(Measure(out).before, before);
-    QCOMPARE(Measure(out).after, 0);
+    elide(metrics, width, QString(50, QLatin1Char('x')), out);
+    const int dots = out.indexOf(QStringLiteral("..."));
+    QTEST(dots, "before");
+    QTEST(out.size() - dots - 3, "after");
 }
 
 /// Catches a crash or an endless walk on widths and texts that no layout has, a text that fits but is
@@ -336,87 +275,76 @@ void TestStrings::ToolTipKeepsItsLook()
     QToolTip::hideText();
 }
 
-void TestStrings::Rectangles_data()
+void TestStrings::WhatATextSays_data()
 {
+    QTest::addColumn<Reading>("read");
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QRect>("rect");
-    QTest::newRow("blanks around") << QStringLiteral(" 10,20,110,70 ") << QRect(10, 20, 100, 50);
-    QTest::newRow("negative") << QStringLiteral("-5,-6,5,6") << QRect(-5, -6, 10, 12);
-    QTest::newRow("backwards") << QStringLiteral("10,10,0,0") << QRect(10, 10, -10, -10);
-    QTest::newRow("unreadable part") << QStringLiteral("a,2,3,4") << QRect(0, 2, 3, 2);
-    QTest::newRow("empty parts") << QStringLiteral(",,,") << QRect(0, 0, 0, 0);
-    QTest::newRow("too few") << QStringLiteral("1,2,3") << QRect(0, 0, 0, 0);
-    QTest::newRow("too many") << QStringLiteral("1,2,3,4,") << QRect(0, 0, 0, 0);
-    QTest::newRow("empty") << QString() << QRect(0, 0, 0, 0);
-    QTest::newRow("number too large") << QStringLiteral("1,2,99999999999,4") << QRect(1, 2, -1, 2);
-    QTest::newRow("wider than an int")
-        << QStringLiteral("-2000000000,0,2000000000,1") << QRect(-2000000000, 0, INT_MAX, 1);
+    QTest::addColumn<QVariant>("said");
+    const auto row = [](const Reading& read, const char* name, const QString& text, const QVariant& said) {
+        QTest::newRow(name) << read << text << said;
+    };
+    const Reading blank = [](const QString& text) { return CommonFun::IsQStrEmpty(text); };
+    row(blank, "blank: empty", QString(), true);
+    row(blank, "blank: all three", QStringLiteral(" \u3000\uFFFD "), true);
+    row(blank, "blank: tab", QStringLiteral(" \t"), false);
+    row(blank, "blank: newline", QStringLiteral("\n"), false);
+    row(blank, "blank: no-break space", QStringLiteral("\u00A0"), false);
+    row(blank, "blank: brackets", QStringLiteral("[ ]"), false);
+    row(blank, "blank: text between", QStringLiteral("  a "), false);
+
+    const Reading rect = [](const QString& text) { return QCommon::StringToRect(text); };
+    row(rect, "rectangle: blanks around", QStringLiteral(" 10,20,110,70 "), QRect(10, 20, 100, 50));
+    row(rect, "rectangle: negative", QStringLiteral("-5,-6,5,6"), QRect(-5, -6, 10, 12));
+    row(rect, "rectangle: backwards", QStringLiteral("10,10,0,0"), QRect(10, 10, -10, -10));
+    row(rect, "rectangle: unreadable part", QStringLiteral("a,2,3,4"), QRect(0, 2, 3, 2));
+    row(rect, "rectangle: empty parts", QStringLiteral(",,,"), QRect(0, 0, 0, 0));
+    row(rect, "rectangle: too few", QStringLiteral("1,2,3"), QRect(0, 0, 0, 0));
+    row(rect, "rectangle: too many", QStringLiteral("1,2,3,4,"), QRect(0, 0, 0, 0));
+    row(rect, "rectangle: empty", QString(), QRect(0, 0, 0, 0));
+    row(rect, "rectangle: number too large", QStringLiteral("1,2,99999999999,4"), QRect(1, 2, -1, 2));
+    row(rect, "rectangle: wider than an int", QStringLiteral("-2000000000,0,2000000000,1"),
+        QRect(-2000000000, 0, INT_MAX, 1));
+
+    const Reading size = [](const QString& text) { return QCommon::StringToSize(text); };
+    row(size, "size: blanks inside", QStringLiteral(" 640 , 480"), QSize(640, 480));
+    row(size, "size: one", QStringLiteral("640"), QSize(0, 0));
+    row(size, "size: three", QStringLiteral("640,480,1"), QSize(0, 0));
+    row(size, "size: empty", QString(), QSize(0, 0));
+
+    const Reading colour = [](const QString& text) { return QCommon::StringToColor(text); };
+    row(colour, "colour: good", QStringLiteral("1,2,3"), QColor(1, 2, 3, 255));
+    row(colour, "colour: with alpha", QStringLiteral("1,2,3,4"), QColor());
+    row(colour, "colour: out of range", QStringLiteral("256,0,0"), QColor());
+    row(colour, "colour: negative", QStringLiteral("0,-1,0"), QColor());
+    row(colour, "colour: empty", QString(), QColor());
+
+    const Reading digits = [](const QString& text) { return QCommon::isDigitStr(text); };
+    row(digits, "digits: empty", QString(), 0);
+    row(digits, "digits: all", QStringLiteral("0123456789"), 0);
+    row(digits, "digits: letter behind", QStringLiteral("12a"), -1);
+    row(digits, "digits: sign", QStringLiteral("-1"), -1);
+    row(digits, "digits: other scripts", QStringLiteral("\u0661\uFF11"), -1);
+    row(digits, "digits: zero character", QString(QChar(0)), -1);
+
+    const Reading ascii = [](const QString& text) { return QCommon::GetAsciiCharNum(text.toStdString()); };
+    row(ascii, "ASCII: negative bytes", QStringLiteral("a\u4E2D\u007F\u0080"), 2);
+    row(ascii, "ASCII: up to a zero byte", QStringLiteral("ab\0cd").left(5), 2);
+    row(ascii, "ASCII: empty", QString(), 0);
+
+    const Reading webSkin = [](const QString& text) { return QCommon::HostToWebSkinName(text); };
+    row(webSkin, "web skin: any case", QStringLiteral("white"), QStringLiteral("light"));
+    row(webSkin, "web skin: a part", QStringLiteral("White2"), QStringLiteral("black"));
+    row(webSkin, "web skin: empty", QString(), QStringLiteral("black"));
 }
 
-/// Catches the third and fourth number taken for sizes, forgiven counts, and an overflow.
-void TestStrings::Rectangles()
+/// Catches: for blanks, a trim in their place and brackets that count; for rectangles, sizes and colours, the
+/// third and fourth number taken for a size, forgiven counts, an overflow and a warning; for digits, other
+/// scripts and signs; for ASCII, bytes counted as unsigned or behind a zero; for skins, a part for the whole.
+void TestStrings::WhatATextSays()
 {
+    QFETCH(Reading, read);
     QFETCH(QString, text);
-    QFETCH(QRect, rect);
-    QCOMPARE(QCommon::StringToRect(text), rect);
-}
-
-void TestStrings::Sizes_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("good") << QStringLiteral("640,480") << QSize(640, 480);
-    QTest::newRow("blanks inside") << QStringLiteral(" 640 , 480") << QSize(640, 480);
-    QTest::newRow("one") << QStringLiteral("640") << QSize(0, 0);
-    QTest::newRow("three") << QStringLiteral("640,480,1") << QSize(0, 0);
-    QTest::newRow("empty") << QString() << QSize(0, 0);
-}
-
-/// Catches the invalid size in place of 0 by 0, and forgiven counts.
-void TestStrings::Sizes()
-{
-    QFETCH(QString, text);
-    QFETCH(QSize, size);
-    QCOMPARE(QCommon::StringToSize(text), size);
-}
-
-void TestStrings::Colours_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QColor>("colour");
-    QTest::newRow("good") << QStringLiteral("1,2,3") << QColor(1, 2, 3, 255);
-    QTest::newRow("with alpha") << QStringLiteral("1,2,3,4") << QColor();
-    QTest::newRow("out of range") << QStringLiteral("256,0,0") << QColor();
-    QTest::newRow("negative") << QStringLiteral("0,-1,0") << QColor();
-    QTest::newRow("empty") << QString() << QColor();
-}
-
-/// Catches colours in another order, and a warning or a wrapped number where a number is out of range.
-void TestStrings::Colours()
-{
-    QFETCH(QString, text);
-    QFETCH(QColor, colour);
-    QCOMPARE(QCommon::StringToColor(text), colour);
-}
-
-void TestStrings::Digits_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("result");
-    QTest::newRow("empty") << QString() << 0;
-    QTest::newRow("digits") << QStringLiteral("0123456789") << 0;
-    QTest::newRow("letter behind") << QStringLiteral("12a") << -1;
-    QTest::newRow("sign") << QStringLiteral("-1") << -1;
-    QTest::newRow("other digits") << QStringLiteral("\u0661\uFF11") << -1;
-    QTest::newRow("zero character") << QString(QChar(0)) << -1;
-}
-
-/// Catches digits of other scripts that count, and signs that are forgiven.
-void TestStrings::Digits()
-{
-    QFETCH(QString, text);
-    QFETCH(int, result);
-    QCOMPARE(QCommon::isDigitStr(text), result);
+    QTEST(read(text), "said");
 }
 
 void TestStrings::DeviceIds_data()
@@ -495,7 +423,8 @@ void TestStrings::PatchedPaths()
     QCOMPARE(QCommon::PatchPath(folder, file), path);
 }
 
-/// Catches wrong separators, digits or texts cut short. The first value is that of RFC 2617, 3.5.
+/// Catches wrong separators, digits or texts cut short (the first value is that of RFC 2617, 3.5), and a part
+/// of the digits in a buffer that has no room for all.
 void TestStrings::Ha1()
 {
     QByteArray out(34, '\0');
@@ -504,18 +433,14 @@ void TestStrings::Ha1()
     const QByteArray longName(5000, 'n');
     QCommon::GenerateHA1(out.data(), 32, longName.constData(), "%s%n", nullptr);
     QCOMPARE(out.left(32), QCryptographicHash::hash(longName + ":%s%n:", QCryptographicHash::Md5).toHex());
-}
 
-/// Catches a part of the digits in a buffer that has no room for all, and a crash without a buffer.
-void TestStrings::Ha1WritesNothingIntoTooLittle()
-{
-    QByteArray out(40, 'x');
-    QCommon::GenerateHA1(out.data(), 31, "a", "b", "c");
-    QCommon::GenerateHA1(out.data(), -1, "a", "b", "c");
+    QByteArray small(40, 'x');
+    QCommon::GenerateHA1(small.data(), 31, "a", "b", "c");
+    QCommon::GenerateHA1(small.data(), -1, "a", "b", "c");
     QCommon::GenerateHA1(nullptr, 40, "a", "b", "c");
-    QCOMPARE(out, QByteArray(40, 'x'));
-    QCommon::GenerateHA1(out.data(), 32, "a", "b", "c");
-    QCOMPARE(out.mid(32), QByteArray(8, 'x'));
+    QCOMPARE(small, QByteArray(40, 'x'));
+    QCommon::GenerateHA1(small.data(), 32, "a", "b", "c");
+    QCOMPARE(small.mid(32), QByteArray(8, 'x'));
 }
 
 void TestStrings::Extracts_data()
@@ -544,28 +469,12 @@ void TestStrings::Extracts()
     QCOMPARE(QCommon::GetExtract(base, n), result);
 }
 
-/// Catches a comparison that minds the case or takes a part for the whole.
-void TestStrings::WebSkinNames()
-{
-    QCOMPARE(QCommon::HostToWebSkinName(QStringLiteral("white")), QStringLiteral("light"));
-    QCOMPARE(QCommon::HostToWebSkinName(QStringLiteral("White2")), QStringLiteral("black"));
-    QCOMPARE(QCommon::HostToWebSkinName(QString()), QStringLiteral("black"));
-}
-
 /// Catches numbers cut to 32 bits, and keys that repeat.
 void TestStrings::RecordKeysDiffer()
 {
     const QString first = QCommon::CreateRecordMapKey(LLONG_MIN, LLONG_MAX);
     QCOMPARE(first, QStringLiteral("-9223372036854775808_9223372036854775807_1"));
     QVERIFY(QCommon::CreateRecordMapKey(LLONG_MIN, LLONG_MAX).endsWith(QStringLiteral("_2")));
-}
-
-/// Catches bytes counted as unsigned, and counting behind a zero byte.
-void TestStrings::AsciiBytes()
-{
-    QCOMPARE(QCommon::GetAsciiCharNum("a\xE4\xB8\xAD\x7F\x80"), 2);
-    QCOMPARE(QCommon::GetAsciiCharNum(std::string("ab\0cd", 5)), 2);
-    QCOMPARE(QCommon::GetAsciiCharNum(std::string()), 0);
 }
 
 STRICT_TEST_MAIN(TestStrings)

@@ -15,6 +15,7 @@
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextLayout>
+#include <functional>
 
 using namespace UICommonMdl;
 
@@ -67,14 +68,11 @@ private slots:
     void BodySizes();
     void Placements_data();
     void Placements();
-    void BubbleLargerThanTheScreen();
     void BubbleIsShownBesideItsAnchor();
-    void BubbleOfAWindow();
     void BubbleTakesNeitherClicksNorFocus();
     void BubbleFadesAway();
     void NewTipReplacesTheOld();
     void ShortDisplayTimesAreIgnored();
-    void BubbleGoesWithItsAnchor_data();
     void BubbleGoesWithItsAnchor();
     void WholeTextIsSeen_data();
     void WholeTextIsSeen();
@@ -126,7 +124,8 @@ void TestTipLabel::Placements_data()
     row("moved along downwards", QRect(1800, -4, 80, 30), CTipLabel::Left, CTipLabel::Left, beside);
 }
 
-/// Catches a bubble that leaves the screen (here the second of two), covers its anchor or points past it.
+/// Catches a bubble that leaves the screen (here the second of two), covers its anchor or points past it; and
+/// one of which nothing can be read on a screen that is too small.
 void TestTipLabel::Placements()
 {
     QFETCH(QRect, anchor);
@@ -143,17 +142,12 @@ void TestTipLabel::Placements()
     QCOMPARE(
         arrow.boundingRect().united(TipBody(place.bubble.size(), place.side)).size(),
         arrow.boundingRect().united(QRect(QPoint(0, 0), place.bubble.size())).size());
+    const QRect small(0, 0, 160, 20);
+    QCOMPARE(PlaceTip(QRect(40, 5, 20, 10), QSize(200, 26), wanted, small).bubble.topLeft(), small.topLeft());
 }
 
-/// Catches a bubble of which nothing can be read.
-void TestTipLabel::BubbleLargerThanTheScreen()
-{
-    const QRect screen(0, 0, 160, 20);
-    const TipPlacement place = PlaceTip(QRect(40, 5, 20, 10), QSize(200, 26), CTipLabel::Left, screen);
-    QCOMPARE(place.bubble.topLeft(), screen.topLeft());
-}
-
-/// Catches a bubble that is not where the placement says, or shows another text.
+/// Catches a bubble that is not where the placement says, shows another text, takes an anchor's parent for
+/// granted, or stands there where there is nothing to show.
 void TestTipLabel::BubbleIsShownBesideItsAnchor()
 {
     Anchored form;
@@ -171,18 +165,11 @@ void TestTipLabel::BubbleIsShownBesideItsAnchor()
     QCOMPARE(TextBox()->geometry(), QRect(1, 1, 198, 24));
     bubble->ShowTip(Tip, form.anchor, static_cast<CTipLabel::DisplayPosition>(5));
     QCOMPARE(bubble->size(), QSize(200, 26));
-}
-
-/// Catches an anchor's parent that is taken for granted, and nothing where there is nothing to show.
-void TestTipLabel::BubbleOfAWindow()
-{
-    Anchored form;
-    CTipLabel* bubble = CTipLabel::Instance();
     bubble->ShowTip(Tip, &form.window, CTipLabel::Left);
-    QVERIFY(bubble->isVisible());
     QVERIFY(bubble->x() > form.window.mapToGlobal(form.window.rect().topRight()).x());
     bubble->ShowTip(QString(), &form.window, CTipLabel::Left);
     QVERIFY(!bubble->isVisible());
+    bubble->ShowTip(Tip, &form.window, CTipLabel::Left);
     bubble->ShowTip(Tip, nullptr, CTipLabel::Left);
     QVERIFY(!bubble->isVisible());
 }
@@ -263,29 +250,19 @@ void TestTipLabel::ShortDisplayTimesAreIgnored()
     bubble->SetDisplayTime(3000);
 }
 
-void TestTipLabel::BubbleGoesWithItsAnchor_data()
-{
-    QTest::addColumn<QString>("way");
-    for (const char* way : {"hidden", "deleted", "window hidden", "window moved"})
-        QTest::newRow(way) << QString::fromLatin1(way);
-}
-
 /// Catches a bubble that points at nothing, or touches its deleted anchor.
 void TestTipLabel::BubbleGoesWithItsAnchor()
 {
-    QFETCH(QString, way);
-    Anchored form;
-    CTipLabel* bubble = CTipLabel::Instance();
-    bubble->ShowTip(Tip, form.anchor, CTipLabel::Left);
-    if (way == QLatin1String("hidden"))
-        form.anchor->hide();
-    else if (way == QLatin1String("deleted"))
-        delete form.anchor;
-    else if (way == QLatin1String("window hidden"))
-        form.window.hide();
-    else
-        form.window.move(form.window.pos() + QPoint(20, 20));
-    QTRY_VERIFY(!bubble->isVisible());
+    const QVector<std::function<void(Anchored&)>> ways{
+        [](Anchored& form) { form.anchor->hide(); }, [](Anchored& form) { delete form.anchor; },
+        [](Anchored& form) { form.window.hide(); },
+        [](Anchored& form) { form.window.move(form.window.pos() + QPoint(20, 20)); }};
+    for (const auto& go : ways) {
+        Anchored form;
+        CTipLabel::Instance()->ShowTip(Tip, form.anchor, CTipLabel::Left);
+        go(form);
+        QTRY_VERIFY(!CTipLabel::Instance()->isVisible());
+    }
 }
 
 void TestTipLabel::WholeTextIsSeen_data()

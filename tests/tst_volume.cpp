@@ -1,5 +1,7 @@
 // The volume button and its panel, by mouse and keyboard as the window system delivers them.
 
+#include "support/Deletion.h"
+#include "support/ShowActive.h"
 #include "support/StrictMain.h"
 
 #include <Platform/BasicUIComponents/KvSkin.h>
@@ -26,7 +28,6 @@ using namespace UICommonMdl::PopupPlacement;
 using Screens = QVector<ScreenArea>;
 
 Q_DECLARE_METATYPE(Screens)
-Q_DECLARE_METATYPE(std::function<void(KvVolumeButton*)>)
 
 namespace {
 
@@ -45,9 +46,7 @@ struct Fixture
         window.setGeometry(200, 200, 300, 200);
         button->setGeometry(QRect(OnButton - QPoint(14, 14), ButtonSize));
         other->setGeometry(QRect(OnOther - QPoint(14, 14), ButtonSize));
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        TestSupport::ShowActive(window);
     }
 
     KvVolumeWidget* Panel() const { return button->findChild<KvVolumeWidget*>(); }
@@ -68,7 +67,7 @@ struct Fixture
     }
 
     QWidget window;
-    KvVolumeButton* button = new KvVolumeButton(&window);
+    QPointer<KvVolumeButton> button = new KvVolumeButton(&window);
     QPushButton* other = new QPushButton(&window);
 };
 
@@ -102,22 +101,25 @@ ScreenArea Monitor(const QRect& full) { return {full, full}; }
 
 const QRect Single(0, 0, 800, 600);
 
+using Act = std::function<void(Fixture&)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Act)
 
 class tst_Volume : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { TestSupport::SpoilFreedMemory(); }
     void placement_data();
     void placement();
     void screenHoldingAWidget_data();
     void screenHoldingAWidget();
 
-    void newButton();
     void stateIsShownAndNotReported();
     void valuesAreReportedOnce();
-    void silentValuesShowOnTheToolTip();
     void pressOpensAbove();
     void escapeBeforeTheRelease();
     void pressOnTheButtonClosesForGood();
@@ -129,8 +131,6 @@ private Q_SLOTS:
     void keyboardTurnsTheSoundOn();
     void slotMayDeleteTheButton_data();
     void slotMayDeleteTheButton();
-    void slotMayDeleteTheButtonOfAnOpenPanel_data();
-    void slotMayDeleteTheButtonOfAnOpenPanel();
     void looks();
 };
 
@@ -213,55 +213,40 @@ void tst_Volume::screenHoldingAWidget()
     QCOMPARE(ScreenHolding(widget, {}), -1);
 }
 
-/// Catches a first state in which button, slider and tool tip do not agree.
-void tst_Volume::newButton()
-{
-    const Fixture f;
-    QCOMPARE(f.button->objectName(), QStringLiteral("btnVolumeOff"));
-    QCOMPARE(f.Sound()->objectName(), QStringLiteral("btnVolumeOff"));
-    QVERIFY(!f.Slider()->isEnabled());
-    QCOMPARE(f.button->GetVolumeValue(), 50);
-    QCOMPARE(f.Slider()->toolTip(), QStringLiteral("50%"));
-    QCOMPARE(f.Panel()->size(), PanelSize);
-}
-
-/// Catches a state that the client sets and hears of again: players would call back and forth.
+/// Catches a first state in which button and panel do not agree, and a state that the client sets and hears
+/// of again: players would call back and forth.
 void tst_Volume::stateIsShownAndNotReported()
 {
     const Fixture f;
     QSignalSpy opened(f.button, &KvVolumeButton::SignalSoundOpened);
+    QCOMPARE(f.Panel()->size(), PanelSize);
+    bool shown = false; // at first
     for (const bool on : {true, true, false}) {
-        f.button->SetVolumeState(on);
-        const QString name = on ? QStringLiteral("btnVolumeOn") : QStringLiteral("btnVolumeOff");
+        const QString name = shown ? QStringLiteral("btnVolumeOn") : QStringLiteral("btnVolumeOff");
         QCOMPARE(f.button->objectName(), name);
         QCOMPARE(f.Sound()->objectName(), name);
-        QCOMPARE(f.Slider()->isEnabled(), on);
+        QCOMPARE(f.Slider()->isEnabled(), shown);
+        f.button->SetVolumeState(on);
+        shown = on;
     }
     QVERIFY(opened.isEmpty());
 }
 
-/// Catches values off the scale, and a report without a change.
+/// Catches values off the scale, a report without a change, and a tool tip that keeps the old value, also
+/// when the signals are blocked.
 void tst_Volume::valuesAreReportedOnce()
 {
     const Fixture f;
+    QCOMPARE(f.Slider()->toolTip(), QStringLiteral("50%"));
     QSignalSpy values(f.button, &KvVolumeButton::SignalVolumeValueChanged);
     for (const int value : {50, 70, 70, 900, -4})
         f.button->SetVolumeValue(value);
-    QCOMPARE(values, (QList<QVariantList>{{70}, {100}, {0}}));
-    QCOMPARE(f.Slider()->toolTip(), QStringLiteral("0%"));
-}
-
-/// Catches a tool tip that keeps the old value when the signals are blocked.
-void tst_Volume::silentValuesShowOnTheToolTip()
-{
-    const Fixture f;
-    QSignalSpy values(f.button, &KvVolumeButton::SignalVolumeValueChanged);
     f.Panel()->SetSliderValueSilently(30);
     QCOMPARE(f.button->GetVolumeValue(), 30);
     QCOMPARE(f.Slider()->toolTip(), QStringLiteral("30%"));
-    QVERIFY(values.isEmpty());
     f.Panel()->SetSliderRange(0, 20);
-    QCOMPARE(values, (QList<QVariantList>{{20}}));
+    QCOMPARE(values, (QList<QVariantList>{{70}, {100}, {0}, {20}}));
+    QCOMPARE(f.Slider()->toolTip(), QStringLiteral("20%"));
 }
 
 /// Catches a panel beside its button, and a button that stays down after the release.
@@ -392,62 +377,51 @@ void tst_Volume::keyboardTurnsTheSoundOn()
 
 void tst_Volume::slotMayDeleteTheButton_data()
 {
-    QTest::addColumn<std::function<void(KvVolumeButton*)>>("connectDeletion");
-    const auto row = [](const char* name, auto signal) {
-        QTest::newRow(name) << std::function<void(KvVolumeButton*)>([signal](KvVolumeButton* button) {
-            connect(button, signal, button, [button] { delete button; });
+    QTest::addColumn<Act>("connectTo");
+    QTest::addColumn<Act>("act");
+    const auto row = [](const char* name, auto signal, const Act& act) {
+        const Act connectTo = [signal](Fixture& f) { TestSupport::DeleteAt(f.button.data(), signal); };
+        QTest::newRow(name) << connectTo << act;
+    };
+    row("pressed", &KvVolumeButton::pressed, [](Fixture& f) { f.Click(OnButton); });
+    row("sound, by Space", &KvVolumeButton::SignalSoundOpened, [](Fixture& f) {
+        f.button->PopupVolumeWidget();
+        Key(Qt::Key_Space);
+    });
+    row("value, set", &KvVolumeButton::SignalVolumeValueChanged,
+        [](Fixture& f) { f.button->SetVolumeValue(7); });
+    const auto value = [=](const char* name, const Act& act) {
+        row(name, &KvVolumeButton::SignalVolumeValueChanged, [act](Fixture& f) {
+            f.button->SetVolumeState(true);
+            f.Click(OnButton);
+            act(f);
         });
     };
-    row("value", &KvVolumeButton::SignalVolumeValueChanged);
-    row("sound", &KvVolumeButton::SignalSoundOpened);
-    row("pressed", &KvVolumeButton::pressed);
+    value("value, by a key", [](Fixture&) { Key(Qt::Key_Up); });
+    value("value, by a click beside the handle", [](Fixture& f) {
+        const QPoint at = f.Slider()->mapTo(f.Panel(), QPoint(f.Slider()->width() / 2, 4));
+        QTest::mousePress(f.Panel()->windowHandle(), Qt::LeftButton, {}, at);
+    });
+    value("value, by the wheel", [](Fixture& f) {
+        const QPoint at = f.Slider()->rect().center();
+        QWheelEvent turn(
+            at, f.Slider()->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+            Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(f.Slider(), &turn);
+    });
 }
 
-/// Catches a button that goes on after its client deleted it.
+/// Catches a button that goes on after its client deleted it, and a slider that goes with it while Qt is in
+/// the middle of its event.
 void tst_Volume::slotMayDeleteTheButton()
 {
-    QFETCH(std::function<void(KvVolumeButton*)>, connectDeletion);
+    QFETCH(Act, connectTo);
+    QFETCH(Act, act);
     Fixture f;
-    const QPointer<KvVolumeButton> button = f.button;
-    connectDeletion(button);
-    f.Click(OnButton);
-    if (button)
-        Key(Qt::Key_Space); // the sound
-    if (button) {
-        Key(Qt::Key_Tab);
-        Key(Qt::Key_Up);
-    }
-    QVERIFY(button.isNull());
-}
-
-void tst_Volume::slotMayDeleteTheButtonOfAnOpenPanel_data()
-{
-    QTest::addColumn<bool>("wheel");
-    QTest::newRow("click beside the handle") << false;
-    QTest::newRow("wheel") << true;
-}
-
-/// Catches a slider that goes with its button while Qt is in the middle of its event, which the sanitizer
-/// reports.
-void tst_Volume::slotMayDeleteTheButtonOfAnOpenPanel()
-{
-    QFETCH(bool, wheel);
-    Fixture f;
-    const QPointer<KvVolumeButton> button = f.button;
-    button->SetVolumeState(true);
-    f.Click(OnButton);
     const QPointer<KvVolumeWidget> panel = f.Panel();
-    const QPoint at = f.Slider()->mapTo(panel, QPoint(f.Slider()->width() / 2, 4));
-    connect(button, &KvVolumeButton::SignalVolumeValueChanged, button, [button] { delete button; });
-    if (wheel) {
-        QWheelEvent turn(
-            f.Slider()->mapFrom(panel, at), panel->mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton,
-            Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(f.Slider(), &turn);
-    } else {
-        QTest::mousePress(panel->windowHandle(), Qt::LeftButton, {}, at);
-    }
-    QVERIFY(button.isNull());
+    connectTo(f);
+    act(f);
+    QVERIFY(f.button.isNull());
     QVERIFY(!QApplication::activePopupWidget());
     QTRY_VERIFY(panel.isNull());
 }
