@@ -23,7 +23,7 @@ function(uicomponents_translations target name)
         COMMAND Qt5::rcc --name "${name}Translations" --output "${compiled}" "${qrc_file}"
         DEPENDS "${qrc_file}" ${qm_files} VERBATIM)
     target_sources(${target} PRIVATE "${compiled}")
-    set_source_files_properties("${compiled}" PROPERTIES SKIP_PRECOMPILE_HEADERS ON SKIP_AUTOMOC ON)
+    set_source_files_properties("${compiled}" PROPERTIES SKIP_PRECOMPILE_HEADERS ON SKIP_AUTOGEN ON)
 endfunction()
 
 # Takes over new and changed texts of the sources into the files of translations/, for a translator to

@@ -88,7 +88,7 @@ QString KvLineEditWithDirButton::AskForPath()
 {
     const QPointer<QFileDialog> dialog(MakeDialog());
     const bool accepted = dialog->exec() == QDialog::Accepted;
-    const QString path = accepted && dialog ? dialog->selectedFiles().value(0) : QString();
+    QString path = accepted && dialog ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
     return path;
 }

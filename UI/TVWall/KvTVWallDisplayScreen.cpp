@@ -440,29 +440,34 @@ bool KvTVWallDisplayScreen::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked)
         m_gestures.Cancel(); // a modal dialog gets the release
-    return QAbstractScrollArea::event(event);
+    return QAbstractScrollArea::event(event); // clazy:exclude=skipped-base-method
 }
 
 bool KvTVWallDisplayScreen::viewportEvent(QEvent* event)
 {
     const Handling handling(this);
-    return QAbstractScrollArea::viewportEvent(event);
+    return QAbstractScrollArea::viewportEvent(event); // clazy:exclude=skipped-base-method
 }
 
 bool KvTVWallDisplayScreen::eventFilter(QObject* watched, QEvent* event)
 {
-    return QAbstractScrollArea::eventFilter(watched, event);
+    return QAbstractScrollArea::eventFilter(watched, event); // clazy:exclude=skipped-base-method
 }
 
 void KvTVWallDisplayScreen::childEvent(QChildEvent* event) { QAbstractScrollArea::childEvent(event); }
 
 void KvTVWallDisplayScreen::timerEvent(QTimerEvent* event) { QAbstractScrollArea::timerEvent(event); }
 
-void KvTVWallDisplayScreen::showEvent(QShowEvent* event) { QAbstractScrollArea::showEvent(event); }
+void KvTVWallDisplayScreen::showEvent(QShowEvent* event)
+{
+    QAbstractScrollArea::showEvent(event);
+    m_pOverlays->UpdateRolling();
+}
 
 void KvTVWallDisplayScreen::hideEvent(QHideEvent* event)
 {
     QAbstractScrollArea::hideEvent(event);
+    m_pOverlays->UpdateRolling();
     m_gestures.Cancel();
 }
 

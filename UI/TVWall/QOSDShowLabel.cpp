@@ -54,9 +54,6 @@ QFont QOSDShowLabel::TextFont() const
     return textFont;
 }
 
-// A text that swings and fills its label exactly has nowhere to go.
-bool QOSDShowLabel::IsRolling() const { return m_content.roll && WayLength() >= 1.0; }
-
 // Pixels of one round. A text leaves the label wholly before it comes in again from the other side; back
 // and forth it moves as far as it sticks out of the label, or as it has room in it.
 double QOSDShowLabel::WayLength() const
@@ -70,10 +67,12 @@ double QOSDShowLabel::WayLength() const
 
 void QOSDShowLabel::Advance(int milliseconds)
 {
-    if (!IsRolling() || milliseconds <= 0)
+    if (!m_content.roll || !isVisible() || milliseconds <= 0)
         return;
-    m_way = std::fmod(m_way + PixelsPerSecond * milliseconds / 1000.0, WayLength());
-    update();
+    const QPoint before = TextOffset();
+    m_way = std::fmod(m_way + PixelsPerSecond * milliseconds / 1000.0, qMax(1.0, WayLength()));
+    if (TextOffset() != before)
+        update();
 }
 
 QPoint QOSDShowLabel::TextOffset() const

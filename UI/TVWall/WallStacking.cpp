@@ -22,7 +22,7 @@ QVector<int> AscendingOrder(const QVector<int>& values)
     QMap<int, int> positions;
     for (int i = 0; i < values.size(); ++i)
         positions.insert(values.at(i), i);
-    return positions.values().toVector();
+    return QVector<int>(positions.begin(), positions.end());
 }
 
 } // namespace UICommonMdl::WallStacking

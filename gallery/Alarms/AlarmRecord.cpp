@@ -106,8 +106,7 @@ QVector<AlarmRecord> SampleAlarms(int count, const QDateTime& now)
     std::minstd_rand random(1);
     QVector<AlarmRecord> alarms;
     alarms.reserve(count);
-    // Local time would look into the zone's rules for each of them.
-    QDateTime time = now.toOffsetFromUtc(now.offsetFromUtc());
+    QDateTime time = now;
     for (int i = 0; i < count; ++i) {
         time = time.addSecs(-1 - static_cast<int>(random() % LongestPause));
         const QString place = OneOf(Places, random);

@@ -2,8 +2,6 @@
 
 #include <gallery/Pictures/CameraTile.h>
 
-#include <algorithm>
-
 namespace OperatorClient {
 
 namespace {
@@ -12,6 +10,8 @@ constexpr int ShortestInterval = 40;
 constexpr int LongestInterval = 1000;
 // What one core paints without the operator's hand feeling it.
 constexpr int TilesPerSecond = 500;
+// With nothing to show, only the next look whether that has changed is needed.
+constexpr int IdleInterval = 250;
 
 } // namespace
 
@@ -20,17 +20,17 @@ FrameClock::FrameClock(QObject* parent)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &FrameClock::OnTick);
+    m_timer.start(IdleInterval);
 }
 
-void FrameClock::Add(CameraTile* tile) { m_tiles.append(tile); }
-
-void FrameClock::Remove(CameraTile* tile) { m_tiles.removeOne(tile); }
-
-void FrameClock::Wake()
+void FrameClock::Add(CameraTile* tile)
 {
-    if (!m_timer.isActive() && !m_frozen.isValid())
+    m_tiles.append(tile);
+    if (m_timer.isActive() && m_timer.interval() == IdleInterval)
         m_timer.start(ShortestInterval);
 }
+
+void FrameClock::Remove(CameraTile* tile) { m_tiles.removeOne(tile); }
 
 QDateTime FrameClock::Now() const { return m_frozen.isValid() ? m_frozen : QDateTime::currentDateTime(); }
 
@@ -49,13 +49,14 @@ int FrameClock::IntervalFor(int visibleTiles)
 void FrameClock::OnTick()
 {
     const QDateTime now = Now();
-    const auto moving = std::count_if(
-        m_tiles.cbegin(), m_tiles.cend(), [&now](CameraTile* tile) { return tile->Refresh(now); });
-    if (moving == 0) {
-        m_timer.stop();
-        return;
+    int visible = 0;
+    for (CameraTile* tile : qAsConst(m_tiles)) {
+        if (!tile->CanBeSeen())
+            continue;
+        ++visible;
+        tile->Refresh(now);
     }
-    const int interval = IntervalFor(int(moving));
+    const int interval = visible == 0 ? IdleInterval : IntervalFor(visible);
     if (interval != m_timer.interval())
         m_timer.start(interval);
 }

@@ -14,7 +14,6 @@ public:
 
     QString Title() const override;
     qint64 FrameNumber(const QDateTime& now) const override;
-    bool IsStill() const override { return true; }
     void Paint(QPainter& painter, const QRect& area, const QDateTime& now) override;
 
 private:

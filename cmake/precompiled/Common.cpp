@@ -1,1 +1,0 @@
-// Compiles the headers of Common.h; see cmake/Precompiled.cmake.
