@@ -10,10 +10,10 @@
 /// second hits both, and the medians are compared.
 namespace Ratio {
 
-inline double MedianMilliseconds(std::vector<double> times)
+inline double Median(std::vector<double> values)
 {
-    std::sort(times.begin(), times.end());
-    return times.at(times.size() / 2);
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
 }
 
 inline double Milliseconds(const std::function<void()>& work)
@@ -24,13 +24,17 @@ inline double Milliseconds(const std::function<void()>& work)
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-/// Prints "name ratio (ours ms, theirs ms)" of two lists of times.
+/// Prints "name ratio (ours unit, theirs unit)".
+inline void PrintRatio(const char* name, double ours, double theirs, const char* unit)
+{
+    std::printf("%s %.3f (%.3f %s, %.3f %s)\n", name, ours / theirs, ours, unit, theirs, unit);
+    std::fflush(stdout);
+}
+
+/// The same of the medians of two lists of times.
 inline void PrintMedians(const char* name, const std::vector<double>& ours, const std::vector<double>& theirs)
 {
-    const double a = MedianMilliseconds(ours);
-    const double b = MedianMilliseconds(theirs);
-    std::printf("%s %.3f (%.3f ms, %.3f ms)\n", name, a / b, a, b);
-    std::fflush(stdout);
+    PrintRatio(name, Median(ours), Median(theirs), "ms");
 }
 
 /// Runs @p ours and @p theirs @p rounds times each and prints "name ratio (ours ms, theirs ms)".

@@ -167,11 +167,11 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
 
-    PrintDrag<CCutDetailPhoto>("drag-frame/24-megapixels/plain", Photo(TwentyFourMegapixels));
-    PrintDrag<CCutPhotoWithZoom>("drag-frame/24-megapixels/zoom", Photo(TwentyFourMegapixels));
-
-    if (argc > 1)
-        return 0;
+    const bool fitOnly = QCoreApplication::arguments().contains(QLatin1String("--fit-only")); // for profilers
+    if (!fitOnly) {
+        PrintDrag<CCutDetailPhoto>("drag-frame/24-megapixels/plain", Photo(TwentyFourMegapixels));
+        PrintDrag<CCutPhotoWithZoom>("drag-frame/24-megapixels/zoom", Photo(TwentyFourMegapixels));
+    }
     const QImage photo = Photo(TwelveMegapixels);
     bool same = PrintFit("fit-jpeg/12-megapixels/18-steps", photo, 18);
     same = PrintFit("fit-jpeg/12-megapixels/25-steps", photo, 12) && same;

@@ -2,6 +2,7 @@
 // widgets of the display wall in bare MDI areas.
 
 #include "Ratio.h"
+#include "Walls.h"
 
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
 #include <UI/TVWall/KvTVWallNormalWnd.h>
@@ -9,166 +10,27 @@
 
 #include <QApplication>
 #include <QGraphicsView>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QWheelEvent>
 #include <functional>
 #include <memory>
-#include <utility>
 
 namespace {
 
-constexpr int ScreensAcross = 6;
-constexpr int WindowsAcross = 5;
-constexpr QSize WallSize(1920, 1080);
-constexpr int Rounds = 7;
-
-KvGUI::StructScaleRect Cell(int index, int across)
-{
-    const double side = 1.0 / across;
-    const double left = (index % across) * side;
-    const double top = (index / across) * side; // NOLINT(bugprone-integer-division)
-    return {left, top, left + side, top + side, true};
-}
-
-/// Handles all posted events, layout and painting included.
-void DeliverAll()
-{
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-}
-
+using namespace Walls;
 using UICommonMdl::KvTVWallDisplayWnd;
 using UICommonMdl::KvTVWallNormalWnd;
 using OperateWall = UICommonMdl::KvTVWallOperateWnd;
 
-template <typename Wall>
-std::unique_ptr<Wall> Arranged(std::unique_ptr<Wall> wall)
-{
-    wall->resize(WallSize);
-    wall->SetTVWallGridCount(ScreensAcross, ScreensAcross);
-    wall->SetWindowTitleShow(true);
-    wall->show();
-    for (int s = 0; s < ScreensAcross * ScreensAcross; ++s)
-        wall->AddScreen(Cell(s, ScreensAcross), QVariant());
-    return wall;
-}
-
-template <typename Wall>
-std::unique_ptr<Wall> MakeWall()
-{
-    return Arranged(std::make_unique<Wall>());
-}
+constexpr int Rounds = 7;
 
 std::unique_ptr<OperateWall> MakeOperateWall(int mode)
 {
     auto wall = std::make_unique<OperateWall>();
     wall->SetShowMode(mode);
-    return Arranged(std::move(wall));
+    Arrange(*wall, FullWall);
+    return wall;
 }
-
-template <typename Wall>
-void OpenWindows(Wall& wall)
-{
-    for (int s = 0; s < wall.GetScreenCount(); ++s) {
-        for (int w = 0; w < WindowsAcross * WindowsAcross; ++w)
-            wall.OpenWindow(s, Cell(w, WindowsAcross), QVariant());
-    }
-}
-
-/// The style sheet of the display wall's widgets.
-QString WidgetSheet() { return KvTVWallDisplayWnd().styleSheet(); }
-
-/// The same children, placed by the same numbers, in QMdiArea and QMdiSubWindow as they are.
-class BareWall : public QWidget
-{
-public:
-    explicit BareWall(const QString& sheet)
-    {
-        setAttribute(Qt::WA_StyledBackground);
-        setStyleSheet(sheet);
-        for (int s = 0; s < ScreensAcross * ScreensAcross; ++s) {
-            auto* area = new QMdiArea(this);
-            area->setFrameStyle(QFrame::NoFrame);
-            m_areas << area;
-        }
-    }
-
-    void OpenWindows()
-    {
-        for (QMdiArea* area : qAsConst(m_areas)) {
-            for (int w = 0; w < WindowsAcross * WindowsAcross; ++w) {
-                auto* window = new QMdiSubWindow;
-                AddChildren(window, w);
-                area->addSubWindow(window, Qt::FramelessWindowHint | Qt::CustomizeWindowHint);
-                m_windows << window;
-                Place(window, area, w);
-                window->show();
-            }
-        }
-    }
-
-protected:
-    void resizeEvent(QResizeEvent*) override
-    {
-        for (int s = 0; s < m_areas.size(); ++s)
-            m_areas.at(s)->setGeometry(Pixels(Cell(s, ScreensAcross), size()));
-        for (int w = 0; w < m_windows.size(); ++w) {
-            const int perScreen = WindowsAcross * WindowsAcross;
-            Place(m_windows.at(w), m_areas.at(w / perScreen), w % perScreen);
-        }
-    }
-
-private:
-    static QRect Pixels(const KvGUI::StructScaleRect& scale, const QSize& size)
-    {
-        return {
-            int(size.width() * scale.dLeft), int(size.height() * scale.dTop),
-            int(size.width() * (scale.dRight - scale.dLeft)),
-            int(size.height() * (scale.dBottom - scale.dTop))};
-    }
-
-    static void AddChildren(QMdiSubWindow* window, int index)
-    {
-        delete window->layout(); // it would lay out one inner widget over the whole window
-        auto* title = new QWidget(window);
-        title->setObjectName(QStringLiteral("pWindowTitleBar"));
-        title->setAttribute(Qt::WA_StyledBackground);
-        auto* layout = new QHBoxLayout(title);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->setSpacing(1);
-        auto* text = new QLabel(QStringLiteral("Window %1").arg(index + 1), title);
-        text->setObjectName(QStringLiteral("pWindowTitleText"));
-        text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        layout->addWidget(text, 1);
-        for (const char* name :
-             {"pWindowVolumeOffBtn", "pWindowSelfAdaptionBtn", "pWindowMaxBtn", "pWindowCloseBtn"}) {
-            auto* button = new QPushButton(title);
-            button->setObjectName(QLatin1String(name));
-            button->setMaximumSize(20, 20);
-            layout->addWidget(button);
-        }
-        auto* video = new QWidget(window);
-        video->setObjectName(QStringLiteral("pWindowVideo"));
-        video->setAttribute(Qt::WA_StyledBackground);
-    }
-
-    static void Place(QMdiSubWindow* window, const QMdiArea* area, int index)
-    {
-        window->setGeometry(Pixels(Cell(index, WindowsAcross), area->size()));
-        const QList<QWidget*> children
-            = window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-        children.at(0)->setGeometry(2, 2, window->width() - 4, 24);
-        children.at(1)->setGeometry(1, 26, window->width() - 4, window->height() - 24);
-    }
-
-    QList<QMdiArea*> m_areas;
-    QList<QMdiSubWindow*> m_windows;
-};
 
 template <typename Wall>
 void BenchmarkOpening(const char* name)
@@ -184,12 +46,10 @@ void BenchmarkOpening(const char* name)
             DeliverAll();
         }));
         wall.reset();
-        BareWall bare(sheet);
-        bare.resize(WallSize);
-        bare.show();
+        const auto bare = MakeBareWall(sheet);
         DeliverAll();
         theirs.push_back(Ratio::Milliseconds([&] {
-            bare.OpenWindows();
+            bare->OpenWindows();
             DeliverAll();
         }));
     }
@@ -208,7 +68,7 @@ double StepTime(const std::function<void(int step)>& act)
             DeliverAll();
         }));
     }
-    return Ratio::MedianMilliseconds(times);
+    return Ratio::Median(times);
 }
 
 /// Of a widget that is resized to and fro.
@@ -219,7 +79,7 @@ double ResizeTime(QWidget& widget)
 
 // Never both at once: each bare area filters the events of the whole application.
 template <typename Wall>
-void BenchmarkResizing(const char* name)
+void BenchmarkResizing(const char* name, bool videos)
 {
     const QString sheet = WidgetSheet();
     std::vector<double> ours;
@@ -228,15 +88,17 @@ void BenchmarkResizing(const char* name)
         {
             const auto wall = MakeWall<Wall>();
             OpenWindows(*wall);
+            if (videos)
+                AddVideos(*wall);
             DeliverAll();
             ours.push_back(ResizeTime(*wall));
         }
-        BareWall bare(sheet);
-        bare.resize(WallSize);
-        bare.show();
-        bare.OpenWindows();
+        const auto bare = MakeBareWall(sheet);
+        bare->OpenWindows();
+        if (videos)
+            bare->AddVideos();
         DeliverAll();
-        theirs.push_back(ResizeTime(bare));
+        theirs.push_back(ResizeTime(*bare));
     }
     Ratio::PrintMedians(name, ours, theirs);
 }
@@ -356,7 +218,7 @@ void BenchmarkNormalDragging()
     KvGUI::StructScaleRect from;
     wall->GetWindowScale(7, 12, from);
     // Screen 7 is the second of the second row; its title bars are 24 pixels high.
-    const QSize screen = WallSize / ScreensAcross;
+    const QSize screen = WallSize / FullWall.screens;
     const QPoint corner(
         screen.width() + int(screen.width() * from.dLeft),
         screen.height() + int(screen.height() * from.dTop));
@@ -377,11 +239,13 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     BenchmarkOpening<KvTVWallDisplayWnd>("open_900_windows");
-    BenchmarkResizing<KvTVWallDisplayWnd>("resize_900_windows");
+    BenchmarkResizing<KvTVWallDisplayWnd>("resize_900_windows", false);
+    BenchmarkResizing<KvTVWallDisplayWnd>("resize_900_videos", true);
     BenchmarkZooming("zoom_900_windows", DisplayZoomTime);
     BenchmarkDisplayDragging();
     BenchmarkOpening<KvTVWallNormalWnd>("normal_open_900_windows");
-    BenchmarkResizing<KvTVWallNormalWnd>("normal_resize_900_windows");
+    BenchmarkResizing<KvTVWallNormalWnd>("normal_resize_900_windows", false);
+    BenchmarkResizing<KvTVWallNormalWnd>("normal_resize_900_videos", true);
     BenchmarkZooming("normal_zoom_900_windows", NormalZoomTime);
     BenchmarkNormalDragging();
     return 0;

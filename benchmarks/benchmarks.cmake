@@ -1,4 +1,7 @@
-uicomponents_benchmark(bench_wall bench_wall.cpp)
+uicomponents_benchmark(bench_wall bench_wall.cpp Walls.h)
+uicomponents_benchmark(bench_start bench_start.cpp Walls.h)
+uicomponents_benchmark(bench_memory bench_memory.cpp Walls.h)
+uicomponents_benchmark(bench_idle bench_idle.cpp Walls.h)
 uicomponents_benchmark(bench_foundation bench_foundation.cpp)
 if(TARGET OfficeProvider)
     find_library(XLSXWRITER xlsxwriter REQUIRED)

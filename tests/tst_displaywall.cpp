@@ -7,6 +7,7 @@
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
 
 #include <QAccessible>
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLabel>
 #include <QMdiArea>
@@ -81,6 +82,7 @@ private Q_SLOTS:
     void overlaysAreShown();
     void overlaysAreReused();
     void overlaysRoll();
+    void unseenOverlaysRest();
     void backgroundHidesOverlays();
     void baseMapIsPainted();
     void paintedColours();
@@ -324,6 +326,35 @@ void tst_DisplayWall::overlaysRoll()
         QCOMPARE(before.pixel(1, 1), qRgb(0, 120, 0));
         QTRY_VERIFY(label->grab().toImage() != before);
     }
+}
+
+// Catches timers that run on for texts that nobody sees, and texts that stand still when they are back.
+void tst_DisplayWall::unseenOverlaysRest()
+{
+    const Fixture f;
+    std::vector<KvGUI::StructOSDInfo> infos{Overlay("rolling text", true)};
+    f.wall->SetScreenOSDInfo(0, infos);
+    const auto timers = [&f] {
+        int count = 0;
+        const auto objects = f.wall->findChildren<QObject*>();
+        for (QObject* object : objects) {
+            if (object->inherits("UICommonMdl::OverlayLabels"))
+                count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+        }
+        return count;
+    };
+    QTRY_COMPARE(timers(), 1);
+    f.wall->hide();
+    QTRY_COMPARE(timers(), 0);
+    f.wall->show();
+    QTRY_COMPARE(timers(), 1);
+    QWidget cover(f.wall.get());
+    cover.setAutoFillBackground(true);
+    cover.resize(f.wall->size());
+    cover.show();
+    QTRY_COMPARE(timers(), 0);
+    cover.hide();
+    QTRY_COMPARE(timers(), 1);
 }
 
 void tst_DisplayWall::backgroundHidesOverlays()

@@ -685,8 +685,12 @@ void tst_gallery::HiddenTilesRest()
         return client.Wall()->GetWindowWidget(screen, window)->findChild<CameraTile*>();
     };
     QVERIFY(tile(0, 0)->CanBeSeen());
+    QTRY_VERIFY(client.clock.IsRunning());
     client.page.hide();
     QVERIFY(!tile(0, 0)->CanBeSeen());
+    QTRY_VERIFY(!client.clock.IsRunning());
+    client.page.show();
+    QTRY_VERIFY(client.clock.IsRunning());
 }
 
 void tst_gallery::UnreadableFileSaysWhy_data()

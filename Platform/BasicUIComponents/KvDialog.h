@@ -49,6 +49,7 @@ public:
     /// The place for the content; never null, owned by the dialog.
     QWidget* GetCentralWidget() const;
 
+    /// Ends the dialog as QDialog::done() does; a slot of its signals may delete it.
     void done(int iResult) override;
 
 public slots:

@@ -91,6 +91,7 @@ public:
     void UpdatePos(); ///< moves the dialog to the parent's upper right corner
     /// @}
 
+    /// Ends the dialog as QDialog::done() does; a slot of its signals may delete it.
     void done(int iResult) override;
 
 public Q_SLOTS:

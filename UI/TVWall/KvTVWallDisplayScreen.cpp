@@ -458,16 +458,11 @@ void KvTVWallDisplayScreen::childEvent(QChildEvent* event) { QAbstractScrollArea
 
 void KvTVWallDisplayScreen::timerEvent(QTimerEvent* event) { QAbstractScrollArea::timerEvent(event); }
 
-void KvTVWallDisplayScreen::showEvent(QShowEvent* event)
-{
-    QAbstractScrollArea::showEvent(event);
-    m_pOverlays->UpdateRolling();
-}
+void KvTVWallDisplayScreen::showEvent(QShowEvent* event) { QAbstractScrollArea::showEvent(event); }
 
 void KvTVWallDisplayScreen::hideEvent(QHideEvent* event)
 {
     QAbstractScrollArea::hideEvent(event);
-    m_pOverlays->UpdateRolling();
     m_gestures.Cancel();
 }
 

@@ -211,7 +211,6 @@ void KvTVWallNormalScreen::PlaceCover()
     m_pCover->setVisible(!covered.isEmpty());
     if (!covered.isEmpty())
         m_pCover->setMask(covered);
-    m_pOverlays->UpdateRolling();
 }
 
 // ---- Windows

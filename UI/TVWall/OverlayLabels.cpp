@@ -50,7 +50,6 @@ void OverlayLabels::Show(const std::vector<KvGUI::StructOSDInfo>& infos, const Q
     make(sorted.plain, PlainSlot, &OverlayLabels::MakePlain);
     make(sorted.rolling, 0, &OverlayLabels::MakeRolling);
     Raise();
-    UpdateRolling();
 }
 
 QLabel* OverlayLabels::MakePlain(const KvGUI::StructOSDInfo& info, const ScreenOverlay::Placement& placement)
@@ -120,24 +119,32 @@ QRegion OverlayLabels::Region() const
     return region;
 }
 
-void OverlayLabels::UpdateRolling()
+bool OverlayLabels::IsRolling(const QObject* label) const
 {
-    const bool rolls = std::any_of(m_labels.begin(), m_labels.begin() + PlainSlot, [](const QLabel* label) {
-        return label != nullptr && label->isVisible()
-            && static_cast<const QOSDShowLabel*>(label)->IsRolling();
-    });
-    if (!rolls) {
-        m_rollTimer.stop();
-    } else if (!m_rollTimer.isActive()) {
-        m_rollClock.start();
-        m_rollTimer.start(RollInterval, this);
-    }
+    const auto end = m_labels.begin() + PlainSlot;
+    const auto found = std::find(m_labels.begin(), end, label);
+    return found != end && static_cast<const QOSDShowLabel*>(*found)->IsRolling();
 }
 
+void OverlayLabels::KeepRolling()
+{
+    m_bPainted = true;
+    if (m_rollTimer.isActive())
+        return;
+    m_rollClock.start();
+    m_rollTimer.start(RollInterval, this);
+}
+
+// What is not painted (hidden, covered, minimised, on another desktop) waits for it with the next step.
 void OverlayLabels::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() != m_rollTimer.timerId())
         return QObject::timerEvent(event);
+    if (!m_bPainted) {
+        m_rollTimer.stop();
+        return;
+    }
+    m_bPainted = false;
     const int passed = int(m_rollClock.restart());
     std::for_each(m_labels.begin(), m_labels.begin() + PlainSlot, [passed](QLabel* label) {
         if (label != nullptr)
@@ -147,6 +154,8 @@ void OverlayLabels::timerEvent(QTimerEvent* event)
 
 bool OverlayLabels::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Paint && IsRolling(watched))
+        KeepRolling();
     if (!WallEvents::IsReported(event->type()))
         return false;
     const int label = int(std::find(m_labels.begin(), m_labels.end(), watched) - m_labels.begin());

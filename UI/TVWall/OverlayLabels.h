@@ -17,7 +17,7 @@ namespace UICommonMdl {
 class QOSDShowLabel;
 
 /// The text overlays of a screen, of every kind of wall: up to eight plain and eight rolling labels in a
-/// widget. One timer drives all that roll; it runs only while one of them is seen.
+/// widget. One timer drives all that roll; it runs only while they are painted.
 class OverlayLabels : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,6 @@ public:
     void Show(const std::vector<KvGUI::StructOSDInfo>& infos, const QSize& screen);
     void Hide(); ///< hides all until the next Show()
     void Raise(); ///< brings those shown over the canvas's other children
-    void UpdateRolling(); ///< call when the canvas was shown or hidden
     QRegion Region() const; ///< what those shown cover of the canvas
 
 Q_SIGNALS:
@@ -49,11 +48,14 @@ private:
     QLabel* MakePlain(const KvGUI::StructOSDInfo& info, const ScreenOverlay::Placement& placement);
     QLabel* MakeRolling(const KvGUI::StructOSDInfo& info, const ScreenOverlay::Placement& placement);
     void Drop();
+    bool IsRolling(const QObject* label) const;
+    void KeepRolling();
 
     QWidget* const m_pCanvas;
     std::array<QLabel*, 2 * PlainSlot> m_labels{}; // rolling ones, then plain ones
     QBasicTimer m_rollTimer;
     QElapsedTimer m_rollClock;
+    bool m_bPainted = false; ///< since the timer's last event
 };
 
 } // namespace UICommonMdl

@@ -54,6 +54,9 @@ QFont QOSDShowLabel::TextFont() const
     return textFont;
 }
 
+// A text that swings and fills its label exactly has nowhere to go.
+bool QOSDShowLabel::IsRolling() const { return m_content.roll && WayLength() >= 1.0; }
+
 // Pixels of one round. A text leaves the label wholly before it comes in again from the other side; back
 // and forth it moves as far as it sticks out of the label, or as it has room in it.
 double QOSDShowLabel::WayLength() const
@@ -67,12 +70,10 @@ double QOSDShowLabel::WayLength() const
 
 void QOSDShowLabel::Advance(int milliseconds)
 {
-    if (!m_content.roll || !isVisible() || milliseconds <= 0)
+    if (!IsRolling() || milliseconds <= 0)
         return;
-    const QPoint before = TextOffset();
-    m_way = std::fmod(m_way + PixelsPerSecond * milliseconds / 1000.0, qMax(1.0, WayLength()));
-    if (TextOffset() != before)
-        update();
+    m_way = std::fmod(m_way + PixelsPerSecond * milliseconds / 1000.0, WayLength());
+    update();
 }
 
 QPoint QOSDShowLabel::TextOffset() const

@@ -43,8 +43,8 @@ public:
     /// label's size first: the text is padded to its width.
     void SetContent(const Content& content);
     /// Whether the text moves at all.
-    bool IsRolling() const { return m_content.roll; }
-    /// Moves the text on by the way of @p milliseconds. Costs nothing while the label is hidden.
+    bool IsRolling() const;
+    /// Moves the text on by the way of @p milliseconds.
     void Advance(int milliseconds);
     /// Offset of the text from its resting place, in pixels.
     QPoint TextOffset() const;

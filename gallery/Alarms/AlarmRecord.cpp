@@ -106,7 +106,8 @@ QVector<AlarmRecord> SampleAlarms(int count, const QDateTime& now)
     std::minstd_rand random(1);
     QVector<AlarmRecord> alarms;
     alarms.reserve(count);
-    QDateTime time = now;
+    // Local time would look into the zone's rules for each of them.
+    QDateTime time = now.toOffsetFromUtc(now.offsetFromUtc());
     for (int i = 0; i < count; ++i) {
         time = time.addSecs(-1 - static_cast<int>(random() % LongestPause));
         const QString place = OneOf(Places, random);

@@ -28,15 +28,23 @@ void CameraTile::SetSource(std::shared_ptr<FrameSource> source)
 
 bool CameraTile::CanBeSeen() const { return isVisible() && !visibleRegion().isEmpty(); }
 
-void CameraTile::Refresh(const QDateTime& now)
+bool CameraTile::Refresh(const QDateTime& now)
 {
-    if (m_pSource->FrameNumber(now) != m_iPainted)
+    if (m_bAwaitsPaint || m_pSource->IsStill() || !CanBeSeen())
+        return false;
+    if (m_pSource->FrameNumber(now) != m_iPainted) {
+        m_bAwaitsPaint = true;
         update();
+    }
+    return true;
 }
 
 void CameraTile::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
+    m_bAwaitsPaint = false;
+    if (!m_pSource->IsStill())
+        m_clock.Wake();
     const QDateTime now = m_clock.Now();
     m_iPainted = m_pSource->FrameNumber(now);
     QPainter painter(this);

@@ -24,7 +24,8 @@ public:
     /// Whether any part of the tile is on the display.
     bool CanBeSeen() const;
     /// Paints again when the source has another picture than the one painted last.
-    void Refresh(const QDateTime& now);
+    /// @return whether to ask again at the next frame; if not, the tile wakes the clock when it is painted
+    bool Refresh(const QDateTime& now);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -33,6 +34,7 @@ private:
     std::shared_ptr<FrameSource> m_pSource;
     FrameClock& m_clock;
     qint64 m_iPainted = 0; ///< number of the frame painted last
+    bool m_bAwaitsPaint = false; ///< asked for, and not come yet: in a minimised window it comes much later
 };
 
 } // namespace OperatorClient

@@ -2,6 +2,8 @@
 
 #include <gallery/Pictures/CameraTile.h>
 
+#include <algorithm>
+
 namespace OperatorClient {
 
 namespace {
@@ -10,8 +12,6 @@ constexpr int ShortestInterval = 40;
 constexpr int LongestInterval = 1000;
 // What one core paints without the operator's hand feeling it.
 constexpr int TilesPerSecond = 500;
-// With nothing to show, only the next look whether that has changed is needed.
-constexpr int IdleInterval = 250;
 
 } // namespace
 
@@ -20,17 +20,17 @@ FrameClock::FrameClock(QObject* parent)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &FrameClock::OnTick);
-    m_timer.start(IdleInterval);
 }
 
-void FrameClock::Add(CameraTile* tile)
-{
-    m_tiles.append(tile);
-    if (m_timer.isActive() && m_timer.interval() == IdleInterval)
-        m_timer.start(ShortestInterval);
-}
+void FrameClock::Add(CameraTile* tile) { m_tiles.append(tile); }
 
 void FrameClock::Remove(CameraTile* tile) { m_tiles.removeOne(tile); }
+
+void FrameClock::Wake()
+{
+    if (!m_timer.isActive() && !m_frozen.isValid())
+        m_timer.start(ShortestInterval);
+}
 
 QDateTime FrameClock::Now() const { return m_frozen.isValid() ? m_frozen : QDateTime::currentDateTime(); }
 
@@ -49,14 +49,13 @@ int FrameClock::IntervalFor(int visibleTiles)
 void FrameClock::OnTick()
 {
     const QDateTime now = Now();
-    int visible = 0;
-    for (CameraTile* tile : qAsConst(m_tiles)) {
-        if (!tile->CanBeSeen())
-            continue;
-        ++visible;
-        tile->Refresh(now);
+    const auto moving = std::count_if(
+        m_tiles.cbegin(), m_tiles.cend(), [&now](CameraTile* tile) { return tile->Refresh(now); });
+    if (moving == 0) {
+        m_timer.stop();
+        return;
     }
-    const int interval = visible == 0 ? IdleInterval : IntervalFor(visible);
+    const int interval = IntervalFor(int(moving));
     if (interval != m_timer.interval())
         m_timer.start(interval);
 }

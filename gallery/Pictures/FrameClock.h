@@ -10,7 +10,8 @@ namespace OperatorClient {
 class CameraTile;
 
 /// The one timer behind all tiles. It runs at 25 frames a second while few tiles can be seen and slower
-/// with many, so that the work of a second stays the same, and it asks only tiles that can be seen.
+/// with many, so that the work of a second stays the same. While no moving picture can be seen it stands
+/// still: the next tile that is painted wakes it.
 class FrameClock : public QObject
 {
     Q_OBJECT
@@ -20,6 +21,9 @@ public:
 
     void Add(CameraTile* tile);
     void Remove(CameraTile* tile);
+    /// To be called by a tile of a moving picture when it is painted.
+    void Wake();
+    bool IsRunning() const { return m_timer.isActive(); }
 
     /// The moment that the pictures show.
     QDateTime Now() const;

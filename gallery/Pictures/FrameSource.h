@@ -23,6 +23,9 @@ public:
     /// A number that changes whenever the picture does; a tile paints again only then.
     virtual qint64 FrameNumber(const QDateTime& now) const = 0;
 
+    /// Whether the picture never changes, so that nobody needs to look again.
+    virtual bool IsStill() const { return false; }
+
     /// Fills @p area, in device-independent pixels, with the picture of this moment, or with the reason why
     /// there is none.
     virtual void Paint(QPainter& painter, const QRect& area, const QDateTime& now) = 0;

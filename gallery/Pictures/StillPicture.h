@@ -14,6 +14,7 @@ public:
 
     QString Title() const override;
     qint64 FrameNumber(const QDateTime& now) const override;
+    bool IsStill() const override { return true; }
     void Paint(QPainter& painter, const QRect& area, const QDateTime& now) override;
 
 private:

@@ -1,0 +1,1 @@
+// Compiles the headers of Common.h; see cmake/Precompiled.cmake.
