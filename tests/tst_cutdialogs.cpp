@@ -309,7 +309,7 @@ void TestCutDialogs::OkWithoutAFrameStaysOpen()
             QVERIFY(dialog.isVisible());
             QCOMPARE(Message(), QStringLiteral("Please select a valid area to cut."));
             KvGUI::KvMessageNotify::Instance()->CloseAll();
-            dialog.reject();
+            QTest::mouseClick(dialog.GetButton(QDialogButtonBox::Cancel), Qt::LeftButton);
         });
         QCOMPARE(result, int(QDialog::Rejected));
     };

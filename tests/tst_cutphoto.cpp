@@ -670,6 +670,7 @@ void TestCutPhoto::LimitsReachTheCut()
 
     canvas->SetSrcImage(PlacePicture(Source));
     canvas->SetPicMaxSize(150, 150);
+    QCOMPARE(canvas->ChanageImageByAspectRatio(PlacePicture(Source)).size(), QSize(100, 75));
     canvas->SetKeepAspectRatio(true);
     canvas->SetImageMaxCapacity(2000);
     QVERIFY(canvas->IsCutPhotoVaildWithNotify());
@@ -718,6 +719,8 @@ void TestCutPhoto::PlainDragsBeginOnThePhoto()
     QCOMPARE(Framed(*canvas), Whole);
     Drag(*canvas, {199, 149}, {100, 100});
     QCOMPARE(Framed(*canvas), QRect(100, 100, 100, 50));
+    canvas->SetCutRegion(QRect(20, 10, 60, 40));
+    QCOMPARE(Framed(*canvas), QRect(20, 10, 60, 40));
 }
 
 // Catches a bubble that covers the photo while it is cropped, or that comes back.

@@ -409,8 +409,12 @@ void TestExcel::AppliesStyles()
         excel.SetFontBold(true);
         excel.SetFontItalic(true);
         excel.SetFontUnderline(true);
-        QVERIFY(excel.SetCellHorizontalAlignment(AxExcelFunction::HAlign_Left));
-        QVERIFY(excel.SetCellVerticalAlignment(AxExcelFunction::VAlign_Bottom));
+        for (const auto side :
+             {AxExcelFunction::HAlign_Center, AxExcelFunction::HAlign_Right, AxExcelFunction::HAlign_Left})
+            QVERIFY(excel.SetCellHorizontalAlignment(side));
+        for (const auto side :
+             {AxExcelFunction::VAlign_Center, AxExcelFunction::VAlign_Top, AxExcelFunction::VAlign_Bottom})
+            QVERIFY(excel.SetCellVerticalAlignment(side));
     }
     if (preset == QLatin1String("title"))
         excel.SetExcelTitleProperty();

@@ -433,6 +433,7 @@ void tst_NormalWall::cursors()
     QCOMPARE(shapeAt({101, 240}), Qt::SizeHorCursor);
     QCOMPARE(shapeAt({250, 358}), Qt::SizeVerCursor);
     QCOMPARE(shapeAt({101, 121}), Qt::SizeFDiagCursor);
+    QCOMPARE(shapeAt({398, 121}), Qt::SizeBDiagCursor);
     QCOMPARE(shapeAt(OnLeftVideo), Qt::ArrowCursor);
     QCOMPARE(shapeAt({398, 240}), Qt::SizeHorCursor);
     QCOMPARE(shapeAt({396, 132}), Qt::ArrowCursor); // the close button, near the edge

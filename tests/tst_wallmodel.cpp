@@ -206,6 +206,9 @@ void tst_WallModel::placementStates()
     QVERIFY(placement.SnapOrRestore(4, 2));
     QCOMPARE(placement.Scale(), (Rect{0.25, 0.0, 0.5, 0.5, false}));
     QVERIFY(placement.GetState() == State::Snapped);
+    QVERIFY(placement.SnapOrRestore(4, 2));
+    QCOMPARE(placement.Scale(), start);
+    QVERIFY(placement.SnapOrRestore(4, 2));
     QVERIFY(placement.Set({0.0, 0.0, 0.5, 0.5, true}));
     QVERIFY(placement.GetState() == State::Free);
     QVERIFY(!placement.SnapOrRestore(0, 0));
@@ -418,6 +421,7 @@ void tst_WallModel::overlayLook()
     QCOMPARE(ScreenOverlay::FaceOf("simKai").objectName, "KaiStyle"_s);
     QCOMPARE(ScreenOverlay::FaceOf("SIMKAI").objectName, "SongStyle"_s);
     QCOMPARE(ScreenOverlay::AlignmentOf(1), Qt::Alignment(Qt::AlignCenter));
+    QVERIFY(ScreenOverlay::AlignmentOf(2) & Qt::AlignRight);
     QVERIFY(ScreenOverlay::AlignmentOf(9) & Qt::AlignLeft);
     const auto padded = [](int textWidth, int spaceWidth) {
         return ScreenOverlay::PaddedToWidth("text"_s, textWidth, spaceWidth, 100);

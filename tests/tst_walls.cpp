@@ -256,6 +256,9 @@ void tst_Walls::indicesShift()
         QCOMPARE(f.wall->OpenWindow(0, LeftUpper, 10 + w), w);
     QVERIFY(f.wall->DeleteWindow(0, 0));
     QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(12));
+    f.wall->SetWindowUserData(0, 1, 22);
+    QCOMPARE(f.wall->GetWindowUserData(0, 0), QVariant(11));
+    QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(22));
     QCOMPARE(f.wall->GetAllWindowIndexs(0), (QList<int>{0, 1}));
     QCOMPARE(f.wall->OpenWindow(0, LeftUpper, QVariant()), 2);
     f.wall->DeleteAllWindows();
