@@ -6,8 +6,8 @@
 
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
 
-#include <QAccessible>
 #include <QAbstractEventDispatcher>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QMdiArea>

@@ -26,7 +26,8 @@ void OnDownload(QWebEngineDownloadItem* download)
                          << download->url().toDisplayString().left(LongestLogged);
 }
 
-QPointer<QWebEngineProfile> profile; // NOLINT: a plain function deletes it
+// Not deleted with the statics but by a plain function.
+QPointer<QWebEngineProfile> profile; // NOLINT clazy:exclude=non-pod-global-static
 
 } // namespace
 
