@@ -55,8 +55,10 @@ struct Answer
 
 QByteArray ToFrame(const Request& request);
 QByteArray ToFrame(const Answer& answer);
-Request ToRequest(const QByteArray& message);
-Answer ToAnswer(const QByteArray& message);
+
+/// Nothing for a message that is not one, or holds more than one.
+std::optional<Request> ToRequest(const QByteArray& message);
+std::optional<Answer> ToAnswer(const QByteArray& message);
 
 /// Puts frames together from the pieces in which they arrive.
 class FrameBuffer
@@ -65,7 +67,12 @@ public:
     void Add(const char* data, int size) { m_data.append(data, size); }
     std::optional<QByteArray> Take(); ///< the next message, when it is complete
 
+    /// Whether the next frame is longer than any that is sent: the two ends have lost one another.
+    bool IsBroken() const;
+
 private:
+    std::optional<quint32> NextLength() const;
+
     QByteArray m_data;
 };
 

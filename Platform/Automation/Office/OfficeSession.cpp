@@ -139,13 +139,17 @@ Answer OfficeSession::Ask(const Request& request)
         return gone;
     while (timer.elapsed() < LongestCall) {
         while (const auto message = m_buffer.Take()) {
-            Answer answer = ToAnswer(*message);
-            if (answer.kind == Answer::Result)
-                return answer;
-            if (answer.kind == Answer::Started)
-                m_office = answer.officeProcess;
+            const std::optional<Answer> answer = ToAnswer(*message);
+            if (!answer) {
+                Kill();
+                return gone;
+            }
+            if (answer->kind == Answer::Result)
+                return *answer;
+            if (answer->kind == Answer::Started)
+                m_office = answer->officeProcess;
         }
-        if (!WaitFor(POLLIN))
+        if (m_buffer.IsBroken() || !WaitFor(POLLIN))
             break;
         if (!Receive()) {
             Close();

@@ -104,12 +104,33 @@ void MoveToPlace(const QString& from, const QString& to, const QByteArray& head)
     if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
         throw Refused("not writable");
     target.write(head);
-    constexpr qint64 PieceSize = 1 << 20;
-    while (!source.atEnd())
-        target.write(source.read(PieceSize));
-    if (!target.commit())
+    QByteArray piece(1 << 20, Qt::Uninitialized);
+    qint64 size = 0;
+    // Not until the end of the source: one that cannot be read any more never comes to it.
+    while ((size = source.read(piece.data(), piece.size())) > 0) {
+        if (target.write(piece.constData(), size) != size)
+            throw Refused("no room");
+    }
+    // The commit alone would take a file whose end did not fit on the disk.
+    if (size < 0 || !target.flush() || !target.commit())
         throw Refused("not written");
 }
+
+/// A file of the office's that goes with the scope, however that is left.
+class ScratchFile
+{
+public:
+    explicit ScratchFile(const QString& path)
+        : m_path(path)
+    { }
+    ~ScratchFile() { QFile::remove(m_path); }
+    Q_DISABLE_COPY(ScratchFile)
+
+    const QString& Path() const { return m_path; }
+
+private:
+    const QString m_path;
+};
 
 Reference<sheet::XSheetCellCursor> UsedArea(const Reference<sheet::XSpreadsheet>& sheet)
 {
@@ -263,14 +284,13 @@ void Document::Save(
         FitRowHeights();
     if (format == FileFormat::Pdf)
         FitPagesToColumns();
-    const QString scratch = scratchFolder + QLatin1String("/stored");
+    const ScratchFile scratch(scratchFolder + QLatin1String("/stored"));
     Arguments arguments{Argument("FilterName", Text(FilterName(format))), Argument("Overwrite", Any(true))};
     if (format == FileFormat::Csv)
         arguments << Argument("FilterOptions", Text(CsvOptions));
-    As<frame::XStorable>(m_model)->storeToURL(FileUrl(scratch), ToSequence(arguments));
+    As<frame::XStorable>(m_model)->storeToURL(FileUrl(scratch.Path()), ToSequence(arguments));
     const std::lock_guard<std::timed_mutex> lock(saving);
-    MoveToPlace(scratch, path, format == FileFormat::Csv ? QByteArray(ByteOrderMark) : QByteArray());
-    QFile::remove(scratch);
+    MoveToPlace(scratch.Path(), path, format == FileFormat::Csv ? QByteArray(ByteOrderMark) : QByteArray());
 }
 
 void Document::Close()

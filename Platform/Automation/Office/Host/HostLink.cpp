@@ -96,11 +96,14 @@ bool HostLink::Receive()
         return size < 0 && errno == EINTR;
     m_buffer.Add(piece, static_cast<int>(size));
     while (const auto message = m_buffer.Take()) {
+        const std::optional<Request> request = ToRequest(*message);
+        if (!request)
+            return false;
         const std::lock_guard<std::mutex> lock(m_requestsMutex);
-        m_requests.push_back(ToRequest(*message));
+        m_requests.push_back(*request);
         m_requestCame.notify_one();
     }
-    return true;
+    return !m_buffer.IsBroken();
 }
 
 /// A hung office uses no processor time, and neither does a main thread that waits for it. While the office

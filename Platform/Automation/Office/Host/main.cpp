@@ -157,6 +157,7 @@ int main(int argc, char** argv)
     CloseForeignDescriptors();
     setsid(); // a key pressed in the client's terminal is not for the office
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN); // a file too long for a limit is like a full disk
     std::signal(SIGCHLD, SIG_DFL); // ignored, as a client may hand it down, it hides how the office ended
     const QString program = QFile::decodeName(argv[1]);
     const QString profile = QFile::decodeName(argv[2]);
