@@ -5,9 +5,11 @@
 #include <Platform/BasicUIComponents/StyleSheets.h>
 #include <Platform/BasicUIComponents/StyledWidgets.h>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QWidget>
 #include <algorithm>
+#include <cstdio>
 
 namespace UICommonMdl {
 
@@ -50,17 +52,17 @@ void ReplaceByCopy(const QString& source, const QString& target)
     if (QFile::exists(target))
         QFile::setPermissions(
             target, (QFile::permissions(target) & ~kMyPermissions) | QFileDevice::WriteOwner);
-    QSaveFile copy(target);
-    if (!copy.open(QIODevice::WriteOnly)) {
-        // Somebody else's file in a folder of ours: it can be removed, if not written.
-        QFile::remove(target);
-        QFile::copy(source, target);
-        return;
-    }
-    if (copy.write(bytes) != bytes.size())
-        return;
+    // Somebody else's file in a folder of ours can be replaced, if not written.
+    const bool direct = !QFile::exists(target) || QFileInfo(target).isWritable();
+    const QString written = direct ? target : target + QLatin1String(".new");
+    QSaveFile copy(written);
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(bytes) != bytes.size() || !copy.flush())
+        return; // a commit() alone would take a file whose end did not fit on the disk
     copy.setPermissions(original.permissions() & ~kMyPermissions);
-    copy.commit();
+    if (!copy.commit() || direct)
+        return;
+    if (std::rename(QFile::encodeName(written).constData(), QFile::encodeName(target).constData()) != 0)
+        QFile::remove(written);
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QPixmap>
+#include <QSaveFile>
 #include <QStatusBar>
 #include <QThread>
 #include <QTimer>
@@ -86,7 +87,10 @@ QPixmap PictureOf(MainWindow& window)
 
 bool SavePicture(MainWindow& window, const QString& path)
 {
-    if (PictureOf(window).save(path))
+    // As a whole or not at all, also on a full disk.
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && PictureOf(window).save(&file, "PNG") && file.flush()
+        && file.commit())
         return true;
     std::fprintf(stderr, "%s\n", qPrintable(QStringLiteral("The picture %1 cannot be saved.").arg(path)));
     return false;

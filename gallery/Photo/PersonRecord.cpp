@@ -4,8 +4,8 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
+#include <QTemporaryDir>
 
 namespace OperatorClient {
 
@@ -27,7 +27,25 @@ bool WritePicture(const QString& path, const QByteArray& picture)
     if (picture.isEmpty())
         return !QFile::exists(path) || QFile::remove(path);
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size() && file.commit();
+    // The commit alone would take a file whose end did not fit on the disk.
+    return file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size() && file.flush()
+        && file.commit();
+}
+
+/// Whether the file holds what was written into it. A file that could not be written still reads so here, by
+/// its name, and so it is read by another.
+bool IsStored(const QString& path, const PersonRecord& record)
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(IniName);
+    if (!QFile::copy(path, copy))
+        return false;
+    UICommonMdl::CIniFile ini(copy);
+    const auto holds = [&ini](const QString& key, const QString& text) {
+        return ini.ReadValue(Section, key, QString()).toString() == text;
+    };
+    return holds(NameKey, record.name) && holds(CardKey, record.card)
+        && holds(DepartmentKey, record.department);
 }
 
 } // namespace
@@ -62,8 +80,7 @@ bool PersonRecordFile::Write(const PersonRecord& record) const
     ini.WriteValue(Section, NameKey, record.name);
     ini.WriteValue(Section, CardKey, record.card);
     ini.WriteValue(Section, DepartmentKey, record.department);
-    const QFileInfo iniFile(PathOf(IniName));
-    bool written = iniFile.isFile() && iniFile.isWritable();
+    bool written = IsStored(PathOf(IniName), record);
     for (int page = 0; page < PersonRecord::PageCount; ++page)
         written = WritePicture(PathOf(PictureName(page)), record.pictures.at(std::size_t(page))) && written;
     return written;

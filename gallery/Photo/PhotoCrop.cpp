@@ -177,7 +177,9 @@ QString PhotoCrop::AskAndSave(const PhotoCut& cut, QWidget* parent)
 bool PhotoCrop::Save(const PhotoCut& cut, const QString& path)
 {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(cut.jpeg) == cut.jpeg.size() && file.commit();
+    // The commit alone would take a file whose end did not fit on the disk.
+    return file.open(QIODevice::WriteOnly) && file.write(cut.jpeg) == cut.jpeg.size() && file.flush()
+        && file.commit();
 }
 
 QSize PhotoCrop::CanvasSize(const QSize& picture)
