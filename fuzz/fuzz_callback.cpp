@@ -14,14 +14,8 @@ using UICommonMdl::CActiveXLinkWebCtrl;
 
 namespace {
 
-/// The widget, made with the application that it needs.
 CActiveXLinkWebCtrl& Web()
 {
-    static int count = 1;
-    static char name[] = "fuzz_callback";
-    static char* arguments[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(count, arguments);
     static CActiveXLinkWebCtrl web;
     return web;
 }
@@ -29,6 +23,14 @@ CActiveXLinkWebCtrl& Web()
 bool IsLoadReport(const std::string& name) { return name == "initComplete" || name == "initMComplete"; }
 
 } // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    // Never deleted: the platform leaves a few objects behind when it is.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const auto* application = new QApplication(*argc, *argv);
+    return application != nullptr ? 0 : 1;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -7,7 +7,6 @@
 #include <Common/QIniFile.h>
 #include <Platform/BasicUIComponents/KvDir.h>
 #include <QtTest>
-#include <random>
 #include <type_traits>
 
 using UICommonMdl::CIniFile;
@@ -36,34 +35,6 @@ void Write(const QString& path, const QByteArray& bytes)
     QCOMPARE(file.write(bytes), qint64(bytes.size()));
 }
 
-/// A text that tells of itself whether it is whole: "7:777...", long enough for several disk blocks.
-QString NumberedText(int number)
-{
-    const QString name = QString::number(number);
-    return name + QLatin1Char(':') + name.repeated(20000);
-}
-
-/// The number of the text in a file; -1 when the text is not whole.
-int WholeNumber(const QString& path)
-{
-    const QString text = CIniFile(path).ReadValue(kSection, kKey, QString()).toString();
-    const int number = text.section(QLatin1Char(':'), 0, 0).toInt();
-    return text == NumberedText(number) ? number : -1;
-}
-
-/// The child process: saves and backs up without end, until it is killed.
-int WriteForEver(const QString& path)
-{
-    CIniFile file(CommonFun::GetHasBackupConfigFileName(path));
-    const QVariant last = file.ReadValue(kSection, kKey, QStringLiteral("0:"));
-    for (int number = last.toString().section(QLatin1Char(':'), 0, 0).toInt() + 1;; ++number) {
-        file.WriteValue(kSection, kKey, NumberedText(number));
-        CommonFun::BackupConfigFile(path);
-        std::fputs("saved\n", stdout);
-        std::fflush(stdout);
-    }
-}
-
 } // namespace
 
 class TestIniFiles : public QObject
@@ -82,6 +53,10 @@ private slots:
     void PlaceMarksInNames();
     void RemovesValuesAndGroups();
     void EmptyNamesTouchNothing();
+    void DamagedValues_data();
+    void DamagedValues();
+    void WritesOnlyWhatCanBeRead();
+    void UnsignedLockOfADeadWriter();
     void MovedFilesHaveOneOwner();
     void LocalFileLiesInTheCurrentFolder();
     void FileHasData_data();
@@ -91,10 +66,8 @@ private slots:
     void DamagedFileLeavesTheBackup();
     void BackupFollowsTheFile();
     void NothingToRestore();
-    void SurvivesKills();
 
 private:
-    void KillWriterAfter(int milliseconds);
     QString Path() const { return m_folder->filePath(QStringLiteral("client.ini")); }
     QString BackupPath() const { return Path() + QStringLiteral(".usertmp"); }
 
@@ -212,6 +185,77 @@ void TestIniFiles::EmptyNamesTouchNothing()
     file.WriteValue(QString(), QString(), 5);
     QCOMPARE(file.ReadValue(QString(), QString(), 6), QVariant(6));
     QCOMPARE(Read(Path()), text);
+}
+
+void TestIniFiles::DamagedValues_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<bool>("safe");
+    const auto deep = [](int depth) {
+        return "@Variant(" + QByteArray("\\0\\0\\0\\x9\\0\\0\\0\\x1").repeated(depth)
+            + "\\0\\0\\0\\x2\\0\\0\\0\\x5)";
+    };
+    QTest::newRow("number") << QByteArray("@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)") << true;
+    QTest::newRow("colour") << QByteArray("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)")
+                            << true;
+    QTest::newRow("list") << deep(3) << true;
+    QTest::newRow("a text") << QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << true;
+    QTest::newRow("list without end") << QByteArray("@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
+    QTest::newRow("map without end") << QByteArray("@Variant(\\0\\0\\0\\b\\x10\\0\\0\\0)") << false;
+    QTest::newRow("texts without end") << QByteArray("\"@Variant(\\0\\0\\0\\v\\x1f\\0\\0\\0)\"") << false;
+    QTest::newRow("nested without end") << deep(100000) << false;
+    QTest::newRow("points without end") << QByteArray("@Variant(\\0\\0\\0GB231)") << false;
+    QTest::newRow("in a list") << QByteArray("a, @Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
+    QTest::newRow("in a moment") << QByteArray("@DateTime(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)") << false;
+    QTest::newRow("written otherwise")
+        << QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << false;
+}
+
+/// Catches a damaged value that ends the client, or takes all memory or the stack, and one that costs the
+/// other values or the backup.
+void TestIniFiles::DamagedValues()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(bool, safe);
+    const QByteArray text = "[Wall]\nRows=2\nLayout=" + value + "\n";
+    Write(Path(), text);
+    Write(BackupPath(), "[Wall]\nRows=3\n");
+    CIniFile file(Path());
+    QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), safe ? 2 : 3);
+    QCOMPARE(file.ReadValue(kSection, kKey, QVariant()).isValid(), safe);
+    file.WriteValue(kSection, kKey, 7);
+    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
+    QCOMPARE(Read(Path() + QStringLiteral(".damaged")), safe ? QByteArray("no such file") : text);
+}
+
+/// Catches a value that is stored and then taken for damage, with the whole file.
+void TestIniFiles::WritesOnlyWhatCanBeRead()
+{
+    const QVariant plain[]
+        = {QRectF(1, 2, 3, 4),
+           QUrl(QStringLiteral("http://a/b")),
+           QDateTime::currentDateTime(),
+           QColor(Qt::red),
+           QVariantMap{{QStringLiteral("a"), QVariantList{1, QSize(2, 3), 'c'}}},
+           QLocale(QLocale::German)};
+    for (const QVariant& value : plain) {
+        CIniFile(Path()).WriteValue(kSection, kKey, value);
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), value);
+    }
+    CIniFile(Path()).WriteValue(kSection, kKey, QVariantList{QPolygon(QRect(0, 0, 2, 2))});
+    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), QVariant(QLocale(QLocale::German)));
+}
+
+/// Catches a writer that waits half a minute for one that was killed before it had signed its lock.
+void TestIniFiles::UnsignedLockOfADeadWriter()
+{
+    Write(Path() + QStringLiteral(".lock"), QByteArray());
+    QElapsedTimer timer;
+    timer.start();
+    CIniFile(Path()).WriteValue(kSection, kKey, 7);
+    QVERIFY(timer.elapsed() < 10000);
+    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
 }
 
 /// Catches two owners of one settings object and a crash of the one that was moved from.
@@ -344,40 +388,10 @@ void TestIniFiles::NothingToRestore()
     QCOMPARE(CommonFun::GetHasBackupConfigFileName(m_folder->path()), m_folder->path());
 }
 
-/// Catches a save or a backup that goes through a half-written file: a kill would leave it like that.
-void TestIniFiles::SurvivesKills()
-{
-    std::mt19937 random(20);
-    int newest = 0;
-    for (int kill = 0; kill < 20; ++kill) {
-        KillWriterAfter(1 + static_cast<int>(random() % 30));
-        const int number = WholeNumber(CommonFun::GetHasBackupConfigFileName(Path()));
-        QVERIFY2(number > newest, "the file is damaged or an older one");
-        newest = number;
-        QVERIFY2(WholeNumber(BackupPath()) > 0, "the backup is damaged");
-    }
-}
-
-void TestIniFiles::KillWriterAfter(int milliseconds)
-{
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), Path()});
-    QVERIFY(child.waitForReadyRead(60000));
-    QTest::qSleep(milliseconds);
-    child.kill();
-    QVERIFY(child.waitForFinished());
-    // A lock that was killed before it named its owner delays the next writer by half a minute.
-    const QString lock = Path() + QStringLiteral(".lock");
-    if (QFileInfo(lock).size() == 0)
-        QFile::remove(lock);
-}
-
 int main(int argc, char** argv)
 {
     TestSupport::PrepareEnvironment();
-    QCoreApplication application(argc, argv);
-    if (argc == 3 && qstrcmp(argv[1], "--write") == 0)
-        return WriteForEver(QString::fromLocal8Bit(argv[2]));
+    const QGuiApplication application(argc, argv);
     TestIniFiles test;
     return TestSupport::RunStrictly(test, argc, argv);
 }

@@ -18,6 +18,7 @@ private slots:
     void DuplicatesAreForgottenOneByOne();
     void ClearForgetsAll();
     void EachAnswerGoesToOneThread();
+    void ClearsWhileOthersAnswer();
     void RecordColoursAreAssigned();
 };
 
@@ -93,6 +94,33 @@ void TestSequence::EachAnswerGoesToOneThread()
             ++left;
     }
     QCOMPARE(expected + left, kThreads * kNumbers);
+}
+
+/// Catches a Clear() without the lock, which the thread sanitizer sees, and a number that is told of twice.
+void TestSequence::ClearsWhileOthersAnswer()
+{
+    constexpr int kNumbers = 20000;
+    COperSequence sequence;
+    std::atomic<int> told{0};
+    std::atomic<bool> done{false};
+    std::thread clearing([&sequence, &done] {
+        while (!done) {
+            sequence.Clear();
+            std::this_thread::yield();
+        }
+    });
+    std::thread asking([&sequence, &told, &done] {
+        while (!done)
+            told += sequence.HasSeqIn(1) ? 1 : 0;
+    });
+    for (int i = 0; i < kNumbers; ++i)
+        sequence.InsertSeq(1);
+    done = true;
+    clearing.join();
+    asking.join();
+    while (sequence.HasSeqIn(1))
+        ++told;
+    QVERIFY(told <= kNumbers);
 }
 
 /// Catches operators that are declared but not in the library.

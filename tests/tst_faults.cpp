@@ -1,0 +1,371 @@
+// What is saved, when the writer is killed, the disk is full, or the folder is not what it was.
+//
+// UICOMPONENTS_KILLS=1000 kills each writer so often, in place of a few times.
+
+#include "support/StrictMain.h"
+#include "support/WriteFaults.h"
+
+#include <Common/CIniFile.h>
+#include <Common/CLocalIniFile.h>
+#include <Common/CommonFun.h>
+#include <Common/QIniFile.h>
+#include <Platform/BasicUIComponents/KvDir.h>
+#include <gallery/MainWindow.h>
+#include <gallery/Photo/PersonRecord.h>
+#include <gallery/Photo/PhotoCrop.h>
+#include <gallery/Pictures/SourcePool.h>
+#include <gallery/Screenshots.h>
+#include <gallery/Wall/WallLayoutFile.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <random>
+
+using namespace OperatorClient;
+using namespace TestSupport;
+using UICommonMdl::CIniFile;
+using UICommonMdl::CommonFun;
+
+namespace {
+
+constexpr int FewKills = 5;
+constexpr int LongestWait = 10000; // milliseconds, for a save that cannot succeed
+
+const QString Section = QStringLiteral("Wall");
+const QString Key = QStringLiteral("Layout");
+const QString IniName = QStringLiteral("client.ini");
+
+/// A text that tells of itself whether it is whole: "7:777...". Odd ones are written at once, even ones fit
+/// into the buffer of a file.
+QString NumberedText(int number)
+{
+    const QString name = QString::number(number);
+    return name + QLatin1Char(':') + name.repeated(number % 2 == 0 ? 2000 : 20000);
+}
+
+/// The number of the text; -1 when it is not whole.
+int NumberOf(const QString& text)
+{
+    const int number = text.section(QLatin1Char(':'), 0, 0).toInt();
+    return text == NumberedText(number) ? number : -1;
+}
+
+QString IniPath(const QString& folder) { return QDir(folder).filePath(IniName); }
+
+int NumberOf(QVariant value) { return NumberOf(value.toString()); }
+
+/// One way to save something with a number, and to get the number back.
+struct Saver
+{
+    const char* name;
+    bool (*save)(const QString& folder, int number); ///< false when it tells of a failure
+    int (*saved)(const QString& folder); ///< -1 for what is not whole
+};
+
+bool SaveWithBackup(const QString& folder, int number)
+{
+    CIniFile(CommonFun::GetHasBackupConfigFileName(IniPath(folder)))
+        .WriteValue(Section, Key, NumberedText(number));
+    CommonFun::BackupConfigFile(IniPath(folder));
+    return true;
+}
+
+/// The settings, and -1 also when the backup is not whole, or newer.
+int SavedWithBackup(const QString& folder)
+{
+    const auto read
+        = [](const QString& path) { return NumberOf(CIniFile(path).ReadValue(Section, Key, QString())); };
+    const int number = read(CommonFun::GetHasBackupConfigFileName(IniPath(folder)));
+    const int backup = read(IniPath(folder) + QLatin1String(".usertmp"));
+    return backup > 0 && backup <= number ? number : -1;
+}
+
+bool SaveSmall(const QString& folder, int number)
+{
+    XCM::QIniFile(IniPath(folder)).WriteValue(Section, Key, NumberedText(number));
+    return true;
+}
+
+int SavedSmall(const QString& folder)
+{
+    return NumberOf(XCM::QIniFile(IniPath(folder)).ReadValue(Section, Key));
+}
+
+bool SaveLocal(const QString& folder, int number)
+{
+    KvGUI::KvDir::SetCurrentPath(folder);
+    UICommonMdl::CLocalIniFile::WriteValue(Section, Key, NumberedText(number), IniName);
+    return true;
+}
+
+int SavedLocal(const QString& folder)
+{
+    KvGUI::KvDir::SetCurrentPath(folder);
+    return NumberOf(UICommonMdl::CLocalIniFile::ReadValue(Section, Key, IniName));
+}
+
+bool SaveWall(const QString& folder, int number)
+{
+    WallLayout layout = FirstWall();
+    for (ScreenLayout& screen : layout.screens) {
+        screen.text = QString::number(number);
+        for (WindowLayout& window : screen.windows)
+            window.source = SourceSpec::Photo(NumberedText(number));
+    }
+    WallLayoutFile(IniPath(folder)).Write(layout);
+    return true;
+}
+
+int SavedWall(const QString& folder)
+{
+    const auto layout = WallLayoutFile(IniPath(folder)).Read();
+    if (!layout || layout->screens.size() != FirstWall().screens.size())
+        return -1;
+    const int number = layout->screens.first().text.toInt();
+    for (const ScreenLayout& screen : layout->screens) {
+        for (const WindowLayout& window : screen.windows) {
+            if (screen.text.toInt() != number || NumberOf(window.source.path) != number)
+                return -1;
+        }
+    }
+    return number;
+}
+
+bool SavePerson(const QString& folder, int number)
+{
+    PersonRecord record;
+    record.name = record.card = record.department = NumberedText(number);
+    record.pictures.fill(NumberedText(number).toUtf8());
+    return PersonRecordFile(folder).Write(record);
+}
+
+/// The oldest of its parts, which are written one after the other.
+int SavedPerson(const QString& folder)
+{
+    const PersonRecord record = PersonRecordFile(folder).Read();
+    QVector<int> numbers{NumberOf(record.name), NumberOf(record.card), NumberOf(record.department)};
+    for (const QByteArray& picture : record.pictures)
+        numbers << NumberOf(QString::fromUtf8(picture));
+    const auto ends = std::minmax_element(numbers.begin(), numbers.end());
+    return *ends.second <= *ends.first + 1 ? *ends.first : -1;
+}
+
+bool SaveCut(const QString& folder, int number)
+{
+    PhotoCut cut;
+    cut.jpeg = NumberedText(number).toUtf8();
+    return PhotoCrop::Save(cut, QDir(folder).filePath(QStringLiteral("cut.jpg")));
+}
+
+int SavedCut(const QString& folder)
+{
+    return NumberOf(QString::fromUtf8(FilesIn(folder).value(QStringLiteral("cut.jpg"))));
+}
+
+const Saver Savers[]
+    = {{"settings and backup", SaveWithBackup, SavedWithBackup},
+       {"small settings", SaveSmall, SavedSmall},
+       {"local settings", SaveLocal, SavedLocal},
+       {"wall", SaveWall, SavedWall},
+       {"person", SavePerson, SavedPerson},
+       {"cut", SaveCut, SavedCut}};
+constexpr int SettingsSavers = 3; // the first ones, which tell nothing of a failure
+
+/// The child process: saves without end, until it is killed.
+int SaveForEver(const Saver& saver, const QString& folder)
+{
+    for (int number = qMax(0, saver.saved(folder)) + 1;; ++number) {
+        saver.save(folder, number);
+        std::fputs("saved\n", stdout);
+        std::fflush(stdout);
+    }
+}
+
+void KillSaverAfter(int saver, const QString& folder, int milliseconds)
+{
+    QProcess child;
+    child.start(
+        QCoreApplication::applicationFilePath(), {QStringLiteral("--save"), QString::number(saver), folder});
+    QVERIFY(child.waitForReadyRead(60000));
+    QTest::qSleep(milliseconds);
+    child.kill();
+    QVERIFY(child.waitForFinished());
+}
+
+/// A page without anything.
+class EmptyPage : public Page
+{
+public:
+    using Page::Page;
+    QString Title() const override { return Name(); }
+    QString Name() const override { return QStringLiteral("empty"); }
+};
+
+} // namespace
+
+class TestFaults : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void SurvivesKills_data();
+    void SurvivesKills();
+    void LeavesNoHalf_data();
+    void LeavesNoHalf();
+    void WritesIntoAFolderThatVanished();
+    void KeepsTheBackup();
+    void ScreenshotsOnAFullDisk();
+
+private:
+    QString Folder() const { return m_folder->filePath(QStringLiteral("data")); }
+
+    QScopedPointer<QTemporaryDir> m_folder;
+};
+
+void TestFaults::init()
+{
+    m_folder.reset(new QTemporaryDir);
+    QVERIFY(QDir().mkpath(Folder()));
+    // For another user to read in.
+    QVERIFY(QFile::setPermissions(m_folder->path(), QFileDevice::Permissions(0x7755)));
+    KvGUI::KvDir::SetCurrentPath(QString());
+}
+
+void TestFaults::SurvivesKills_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < int(std::size(Savers)); ++i)
+        QTest::newRow(Savers[i].name) << i;
+}
+
+// Catches a save that goes through a half-written file, which a kill would leave like that, and a next writer
+// that waits for the dead one.
+void TestFaults::SurvivesKills()
+{
+    QFETCH(int, index);
+    const Saver& saver = Savers[index];
+    bool given = false;
+    const int wanted = qEnvironmentVariableIntValue("UICOMPONENTS_KILLS", &given);
+    const int kills = given ? wanted : FewKills;
+    std::mt19937 random(20);
+    int newest = 0;
+    for (int kill = 0; kill < kills; ++kill) {
+        QElapsedTimer timer;
+        timer.start();
+        KillSaverAfter(index, Folder(), 1 + static_cast<int>(random() % 30));
+        const int number = saver.saved(Folder());
+        QVERIFY2(number > newest, "what was saved is damaged, or older");
+        newest = number;
+        QVERIFY2(timer.elapsed() < 25000, "a writer waited for a dead one");
+    }
+}
+
+void TestFaults::LeavesNoHalf_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("fault");
+    for (int i = 0; i < int(std::size(Savers)); ++i) {
+        for (const char* fault : {"full", "fuller", "read-only", "no folder"})
+            QTest::addRow("%s, %s", Savers[i].name, fault) << i << QString::fromLatin1(fault);
+    }
+}
+
+// Catches a save that costs what was saved before, leaves half of a file or a temporary one, reports a
+// success that is none, or never ends.
+void TestFaults::LeavesNoHalf()
+{
+    QFETCH(int, index);
+    QFETCH(QString, fault);
+    const Saver& saver = Savers[index];
+    QVERIFY(saver.save(Folder(), 1));
+    QCOMPARE(saver.saved(Folder()), 1);
+    const auto before = FilesIn(Folder());
+    QElapsedTimer timer;
+    timer.start();
+    bool told = true;
+    {
+        const auto present = fault == QLatin1String("full") ? FullDisk(1000)
+            : fault == QLatin1String("fuller")              ? FullDisk(0)
+            : fault == QLatin1String("read-only")           ? ReadOnlyFolder(Folder())
+                                                            : FileForFolder(Folder());
+        const bool first = saver.save(Folder(), 2);
+        told = !saver.save(Folder(), 3) && !first;
+    }
+    QVERIFY(timer.elapsed() < LongestWait);
+    const auto after = FilesIn(Folder());
+    QCOMPARE(after.keys(), before.keys());
+    for (auto file = before.begin(); file != before.end(); ++file)
+        QVERIFY2(after.value(file.key()) == file.value(), qPrintable(file.key()));
+    QVERIFY(told || index <= SettingsSavers);
+    QVERIFY(saver.save(Folder(), 4));
+    QCOMPARE(saver.saved(Folder()), 4);
+    QCOMPARE(FilesIn(Folder()).keys(), before.keys());
+}
+
+// Catches settings that are lost because their folder was removed while the client ran.
+void TestFaults::WritesIntoAFolderThatVanished()
+{
+    for (const Saver& saver : Savers) {
+        QVERIFY(saver.save(Folder(), 1));
+        QVERIFY(QDir(Folder()).removeRecursively());
+        if (saver.save(Folder(), 2))
+            QVERIFY2(saver.saved(Folder()) == 2, saver.name);
+        QVERIFY(QDir().mkpath(Folder()));
+    }
+}
+
+// Catches a backup that is removed before its successor is written, and a restored file that is half of one.
+void TestFaults::KeepsTheBackup()
+{
+    QVERIFY(SaveWithBackup(Folder(), 1));
+    const QString backup = IniPath(Folder()) + QLatin1String(".usertmp");
+    {
+        const auto full = FullDisk(1000);
+        CommonFun::BackupConfigFile(IniPath(Folder()));
+        QFile::remove(IniPath(Folder()));
+        CommonFun::GetHasBackupConfigFileName(IniPath(Folder()));
+    }
+    QVERIFY(QFile::exists(backup));
+    QVERIFY(!QFile::exists(IniPath(Folder())));
+    QCOMPARE(SavedWithBackup(Folder()), 1);
+}
+
+// Catches a picture that is half written and looks like one.
+void TestFaults::ScreenshotsOnAFullDisk()
+{
+    const SourcePool pool;
+    MainWindow window;
+    window.AddPage(new EmptyPage);
+    bool saved = true;
+    {
+        const auto full = FullDisk(200);
+        saved = SaveScreenshots(window, pool, Folder());
+    }
+    QVERIFY(!saved);
+    QCOMPARE(FilesIn(Folder()).keys(), QStringList());
+    {
+        const auto file = FileForFolder(Folder());
+        QVERIFY(!SaveScreenshots(window, pool, Folder()));
+    }
+    QVERIFY(SaveScreenshots(window, pool, Folder()));
+    QCOMPARE(FilesIn(Folder()).size(), 2);
+}
+
+int main(int argc, char** argv)
+{
+    TestSupport::PrepareEnvironment();
+    if (argc == 4 && qstrcmp(argv[1], "--save") == 0) {
+        const QCoreApplication application(argc, argv);
+        return SaveForEver(Savers[std::atoi(argv[2])], QString::fromLocal8Bit(argv[3]));
+    }
+    const QApplication application(argc, argv);
+    TestFaults test;
+    return TestSupport::RunStrictly(test, argc, argv);
+}
+
+#include "tst_faults.moc"
