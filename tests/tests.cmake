@@ -30,6 +30,13 @@ if(TARGET OperatorClientPages)
     uicomponents_test(tst_clientdialogs tst_clientdialogs.cpp support/QrReader.cpp)
     target_link_libraries(tst_clientdialogs PRIVATE OperatorClientPages PkgConfig::ZBar)
     uicomponents_skin_resources(tst_clientdialogs "${PROJECT_SOURCE_DIR}/gallery/skins" OperatorClient)
+    uicomponents_test(tst_clientlanguage tst_clientlanguage.cpp support/ShownTexts.cpp)
+    target_link_libraries(tst_clientlanguage PRIVATE OperatorClientPages)
+    uicomponents_skin_resources(tst_clientlanguage "${PROJECT_SOURCE_DIR}/gallery/skins" OperatorClient)
+    uicomponents_translations(tst_clientlanguage operator-client)
+    target_compile_definitions(tst_clientlanguage PRIVATE
+        LIBRARY_TEXTS="${PROJECT_SOURCE_DIR}/translations/UIComponents_zh_CN.ts"
+        CLIENT_TEXTS="${PROJECT_SOURCE_DIR}/translations/operator-client_zh_CN.ts")
 endif()
 uicomponents_test(tst_qrcode tst_qrcode.cpp support/QrReader.cpp INTERNAL)
 target_link_libraries(tst_qrcode PRIVATE PkgConfig::ZBar)
@@ -158,6 +165,9 @@ set_tests_properties(installed-package PROPERTIES ENVIRONMENT "${test_environmen
 uicomponents_test(tst_basicui tst_basicui.cpp INTERNAL)
 uicomponents_test(tst_cutdialogs tst_cutdialogs.cpp INTERNAL)
 uicomponents_test(tst_personimage tst_personimage.cpp)
+uicomponents_test(tst_translations tst_translations.cpp support/ShownTexts.cpp)
+target_compile_definitions(tst_translations PRIVATE
+    LIBRARY_TEXTS="${PROJECT_SOURCE_DIR}/translations/UIComponents_zh_CN.ts")
 # The fuzz targets are a build of their own, by clang and with its sanitizers; here each gets a short run.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT UICOMPONENTS_SANITIZE)
     set(fuzz "${PROJECT_SOURCE_DIR}/fuzz/run")

@@ -223,7 +223,7 @@ void KvTVWallDisplayEagleEye::keyPressEvent(QKeyEvent* event)
 void KvTVWallDisplayEagleEye::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange && !toolTip().isEmpty())
         ShowWhatAPressDoes(mapFromGlobal(QCursor::pos()));
 }
 

@@ -1,0 +1,189 @@
+#include "support/ShownTexts.h"
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/KvLanguage.h>
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <gallery/Alarms/AlarmPage.h>
+#include <gallery/Forms/DevicePage.h>
+#include <gallery/Language.h>
+#include <gallery/MainWindow.h>
+#include <gallery/Map/MapPage.h>
+#include <gallery/Pairing/PairingPage.h>
+#include <gallery/Photo/PhotoPage.h>
+#include <gallery/Photo/RecordPage.h>
+#include <gallery/Wall/WallLayoutFile.h>
+#include <gallery/Wall/WallPage.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace OperatorClient;
+
+namespace {
+
+const QString English = QStringLiteral("en");
+const QString Chinese = QStringLiteral("zh_CN");
+constexpr int SampleCount = 1500;
+
+/// The client's window with its pages, as main() makes it.
+struct Client
+{
+    QTemporaryDir folder;
+    SourcePool pool;
+    FrameClock clock;
+    MainWindow window;
+
+    Client()
+    {
+        clock.Freeze(QDateTime(QDate(2026, 3, 14), QTime(10, 24, 36)));
+        const WallLayoutFile file(folder.filePath(QStringLiteral("layout.ini")));
+        window.AddPage(new WallPage(pool, clock, file, FirstWall(), {}, &window));
+        window.AddPage(new MapPage(pool, clock, QStringLiteral("/no map"), &window));
+        window.AddPage(new PhotoPage(QString(), &window));
+        window.AddPage(new RecordPage(folder.filePath(QStringLiteral("person")), &window));
+        window.AddPage(new PairingPage(&window));
+        window.AddPage(new AlarmPage(SampleAlarms(SampleCount, clock.Now()), &window));
+        window.AddPage(new DevicePage(&window));
+        window.show();
+        for (int page = window.Pages().size() - 1; page >= 0; --page) {
+            window.ShowPage(page); // lays it out
+            QCoreApplication::processEvents();
+        }
+    }
+
+    QStringList Clipped()
+    {
+        QStringList clipped;
+        for (int page = 0; page < window.Pages().size(); ++page) {
+            window.ShowPage(page);
+            QCoreApplication::processEvents();
+            clipped << ClippedTexts(window);
+        }
+        return clipped;
+    }
+};
+
+} // namespace
+
+class TestClientLanguage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void EveryPageFollowsAndComesBack();
+    void PluralsAreWritten_data();
+    void PluralsAreWritten();
+    void QtFollowsToo();
+    void UnknownLanguagesAreRefused();
+    void InputOfTheOperatorStays();
+};
+
+// Without a desktop the font is any size.
+void TestClientLanguage::initTestCase()
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(13);
+    QApplication::setFont(font);
+}
+
+// Catches a text of any page that stays in the former language, or does not come back.
+void TestClientLanguage::EveryPageFollowsAndComesBack()
+{
+    Language language;
+    Client client;
+    const QMap<QString, QString> english = ShownTexts(client.window);
+    QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
+
+    QVERIFY(language.Set(Chinese));
+    QCoreApplication::processEvents();
+    const QMap<QString, QString> chinese = ShownTexts(client.window);
+    const QSet<QString> sources
+        = SourceTexts(QStringLiteral(LIBRARY_TEXTS)) + SourceTexts(QStringLiteral(CLIENT_TEXTS));
+    QVERIFY(sources.size() > 250);
+    for (auto text = chinese.begin(); text != chinese.end(); ++text)
+        QVERIFY2(!sources.contains(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
+    const QStringList wanted{QStringLiteral("操作客户端"), QStringLiteral("电视墙"),
+                             QStringLiteral("停车场"),     QStringLiteral("1,500 条报警"),
+                             QStringLiteral("二楼走廊"),   QStringLiteral("屏幕")};
+    for (const QString& text : wanted)
+        QVERIFY2(chinese.values().contains(text), qPrintable(text));
+    QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
+
+    QVERIFY(language.Set(English));
+    QCoreApplication::processEvents();
+    const QMap<QString, QString> back = ShownTexts(client.window);
+    for (auto text = back.begin(); text != back.end(); ++text)
+        QVERIFY2(!HasChinese(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
+    QCOMPARE(ChangedTexts(english, back).join(QLatin1Char('\n')), QString());
+    QCOMPARE(back.size(), english.size());
+}
+
+void TestClientLanguage::PluralsAreWritten_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("screens");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one") << English << 1 << QStringLiteral("1 screen added");
+    QTest::newRow("some") << English << 3 << QStringLiteral("3 screens added");
+    QTest::newRow("Chinese") << Chinese << 1 << QStringLiteral("已添加 1 个屏幕");
+}
+
+// Catches "screen(s)", which only stands in the sources.
+void TestClientLanguage::PluralsAreWritten()
+{
+    QFETCH(QString, language);
+    QFETCH(int, screens);
+    Language present;
+    present.Set(language);
+    QTEST(WallPage::tr("%n screen(s) added", nullptr, screens), "text");
+}
+
+// Catches Qt's own dialogs and the locale of new and living windows in another language than the client.
+void TestClientLanguage::QtFollowsToo()
+{
+    Language language;
+    QWidget living;
+    language.Set(Chinese);
+    QCOMPARE(living.locale().language(), QLocale::Chinese);
+    QCOMPARE(QWidget().locale().language(), QLocale::Chinese);
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("取消"));
+    language.Set(English);
+    QCOMPARE(living.locale().language(), QLocale::English);
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
+}
+
+// Catches a wrong name, from the settings for example, that leaves the client without a language.
+void TestClientLanguage::UnknownLanguagesAreRefused()
+{
+    Language language;
+    language.Set(Chinese);
+    for (const char* name : {"", "de", "zh", "ZH_cn"})
+        QVERIFY(!language.Set(QString::fromLatin1(name)));
+    QCOMPARE(language.Name(), Chinese);
+    QCOMPARE(KvGUI::GetLanguage(), Chinese);
+    QVERIFY(HasChinese(Language::OwnName(Chinese)));
+    QVERIFY(Language::Names().contains(Language::OfDesktop()));
+}
+
+// Catches a change of the language that overwrites what was typed or chosen.
+void TestClientLanguage::InputOfTheOperatorStays()
+{
+    Language language;
+    PairingPage page;
+    auto* phone = page.findChild<QLineEdit*>();
+    auto* period = page.findChild<QComboBox*>();
+    phone->setText(QStringLiteral("Gate 4"));
+    period->setCurrentIndex(1);
+    language.Set(Chinese);
+    QCoreApplication::processEvents();
+    QCOMPARE(phone->text(), QStringLiteral("Gate 4"));
+    QCOMPARE(period->currentText(), QStringLiteral("每五秒（演示）"));
+}
+
+STRICT_TEST_MAIN(TestClientLanguage)
+
+#include "tst_clientlanguage.moc"
