@@ -461,7 +461,7 @@ void TestCutPhoto::AMenuMayDeleteTheCanvas()
 {
     for (const auto& [button, byChoice] :
          {std::pair(Qt::LeftButton, false), std::pair(Qt::LeftButton, true),
-          std::pair(Qt::RightButton, true)}) {
+          std::pair(Qt::RightButton, false), std::pair(Qt::RightButton, true)}) {
         QWidget host;
         host.resize(Canvas);
         TestSupport::AnnounceCropCanvases();

@@ -13,6 +13,7 @@
 #include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
+#include <utility>
 
 namespace UICommonMdl {
 
@@ -39,7 +40,16 @@ QRect Square(const QPoint& middle, int size)
 
 CCutPhotoWithZoomPrivate::CCutPhotoWithZoomPrivate(CCutPhotoWithZoom* canvas)
     : q(canvas)
+    , mouseArea(new CropMouseArea(canvas))
 { }
+
+CCutPhotoWithZoomPrivate::~CCutPhotoWithZoomPrivate()
+{
+    if (!pressing)
+        return; // it goes with the canvas
+    mouseArea->setParent(nullptr);
+    mouseArea->deleteLater();
+}
 
 void CCutPhotoWithZoomPrivate::LoadSkin()
 {
@@ -418,9 +428,13 @@ void CCutPhotoWithZoom::mousePressEvent(QMouseEvent* event)
 {
     QWidget::mousePressEvent(event);
     const QPoint globalPos = CropFrame::Bounded(event->globalPos());
+    const QPointer<CCutPhotoWithZoom> guard(this);
+    const bool outermost = !std::exchange(d_func()->pressing, true);
     // A press that ended in a menu must not begin anything in the parents, and this canvas may be gone.
     if (d_func()->Press(CropFrame::Bounded(event->pos()), globalPos, event->button()))
         event->accept();
+    if (guard && outermost)
+        d_func()->pressing = false;
 }
 
 void CCutPhotoWithZoom::mouseReleaseEvent(QMouseEvent* event)
@@ -442,6 +456,7 @@ void CCutPhotoWithZoom::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     CCutPhotoWithZoomPrivate* const d = d_func();
+    d->mouseArea->resize(size());
     d->UpdateTipPos();
     if (!d->searchRequested)
         d->ReadSource(QString(d->state.cutInfo.strFilePath));

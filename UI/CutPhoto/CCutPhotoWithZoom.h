@@ -37,8 +37,8 @@ class CCutPhotoWithZoomPrivate;
 /// menu's "Cancel" takes the frame away. Escape does so too and leaves full screen.
 ///
 /// <b>Signals</b> are emitted before the canvas's menu is taken away. A slot may delete the canvas, also one
-/// of a choice in the menu. Only while the menu of a right press is still open the canvas has to stay: Qt
-/// uses the widget once more after such a press.
+/// of a choice in the menu, and it may go while the menu is open. Only a canvas that is a window by itself
+/// has to stay while the menu of a right press is open: Qt uses the window once more after such a press.
 ///
 /// The constructor makes one connection that names a signal which this class does not have, so that Qt
 /// warns once for each canvas; a host that has such a signal connects its own to OnKeyPressed().

@@ -14,11 +14,25 @@ namespace UICommonMdl {
 
 class CComTipWigetWithZoom;
 
+/// Covers the canvas, so that Qt gives the mouse to it and not to the canvas; it passes all on. Unlike the
+/// canvas it can outlive a menu of a press in which the client deletes the canvas: Qt uses the receiver of a
+/// right press once more afterwards.
+class CropMouseArea : public QWidget
+{
+    Q_OBJECT // a sheet for plain widgets must not paint it
+
+        public : using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override { }
+};
+
 /// State of the crop canvas with zoom and the steps that its event handlers are made of.
 class CCutPhotoWithZoomPrivate
 {
 public:
     explicit CCutPhotoWithZoomPrivate(CCutPhotoWithZoom* canvas);
+    ~CCutPhotoWithZoomPrivate();
 
     void LoadSkin();
     void PaintIcons(QPainter& painter);
@@ -43,6 +57,7 @@ public:
 
     CCutPhotoWithZoom* const q;
     CropState state;
+    CropMouseArea* mouseArea;
     CComTipWigetWithZoom* tip = nullptr;
     QPoint press; ///< of the last press of a button
     QPoint moveOffset; ///< global position of the press less the frame's corner at the time
@@ -56,6 +71,7 @@ public:
     bool resizing = false;
     bool pressed = false; ///< something was pressed since the last OnClose(): the frame is painted
     bool cropUnpainted = false; ///< the frame on the screen is not the present one
+    bool pressing = false; ///< a press is being handled, perhaps with its menu open
     bool searchRequested = false; ///< the host is about to close: a resize reads no file
     QColor background;
     QPointer<KvGUI::KvMenu> menu;
