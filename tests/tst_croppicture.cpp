@@ -161,6 +161,7 @@ private slots:
     void JpegFittingEqualsThePlainLoop_data();
     void JpegFittingEqualsThePlainLoop();
     void ForecastCoversUsualPictures();
+    void NoJpegIsLongerThanItsFormatAllows();
 };
 
 // Catches ratios in double precision, products that are rounded, and a division by an empty photo.
@@ -430,6 +431,13 @@ void TestCropPicture::JpegFittingEqualsThePlainLoop()
             QCOMPARE(fit.ratio, plain.ratio);
         }
     }
+}
+
+// Catches an encoder that is asked all the same, and warns.
+void TestCropPicture::NoJpegIsLongerThanItsFormatAllows()
+{
+    QVERIFY(!JpegBytes(QImage(65500, 1, QImage::Format_RGB32), 0).isEmpty());
+    QVERIFY(JpegBytes(QImage(65501, 1, QImage::Format_RGB32), 0).isEmpty());
 }
 
 // Catches counting that no longer agrees with the encoder, which costs nothing but all of the speed.

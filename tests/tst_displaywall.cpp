@@ -384,8 +384,10 @@ void tst_DisplayWall::baseMapIsPainted()
     QVERIFY(qAbs(qRed(f.PixelAt({50, 500})) - 200) < 6);
     f.wall->SetScreenBaseMapShow(0, raw, false);
     QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
-    f.wall->SetScreenBaseMapShow(0, "/no/such/file.png", true);
-    QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
+    for (const char* nothing : {"/no/such/file.png", ""}) {
+        f.wall->SetScreenBaseMapShow(0, nothing, true);
+        QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
+    }
 }
 
 void tst_DisplayWall::paintedColours()

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int HighestQuality = 100;
 constexpr int LowestQuality = 0;
+constexpr int LongestSide = 65500; // pixels, that the encoder takes
 
 /// Qualities at which most pictures fit into the bits for each pixel.
 constexpr int FineQuality = 90;
@@ -29,6 +30,8 @@ int NextLowerQuality(int quality) { return quality < 10 ? quality - 1 : quality 
 QByteArray JpegBytes(const QImage& image, int quality)
 {
     QByteArray bytes;
+    if (qMax(image.width(), image.height()) > LongestSide)
+        return bytes; // as the encoder gives it, without its warning
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "JPG", quality);

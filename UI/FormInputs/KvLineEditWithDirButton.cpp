@@ -12,6 +12,9 @@ namespace {
 
 constexpr int ButtonSize = 20; // pixels
 
+/// The text with each half of a surrogate pair replaced: Qt makes a regular expression of a filter.
+QString WholeCharacters(const QString& text) { return QString::fromUtf8(text.toUtf8()); }
+
 } // namespace
 
 KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
@@ -36,7 +39,7 @@ void KvLineEditWithDirButton::SetOpenFile(QString caption, QString directory, QS
 {
     m_strCaption = std::move(caption);
     m_strDirectory = std::move(directory);
-    m_strFilter = std::move(filter);
+    m_strFilter = WholeCharacters(filter);
 }
 
 void KvLineEditWithDirButton::SetSaveFile(QString caption, QString directory, QString filter)

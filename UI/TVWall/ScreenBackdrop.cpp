@@ -33,7 +33,7 @@ void ScreenBackdrop::SetBackground(const QColor& color, bool show)
 
 void ScreenBackdrop::SetPicture(const std::string& file, bool show)
 {
-    m_bShowPicture = show;
+    m_bShowPicture = show && !file.empty(); // Qt warns of a file without a name
     m_strPicture = file;
     m_bPictureLoaded = false;
     m_picture = QPixmap();
