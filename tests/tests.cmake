@@ -55,7 +55,12 @@ uicomponents_test(tst_displaywall tst_displaywall.cpp)
 uicomponents_test(tst_normalwall tst_normalwall.cpp)
 uicomponents_test(tst_walls tst_walls.cpp support/WallDefaults.cpp)
 uicomponents_test(tst_operatewall tst_operatewall.cpp support/WallDefaults.cpp)
-uicomponents_test(tst_wallstorm tst_wallstorm.cpp)
+get_property(public_headers GLOBAL PROPERTY UICOMPONENTS_PUBLIC_HEADERS)
+list(JOIN public_headers "|" public_headers)
+uicomponents_test(tst_storm storm/tst_storm.cpp storm/Storm.cpp storm/Dice.cpp storm/WallKinds.cpp
+    storm/WidgetKinds.cpp)
+target_compile_definitions(tst_storm PRIVATE
+    PUBLIC_HEADERS="${public_headers}" SOURCE_TREE="${PROJECT_SOURCE_DIR}")
 uicomponents_test(tst_automation tst_automation.cpp automation/ProbeObject.h)
 target_compile_definitions(tst_automation PRIVATE PROBE_PLUGINS="${CMAKE_CURRENT_BINARY_DIR}/probe-plugins")
 foreach(provider ForeignProvider ProbeProvider OtherProvider) # asked in the order of their file names
