@@ -152,7 +152,8 @@ private Q_SLOTS:
         // Not widgets; and the bubble that there is one of, which each storm shows.
         QStringList known{
             QStringLiteral("AxExcelFunction"), QStringLiteral("KvSkinNotifier"),
-            QStringLiteral("KvMessageNotify"), QStringLiteral("CTipLabel")};
+            QStringLiteral("KvTranslatedText"), QStringLiteral("KvMessageNotify"),
+            QStringLiteral("CTipLabel")};
         for (const Kind& kind : m_kinds)
             known.append(QString::fromLatin1(kind.className.split(':').last()));
         const QRegularExpression declaration(
