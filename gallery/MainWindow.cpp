@@ -1,47 +1,85 @@
 #include <gallery/MainWindow.h>
 
-#include <gallery/FollowLanguage.h>
-
 #include <Common/CommonFun.h>
+#include <gallery/KeysDialog.h>
+#include <gallery/SideBar.h>
 
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
 #include <QHBoxLayout>
-#include <QListWidget>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <algorithm>
 
 namespace OperatorClient {
 
+namespace {
+
+/// Gives the focus to the first widget of the page that the Tab key reaches.
+void FocusFirst(QWidget& page)
+{
+    for (QWidget* next = page.nextInFocusChain(); page.isAncestorOf(next); next = next->nextInFocusChain()) {
+        if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabled() && next->isVisibleTo(&page))
+            return next->setFocus(Qt::TabFocusReason);
+    }
+}
+
+} // namespace
+
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
-    , m_pPageList(new QListWidget(this))
+    , m_pSideBar(new SideBar(this))
     , m_pPages(new QStackedWidget(this))
 {
-    FollowLanguage(this, "windowTitle", [] { return tr("Operator client"); });
-    m_pPageList->setObjectName(QStringLiteral("pageList"));
-    FollowLanguage(m_pPageList, "accessibleName", [] { return tr("Pages"); });
-    m_pPageList->setFixedWidth(160);
-    m_pPageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* central = new QWidget(this);
     auto* layout = new QHBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_pPageList);
+    layout->addWidget(m_pSideBar);
     layout->addWidget(m_pPages, 1);
     setCentralWidget(central);
     statusBar()->setSizeGripEnabled(false);
-    connect(m_pPageList, &QListWidget::currentRowChanged, m_pPages, &QStackedWidget::setCurrentIndex);
+    connect(m_pSideBar, &SideBar::SignalPageChosen, this, &MainWindow::OnPageChosen);
+    AddKeys();
+    m_pSideBar->AddFootButton(m_pKeys, QStringLiteral("Keys"));
+    ShowTexts();
     UICommonMdl::CommonFun::SetStyleSheet(
         this, QStringLiteral("MainWindow"), QStringLiteral("OperatorClient.css"),
         QStringLiteral("OperatorClient"));
     resize(1440, 900);
 }
 
+QAction* MainWindow::AddKey(const QKeySequence& key)
+{
+    auto* action = new QAction(this);
+    action->setShortcut(key);
+    addAction(action);
+    return action;
+}
+
+void MainWindow::AddKeys()
+{
+    m_pNext = AddKey(QKeySequence(Qt::CTRL | Qt::Key_PageDown));
+    m_pPrevious = AddKey(QKeySequence(Qt::CTRL | Qt::Key_PageUp));
+    m_pSwitchArea = AddKey(QKeySequence(Qt::Key_F6));
+    m_pKeys = AddKey(QKeySequence(Qt::Key_F1));
+    connect(m_pNext, &QAction::triggered, this, [this] { Step(1); });
+    connect(m_pPrevious, &QAction::triggered, this, [this] { Step(-1); });
+    connect(m_pSwitchArea, &QAction::triggered, this, &MainWindow::SwitchArea);
+    connect(m_pKeys, &QAction::triggered, this, &MainWindow::ShowKeys);
+}
+
 void MainWindow::AddPage(Page* page)
 {
-    m_pPages->addWidget(page);
-    m_pPageList->addItem(page->Title());
+    const int index = m_pPages->addWidget(page);
+    m_pSideBar->AddPage(page->Name(), page->Title());
     connect(page, &Page::SignalReport, this, [this](const QString& text) { statusBar()->showMessage(text); });
-    if (m_pPageList->currentRow() < 0)
+    QAction* key = AddKey(SideBar::Shortcut(index));
+    key->setText(page->Title());
+    m_pageKeys.append(key);
+    connect(key, &QAction::triggered, this, [this, index] { ShowPage(index); });
+    if (m_pSideBar->CurrentPage() < 0)
         ShowPage(0);
 }
 
@@ -53,17 +91,85 @@ QVector<Page*> MainWindow::Pages() const
     return pages;
 }
 
+Page* MainWindow::CurrentPage() const { return qobject_cast<Page*>(m_pPages->currentWidget()); }
+
+void MainWindow::ShowPage(int index) { m_pSideBar->SetCurrentPage(index); }
+
+bool MainWindow::ShowPage(const QString& name)
+{
+    const QVector<Page*> pages = Pages();
+    const auto named
+        = std::find_if(pages.begin(), pages.end(), [&](const Page* page) { return page->Name() == name; });
+    if (named == pages.end())
+        return false;
+    ShowPage(int(named - pages.begin()));
+    return true;
+}
+
+void MainWindow::OnPageChosen(int index)
+{
+    m_pPages->setCurrentIndex(index);
+    m_pLeft.clear();
+    if (const Page* page = CurrentPage())
+        Q_EMIT SignalPageShown(page->Name());
+}
+
+void MainWindow::Step(int pages)
+{
+    const int count = m_pPages->count();
+    ShowPage((m_pPages->currentIndex() + pages + count) % count);
+}
+
+/// The page gets the focus where it was left, else at its first widget.
+void MainWindow::SwitchArea()
+{
+    QWidget* page = m_pPages->currentWidget();
+    QWidget* focus = QApplication::focusWidget();
+    if (page == nullptr)
+        return;
+    if (focus != nullptr && page->isAncestorOf(focus)) {
+        m_pLeft = focus;
+        m_pSideBar->FocusPages();
+    } else if (m_pLeft && page->isAncestorOf(m_pLeft)) {
+        m_pLeft->setFocus(Qt::ShortcutFocusReason);
+    } else {
+        FocusFirst(*page);
+    }
+}
+
+void MainWindow::ShowKeys()
+{
+    const Page* page = CurrentPage();
+    auto* dialog = new KeysDialog(
+        actions() + m_pSideBar->actions() + (page ? page->findChildren<QAction*>() : QList<QAction*>()),
+        this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void MainWindow::ShowTexts()
+{
+    setWindowTitle(tr("Operator client"));
+    m_pNext->setText(tr("Next page"));
+    m_pPrevious->setText(tr("Previous page"));
+    m_pSwitchArea->setText(tr("To the side bar and back"));
+    m_pKeys->setText(tr("Keys"));
+    m_pKeys->setToolTip(
+        tr("Show what the keyboard can do (%1)").arg(m_pKeys->shortcut().toString(QKeySequence::NativeText)));
+    const QVector<Page*> pages = Pages();
+    for (int i = 0; i < pages.size(); ++i) {
+        m_pSideBar->SetTitle(i, pages.at(i)->Title());
+        m_pageKeys.at(i)->setText(pages.at(i)->Title());
+    }
+}
+
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::LanguageChange)
         return;
-    const QVector<Page*> pages = Pages();
-    for (int i = 0; i < pages.size(); ++i)
-        m_pPageList->item(i)->setText(pages.at(i)->Title());
+    ShowTexts();
     statusBar()->clearMessage(); // it reports in the former language
 }
-
-void MainWindow::ShowPage(int index) { m_pPageList->setCurrentRow(index); }
 
 } // namespace OperatorClient

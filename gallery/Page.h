@@ -21,6 +21,8 @@ public:
         std::function<void()> enter; ///< brings the page into the state, whatever the one before
         /// Ends the state. For states with a dialog or a menu: `enter` may return only after this.
         std::function<void()> leave = [] {};
+        /// Whether the state is there, where it takes a while.
+        std::function<bool()> isThere = [] { return true; };
     };
 
     using QWidget::QWidget;

@@ -23,8 +23,9 @@ namespace OperatorClient {
 namespace {
 
 constexpr int LongestWaitForVideos = 5000; // milliseconds
-/// Milliseconds, for debounced layouts, dialogs that open and panels that slide.
+/// Milliseconds, for debounced layouts and panels that slide.
 constexpr int TimeToSettle = 800;
+constexpr int LookInterval = 20; // milliseconds
 
 void RunEvents(int milliseconds)
 {
@@ -41,7 +42,7 @@ void WaitForVideos(const SourcePool& pool)
     QElapsedTimer timer;
     timer.start();
     while (!pool.AllReady() && timer.elapsed() < LongestWaitForVideos)
-        RunEvents(20);
+        RunEvents(LookInterval);
 }
 
 /// Whatever is open over the main window, from the dialogs up to the menus and messages.
@@ -109,24 +110,32 @@ bool SavePage(MainWindow& window, Page& page, const SourcePool& pool, const QDir
     const QVector<Page::Picture> pictures = page.Pictures();
     for (const Page::Picture& picture : pictures) {
         bool done = false;
+        QElapsedTimer there;
+        QTimer look;
         // By a timer: a state with a modal dialog is inside the dialog's own loop.
-        QTimer::singleShot(TimeToSettle, &window, [&] {
+        QObject::connect(&look, &QTimer::timeout, &window, [&] {
+            if (!there.isValid() && picture.isThere())
+                there.start();
+            if (!there.isValid() || there.elapsed() < TimeToSettle)
+                return;
+            look.stop();
             WaitForVideos(pool);
             window.statusBar()->clearMessage();
             saved = SavePicture(window, folder.filePath(FileName(page, picture))) && saved;
             picture.leave();
             done = true;
         });
+        look.start(LookInterval);
         picture.enter();
         while (!done)
-            RunEvents(20);
+            RunEvents(LookInterval);
     }
     return saved;
 }
 
 } // namespace
 
-bool SaveScreenshots(MainWindow& window, const SourcePool& pool, const QString& folder)
+bool SaveScreenshots(MainWindow& window, const SourcePool& pool, const QString& folder, const QString& page)
 {
     // Shown nowhere, but laid out and painted as if it were.
     window.setAttribute(Qt::WA_DontShowOnScreen);
@@ -137,6 +146,8 @@ bool SaveScreenshots(MainWindow& window, const SourcePool& pool, const QString& 
     for (const QString& skin : {QStringLiteral("Black"), QStringLiteral("White")}) {
         KvGUI::SetSkinVersion(skin);
         for (int i = 0; i < pages.size(); ++i) {
+            if (!page.isEmpty() && pages.at(i)->Name() != page)
+                continue;
             window.ShowPage(i);
             saved = SavePage(window, *pages.at(i), pool, target) && saved;
         }

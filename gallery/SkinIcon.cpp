@@ -4,10 +4,13 @@
 
 namespace OperatorClient {
 
-QIcon SkinIcon(const QString& name)
+QIcon SkinIcon(const QString& folder, const QString& name)
 {
-    return QIcon(UICommonMdl::CommonFun::GetSkinPath(
-        QStringLiteral("OperatorClient"), QStringLiteral("ToolBar/%1.svg").arg(name)));
+    const QString path = UICommonMdl::CommonFun::GetSkinPath(
+        QStringLiteral("OperatorClient"), QStringLiteral("%1/%2.svg").arg(folder, name));
+    QIcon icon(path);
+    icon.addFile(path, {}, QIcon::Selected);
+    return icon;
 }
 
 } // namespace OperatorClient

@@ -4,7 +4,8 @@
 
 namespace OperatorClient {
 
-/// The tool bar icon @p name of the present skin.
-QIcon SkinIcon(const QString& name);
+/// The icon @p name of the present skin, in the folder "ToolBar" or "Pages". It has the same colours when
+/// its item is selected.
+QIcon SkinIcon(const QString& folder, const QString& name);
 
 } // namespace OperatorClient

@@ -6,8 +6,8 @@
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
 #include <QtTest>
 #include <QtWidgets>
-#include <UI/CutPhoto/CCutDetailPhoto.h>
-#include <UI/CutPhoto/CCutPhotoWithZoom.h>
+#include <UI/CutPhoto/CCutPhotoDlg.h>
+#include <UI/CutPhoto/CCutPhotoDlgWithZoom.h>
 #include <UI/PersonImage/WmPersonImage.h>
 #include <functional>
 #include <gallery/OperatorHand.h>
@@ -23,22 +23,15 @@ namespace {
 constexpr int kDialogIsThere = 150; // milliseconds
 constexpr int kLookInterval = 20; // milliseconds
 
-template <typename CanvasType>
-bool LacksItsPicture(const QDialog& dialog)
-{
-    const auto* canvas = dialog.findChild<CanvasType*>();
-    return canvas != nullptr && !canvas->GetCutPhoto().bHasImage;
-}
-
 /// Runs @p act once a dialog of @p page is open and shows its picture, however slow the machine is.
 void WhenOpen(Page& page, const std::function<void(QDialog&)>& act)
 {
     auto* look = new QTimer(&page);
     QObject::connect(look, &QTimer::timeout, &page, [&page, look, act] {
         auto* dialog = page.findChild<QDialog*>();
-        if (dialog == nullptr || !dialog->isVisible()
-            || LacksItsPicture<UICommonMdl::CCutDetailPhoto>(*dialog)
-            || LacksItsPicture<UICommonMdl::CCutPhotoWithZoom>(*dialog))
+        const bool crops = qobject_cast<UICommonMdl::CCutPhotoDlg*>(dialog)
+            || qobject_cast<UICommonMdl::CCutPhotoDlgWithZoom*>(dialog);
+        if (dialog == nullptr || !dialog->isVisible() || (crops && !PhotoCrop::ShowsPicture(*dialog)))
             return;
         look->stop();
         act(*dialog);
@@ -108,354 +101,332 @@ class TestPhotoPages : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void CutKeepsTheLimitsOfThePage();
-    void LimitsStandEachForItself_data();
-    void LimitsStandEachForItself();
-    void FrameWithoutAPixelIsTold();
-    void CancelledCropChangesNothing();
-    void DroppedFileIsCropped();
-    void DroppedPictureIsCropped();
-    void UnreadableFileIsTold();
-    void NewPhotoTakesTheCutAway();
-    void SavedCutIsTheCut();
-    void PageDestroyedWhileADialogIsOpen();
-    void PageDestroyedWhileAFileIsChosen();
-    void CanvasKeepsThePicturesShape_data();
-    void CanvasKeepsThePicturesShape();
-    void RecordIsKept();
-    void PicturesBelongToTheirPage();
-    void DeletedPictureIsGone();
-    void DeletionCanBeCancelled();
-    void RecordNeedsAName();
-    void UnwrittenRecordIsTold();
-    void DamagedRecordIsEmpty();
+    void cleanup() { KvGUI::KvMessageNotify::Instance()->CloseAll(); }
+
+    /// Catches limits that do not reach the dialog, and a JPEG of another quality than the one shown.
+    void CutKeepsTheLimitsOfThePage()
+    {
+        TestSupport::AnnounceCropCanvases();
+        PhotoPage page{QString()};
+        Show(page);
+        const QList<QSpinBox*> limits = page.findChildren<QSpinBox*>();
+        QCOMPARE(limits.size(), 3);
+        limits.at(0)->setValue(8); // kB
+        WhenOpen(page, [](QDialog& dialog) {
+            QWidget& canvas = Canvas(dialog);
+            DragOver(canvas, QPoint(10, 10), QPoint(canvas.width() - 10, canvas.height() - 10));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        QTest::mouseClick(ButtonOf(page, QStringLiteral("With handles and search\u2026")), Qt::LeftButton);
+        QVERIFY(page.Cut().has_value());
+        QVERIFY(page.Cut()->image.width() <= 640 && page.Cut()->image.height() <= 640);
+        QVERIFY(page.Cut()->jpeg.size() <= 8 * 1024);
+        QCOMPARE(QImage::fromData(page.Cut()->jpeg, "JPG").size(), page.Cut()->image.size());
+    }
+
+    void LimitsStandEachForItself_data()
+    {
+        QTest::addColumn<QVector<int>>("limits"); // kB, width, height
+        QTest::addColumn<QSize>("cut");
+        QTest::newRow("none") << QVector<int>{0, 0, 0} << QSize(480, 320);
+        QTest::newRow("width") << QVector<int>{60, 100, 0} << QSize(60, 40);
+        QTest::newRow("height") << QVector<int>{60, 0, 100} << QSize(120, 80);
+        QTest::newRow("pixels without bytes") << QVector<int>{0, 100, 300} << QSize(60, 40);
+    }
+
+    /// Catches a limit that does nothing because another one reads "no limit".
+    void LimitsStandEachForItself()
+    {
+        QFETCH(QVector<int>, limits);
+        QImage picture(480, 320, QImage::Format_RGB32);
+        picture.fill(Qt::green);
+        PhotoPage page{QString()};
+        Show(page);
+        DropPicture(page, picture);
+        const QList<QSpinBox*> boxes = page.findChildren<QSpinBox*>();
+        for (int i = 0; i < limits.size(); ++i)
+            boxes.at(i)->setValue(limits.at(i));
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        page.CropPlain();
+        QVERIFY(page.Cut().has_value());
+        QTEST(page.Cut()->image.size(), "cut");
+    }
+
+    /// Catches an empty file that is shown and saved as a cut: of a picture one pixel wide a frame holds
+    /// none.
+    void FrameWithoutAPixelIsTold()
+    {
+        QImage thread(1, 400, QImage::Format_RGB32);
+        thread.fill(Qt::green);
+        PhotoPage page{QString()};
+        Show(page);
+        DropPicture(page, thread);
+        WhenOpen(page, [](QDialog& dialog) {
+            DragOver(Canvas(dialog), QPoint(50, 100), QPoint(150, 300));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        page.CropPlain();
+        QVERIFY(!page.Cut().has_value());
+        QVERIFY(IsTold(QStringLiteral("too small")));
+    }
+
+    /// Catches a cut that a cancelled dialog takes away or makes.
+    void CancelledCropChangesNothing()
+    {
+        PhotoPage page{QString()};
+        Show(page);
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        page.CropPlain();
+        QVERIFY(!page.Cut().has_value());
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        page.CropPlain();
+        QVERIFY(page.Cut().has_value());
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        page.CropPlain();
+        QVERIFY(page.Cut().has_value());
+    }
+
+    /// Catches a drop that shows the file but crops the photo before it, and a file name taken for markup.
+    void DroppedFileIsCropped()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("<i>blue photo.png"));
+        QImage blue(300, 200, QImage::Format_RGB32);
+        blue.fill(Qt::blue);
+        QVERIFY(blue.save(path));
+        PhotoPage page{QString()};
+        Show(page);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        Drop(*page.findChild<PhotoView*>(), data);
+        const auto* name = page.findChild<QLabel*>(QStringLiteral("hint"));
+        QVERIFY(name->sizeHint().width() >= name->fontMetrics().horizontalAdvance(name->text()));
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        page.CropPlain();
+        QVERIFY(page.Cut().has_value());
+        QCOMPARE(page.Cut()->image.size(), blue.size());
+        QCOMPARE(page.Cut()->image.pixelColor(150, 100), QColor(Qt::blue));
+    }
+
+    /// Catches a picture in memory that the dialog's layout takes away.
+    void DroppedPictureIsCropped()
+    {
+        QImage red(320, 240, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        PhotoPage page{QString()};
+        Show(page);
+        DropPicture(page, red);
+        TestSupport::AnnounceCropCanvases();
+        WhenOpen(page, [](QDialog& dialog) {
+            DragOver(Canvas(dialog), QPoint(30, 30), QPoint(150, 120));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        page.CropWithZoom();
+        QVERIFY(page.Cut().has_value());
+        QCOMPARE(page.Cut()->image.pixelColor(5, 5), QColor(Qt::red));
+    }
+
+    /// Catches a file that is no picture and takes the photo's place, or that nobody is told of.
+    void UnreadableFileIsTold()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("broken.jpg"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("no picture");
+        file.close();
+        PhotoPage page(path);
+        Show(page);
+        QVERIFY(IsTold(QStringLiteral("broken.jpg")));
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        page.CropPlain();
+        QVERIFY(page.Cut().has_value()); // of the drawn photo, which is there still
+    }
+
+    /// Catches a cut of one photo that is saved as one of another.
+    void NewPhotoTakesTheCutAway()
+    {
+        PhotoPage page{QString()};
+        Show(page);
+        auto* save = ButtonOf(page, QStringLiteral("Save as JPEG\u2026"));
+        QVERIFY(!save->isEnabled());
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        page.CropPlain();
+        QVERIFY(save->isEnabled());
+        QTest::mouseClick(ButtonOf(page, QStringLiteral("Drawn photo")), Qt::LeftButton);
+        QVERIFY(!page.Cut().has_value());
+        QVERIFY(!save->isEnabled());
+    }
+
+    /// Catches a file of another quality or size than the page shows, and half a file.
+    void SavedCutIsTheCut()
+    {
+        PhotoPage page{QString()};
+        Show(page);
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        page.CropPlain();
+        const QString path = m_folder.filePath(QStringLiteral("cut.jpg"));
+        QVERIFY(PhotoCrop::Save(*page.Cut(), path));
+        QCOMPARE(QFileInfo(path).size(), qint64(page.Cut()->jpeg.size()));
+        QCOMPARE(QImage(path).size(), page.Cut()->image.size());
+        QVERIFY(!PhotoCrop::Save(*page.Cut(), m_folder.filePath(QStringLiteral("none/cut.jpg"))));
+    }
+
+    /// Catches any use of the page or its dialog after both are gone.
+    void PageDestroyedWhileADialogIsOpen()
+    {
+        for (const auto crop : {&PhotoPage::CropPlain, &PhotoPage::CropWithZoom}) {
+            if (crop == &PhotoPage::CropWithZoom)
+                TestSupport::AnnounceCropCanvases();
+            auto* page = new PhotoPage(QString());
+            Show(*page);
+            QTimer::singleShot(kDialogIsThere, qApp, [page] { delete page; });
+            (page->*crop)();
+        }
+    }
+
+    /// Catches a file dialog that is deleted a second time by the page which opened it.
+    void PageDestroyedWhileAFileIsChosen()
+    {
+        auto* page = new PhotoPage(QString());
+        const QPointer<PhotoPage> guard(page);
+        Show(*page);
+        QTimer::singleShot(kDialogIsThere, qApp, [page] {
+            QVERIFY(page->findChild<QFileDialog*>() != nullptr);
+            delete page;
+        });
+        ButtonOf(*page, QStringLiteral("Open a photo\u2026"))->click();
+        QVERIFY(guard.isNull());
+    }
+
+    void CanvasKeepsThePicturesShape_data()
+    {
+        QTest::addColumn<QSize>("picture");
+        QTest::addColumn<QSize>("canvas");
+        QTest::newRow("wide") << QSize(1920, 1080) << QSize(960, 540);
+        QTest::newRow("high") << QSize(1000, 2000) << QSize(320, 640);
+        QTest::newRow("small") << QSize(30, 20) << QSize(960, 640);
+        QTest::newRow("very high") << QSize(1, 20000) << QSize(320, 640);
+        QTest::newRow("none") << QSize() << QSize(960, 640);
+    }
+
+    /// Catches a canvas in which people look wide or thin, and one too small to use.
+    void CanvasKeepsThePicturesShape()
+    {
+        QFETCH(QSize, picture);
+        QFETCH(QSize, canvas);
+        QCOMPARE(PhotoCrop::CanvasSize(picture), canvas);
+    }
+
+    /// Catches fields or pictures that are lost when the client starts again.
+    void RecordIsKept()
+    {
+        const QString folder = m_folder.filePath(QStringLiteral("kept"));
+        PersonRecord saved;
+        {
+            RecordPage page(folder);
+            Show(page);
+            Choose(page, 3); // reads a card
+            page.findChildren<QLineEdit*>().at(2)->setText(QStringLiteral("Doors, \"north\"; \u5317"));
+            QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
+            saved = page.Record();
+        }
+        const RecordPage again(folder);
+        QVERIFY(!again.Record().name.isEmpty());
+        QCOMPARE(again.Record().name, saved.name);
+        QCOMPARE(again.Record().card, saved.card);
+        QCOMPARE(again.Record().department, QStringLiteral("Doors, \"north\"; \u5317"));
+        QCOMPARE(again.Record().pictures, saved.pictures);
+        QVERIFY(!QImage::fromData(again.Record().pictures.at(PersonRecord::Avatar)).isNull());
+        QVERIFY(again.Record().pictures.at(PersonRecord::Face).isEmpty());
+    }
+
+    /// Catches a cut that lands on the page which is not shown.
+    void PicturesBelongToTheirPage()
+    {
+        RecordPage page(m_folder.filePath(QStringLiteral("pages")));
+        Show(page);
+        auto* panel = page.findChild<UICommonMdl::WmPersonImage*>();
+        panel->SetPhotoBtnAlwaysShow(true);
+        QTest::mouseClick(panel->findChild<QPushButton*>(QStringLiteral("m_btnTurnPage")), Qt::LeftButton);
+        panel->SetPhotoBtnVisible(true);
+        WhenOpen(page, [](QDialog& dialog) {
+            DragOver(Canvas(dialog), QPoint(200, 100), QPoint(400, 350));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+        });
+        QTest::mouseClick(panel->findChild<QPushButton*>(QStringLiteral("m_btnCapture")), Qt::LeftButton);
+        QVERIFY(page.Record().pictures.at(PersonRecord::Avatar).isEmpty());
+        const QByteArray face = page.Record().pictures.at(PersonRecord::Face);
+        QVERIFY(!QImage::fromData(face, "JPG").isNull());
+        QVERIFY(face.size() <= 100 * 1024);
+    }
+
+    /// Catches a deleted picture that comes back with the next start.
+    void DeletedPictureIsGone()
+    {
+        const QString folder = m_folder.filePath(QStringLiteral("deleted"));
+        RecordPage page(folder);
+        Show(page);
+        Choose(page, 3);
+        QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+        Choose(page, 5);
+        QVERIFY(page.Record().pictures.at(PersonRecord::Avatar).isEmpty());
+        QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
+        QVERIFY(RecordPage(folder).Record().pictures.at(PersonRecord::Avatar).isEmpty());
+    }
+
+    /// Catches a question whose answer does not count.
+    void DeletionCanBeCancelled()
+    {
+        RecordPage page(m_folder.filePath(QStringLiteral("cancelled")));
+        Show(page);
+        Choose(page, 2); // a picture of the visitor
+        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        Choose(page, 5);
+        QVERIFY(!page.Record().pictures.at(PersonRecord::Avatar).isEmpty());
+    }
+
+    /// Catches a record without a name that is written.
+    void RecordNeedsAName()
+    {
+        const QString folder = m_folder.filePath(QStringLiteral("nameless"));
+        RecordPage page(folder);
+        Show(page);
+        QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
+        QVERIFY(!QFileInfo::exists(folder + QLatin1String("/person.ini")));
+    }
+
+    /// Catches a record that is said to be saved although its file cannot be one.
+    void UnwrittenRecordIsTold()
+    {
+        const QString folder = m_folder.filePath(QStringLiteral("unwritten"));
+        QVERIFY(QDir(folder).mkpath(QStringLiteral("person.ini")));
+        RecordPage page(folder);
+        Show(page);
+        page.findChild<QLineEdit*>()->setText(QStringLiteral("Ada Vermeer"));
+        QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
+        QVERIFY(IsTold(QStringLiteral("cannot be written")));
+    }
+
+    /// Catches a start that fails, or shows garbage, after files were damaged.
+    void DamagedRecordIsEmpty()
+    {
+        const QDir folder(m_folder.filePath(QStringLiteral("damaged")));
+        QVERIFY(folder.mkpath(QStringLiteral(".")));
+        for (const char* name : {"person.ini", "avatar.jpg", "face.jpg"}) {
+            QFile file(folder.filePath(QLatin1String(name)));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(QByteArray("\xffgar\0bage", 9));
+        }
+        RecordPage page(folder.path());
+        Show(page);
+        auto* panel = page.findChild<UICommonMdl::WmPersonImage*>();
+        QVERIFY(panel->pixmap(Qt::ReturnByValue).isNull());
+        QVERIFY(page.Record().name.isEmpty());
+    }
 
 private:
     QTemporaryDir m_folder;
 };
-
-void TestPhotoPages::cleanup() { KvGUI::KvMessageNotify::Instance()->CloseAll(); }
-
-/// Catches limits that do not reach the dialog, and a JPEG of another quality than the one shown.
-void TestPhotoPages::CutKeepsTheLimitsOfThePage()
-{
-    TestSupport::AnnounceCropCanvases();
-    PhotoPage page{QString()};
-    Show(page);
-    const QList<QSpinBox*> limits = page.findChildren<QSpinBox*>();
-    QCOMPARE(limits.size(), 3);
-    limits.at(0)->setValue(8); // kB
-    WhenOpen(page, [](QDialog& dialog) {
-        QWidget& canvas = Canvas(dialog);
-        DragOver(canvas, QPoint(10, 10), QPoint(canvas.width() - 10, canvas.height() - 10));
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    QTest::mouseClick(ButtonOf(page, QStringLiteral("With handles and search\u2026")), Qt::LeftButton);
-    QVERIFY(page.Cut().has_value());
-    QVERIFY(page.Cut()->image.width() <= 640 && page.Cut()->image.height() <= 640);
-    QVERIFY(page.Cut()->jpeg.size() <= 8 * 1024);
-    QCOMPARE(QImage::fromData(page.Cut()->jpeg, "JPG").size(), page.Cut()->image.size());
-}
-
-void TestPhotoPages::LimitsStandEachForItself_data()
-{
-    QTest::addColumn<QVector<int>>("limits"); // kB, width, height
-    QTest::addColumn<QSize>("cut");
-    QTest::newRow("none") << QVector<int>{0, 0, 0} << QSize(480, 320);
-    QTest::newRow("width") << QVector<int>{60, 100, 0} << QSize(60, 40);
-    QTest::newRow("height") << QVector<int>{60, 0, 100} << QSize(120, 80);
-    QTest::newRow("pixels without bytes") << QVector<int>{0, 100, 300} << QSize(60, 40);
-}
-
-/// Catches a limit that does nothing because another one reads "no limit".
-void TestPhotoPages::LimitsStandEachForItself()
-{
-    QFETCH(QVector<int>, limits);
-    QImage picture(480, 320, QImage::Format_RGB32);
-    picture.fill(Qt::green);
-    PhotoPage page{QString()};
-    Show(page);
-    DropPicture(page, picture);
-    const QList<QSpinBox*> boxes = page.findChildren<QSpinBox*>();
-    for (int i = 0; i < limits.size(); ++i)
-        boxes.at(i)->setValue(limits.at(i));
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    page.CropPlain();
-    QVERIFY(page.Cut().has_value());
-    QTEST(page.Cut()->image.size(), "cut");
-}
-
-/// Catches an empty file that is shown and saved as a cut: of a picture one pixel wide a frame holds none.
-void TestPhotoPages::FrameWithoutAPixelIsTold()
-{
-    QImage thread(1, 400, QImage::Format_RGB32);
-    thread.fill(Qt::green);
-    PhotoPage page{QString()};
-    Show(page);
-    DropPicture(page, thread);
-    WhenOpen(page, [](QDialog& dialog) {
-        DragOver(Canvas(dialog), QPoint(50, 100), QPoint(150, 300));
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    page.CropPlain();
-    QVERIFY(!page.Cut().has_value());
-    QVERIFY(IsTold(QStringLiteral("too small")));
-}
-
-/// Catches a cut that a cancelled dialog takes away or makes.
-void TestPhotoPages::CancelledCropChangesNothing()
-{
-    PhotoPage page{QString()};
-    Show(page);
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    page.CropPlain();
-    QVERIFY(!page.Cut().has_value());
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    page.CropPlain();
-    QVERIFY(page.Cut().has_value());
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    page.CropPlain();
-    QVERIFY(page.Cut().has_value());
-}
-
-/// Catches a drop that shows the file but crops the photo before it, and a file name taken for markup.
-void TestPhotoPages::DroppedFileIsCropped()
-{
-    const QString path = m_folder.filePath(QStringLiteral("<i>blue photo.png"));
-    QImage blue(300, 200, QImage::Format_RGB32);
-    blue.fill(Qt::blue);
-    QVERIFY(blue.save(path));
-    PhotoPage page{QString()};
-    Show(page);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(path)});
-    Drop(*page.findChild<PhotoView*>(), data);
-    const auto* name = page.findChild<QLabel*>(QStringLiteral("hint"));
-    QVERIFY(name->sizeHint().width() >= name->fontMetrics().horizontalAdvance(name->text()));
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    page.CropPlain();
-    QVERIFY(page.Cut().has_value());
-    QCOMPARE(page.Cut()->image.size(), blue.size());
-    QCOMPARE(page.Cut()->image.pixelColor(150, 100), QColor(Qt::blue));
-}
-
-/// Catches a picture in memory that the dialog's layout takes away.
-void TestPhotoPages::DroppedPictureIsCropped()
-{
-    QImage red(320, 240, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    PhotoPage page{QString()};
-    Show(page);
-    DropPicture(page, red);
-    TestSupport::AnnounceCropCanvases();
-    WhenOpen(page, [](QDialog& dialog) {
-        DragOver(Canvas(dialog), QPoint(30, 30), QPoint(150, 120));
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    page.CropWithZoom();
-    QVERIFY(page.Cut().has_value());
-    QCOMPARE(page.Cut()->image.pixelColor(5, 5), QColor(Qt::red));
-}
-
-/// Catches a file that is no picture and takes the photo's place, or that nobody is told of.
-void TestPhotoPages::UnreadableFileIsTold()
-{
-    const QString path = m_folder.filePath(QStringLiteral("broken.jpg"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("no picture");
-    file.close();
-    PhotoPage page(path);
-    Show(page);
-    QVERIFY(IsTold(QStringLiteral("broken.jpg")));
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    page.CropPlain();
-    QVERIFY(page.Cut().has_value()); // of the drawn photo, which is there still
-}
-
-/// Catches a cut of one photo that is saved as one of another.
-void TestPhotoPages::NewPhotoTakesTheCutAway()
-{
-    PhotoPage page{QString()};
-    Show(page);
-    auto* save = ButtonOf(page, QStringLiteral("Save as JPEG\u2026"));
-    QVERIFY(!save->isEnabled());
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    page.CropPlain();
-    QVERIFY(save->isEnabled());
-    QTest::mouseClick(ButtonOf(page, QStringLiteral("Drawn photo")), Qt::LeftButton);
-    QVERIFY(!page.Cut().has_value());
-    QVERIFY(!save->isEnabled());
-}
-
-/// Catches a file of another quality or size than the page shows, and half a file.
-void TestPhotoPages::SavedCutIsTheCut()
-{
-    PhotoPage page{QString()};
-    Show(page);
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    page.CropPlain();
-    const QString path = m_folder.filePath(QStringLiteral("cut.jpg"));
-    QVERIFY(PhotoCrop::Save(*page.Cut(), path));
-    QCOMPARE(QFileInfo(path).size(), qint64(page.Cut()->jpeg.size()));
-    QCOMPARE(QImage(path).size(), page.Cut()->image.size());
-    QVERIFY(!PhotoCrop::Save(*page.Cut(), m_folder.filePath(QStringLiteral("none/cut.jpg"))));
-}
-
-/// Catches any use of the page or its dialog after both are gone.
-void TestPhotoPages::PageDestroyedWhileADialogIsOpen()
-{
-    for (const auto crop : {&PhotoPage::CropPlain, &PhotoPage::CropWithZoom}) {
-        if (crop == &PhotoPage::CropWithZoom)
-            TestSupport::AnnounceCropCanvases();
-        auto* page = new PhotoPage(QString());
-        Show(*page);
-        QTimer::singleShot(kDialogIsThere, qApp, [page] { delete page; });
-        (page->*crop)();
-    }
-}
-
-/// Catches a file dialog that is deleted a second time by the page which opened it.
-void TestPhotoPages::PageDestroyedWhileAFileIsChosen()
-{
-    auto* page = new PhotoPage(QString());
-    const QPointer<PhotoPage> guard(page);
-    Show(*page);
-    QTimer::singleShot(kDialogIsThere, qApp, [page] {
-        QVERIFY(page->findChild<QFileDialog*>() != nullptr);
-        delete page;
-    });
-    ButtonOf(*page, QStringLiteral("Open a photo\u2026"))->click();
-    QVERIFY(guard.isNull());
-}
-
-void TestPhotoPages::CanvasKeepsThePicturesShape_data()
-{
-    QTest::addColumn<QSize>("picture");
-    QTest::addColumn<QSize>("canvas");
-    QTest::newRow("wide") << QSize(1920, 1080) << QSize(960, 540);
-    QTest::newRow("high") << QSize(1000, 2000) << QSize(320, 640);
-    QTest::newRow("small") << QSize(30, 20) << QSize(960, 640);
-    QTest::newRow("very high") << QSize(1, 20000) << QSize(320, 640);
-    QTest::newRow("none") << QSize() << QSize(960, 640);
-}
-
-/// Catches a canvas in which people look wide or thin, and one too small to use.
-void TestPhotoPages::CanvasKeepsThePicturesShape()
-{
-    QFETCH(QSize, picture);
-    QFETCH(QSize, canvas);
-    QCOMPARE(PhotoCrop::CanvasSize(picture), canvas);
-}
-
-/// Catches fields or pictures that are lost when the client starts again.
-void TestPhotoPages::RecordIsKept()
-{
-    const QString folder = m_folder.filePath(QStringLiteral("kept"));
-    PersonRecord saved;
-    {
-        RecordPage page(folder);
-        Show(page);
-        Choose(page, 3); // reads a card
-        page.findChildren<QLineEdit*>().at(2)->setText(QStringLiteral("Doors, \"north\"; \u5317"));
-        QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
-        saved = page.Record();
-    }
-    const RecordPage again(folder);
-    QVERIFY(!again.Record().name.isEmpty());
-    QCOMPARE(again.Record().name, saved.name);
-    QCOMPARE(again.Record().card, saved.card);
-    QCOMPARE(again.Record().department, QStringLiteral("Doors, \"north\"; \u5317"));
-    QCOMPARE(again.Record().pictures, saved.pictures);
-    QVERIFY(!QImage::fromData(again.Record().pictures.at(PersonRecord::Avatar)).isNull());
-    QVERIFY(again.Record().pictures.at(PersonRecord::Face).isEmpty());
-}
-
-/// Catches a cut that lands on the page which is not shown.
-void TestPhotoPages::PicturesBelongToTheirPage()
-{
-    RecordPage page(m_folder.filePath(QStringLiteral("pages")));
-    Show(page);
-    auto* panel = page.findChild<UICommonMdl::WmPersonImage*>();
-    panel->SetPhotoBtnAlwaysShow(true);
-    QTest::mouseClick(panel->findChild<QPushButton*>(QStringLiteral("m_btnTurnPage")), Qt::LeftButton);
-    panel->SetPhotoBtnVisible(true);
-    WhenOpen(page, [](QDialog& dialog) {
-        DragOver(Canvas(dialog), QPoint(200, 100), QPoint(400, 350));
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    QTest::mouseClick(panel->findChild<QPushButton*>(QStringLiteral("m_btnCapture")), Qt::LeftButton);
-    QVERIFY(page.Record().pictures.at(PersonRecord::Avatar).isEmpty());
-    const QByteArray face = page.Record().pictures.at(PersonRecord::Face);
-    QVERIFY(!QImage::fromData(face, "JPG").isNull());
-    QVERIFY(face.size() <= 100 * 1024);
-}
-
-/// Catches a deleted picture that comes back with the next start.
-void TestPhotoPages::DeletedPictureIsGone()
-{
-    const QString folder = m_folder.filePath(QStringLiteral("deleted"));
-    RecordPage page(folder);
-    Show(page);
-    Choose(page, 3);
-    QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    Choose(page, 5);
-    QVERIFY(page.Record().pictures.at(PersonRecord::Avatar).isEmpty());
-    QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
-    QVERIFY(RecordPage(folder).Record().pictures.at(PersonRecord::Avatar).isEmpty());
-}
-
-/// Catches a question whose answer does not count.
-void TestPhotoPages::DeletionCanBeCancelled()
-{
-    RecordPage page(m_folder.filePath(QStringLiteral("cancelled")));
-    Show(page);
-    Choose(page, 2); // a picture of the visitor
-    WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    Choose(page, 5);
-    QVERIFY(!page.Record().pictures.at(PersonRecord::Avatar).isEmpty());
-}
-
-/// Catches a record without a name that is written.
-void TestPhotoPages::RecordNeedsAName()
-{
-    const QString folder = m_folder.filePath(QStringLiteral("nameless"));
-    RecordPage page(folder);
-    Show(page);
-    QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
-    QVERIFY(!QFileInfo::exists(folder + QLatin1String("/person.ini")));
-}
-
-/// Catches a record that is said to be saved although its file cannot be one.
-void TestPhotoPages::UnwrittenRecordIsTold()
-{
-    const QString folder = m_folder.filePath(QStringLiteral("unwritten"));
-    QVERIFY(QDir(folder).mkpath(QStringLiteral("person.ini")));
-    RecordPage page(folder);
-    Show(page);
-    page.findChild<QLineEdit*>()->setText(QStringLiteral("Ada Vermeer"));
-    QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
-    QVERIFY(IsTold(QStringLiteral("cannot be written")));
-}
-
-/// Catches a start that fails, or shows garbage, after files were damaged.
-void TestPhotoPages::DamagedRecordIsEmpty()
-{
-    const QDir folder(m_folder.filePath(QStringLiteral("damaged")));
-    QVERIFY(folder.mkpath(QStringLiteral(".")));
-    for (const char* name : {"person.ini", "avatar.jpg", "face.jpg"}) {
-        QFile file(folder.filePath(QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray("\xffgar\0bage", 9));
-    }
-    RecordPage page(folder.path());
-    Show(page);
-    auto* panel = page.findChild<UICommonMdl::WmPersonImage*>();
-    QVERIFY(panel->pixmap(Qt::ReturnByValue).isNull());
-    QVERIFY(page.Record().name.isEmpty());
-}
 
 STRICT_TEST_MAIN(TestPhotoPages)
 #include "tst_photopages.moc"

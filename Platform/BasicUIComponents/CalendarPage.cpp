@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -49,6 +50,17 @@ CalendarPage::CalendarPage(const CalendarSelection& selection, QWidget* parent)
         emit SignalMonthWanted(MonthsLater(Month(), months));
     });
     ShowTexts();
+    ShowArrows();
+}
+
+/// Arrows point where the button stands, on the other side where the layout is mirrored.
+void CalendarPage::ShowArrows()
+{
+    for (QToolButton* button : {m_btnPreviousYear, m_btnPreviousMonth, m_btnNextMonth, m_btnNextYear}) {
+        button->setProperty("mirrored", isRightToLeft());
+        button->style()->unpolish(button);
+        button->style()->polish(button);
+    }
 }
 
 QToolButton* CalendarPage::AddButton(const QString& objectName, int months)
@@ -76,6 +88,8 @@ void CalendarPage::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LocaleChange || event->type() == QEvent::LanguageChange)
         ShowTexts();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        ShowArrows();
 }
 
 void CalendarPage::ShowTexts()

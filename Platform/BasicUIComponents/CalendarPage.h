@@ -34,6 +34,7 @@ protected:
 private:
     QToolButton* AddButton(const QString& objectName, int months);
     void ShowTexts();
+    void ShowArrows();
     QString Title() const;
 
     CalendarMonthView* m_pView;

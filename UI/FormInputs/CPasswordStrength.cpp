@@ -57,6 +57,10 @@ void CPasswordStrength::paintEvent(QPaintEvent*)
     if (m_iStrength <= 0)
         return;
     QPainter painter(this);
+    if (isRightToLeft()) { // grows from the right
+        painter.translate(width(), 0);
+        painter.scale(-1, 1);
+    }
     painter.drawPixmap(0, (height() - LogicalSize(m_background).height()) / 2, m_background);
     // All levels stand where the first one does.
     painter.drawPixmap(0, (height() - LogicalSize(m_level1).height()) / 2, LevelPicture());

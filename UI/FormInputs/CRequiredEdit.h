@@ -17,8 +17,12 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void MirrorText();
+    void PlaceSymbol();
+
     QLabel* m_pSymbolRequired;
 };
 

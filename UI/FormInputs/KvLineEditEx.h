@@ -16,8 +16,12 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void MirrorText();
+    void PlaceMarker();
+
     QLabel* m_pMarker;
 };
 

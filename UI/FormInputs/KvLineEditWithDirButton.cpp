@@ -2,6 +2,7 @@
 
 #include <Common/CommonFun.h>
 #include <Platform/BasicUIComponents/KvTranslatedText.h>
+#include <QEvent>
 #include <QPointer>
 #include <QStyle>
 #include <QToolButton>
@@ -31,7 +32,7 @@ KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
     new KvGUI::KvTranslatedText(m_btnDir, "toolTip", [] { return tr("Choose"); });
     new KvGUI::KvTranslatedText(m_btnDir, "accessibleName", [] { return tr("Choose a file"); });
     connect(m_btnDir, &QToolButton::clicked, this, &KvLineEditWithDirButton::onDirButtonClicked);
-    setTextMargins(0, 0, ButtonSize, 0);
+    MirrorText();
     CommonFun::SetStyleSheet(this, QStringLiteral("LineEdit"), QString(), QString());
 }
 
@@ -58,12 +59,33 @@ void KvLineEditWithDirButton::SetSelectDirectory(
 void KvLineEditWithDirButton::resizeEvent(QResizeEvent* event)
 {
     KvLineEdit::resizeEvent(event);
+    PlaceButton();
+}
+
+void KvLineEditWithDirButton::changeEvent(QEvent* event)
+{
+    KvLineEdit::changeEvent(event);
+    if (event->type() != QEvent::LayoutDirectionChange)
+        return;
+    MirrorText();
+    PlaceButton();
+}
+
+void KvLineEditWithDirButton::MirrorText()
+{
+    const bool mirrored = isRightToLeft();
+    setTextMargins(mirrored ? ButtonSize : 0, 0, mirrored ? 0 : ButtonSize, 0);
+}
+
+/// At the end of the line: right, and left where the layout is mirrored.
+void KvLineEditWithDirButton::PlaceButton()
+{
     QRect place = rect();
     const int middle = place.center().y();
     place.setLeft(place.right() - ButtonSize);
     place.setTop(middle - ButtonSize / 2);
     place.setBottom(middle + ButtonSize / 2);
-    m_btnDir->setGeometry(place);
+    m_btnDir->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
 }
 
 QFileDialog* KvLineEditWithDirButton::MakeDialog()

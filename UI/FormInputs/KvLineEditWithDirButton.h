@@ -34,6 +34,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private slots:
     void onDirButtonClicked();
@@ -46,6 +47,8 @@ private:
         SelectDirectory = 2
     };
 
+    void MirrorText();
+    void PlaceButton();
     QFileDialog* MakeDialog();
     QString AskForPath();
 

@@ -239,10 +239,15 @@ void QIpAddrEdit::AdjustPartLenth()
 {
     QRect area = contentsRect();
     m_pSymbolRequired->setMinimumHeight(height());
-    m_pSymbolRequired->setGeometry(
-        SymbolLeft, 0, qMax(SymbolWidth, m_pSymbolRequired->sizeHint().width()), height());
-    if (m_bRequired)
-        area.setLeft(qMax(area.left(), m_pSymbolRequired->geometry().right() + 1));
+    const QRect left(SymbolLeft, 0, qMax(SymbolWidth, m_pSymbolRequired->sizeHint().width()), height());
+    // The address runs from left to right everywhere; its mark stands where those of other inputs do.
+    const bool mirrored = parentWidget() != nullptr && parentWidget()->isRightToLeft();
+    const QRect symbol = mirrored ? QStyle::visualRect(Qt::RightToLeft, rect(), left) : left;
+    m_pSymbolRequired->setGeometry(symbol);
+    if (m_bRequired && mirrored)
+        area.setRight(qMin(area.right(), symbol.left() - 1));
+    else if (m_bRequired)
+        area.setLeft(qMax(area.left(), symbol.right() + 1));
     const IpAddrLayout layout = LayOutOctets(area, DotWidth);
     for (int i = 0; i < OctetCount; ++i)
         m_octets.at(static_cast<size_t>(i))->setGeometry(layout.octets.at(i));

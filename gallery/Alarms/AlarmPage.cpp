@@ -1,8 +1,10 @@
 #include <gallery/Alarms/AlarmPage.h>
 
+#include <Platform/BasicUIComponents/KvHorScrollBar.h>
 #include <Platform/BasicUIComponents/KvLineEdit.h>
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
 #include <Platform/BasicUIComponents/KvPushButton.h>
+#include <Platform/BasicUIComponents/KvVerScrollBar.h>
 #include <UI/Spreadsheet/AxExcelFunction.h>
 #include <gallery/Alarms/AlarmExport.h>
 #include <gallery/Alarms/AlarmImport.h>
@@ -109,6 +111,8 @@ QTableView* AlarmPage::BuildTable()
     auto* table = new QTableView(this);
     FollowLanguage(table, "accessibleName", [] { return tr("Alarms"); });
     table->setModel(m_pShown);
+    table->setHorizontalScrollBar(new KvGUI::KvHorScrollBar(table));
+    table->setVerticalScrollBar(new KvGUI::KvVerScrollBar(table));
     table->setAlternatingRowColors(true);
     table->setShowGrid(false);
     table->setWordWrap(false);

@@ -34,14 +34,20 @@ namespace {
 
 using UICommonMdl::CTipLabel;
 
-constexpr int FormWidth = 460;
+/// The bubble stands after the field: right, and left where the layout is mirrored.
+CTipLabel::DisplayPosition TipSide(const QWidget& field)
+{
+    return field.isRightToLeft() ? CTipLabel::Right : CTipLabel::Left;
+}
+
+constexpr int FormWidth = 460; // pixels, where the window has them
 constexpr int LabelWidth = 100;
 constexpr int LongestPeriod = 31; // days
 constexpr qint64 RootGroup = 1;
 
 QFormLayout* FormIn(QGroupBox* group)
 {
-    group->setFixedWidth(FormWidth);
+    group->setMaximumWidth(FormWidth);
     auto* form = new QFormLayout(group);
     form->setVerticalSpacing(10);
     form->setHorizontalSpacing(16);
@@ -103,8 +109,8 @@ DevicePage::DevicePage(QWidget* parent)
     right->addStretch(1);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(24);
-    columns->addLayout(left);
-    columns->addLayout(right);
+    columns->addLayout(left, FormWidth);
+    columns->addLayout(right, FormWidth);
     columns->addStretch(1);
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(24, 20, 24, 20);
@@ -239,6 +245,7 @@ void DevicePage::NameFileDialogs()
 QWidget* DevicePage::BuildButtons()
 {
     auto* row = new QWidget(this);
+    row->setMaximumWidth(FormWidth);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
@@ -275,7 +282,7 @@ bool DevicePage::IsFilled(QLineEdit* edit, const QString& complaint)
     if (!edit->text().trimmed().isEmpty())
         return true;
     edit->setFocus();
-    CTipLabel::Instance()->ShowTip(complaint, edit, CTipLabel::Left);
+    CTipLabel::Instance()->ShowTip(complaint, edit, TipSide(*edit));
     return false;
 }
 
@@ -289,7 +296,7 @@ bool DevicePage::IsAddressRight()
     const QString complaint = m_pAddress->text().isEmpty() ? tr("Enter the device's address")
                                                            : tr("The address needs four numbers");
     (*empty)->setFocus();
-    m_pAddress->showErrorHint(true, complaint, CTipLabel::Left);
+    m_pAddress->showErrorHint(true, complaint, TipSide(*this));
     return false;
 }
 
@@ -347,7 +354,7 @@ bool DevicePage::AddGroup(const QString& name)
 {
     if (m_pGroups->findText(name, Qt::MatchFixedString) >= 0) {
         auto* edit = m_pNewGroup->findChild<QLineEdit*>();
-        CTipLabel::Instance()->ShowTip(tr("There is such a group already"), edit, CTipLabel::Left);
+        CTipLabel::Instance()->ShowTip(tr("There is such a group already"), edit, TipSide(*edit));
         return false;
     }
     m_pGroups->addItem(name);

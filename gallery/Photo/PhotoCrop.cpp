@@ -105,6 +105,13 @@ Ask(const Photo& photo, const CutLimits& clientLimits, const QString& title, QWi
     return cut;
 }
 
+template <typename Canvas>
+bool HasPicture(const QDialog& dialog)
+{
+    const auto* canvas = dialog.findChild<Canvas*>();
+    return canvas != nullptr && canvas->GetCutPhoto().bHasImage;
+}
+
 QString PictureFilter()
 {
     QStringList patterns;
@@ -137,6 +144,13 @@ std::optional<PhotoCut>
 PhotoCrop::Plain(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent)
 {
     return Ask<UICommonMdl::CCutPhotoDlg>(photo, limits, title, parent);
+}
+
+bool PhotoCrop::ShowsPicture(const QDialog& dialog)
+{
+    return dialog.isVisible()
+        && (HasPicture<UICommonMdl::CCutDetailPhoto>(dialog)
+            || HasPicture<UICommonMdl::CCutPhotoWithZoom>(dialog));
 }
 
 QImage PhotoCrop::Read(const QString& path, QWidget* parent)

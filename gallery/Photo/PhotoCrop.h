@@ -6,6 +6,7 @@
 #include <QString>
 #include <optional>
 
+class QDialog;
 class QWidget;
 
 namespace OperatorClient {
@@ -59,6 +60,9 @@ public:
     /// In the plain dialog.
     static std::optional<PhotoCut>
     Plain(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent);
+
+    /// Whether one of these dialogs is open and its canvas has got the photo.
+    static bool ShowsPicture(const QDialog& dialog);
 
     /// Reads a photo file, to show it. The dialogs read it again by themselves.
     /// @return a null image, and a message to the operator, when it cannot be read

@@ -25,7 +25,7 @@ namespace {
 
 constexpr int SideWidth = 320;
 constexpr int BytesOfKilobyte = 1024;
-constexpr int DialogIsThere = 150; // milliseconds; the dialog is open and shows its photo
+constexpr int LookInterval = 20; // milliseconds
 
 QString SearchText(Search search)
 {
@@ -86,7 +86,8 @@ QWidget* PhotoPage::BuildPhotoSide()
     title->setObjectName(QStringLiteral("pageTitle"));
     m_pPhotoText = new QLabel(side);
     m_pPhotoText->setObjectName(QStringLiteral("hint"));
-    m_pPhotoText->setTextFormat(Qt::PlainText); // a file may have any name
+    m_pPhotoText->setTextFormat(Qt::PlainText); // a file may have any name, of any length
+    m_pPhotoText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(2);
     texts->addWidget(title);
@@ -224,6 +225,7 @@ void PhotoPage::ShowTexts()
         m_photo.title = tr("Drawn photo of the entrance");
     const QString text = QStringLiteral("%1, %2").arg(m_photo.title, SizeText(m_photo.image.size()));
     m_pPhotoText->setText(text);
+    m_pPhotoText->setToolTip(text.toHtmlEscaped());
     m_pView->setAccessibleName(text);
     m_pCutView->SetHint(tr("Crop the photo to see the cut here."));
     m_pCutView->setAccessibleName(m_cut ? tr("The cut") : tr("No cut yet"));
@@ -301,23 +303,30 @@ QVector<Page::Picture> PhotoPage::Pictures()
         return [=] { ShowWithDialog(crop, act); };
     };
     const auto close = [this] { CloseDialogs(); };
+    const auto acted = [this] { return m_bActed; };
     return {
         {QString(), [this] { ShowDrawn(); }},
-        {QStringLiteral("cut"), with(&PhotoPage::CropWithZoom, accept)},
-        {QStringLiteral("zoom"), with(&PhotoPage::CropWithZoom, drag), close},
-        {QStringLiteral("menu"), with(&PhotoPage::CropWithZoom, openMenu), close},
-        {QStringLiteral("message"), with(&PhotoPage::CropWithZoom, refuse), close},
-        {QStringLiteral("plain"), with(&PhotoPage::CropPlain, drag), close}};
+        {QStringLiteral("cut"), with(&PhotoPage::CropWithZoom, accept), [] {}, acted},
+        {QStringLiteral("zoom"), with(&PhotoPage::CropWithZoom, drag), close, acted},
+        {QStringLiteral("menu"), with(&PhotoPage::CropWithZoom, openMenu), close, acted},
+        {QStringLiteral("message"), with(&PhotoPage::CropWithZoom, refuse), close, acted},
+        {QStringLiteral("plain"), with(&PhotoPage::CropPlain, drag), close, acted}};
 }
 
 void PhotoPage::ShowWithDialog(void (PhotoPage::*crop)(), const std::function<void(QDialog*)>& act)
 {
     ShowDrawn();
-    QTimer::singleShot(DialogIsThere, this, [this, act] {
+    m_bActed = false;
+    QTimer look;
+    connect(&look, &QTimer::timeout, this, [&] {
         auto* dialog = findChild<QDialog*>();
-        if (dialog != nullptr)
-            act(dialog);
+        if (dialog == nullptr || !PhotoCrop::ShowsPicture(*dialog))
+            return;
+        look.stop();
+        m_bActed = true; // a menu holds the next line up as long as it is open
+        act(dialog);
     });
+    look.start(LookInterval);
     (this->*crop)();
 }
 

@@ -57,6 +57,7 @@ private:
 
     Photo m_photo;
     bool m_bDrawn = false; ///< no file's: its title is in the operator's language
+    bool m_bActed = false; ///< in the dialog of a screenshot
     std::optional<PhotoCut> m_cut;
     PhotoView* m_pView;
     QLabel* m_pPhotoText;

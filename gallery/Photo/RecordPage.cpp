@@ -19,7 +19,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace OperatorClient {
@@ -29,7 +28,6 @@ namespace {
 const QSize PanelSize(240, 320);
 constexpr int FormWidth = 420;
 constexpr int SnapQuality = 90;
-constexpr int DialogIsThere = 150; // milliseconds
 constexpr int AvatarCaption = 1;
 constexpr int FaceCaption = 2;
 const CutLimits RecordLimits{100 * 1024, 480, 640, true};
@@ -90,6 +88,7 @@ RecordPage::RecordPage(const QString& folder, QWidget* parent)
                   "Pictures are cropped and kept below 100 kB.");
     });
     hint->setObjectName(QStringLiteral("hint"));
+    hint->setWordWrap(true);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(24);
     columns->addWidget(BuildPhoto(), 0, Qt::AlignTop);
@@ -327,9 +326,8 @@ QVector<Page::Picture> RecordPage::Pictures()
         {QStringLiteral("menu"),
          [this] {
              ShowVisitor(2);
-             QTimer::singleShot(
-                 DialogIsThere, m_pMenu, [this] { m_pMenu->setActiveAction(m_pMenu->actions().first()); });
              m_pMenu->popup(m_pMenuButton->mapToGlobal(m_pMenuButton->rect().bottomLeft()));
+             m_pMenu->setActiveAction(m_pMenu->actions().first());
          },
          [this] { m_pMenu->close(); }},
         {QStringLiteral("delete"),

@@ -185,6 +185,9 @@ void CameraWall::Apply(const WallLayout& layout)
     SetGutter(layout.gutter);
     SetTitles(layout.titles);
     SetSelectionMode(layout.selectionMode);
+    m_bSound = layout.sound;
+    m_iVolume = layout.volume;
+    ApplySound();
     m_pWall->SetSelectedScreenIndex(0);
     Q_EMIT SignalScreenSelected();
 }
@@ -197,7 +200,8 @@ void CameraWall::AddScreenFor(const ScreenLayout& layout)
     note.baseMap = layout.baseMap;
     note.cellBound = layout.cellBound;
     const int screen = m_pWall->AddScreen(
-        layout.rect, SkinIcon(QStringLiteral("Screen")), ScreenTitle(m_pWall->GetScreenCount()),
+        layout.rect, SkinIcon(QStringLiteral("ToolBar"), QStringLiteral("Screen")),
+        ScreenTitle(m_pWall->GetScreenCount()),
         QVariant::fromValue(note));
     ShowNote(screen, note);
     RestoreWindows(screen, layout.windows);
@@ -225,6 +229,8 @@ WallLayout CameraWall::Layout() const
     layout.selectionMode = m_pWall->GetWindowSelectionMode();
     layout.titles = m_bTitles;
     layout.gutter = m_bGutter;
+    layout.sound = m_bSound;
+    layout.volume = m_iVolume;
     for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
         ScreenLayout stored;
         const ScreenNote note = Note(screen);
@@ -627,6 +633,7 @@ void CameraWall::SetSound(bool bOn)
     m_bSound = bOn;
     ApplySound();
     Q_EMIT SignalReport(bOn ? tr("The wall's sound is on") : tr("The wall's sound is off"));
+    Q_EMIT SignalChanged();
 }
 
 void CameraWall::SetVolume(int volume)
@@ -634,6 +641,7 @@ void CameraWall::SetVolume(int volume)
     m_iVolume = volume;
     ApplySound();
     Q_EMIT SignalReport(tr("The wall's volume is %1 %").arg(volume));
+    Q_EMIT SignalChanged();
 }
 
 WindowFacts CameraWall::Facts(int screen, int window) const

@@ -48,7 +48,7 @@ public:
 
     /// Replaces the wall by a stored one and selects its first screen.
     void Apply(const WallLayout& layout);
-    /// The wall as it is, without the skin.
+    /// The wall as it is.
     WallLayout Layout() const;
 
     /// Shows the same wall in another family (WallLayout::NormalFamily or DisplayFamily).

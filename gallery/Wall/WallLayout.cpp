@@ -116,10 +116,11 @@ QString WallLayout::ToText() const
     for (const ScreenLayout& screen : screens)
         screenArray.append(ScreenToJson(screen));
     const QJsonObject wall{
-        {QStringLiteral("rows"), rows},     {QStringLiteral("columns"), columns},
-        {QStringLiteral("family"), family}, {QStringLiteral("selectionMode"), selectionMode},
-        {QStringLiteral("titles"), titles}, {QStringLiteral("gutter"), gutter},
-        {QStringLiteral("skin"), skin},     {QStringLiteral("screens"), screenArray}};
+        {QStringLiteral("rows"), rows},       {QStringLiteral("columns"), columns},
+        {QStringLiteral("family"), family},   {QStringLiteral("selectionMode"), selectionMode},
+        {QStringLiteral("titles"), titles},   {QStringLiteral("gutter"), gutter},
+        {QStringLiteral("sound"), sound},     {QStringLiteral("volume"), volume},
+        {QStringLiteral("details"), details}, {QStringLiteral("screens"), screenArray}};
     return QString::fromUtf8(QJsonDocument(wall).toJson(QJsonDocument::Compact));
 }
 
@@ -138,8 +139,9 @@ std::optional<WallLayout> WallLayout::FromText(const QString& text)
     layout.selectionMode = IntFromJson(wall.value(QLatin1String("selectionMode")), 0, 2, 0);
     layout.titles = wall.value(QLatin1String("titles")).toBool(true);
     layout.gutter = wall.value(QLatin1String("gutter")).toBool(true);
-    const bool light = wall.value(QLatin1String("skin")).toString() == QLatin1String("White");
-    layout.skin = light ? QStringLiteral("White") : QStringLiteral("Black");
+    layout.sound = wall.value(QLatin1String("sound")).toBool(true);
+    layout.volume = IntFromJson(wall.value(QLatin1String("volume")), 0, 100, layout.volume);
+    layout.details = wall.value(QLatin1String("details")).toBool(true);
     layout.screens = ScreensFromJson(wall.value(QLatin1String("screens")).toArray());
     return layout;
 }
@@ -159,7 +161,6 @@ WallLayout FirstWall()
     // Each screen covers 2 x 2 cells, so that windows can be snapped to quarters of a screen.
     layout.rows = 4;
     layout.columns = 4;
-    layout.skin = QStringLiteral("Black");
 
     ScreenLayout quarters;
     quarters.rect = {0, 0, 0.5, 0.5, false};

@@ -44,7 +44,9 @@ struct WallLayout
     int selectionMode = 0; ///< 0 ... 2
     bool titles = true;
     bool gutter = true;
-    QString skin; ///< "Black" or "White"
+    bool sound = true; ///< of the whole wall
+    int volume = 50; ///< of the whole wall, per cent
+    bool details = true; ///< of the selected window, beside the wall
     QVector<ScreenLayout> screens;
 
     /// One line of text.

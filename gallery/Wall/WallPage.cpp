@@ -1,7 +1,5 @@
 #include <gallery/Wall/WallPage.h>
 
-#include <Platform/BasicUIComponents/KvSkin.h>
-#include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/Dialogs/KvVolumeButton.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/OperatorHand.h>
@@ -85,9 +83,6 @@ WallPage::WallPage(
     connect(m_pCameras, &CameraWall::SignalScreenSelected, this, &WallPage::ShowScreenStates);
     ShowStart();
     connect(m_pCameras, &CameraWall::SignalChanged, &m_saveSoon, QOverload<>::of(&QTimer::start));
-    connect(
-        KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, &m_saveSoon,
-        QOverload<>::of(&QTimer::start));
     m_saveSoon.start();
 }
 
@@ -140,7 +135,6 @@ void WallPage::ConnectTools()
         ShowStates();
     });
     On(Command::WholeWall, [this](bool) { m_pCameras->ShowWholeWall(); });
-    On(Command::Skin, [this](bool) { ChangeSkin(); });
 }
 
 void WallPage::ConnectScreenTools()
@@ -169,6 +163,7 @@ void WallPage::ConnectDetails()
     QAction* action = m_pTools->Action(Command::Details);
     action->setChecked(true);
     connect(action, &QAction::toggled, m_pDetails, &DetailsPanel::SetWanted);
+    connect(action, &QAction::toggled, &m_saveSoon, QOverload<>::of(&QTimer::start));
     connect(m_pDetails, &DetailsPanel::SignalClosed, action, [action] { action->setChecked(false); });
 }
 
@@ -178,6 +173,7 @@ void WallPage::ShowStart()
     m_pCameras->SetWaitingFiles(m_files);
     m_pCameras->Apply(m_start);
     m_pCameras->ShowWaitingFiles();
+    m_pTools->Action(Command::Details)->setChecked(m_start.details);
     m_pDetails->EndSlide();
     ShowStates();
 }
@@ -193,6 +189,7 @@ void WallPage::ShowStates()
     m_pTools->Action(Command::Gutter)->setEnabled(!inScene);
     m_pTools->Action(Command::Gutter)->setChecked(layout.gutter);
     m_pTools->Action(Command::Titles)->setChecked(layout.titles);
+    m_pTools->ShowSound(layout.sound, layout.volume);
     m_pTools->Action(modes[qBound(0, layout.selectionMode, 2)])->setChecked(true);
     ShowScreenStates();
 }
@@ -252,17 +249,11 @@ void WallPage::OpenFile(const QString& title, const QString& filter, bool video)
     m_pCameras->OpenWindowSomewhere(&source);
 }
 
-void WallPage::ChangeSkin()
-{
-    const bool dark = KvGUI::GetSkinVersion() == QLatin1String("Black");
-    KvGUI::SetSkinVersion(dark ? QStringLiteral("White") : QStringLiteral("Black"));
-}
-
 void WallPage::Save()
 {
     m_saveSoon.stop();
     WallLayout layout = m_pCameras->Layout();
-    layout.skin = KvGUI::GetSkinVersion();
+    layout.details = m_pTools->Action(Command::Details)->isChecked();
     m_file.Write(layout);
 }
 

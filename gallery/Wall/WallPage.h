@@ -38,7 +38,6 @@ private:
     void ShowScreenStates();
     void ShowMenu(int screen);
     void OpenFile(const QString& title, const QString& filter, bool video);
-    void ChangeSkin();
     void Save();
     void EnterOverlays();
     void EnterSelection();

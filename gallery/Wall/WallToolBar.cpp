@@ -1,6 +1,5 @@
 #include <gallery/Wall/WallToolBar.h>
 
-#include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/Dialogs/KvVolumeButton.h>
 #include <gallery/FollowLanguage.h>
@@ -75,8 +74,6 @@ const CommandEntry Entries[] = {
         QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show the whole wall again after zooming into it"), "Ctrl+0", Command::WholeWall, false, false},
     {"Details", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Details"),
         QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Show details of the selected window beside the wall"), "Ctrl+I", Command::Details, true, true},
-    {"SkinLight", QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change the skin"),
-        QT_TRANSLATE_NOOP("OperatorClient::WallToolBar", "Change between the dark and the light skin"), "Ctrl+K", Command::Skin, false, false},
 };
 // clang-format on
 
@@ -138,6 +135,7 @@ void WallToolBar::AddCommands()
         });
         action->setCheckable(entry.checkable);
         m_actions.insert(entry.command, action);
+        widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // tool bars leave the Tab key out
     }
     for (const Command command : {Command::SelectNone, Command::SelectOne, Command::SelectMany})
         modes->addAction(Action(command));
@@ -146,18 +144,16 @@ void WallToolBar::AddCommands()
 void WallToolBar::AddVolumeButton()
 {
     m_pVolume = new UICommonMdl::KvVolumeButton(this);
-    m_pVolume->SetVolumeState(true);
     FollowLanguage(m_pVolume, "toolTip", [] { return tr("Sound of the whole wall"); });
-    insertWidget(Action(Command::Skin), m_pVolume);
+    addWidget(m_pVolume);
 }
 
 void WallToolBar::LoadIcons()
 {
     for (const CommandEntry& entry : Entries)
-        Action(entry.command)->setIcon(SkinIcon(QString::fromLatin1(entry.icon)));
-    const bool dark = KvGUI::GetSkinVersion() == QLatin1String("Black");
-    Action(Command::Skin)->setIcon(SkinIcon(dark ? QStringLiteral("SkinLight") : QStringLiteral("SkinDark")));
-    m_pGridIcon->setPixmap(SkinIcon(QStringLiteral("GridSize")).pixmap(window()->windowHandle(), iconSize()));
+        Action(entry.command)->setIcon(SkinIcon(QStringLiteral("ToolBar"), QString::fromLatin1(entry.icon)));
+    m_pGridIcon->setPixmap(SkinIcon(QStringLiteral("ToolBar"), QStringLiteral("GridSize"))
+                               .pixmap(window()->windowHandle(), iconSize()));
 }
 
 void WallToolBar::ShowGrid(int rows, int columns)
@@ -166,6 +162,13 @@ void WallToolBar::ShowGrid(int rows, int columns)
     const QSignalBlocker columnsBlocker(m_pColumns);
     m_pRows->setValue(rows);
     m_pColumns->setValue(columns);
+}
+
+void WallToolBar::ShowSound(bool on, int volume)
+{
+    const QSignalBlocker blocker(m_pVolume);
+    m_pVolume->SetVolumeState(on);
+    m_pVolume->SetVolumeValue(volume);
 }
 
 } // namespace OperatorClient

@@ -40,8 +40,7 @@ public:
         CellBound,
         SceneFamily,
         WholeWall,
-        Details,
-        Skin
+        Details
     };
 
     explicit WallToolBar(QWidget* parent = nullptr);
@@ -49,6 +48,7 @@ public:
     QAction* Action(Command command) const { return m_actions.value(command); }
     UICommonMdl::KvVolumeButton* VolumeButton() const { return m_pVolume; }
     void ShowGrid(int rows, int columns); ///< without a signal
+    void ShowSound(bool on, int volume); ///< of the whole wall, per cent; without a signal
 
 Q_SIGNALS:
     void SignalGridChanged(int rows, int columns); ///< by the operator

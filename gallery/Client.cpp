@@ -1,0 +1,196 @@
+#include <gallery/Client.h>
+
+#include <Platform/BasicUIComponents/KvDir.h>
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <gallery/Alarms/AlarmPage.h>
+#include <gallery/Forms/DevicePage.h>
+#include <gallery/Map/MapPage.h>
+#include <gallery/Pairing/PairingPage.h>
+#include <gallery/Photo/PhotoPage.h>
+#include <gallery/Photo/RecordPage.h>
+#include <gallery/Screenshots.h>
+#include <gallery/Wall/WallPage.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+
+namespace OperatorClient {
+
+namespace {
+
+// Screenshots show this moment, so that two runs give the same pictures.
+const QDateTime PictureMoment(QDate(2026, 3, 14), QTime(10, 24, 36));
+
+constexpr int SampleAlarmCount = 20000;
+constexpr int SaveDelay = 300; // milliseconds after the last change
+constexpr int FontOfPictures = 13; // pixels; without a desktop the font is any size
+
+/// What the pages are made from.
+struct PageNeeds
+{
+    SourcePool& pool;
+    FrameClock& clock;
+    const ClientOptions& options;
+    QString settingsFile;
+    QString recordFolder;
+};
+
+Page* NewWallPage(const PageNeeds& needs)
+{
+    const WallLayoutFile file(needs.settingsFile);
+    return new WallPage(
+        needs.pool, needs.clock, file, file.Read().value_or(FirstWall()), needs.options.files);
+}
+
+Page* NewMapPage(const PageNeeds& needs)
+{
+    return new MapPage(
+        needs.pool, needs.clock, KvGUI::KvDir::GetCurrentPath() + QLatin1String("maps/site-map.html"));
+}
+
+struct PageEntry
+{
+    const char* name;
+    Page* (*create)(const PageNeeds& needs);
+};
+
+const PageEntry Entries[] = {
+    {"wall", NewWallPage},
+    {"map", NewMapPage},
+    {"photo", [](const PageNeeds& needs) -> Page* { return new PhotoPage(needs.options.photo); }},
+    {"record", [](const PageNeeds& needs) -> Page* { return new RecordPage(needs.recordFolder); }},
+    {"pairing", [](const PageNeeds&) -> Page* { return new PairingPage; }},
+    {"alarms",
+     [](const PageNeeds& needs) -> Page* {
+         return new AlarmPage(SampleAlarms(SampleAlarmCount, needs.clock.Now()));
+     }},
+    {"device", [](const PageNeeds&) -> Page* { return new DevicePage; }},
+};
+
+} // namespace
+
+QStringList PageNames()
+{
+    QStringList names;
+    for (const PageEntry& entry : Entries)
+        names << QString::fromLatin1(entry.name);
+    return names;
+}
+
+Client::Client(const ClientOptions& options)
+    : m_options(options)
+    , m_stored(SettingsFile(), QStringLiteral("Client"), QStringLiteral("State"))
+{
+    for (const QString& text : m_stored.Read()) {
+        if (!text.isEmpty()) {
+            m_state = ClientState::FromText(text);
+            break;
+        }
+    }
+    const QString skin = m_options.skin.isEmpty() ? m_state.skin : m_options.skin;
+    KvGUI::SetSkinVersion(SkinNames().contains(skin) ? skin : SkinNames().first());
+    if (!m_options.screenshotFolder.isEmpty()) {
+        m_clock.Freeze(PictureMoment);
+        QFont font = QApplication::font();
+        font.setPixelSize(FontOfPictures);
+        QApplication::setFont(font);
+    }
+    AddPages();
+    m_window.ShowPage(m_options.page.isEmpty() ? m_state.page : m_options.page);
+    Remember();
+}
+
+Client::~Client()
+{
+    m_window.removeEventFilter(this);
+    if (m_saveSoon.isActive())
+        Save();
+}
+
+QString Client::SettingsFile() const
+{
+    if (!m_options.layoutFile.isEmpty())
+        return m_options.layoutFile;
+    return m_options.screenshotFolder.isEmpty() ? UsersSettingsFile()
+                                                : m_pictureFolder.filePath(QStringLiteral("settings.ini"));
+}
+
+void Client::AddPages()
+{
+    const bool pictures = !m_options.screenshotFolder.isEmpty();
+    const PageNeeds needs{
+        m_pool, m_clock, m_options, SettingsFile(),
+        pictures ? m_pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder()};
+    for (const PageEntry& entry : Entries)
+        m_window.AddPage(entry.create(needs));
+}
+
+/// From now on, what the operator changes is what the next start shows.
+void Client::Remember()
+{
+    m_saveSoon.setSingleShot(true);
+    m_saveSoon.setInterval(SaveDelay);
+    connect(&m_saveSoon, &QTimer::timeout, this, &Client::Save);
+    connect(KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, this, [this] {
+        m_state.skin = KvGUI::GetSkinVersion();
+        m_saveSoon.start();
+    });
+    connect(&m_window, &MainWindow::SignalPageShown, this, [this](const QString& name) {
+        m_state.page = name;
+        m_saveSoon.start();
+    });
+    m_window.installEventFilter(this);
+}
+
+bool Client::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    const bool placed = type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowStateChange;
+    if (placed && m_window.isVisible())
+        m_saveSoon.start();
+    return QObject::eventFilter(watched, event);
+}
+
+/// Not while the window changes: its size may be that of one state and its state the other.
+void Client::NotePlace()
+{
+    if (!m_window.isVisible() || m_window.isMinimized())
+        return;
+    m_state.maximized = m_window.isMaximized();
+    const QRect place = m_state.maximized ? m_window.normalGeometry() : m_window.geometry();
+    if (!place.isEmpty()) // as it can be after a start as maximised window
+        m_state.window = place;
+}
+
+void Client::Save()
+{
+    m_saveSoon.stop();
+    NotePlace();
+    if (m_options.screenshotFolder.isEmpty())
+        m_stored.Write(m_state.ToText());
+}
+
+void Client::Show()
+{
+    QVector<QRect> screens;
+    const QList<QScreen*> all = QGuiApplication::screens(); // the primary one first
+    for (const QScreen* screen : all)
+        screens.append(screen->availableGeometry());
+    const QRect remembered = m_state.window;
+    const QRect wanted
+        = remembered.isEmpty() ? QRect(screens.value(0).topLeft(), m_window.size()) : remembered;
+    m_window.setGeometry(PlaceOnScreens(wanted, screens));
+    if (m_state.maximized)
+        m_window.showMaximized();
+    else
+        m_window.show();
+}
+
+bool Client::SaveScreenshots()
+{
+    return OperatorClient::SaveScreenshots(m_window, m_pool, m_options.screenshotFolder, m_options.page);
+}
+
+} // namespace OperatorClient

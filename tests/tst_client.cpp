@@ -1,0 +1,449 @@
+// The whole example client: its window, what it remembers, its command line, and what holds for all pages.
+
+#include "support/CropCanvas.h"
+#include "support/StrictMain.h"
+
+#include <Platform/BasicUIComponents/KvSkin.h>
+#include <gallery/Client.h>
+#include <gallery/Pictures/CameraTile.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+#include <QToolBar>
+#include <QToolButton>
+#include <functional>
+
+using namespace OperatorClient;
+
+namespace {
+
+constexpr int LookInterval = 20; // milliseconds
+constexpr int LongestWait = 10000; // milliseconds
+constexpr int LongestChain = 300; // presses of the Tab key
+const QSize SmallDisplay(1024, 700);
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Hears the class of every widget that is shown, with those it is derived from.
+class WidgetWatch : public QObject
+{
+public:
+    WidgetWatch() { qApp->installEventFilter(this); }
+
+    QSet<QString> classes;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Polish) {
+            for (const QMetaObject* meta = watched->metaObject(); meta != nullptr; meta = meta->superClass())
+                classes.insert(QString::fromLatin1(meta->className()).section(QStringLiteral("::"), -1));
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+/// The classes of the library's public headers that are widgets.
+QStringList PublicWidgets()
+{
+    const QRegularExpression declaration(QStringLiteral(
+        R"(class UICOMPONENTS_EXPORT (\w+)\s*:\s*public (?:\w+::)?+(?!QObject\b)(?:Q|Kv|C)\w+)"));
+    QStringList names;
+    const QStringList headers = QStringLiteral(PUBLIC_HEADERS).split(QLatin1Char('|'));
+    for (const QString& header : headers) {
+        const auto match
+            = declaration.match(QString::fromUtf8(ReadAll(QStringLiteral(SOURCE_TREE "/") + header)));
+        if (match.hasMatch())
+            names << match.captured(1);
+    }
+    return names;
+}
+
+/// Brings the page into a state and out of it as screenshots do, without their pauses.
+void Visit(const Page::Picture& picture)
+{
+    bool there = false;
+    bool done = false;
+    QElapsedTimer waited;
+    waited.start();
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, qApp, [&] {
+        if (!picture.isThere() && waited.elapsed() < LongestWait)
+            return;
+        there = picture.isThere();
+        look.stop();
+        picture.leave();
+        done = true;
+    });
+    look.start(LookInterval);
+    picture.enter();
+    QTRY_VERIFY_WITH_TIMEOUT(done, 2 * LongestWait);
+    QVERIFY2(there, qPrintable(picture.suffix));
+}
+
+/// What the operator works with: the buttons, inputs and lists that are there and can be used.
+QWidgetList Controls(const QWidget& window)
+{
+    QWidgetList controls;
+    const auto all = window.findChildren<QWidget*>();
+    for (QWidget* widget : all) {
+        const bool input = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLineEdit*>(widget)
+            || qobject_cast<QAbstractSpinBox*>(widget) || qobject_cast<QComboBox*>(widget)
+            || qobject_cast<QAbstractItemView*>(widget) || qobject_cast<QPlainTextEdit*>(widget);
+        // Parts of a control, and what lies in a window of the wall or shows one, have no stop of their own.
+        const bool part = qobject_cast<QAbstractSpinBox*>(widget->parentWidget())
+            || qobject_cast<QLineEdit*>(widget->parentWidget())
+            || qobject_cast<QAbstractItemView*>(widget->parentWidget()) || qobject_cast<QHeaderView*>(widget)
+            || widget->objectName().startsWith(QLatin1String("qt_"))
+            || widget->objectName().startsWith(QLatin1String("pWindow"));
+        if (input && !part && widget->isVisible() && widget->isEnabled())
+            controls << widget;
+    }
+    return controls;
+}
+
+QString Describe(const QWidget* widget)
+{
+    return QStringLiteral("%1 \"%2\" in %3")
+        .arg(
+            QString::fromLatin1(widget->metaObject()->className()), widget->objectName(),
+            QString::fromLatin1(widget->parentWidget()->metaObject()->className()));
+}
+
+} // namespace
+
+class TestClient : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_strSettings = m_folder.filePath(QStringLiteral("case%1/settings.ini").arg(++m_iCase));
+        KvGUI::SetSkinVersion(QStringLiteral("Black"));
+    }
+
+    void CommandLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QStringList>("told");
+        const auto row = [](const char* name, const QString& arguments, int code, const QStringList& told) {
+            QTest::newRow(name) << arguments.split(QLatin1Char(' ')) << code << told;
+        };
+        row("help", QStringLiteral("--help"), 0,
+            QStringList{QStringLiteral("--page"), QStringLiteral("--skin"), QStringLiteral("White")}
+                + PageNames());
+        row("page", QStringLiteral("--page nowhere"), 2,
+            {QStringLiteral("\"nowhere\""), QStringLiteral("alarms")});
+        row("no page", QStringLiteral("--page="), 2, {QStringLiteral("alarms")});
+        row("skin", QStringLiteral("--skin black"), 2,
+            {QStringLiteral("\"black\""), QStringLiteral("White")});
+        row("option", QStringLiteral("--pages wall"), 2, {QStringLiteral("pages")});
+        row("argument", QStringLiteral("wall"), 2, {QStringLiteral("\"wall\"")});
+        row("value", QStringLiteral("--page"), 2, {QStringLiteral("page")});
+    }
+
+    // Catches a word that the client does not know and starts without, and an option that --help forgets.
+    void CommandLine()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QStringList, told);
+        QProcess client;
+        client.start(QStringLiteral(OPERATOR_CLIENT), arguments);
+        QVERIFY(client.waitForFinished());
+        QCOMPARE(client.exitStatus(), QProcess::NormalExit);
+        QTEST(client.exitCode(), "code");
+        const QByteArray output = client.readAllStandardOutput() + client.readAllStandardError();
+        for (const QString& word : told)
+            QVERIFY2(output.contains(word.toUtf8()), output.constData());
+    }
+
+    // Catches pictures of pages that nobody asked for, and of a state that is not there yet.
+    void ScreenshotsOfOnePage()
+    {
+        const QDir folder(m_folder.filePath(QStringLiteral("pictures")));
+        QProcess client;
+        client.start(
+            QStringLiteral(OPERATOR_CLIENT),
+            {QStringLiteral("--screenshots"), folder.path(), QStringLiteral("--page"),
+             QStringLiteral("pairing")});
+        QVERIFY(client.waitForFinished(60000));
+        QCOMPARE(client.exitCode(), 0);
+        QCOMPARE(
+            folder.entryList(QDir::Files),
+            (QStringList{
+                QStringLiteral("pairing-black-code.png"), QStringLiteral("pairing-black.png"),
+                QStringLiteral("pairing-white-code.png"), QStringLiteral("pairing-white.png")}));
+        QVERIFY(
+            QImage(folder.filePath(QStringLiteral("pairing-black-code.png")))
+            != QImage(folder.filePath(QStringLiteral("pairing-black.png"))));
+    }
+
+    // Catches what a restart forgets of the window, and a name of a page that --page does not know.
+    void ComesBackAsItWasLeft()
+    {
+        const QRect place(120, 60, 640, 480); // of the offscreen display's 800 x 800
+        for (const QString& page : PageNames()) {
+            {
+                Client client(Options());
+                client.Show();
+                client.Window().setMinimumSize(1, 1);
+                client.Window().setGeometry(place);
+                QVERIFY(client.Window().ShowPage(page));
+                KvGUI::SetSkinVersion(QStringLiteral("White"));
+                // Ends before the delayed save.
+            }
+            KvGUI::SetSkinVersion(QStringLiteral("Black"));
+            Client again(Options());
+            again.Window().setMinimumSize(1, 1);
+            again.Show();
+            QCOMPARE(again.Window().CurrentPage()->Name(), page);
+            QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("White"));
+            QCOMPARE(again.Window().geometry(), place);
+            again.Window().showMaximized();
+        }
+        {
+            Client last(Options());
+            last.Show();
+            QVERIFY(last.Window().isMaximized());
+        }
+        const QString stored
+            = StoredText(m_strSettings, QStringLiteral("Client"), QStringLiteral("State")).Read().first();
+        QCOMPARE(ClientState::FromText(stored).window, place);
+        QVERIFY(ClientState::FromText(stored).maximized);
+    }
+
+    // Catches a choice for one run that overwrites the operator's own, and one of the operator's that is lost
+    // because the command line named another.
+    void CommandLineIsNotRemembered()
+    {
+        {
+            Client client(Options());
+            client.Window().ShowPage(QStringLiteral("alarms"));
+            KvGUI::SetSkinVersion(QStringLiteral("White"));
+        }
+        ClientOptions options = Options();
+        options.page = QStringLiteral("device");
+        options.skin = QStringLiteral("Black");
+        {
+            Client client(options);
+            QCOMPARE(client.Window().CurrentPage()->Name(), options.page);
+            QCOMPARE(KvGUI::GetSkinVersion(), options.skin);
+        }
+        {
+            Client client(Options());
+            QCOMPARE(client.Window().CurrentPage()->Name(), QStringLiteral("alarms"));
+            QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("White"));
+        }
+        {
+            Client client(options);
+            client.Window().ShowPage(QStringLiteral("photo"));
+        }
+        Client client(Options());
+        QCOMPARE(client.Window().CurrentPage()->Name(), QStringLiteral("photo"));
+    }
+
+    void BrokenSettings_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("zeros") << QByteArray(4096, '\0');
+        QTest::newRow("no settings") << QByteArray("\xff\xfe[[[\n=\n%%%\n\"", 14);
+        QTest::newRow("wrong types") << QByteArray(
+            "[Client]\nState=\"{\\\"window\\\":\\\"x\\\",\\\"page\\\":7,"
+            "\\\"skin\\\":[],\\\"maximized\\\":{}}\"\n");
+        QTest::newRow("unknown names") << QByteArray("[Client]\nState=\"{\\\"window\\\":[-1e9,1e300,5,1e12],"
+                                                     "\\\"page\\\":\\\"x\\\",\\\"skin\\\":\\\"../x\\\"}\"\n");
+        QTest::newRow("a folder") << QByteArray();
+    }
+
+    // Catches a start that fails, warns or shows nothing because of what is in the settings file, or that it
+    // cannot be written.
+    void BrokenSettings()
+    {
+        QFETCH(QByteArray, text);
+        QVERIFY(QFileInfo(m_strSettings).absoluteDir().mkpath(QStringLiteral(".")));
+        QFile file(m_strSettings);
+        if (text.isEmpty())
+            QVERIFY(QDir().mkpath(m_strSettings));
+        else
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        file.close();
+        Client client(Options());
+        client.Show();
+        QVERIFY(QTest::qWaitForWindowExposed(&client.Window()));
+        QCOMPARE(client.Window().CurrentPage()->Name(), PageNames().first());
+        QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("Black"));
+        QVERIFY(client.Window().geometry().intersects(QGuiApplication::primaryScreen()->availableGeometry()));
+        client.Window().ShowPage(QStringLiteral("device")); // is saved, or not, in silence
+    }
+
+    void WindowIsPlacedOnScreens_data()
+    {
+        QTest::addColumn<QRect>("wanted");
+        QTest::addColumn<QVector<QRect>>("screens");
+        QTest::addColumn<QRect>("placed");
+        const QRect left(0, 0, 1920, 1040);
+        const QRect right(1920, 0, 1280, 1000);
+        const QVector<QRect> two{left, right};
+        const QRect window(100, 100, 1200, 800);
+        QTest::newRow("where it was") << window << two << window;
+        QTest::newRow("across neighbours") << QRect(1500, 10, 1000, 800) << two << QRect(1500, 10, 1000, 800);
+        QTest::newRow("its screen is gone")
+            << QRect(2000, 100, 1200, 800) << QVector<QRect>{left} << QRect(720, 100, 1200, 800);
+        QTest::newRow("the screen on the other side is gone")
+            << QRect(-1800, 500, 1200, 800) << QVector<QRect>{left} << QRect(0, 240, 1200, 800);
+        QTest::newRow("larger than the screen") << QRect(50, 50, 4000, 3000) << QVector<QRect>{left} << left;
+        QTest::newRow("mostly on the second")
+            << QRect(1800, 300, 1000, 800) << two << QRect(1920, 200, 1000, 800);
+        QTest::newRow("no screen") << window << QVector<QRect>{} << window;
+    }
+
+    // Catches a window that comes up where no screen shows it.
+    void WindowIsPlacedOnScreens()
+    {
+        QFETCH(QRect, wanted);
+        QFETCH(QVector<QRect>, screens);
+        QTEST(PlaceOnScreens(wanted, screens), "placed");
+    }
+
+    // Catches keys that choose the wrong page or none, and a page that cannot be left or entered by F6.
+    void KeysChoosePagesAndAreas()
+    {
+        Client client(Options());
+        MainWindow& window = client.Window();
+        client.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const auto page = [&] { return PageNames().indexOf(window.CurrentPage()->Name()); };
+        QTest::keyClick(&window, Qt::Key_7, Qt::AltModifier);
+        QCOMPARE(page(), 6);
+        QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+        QCOMPARE(page(), 0);
+        QTest::keyClick(&window, Qt::Key_PageUp, Qt::ControlModifier);
+        QCOMPARE(page(), 6);
+        QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
+        QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("White"));
+
+        auto* edit = window.CurrentPage()->findChildren<QLineEdit*>().at(3);
+        edit->setFocus();
+        QTest::keyClick(&window, Qt::Key_F6);
+        QCOMPARE(QApplication::focusWidget(), window.findChild<QListWidget*>(QStringLiteral("pageList")));
+        QTest::keyClick(&window, Qt::Key_F6);
+        QCOMPARE(QApplication::focusWidget(), edit);
+        QTest::keyClick(&window, Qt::Key_F6);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+        QCOMPARE(page(), 5);
+        QTest::keyClick(&window, Qt::Key_F6);
+        QVERIFY(window.CurrentPage()->isAncestorOf(QApplication::focusWidget()));
+    }
+
+    // Catches a widget of the library that no page, dialog or menu of the client shows.
+    void EveryWidgetIsShownSomewhere()
+    {
+        TestSupport::AnnounceCropCanvases(4);
+        WidgetWatch watch;
+        Client client(Options());
+        client.Show();
+        for (Page* page : client.Window().Pages()) {
+            client.Window().ShowPage(page->Name());
+            if (page->Name() == QLatin1String("map"))
+                continue; // waits for an engine, which the offscreen display has not
+            const QVector<Page::Picture> pictures = page->Pictures();
+            for (const Page::Picture& picture : pictures)
+                Visit(picture);
+        }
+        client.Window().ShowKeys();
+        QStringList missing;
+        const QStringList wanted = PublicWidgets();
+        QVERIFY(wanted.size() > 25);
+        for (const QString& name : wanted) {
+            if (!watch.classes.contains(name))
+                missing << name;
+        }
+        QCOMPARE(missing.join(QLatin1Char(' ')), QString());
+    }
+
+    void ControlsAreNamedAndReached_data() { AddPages(); }
+
+    // Catches a control without a name for who cannot see it, one that the Tab key does not reach, and one
+    // that does not let it go on.
+    void ControlsAreNamedAndReached()
+    {
+        QFETCH(QString, page);
+        ClientOptions options = Options();
+        options.page = page;
+        Client client(options);
+        MainWindow& window = client.Window();
+        client.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.findChild<QListWidget*>(QStringLiteral("pageList"))->setFocus();
+        QWidgetList reached;
+        do { // a wall drawn in a scene keeps the focus for several stops
+            reached << QApplication::focusWidget();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (reached.size() < LongestChain && QApplication::focusWidget() != reached.first());
+        QVERIFY2( // the chain is closed
+            QApplication::focusWidget() == reached.first(),
+            qPrintable(Describe(QApplication::focusWidget())));
+        const QWidgetList controls = Controls(window);
+        QVERIFY(controls.size() >= 3);
+        for (QWidget* control : controls) {
+            const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
+            QVERIFY2(
+                face != nullptr && !face->text(QAccessible::Name).isEmpty(), qPrintable(Describe(control)));
+            const bool hasStop = reached.contains(control) || reached.contains(control->focusProxy());
+            QVERIFY2(hasStop, qPrintable(Describe(control)));
+        }
+    }
+
+    // Catches a page that a small display cuts off.
+    void SmallDisplayHoldsEachPage()
+    {
+        Client client(Options());
+        client.Show();
+        QString hints;
+        for (const Page* page : client.Window().Pages()) {
+            const QSize hint = page->minimumSizeHint();
+            hints += QStringLiteral("%1 %2 x %3, ").arg(page->Name()).arg(hint.width()).arg(hint.height());
+        }
+        const QSize least = client.Window().minimumSizeHint();
+        QVERIFY2(
+            least.width() <= SmallDisplay.width() && least.height() <= SmallDisplay.height(),
+            qPrintable(hints));
+    }
+
+private:
+    ClientOptions Options() const
+    {
+        ClientOptions options;
+        options.layoutFile = m_strSettings;
+        return options;
+    }
+
+    void AddPages() const
+    {
+        QTest::addColumn<QString>("page");
+        for (const QString& page : PageNames())
+            QTest::addRow("%s", qPrintable(page)) << page;
+    }
+
+    QTemporaryDir m_folder;
+    QString m_strSettings;
+    int m_iCase = 0;
+};
+
+STRICT_TEST_MAIN(TestClient)
+#include "tst_client.moc"
