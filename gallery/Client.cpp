@@ -97,14 +97,15 @@ Client::Client(const ClientOptions& options)
         font.setPixelSize(FontOfPictures);
         QApplication::setFont(font);
     }
+    m_pWindow = std::make_unique<MainWindow>();
     AddPages();
-    m_window.ShowPage(m_options.page.isEmpty() ? m_state.page : m_options.page);
+    m_pWindow->ShowPage(m_options.page.isEmpty() ? m_state.page : m_options.page);
     Remember();
 }
 
 Client::~Client()
 {
-    m_window.removeEventFilter(this);
+    m_pWindow->removeEventFilter(this);
     if (m_saveSoon.isActive())
         Save();
 }
@@ -124,7 +125,7 @@ void Client::AddPages()
         m_pool, m_clock, m_options, SettingsFile(),
         pictures ? m_pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder()};
     for (const PageEntry& entry : Entries)
-        m_window.AddPage(entry.create(needs));
+        m_pWindow->AddPage(entry.create(needs));
 }
 
 /// From now on, what the operator changes is what the next start shows.
@@ -137,18 +138,18 @@ void Client::Remember()
         m_state.skin = KvGUI::GetSkinVersion();
         m_saveSoon.start();
     });
-    connect(&m_window, &MainWindow::SignalPageShown, this, [this](const QString& name) {
+    connect(m_pWindow.get(), &MainWindow::SignalPageShown, this, [this](const QString& name) {
         m_state.page = name;
         m_saveSoon.start();
     });
-    m_window.installEventFilter(this);
+    m_pWindow->installEventFilter(this);
 }
 
 bool Client::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
     const bool placed = type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowStateChange;
-    if (placed && m_window.isVisible())
+    if (placed && m_pWindow->isVisible())
         m_saveSoon.start();
     return QObject::eventFilter(watched, event);
 }
@@ -156,10 +157,10 @@ bool Client::eventFilter(QObject* watched, QEvent* event)
 /// Not while the window changes: its size may be that of one state and its state the other.
 void Client::NotePlace()
 {
-    if (!m_window.isVisible() || m_window.isMinimized())
+    if (!m_pWindow->isVisible() || m_pWindow->isMinimized())
         return;
-    m_state.maximized = m_window.isMaximized();
-    const QRect place = m_state.maximized ? m_window.normalGeometry() : m_window.geometry();
+    m_state.maximized = m_pWindow->isMaximized();
+    const QRect place = m_state.maximized ? m_pWindow->normalGeometry() : m_pWindow->geometry();
     if (!place.isEmpty()) // as it can be after a start as maximised window
         m_state.window = place;
 }
@@ -180,17 +181,17 @@ void Client::Show()
         screens.append(screen->availableGeometry());
     const QRect remembered = m_state.window;
     const QRect wanted
-        = remembered.isEmpty() ? QRect(screens.value(0).topLeft(), m_window.size()) : remembered;
-    m_window.setGeometry(PlaceOnScreens(wanted, screens));
+        = remembered.isEmpty() ? QRect(screens.value(0).topLeft(), m_pWindow->size()) : remembered;
+    m_pWindow->setGeometry(PlaceOnScreens(wanted, screens));
     if (m_state.maximized)
-        m_window.showMaximized();
+        m_pWindow->showMaximized();
     else
-        m_window.show();
+        m_pWindow->show();
 }
 
 bool Client::SaveScreenshots()
 {
-    return OperatorClient::SaveScreenshots(m_window, m_pool, m_options.screenshotFolder, m_options.page);
+    return OperatorClient::SaveScreenshots(*m_pWindow, m_pool, m_options.screenshotFolder, m_options.page);
 }
 
 } // namespace OperatorClient

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <memory>
 
 namespace OperatorClient {
 
@@ -29,7 +30,7 @@ public:
     explicit Client(const ClientOptions& options);
     ~Client() override;
 
-    MainWindow& Window() { return m_window; }
+    MainWindow& Window() { return *m_pWindow; }
     void Show(); ///< where the window was, or where it fits on the screens that are there
     bool SaveScreenshots(); ///< as the command line asks; false, with a message, when one cannot be saved
 
@@ -49,7 +50,7 @@ private:
     ClientState m_state; ///< what is remembered
     SourcePool m_pool;
     FrameClock m_clock;
-    MainWindow m_window;
+    std::unique_ptr<MainWindow> m_pWindow;
     QTimer m_saveSoon;
 };
 

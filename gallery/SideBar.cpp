@@ -20,6 +20,7 @@ constexpr int SmallestWidth = 160; // pixels
 constexpr int FootMargin = 8; // pixels
 constexpr int PagesWithShortcut = 9;
 constexpr QSize IconSize(20, 20);
+constexpr QSize FootIconSize(28, 20); // leaves the distance to the text that the list has
 constexpr int NameRole = Qt::UserRole;
 
 bool IsDark() { return KvGUI::GetSkinVersion() == QLatin1String("Black"); }
@@ -40,7 +41,7 @@ SideBar::SideBar(QWidget* parent)
     m_pList->setIconSize(IconSize);
     m_pList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, FootMargin);
+    all->setContentsMargins(1, 0, 1, FootMargin); // beside the list is the bar's line
     all->setSpacing(2);
     all->addWidget(m_pList, 1);
     m_pFoot->setContentsMargins(FootMargin, 0, FootMargin, 0);
@@ -51,6 +52,7 @@ SideBar::SideBar(QWidget* parent)
     addAction(m_pSkin);
     ShowTexts();
     AddFootButton(m_pSkin, QString());
+    m_pList->installEventFilter(this);
     connect(m_pSkin, &QAction::triggered, this, &SideBar::ChangeSkin);
     connect(m_pList, &QListWidget::currentRowChanged, this, &SideBar::SignalPageChosen);
     connect(KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, this, [this] {
@@ -64,7 +66,7 @@ void SideBar::AddFootButton(QAction* action, const QString& icon)
     action->setData(icon);
     m_footActions.append(action);
     auto* button = new QToolButton(this);
-    button->setIconSize(IconSize);
+    button->setIconSize(FootIconSize);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     button->setFocusPolicy(Qt::StrongFocus); // tool buttons leave the Tab key out
@@ -130,7 +132,7 @@ void SideBar::LoadIcons()
 /// As wide as the longest text, which is another one in each language and font.
 void SideBar::FitWidth()
 {
-    const int frame = m_pList->width() - m_pList->viewport()->width();
+    const int frame = m_pList->width() - m_pList->viewport()->width() + 2; // and the bar's lines
     setFixedWidth(
         std::max({SmallestWidth, m_pList->sizeHintForColumn(0) + frame, m_pFoot->minimumSize().width()}));
 }
@@ -140,8 +142,15 @@ void SideBar::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         ShowTexts();
-    else if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
+}
+
+/// The list takes its font from the window's sheet, and not before it is shown.
+bool SideBar::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Show || type == QEvent::StyleChange || type == QEvent::FontChange)
         FitWidth();
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace OperatorClient

@@ -52,7 +52,7 @@ void CRequiredEdit::resizeEvent(QResizeEvent* event)
 {
     KvLineEdit::resizeEvent(event);
     m_pSymbolRequired->setMinimumHeight(height());
-    m_pSymbolRequired->resize(m_pSymbolRequired->width(), height());
+    m_pSymbolRequired->resize(qMax(SymbolWidth, m_pSymbolRequired->sizeHint().width()), height());
     PlaceSymbol();
 }
 

@@ -232,6 +232,7 @@ KvTVWallDisplayWnd::KvTVWallDisplayWnd(QWidget* parent)
     , m_pPrivate(new KvTVWallDisplayWndPrivate(this))
 {
     QAccessible::installFactory(MakeAccessible); // once, however many walls there are
+    setLayoutDirection(Qt::LeftToRight); // the picture of a room is not turned round
     CommonFun::SetStyleSheet(this, QStringLiteral("TVWallOperateWnd"), QString(), QString());
 }
 

@@ -184,6 +184,7 @@ KvTVWallNormalWnd::KvTVWallNormalWnd(QWidget* parent)
     : QWidget(parent)
     , m_pPrivate(new KvTVWallNormalWndPrivate(this))
 {
+    setLayoutDirection(Qt::LeftToRight); // the picture of a room is not turned round
     CommonFun::SetStyleSheet(this, QStringLiteral("TVWallOperateWnd"), QString(), QString());
 }
 

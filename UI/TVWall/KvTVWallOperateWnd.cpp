@@ -141,6 +141,7 @@ KvTVWallOperateWnd::KvTVWallOperateWnd(QWidget* parent)
     : QWidget(parent)
     , m_pPrivate(new KvTVWallOperateWndPrivate(this))
 {
+    setLayoutDirection(Qt::LeftToRight); // the picture of a room is not turned round
     CommonFun::SetStyleSheet(this, QStringLiteral("TVWallOperateWnd"), QString(), QString());
 }
 
