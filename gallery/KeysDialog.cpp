@@ -24,7 +24,6 @@ KeysDialog::KeysDialog(const QList<QAction*>& actions, QWidget* parent)
     SetTitle(tr("Keys"));
     resize(Size);
     m_pTable->setAccessibleName(tr("Keys"));
-    m_pTable->setHorizontalHeaderLabels({tr("Command"), tr("Key")});
     m_pTable->setVerticalScrollBar(new KvGUI::KvVerScrollBar(m_pTable));
     m_pTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_pTable->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -34,7 +33,7 @@ KeysDialog::KeysDialog(const QList<QAction*>& actions, QWidget* parent)
     m_pTable->verticalHeader()->hide();
     m_pTable->verticalHeader()->setDefaultSectionSize(RowHeight);
     m_pTable->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_pTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    m_pTable->horizontalHeader()->hide();
     m_pTable->setColumnWidth(1, KeyWidth);
     auto* layout = new QVBoxLayout(GetCentralWidget());
     layout->setContentsMargins(12, 12, 12, 12);
