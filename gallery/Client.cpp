@@ -97,7 +97,9 @@ Client::Client(const ClientOptions& options)
         font.setPixelSize(FontOfPictures);
         QApplication::setFont(font);
     }
+    m_language.Set(FirstLanguage());
     m_pWindow = std::make_unique<MainWindow>();
+    m_pWindow->ShowLanguage(m_language.Name());
     AddPages();
     m_pWindow->ShowPage(m_options.page.isEmpty() ? m_state.page : m_options.page);
     Remember();
@@ -108,6 +110,15 @@ Client::~Client()
     m_pWindow->removeEventFilter(this);
     if (m_saveSoon.isActive())
         Save();
+}
+
+/// Pictures for a page of a document do not depend on the desktop.
+QString Client::FirstLanguage() const
+{
+    const QString wanted = m_options.language.isEmpty() ? m_state.language : m_options.language;
+    if (Language::Names().contains(wanted))
+        return wanted;
+    return m_options.screenshotFolder.isEmpty() ? Language::OfDesktop() : Language::Names().first();
 }
 
 QString Client::SettingsFile() const
@@ -140,6 +151,12 @@ void Client::Remember()
     });
     connect(m_pWindow.get(), &MainWindow::SignalPageShown, this, [this](const QString& name) {
         m_state.page = name;
+        m_saveSoon.start();
+    });
+    connect(m_pWindow.get(), &MainWindow::SignalLanguageWanted, this, [this](const QString& name) {
+        m_language.Set(name);
+        m_pWindow->ShowLanguage(name);
+        m_state.language = name;
         m_saveSoon.start();
     });
     m_pWindow->installEventFilter(this);

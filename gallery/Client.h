@@ -2,6 +2,7 @@
 
 #include <gallery/ClientOptions.h>
 #include <gallery/ClientState.h>
+#include <gallery/Language.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Pictures/FrameClock.h>
 #include <gallery/Pictures/SourcePool.h>
@@ -19,9 +20,9 @@ QStringList PageNames();
 
 /// The whole client: its settings, and its window with all pages.
 ///
-/// The window comes back as it was left: its place, its page, the skin. What the command line asks for
-/// instead holds for this run, and is remembered only when the operator chooses it once more. For screenshots
-/// nothing is read or written of what the user has.
+/// The window comes back as it was left: its place, its page, the skin, the language. What the command line
+/// asks for instead holds for this run, and is remembered only when the operator chooses it once more. For
+/// screenshots nothing is read or written of what the user has.
 class Client : public QObject
 {
     Q_OBJECT
@@ -39,6 +40,7 @@ protected:
 
 private:
     QString SettingsFile() const;
+    QString FirstLanguage() const;
     void AddPages();
     void Remember();
     void NotePlace();
@@ -48,6 +50,7 @@ private:
     const QTemporaryDir m_pictureFolder; ///< what screenshots use in place of the user's folders
     const StoredText m_stored;
     ClientState m_state; ///< what is remembered
+    Language m_language; ///< goes after the window, which shows its texts
     SourcePool m_pool;
     FrameClock m_clock;
     std::unique_ptr<MainWindow> m_pWindow;

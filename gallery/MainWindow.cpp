@@ -41,6 +41,7 @@ MainWindow::MainWindow(QWidget* parent)
     setCentralWidget(central);
     statusBar()->setSizeGripEnabled(false);
     connect(m_pSideBar, &SideBar::SignalPageChosen, this, &MainWindow::OnPageChosen);
+    connect(m_pSideBar, &SideBar::SignalLanguageWanted, this, &MainWindow::SignalLanguageWanted);
     AddKeys();
     m_pSideBar->AddFootButton(m_pKeys, QStringLiteral("Keys"));
     ShowTexts();
@@ -136,6 +137,8 @@ void MainWindow::SwitchArea()
         FocusFirst(*page);
     }
 }
+
+void MainWindow::ShowLanguage(const QString& name) { m_pSideBar->ShowLanguage(name); }
 
 void MainWindow::ShowKeys()
 {

@@ -28,13 +28,13 @@ public:
     void ShowPage(int index);
     bool ShowPage(const QString& name); ///< by Page::Name(); false when there is none
 
+    void ShowLanguage(const QString& name); ///< on the switch of the side bar
+
     void ShowKeys(); ///< opens the list of the window's keys and of the page's
 
 Q_SIGNALS:
     void SignalPageShown(const QString& name);
-
-protected:
-    void changeEvent(QEvent* event) override;
+    void SignalLanguageWanted(const QString& name); ///< by the operator
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -1,10 +1,13 @@
 #include <gallery/SideBar.h>
 
+#include <Platform/BasicUIComponents/KvMenu.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
+#include <gallery/Language.h>
 #include <gallery/SkinIcon.h>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QEvent>
 #include <QKeySequence>
 #include <QListWidget>
@@ -34,6 +37,7 @@ SideBar::SideBar(QWidget* parent)
     , m_pList(new QListWidget(this))
     , m_pFoot(new QVBoxLayout)
     , m_pSkin(new QAction(this))
+    , m_pLanguage(new QAction(this))
 {
     setObjectName(QStringLiteral("sideBar"));
     setAttribute(Qt::WA_StyledBackground);
@@ -52,6 +56,7 @@ SideBar::SideBar(QWidget* parent)
     addAction(m_pSkin);
     ShowTexts();
     AddFootButton(m_pSkin, QString());
+    AddLanguages();
     m_pList->installEventFilter(this);
     connect(m_pSkin, &QAction::triggered, this, &SideBar::ChangeSkin);
     connect(m_pList, &QListWidget::currentRowChanged, this, &SideBar::SignalPageChosen);
@@ -61,7 +66,7 @@ SideBar::SideBar(QWidget* parent)
     });
 }
 
-void SideBar::AddFootButton(QAction* action, const QString& icon)
+QToolButton* SideBar::AddFootButton(QAction* action, const QString& icon)
 {
     action->setData(icon);
     m_footActions.append(action);
@@ -73,6 +78,32 @@ void SideBar::AddFootButton(QAction* action, const QString& icon)
     button->setDefaultAction(action);
     m_pFoot->addWidget(button);
     LoadIcons();
+    return button;
+}
+
+void SideBar::AddLanguages()
+{
+    auto* menu = new KvGUI::KvMenu(this);
+    auto* group = new QActionGroup(menu);
+    const QStringList names = Language::Names();
+    for (const QString& name : names) {
+        QAction* action = menu->addAction(
+            Language::OwnName(name), this, [this, name] { Q_EMIT SignalLanguageWanted(name); });
+        action->setData(name);
+        action->setCheckable(true);
+        group->addAction(action);
+    }
+    m_pLanguage->setMenu(menu);
+    AddFootButton(m_pLanguage, QStringLiteral("Language"))->setPopupMode(QToolButton::InstantPopup);
+}
+
+void SideBar::ShowLanguage(const QString& name)
+{
+    const QList<QAction*> actions = m_pLanguage->menu()->actions();
+    for (QAction* action : actions)
+        action->setChecked(action->data().toString() == name);
+    m_pLanguage->setText(Language::OwnName(name));
+    FitWidth();
 }
 
 QKeySequence SideBar::Shortcut(int index)
@@ -113,6 +144,7 @@ void SideBar::ChangeSkin()
 void SideBar::ShowTexts()
 {
     m_pList->setAccessibleName(tr("Pages"));
+    m_pLanguage->setToolTip(tr("Language"));
     m_pSkin->setText(IsDark() ? tr("Light skin") : tr("Dark skin"));
     m_pSkin->setToolTip(tr("Change between the dark and the light skin (%1)")
                             .arg(m_pSkin->shortcut().toString(QKeySequence::NativeText)));

@@ -115,6 +115,17 @@ QWidgetList Controls(const QWidget& window)
     return controls;
 }
 
+/// By the switch in the side bar.
+void ChooseLanguage(Client& client, const QString& name)
+{
+    const auto actions = client.Window().findChildren<QAction*>();
+    for (QAction* action : actions) {
+        if (action->text() == Language::OwnName(name) && action->isCheckable())
+            return action->trigger();
+    }
+    QFAIL("no such language");
+}
+
 QString Describe(const QWidget* widget)
 {
     return QStringLiteral("%1 \"%2\" in %3")
@@ -145,13 +156,17 @@ private slots:
             QTest::newRow(name) << arguments.split(QLatin1Char(' ')) << code << told;
         };
         row("help", QStringLiteral("--help"), 0,
-            QStringList{QStringLiteral("--page"), QStringLiteral("--skin"), QStringLiteral("White")}
+            QStringList{
+                QStringLiteral("--page"), QStringLiteral("--language"), QStringLiteral("--skin"),
+                QStringLiteral("zh_CN"), QStringLiteral("White")}
                 + PageNames());
         row("page", QStringLiteral("--page nowhere"), 2,
             {QStringLiteral("\"nowhere\""), QStringLiteral("alarms")});
         row("no page", QStringLiteral("--page="), 2, {QStringLiteral("alarms")});
         row("skin", QStringLiteral("--skin black"), 2,
             {QStringLiteral("\"black\""), QStringLiteral("White")});
+        row("language", QStringLiteral("--language de"), 2,
+            {QStringLiteral("\"de\""), QStringLiteral("zh_CN")});
         row("option", QStringLiteral("--pages wall"), 2, {QStringLiteral("pages")});
         row("argument", QStringLiteral("wall"), 2, {QStringLiteral("\"wall\"")});
         row("value", QStringLiteral("--page"), 2, {QStringLiteral("page")});
@@ -235,12 +250,15 @@ private slots:
             Client client(Options());
             client.Window().ShowPage(QStringLiteral("alarms"));
             KvGUI::SetSkinVersion(QStringLiteral("White"));
+            ChooseLanguage(client, QStringLiteral("zh_CN"));
         }
         ClientOptions options = Options();
         options.page = QStringLiteral("device");
         options.skin = QStringLiteral("Black");
+        options.language = QStringLiteral("en");
         {
             Client client(options);
+            QCOMPARE(client.Window().windowTitle(), QStringLiteral("Operator client"));
             QCOMPARE(client.Window().CurrentPage()->Name(), options.page);
             QCOMPARE(KvGUI::GetSkinVersion(), options.skin);
         }
@@ -248,6 +266,7 @@ private slots:
             Client client(Options());
             QCOMPARE(client.Window().CurrentPage()->Name(), QStringLiteral("alarms"));
             QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("White"));
+            QVERIFY(client.Window().windowTitle() != QLatin1String("Operator client"));
         }
         {
             Client client(options);
@@ -376,7 +395,7 @@ private slots:
         QCOMPARE(missing.join(QLatin1Char(' ')), QString());
     }
 
-    void ControlsAreNamedAndReached_data() { AddPages(); }
+    void ControlsAreNamedAndReached_data() { AddPagesInLanguages(); }
 
     // Catches a control without a name for who cannot see it, one that the Tab key does not reach, and one
     // that does not let it go on.
@@ -385,6 +404,8 @@ private slots:
         QFETCH(QString, page);
         ClientOptions options = Options();
         options.page = page;
+        QFETCH(QString, language);
+        options.language = language;
         Client client(options);
         MainWindow& window = client.Window();
         client.Show();
@@ -409,10 +430,20 @@ private slots:
         }
     }
 
+    void SmallDisplayHoldsEachPage_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString& language : Language::Names())
+            QTest::addRow("%s", qPrintable(language)) << language;
+    }
+
     // Catches a page that a small display cuts off.
     void SmallDisplayHoldsEachPage()
     {
-        Client client(Options());
+        ClientOptions options = Options();
+        QFETCH(QString, language);
+        options.language = language;
+        Client client(options);
         client.Show();
         QString hints;
         for (const Page* page : client.Window().Pages()) {
@@ -433,11 +464,14 @@ private:
         return options;
     }
 
-    void AddPages() const
+    void AddPagesInLanguages() const
     {
         QTest::addColumn<QString>("page");
-        for (const QString& page : PageNames())
-            QTest::addRow("%s", qPrintable(page)) << page;
+        QTest::addColumn<QString>("language");
+        for (const QString& language : Language::Names()) {
+            for (const QString& page : PageNames())
+                QTest::addRow("%s %s", qPrintable(page), qPrintable(language)) << page << language;
+        }
     }
 
     QTemporaryDir m_folder;

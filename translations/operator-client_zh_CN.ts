@@ -511,14 +511,37 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>OperatorClient::KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>快捷键</translation>
+    </message>
+</context>
+<context>
     <name>OperatorClient::MainWindow</name>
     <message>
         <source>Operator client</source>
         <translation>操作客户端</translation>
     </message>
     <message>
-        <source>Pages</source>
-        <translation>页面</translation>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>To the side bar and back</source>
+        <translation>切换到侧边栏或返回</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Show what the keyboard can do (%1)</source>
+        <translation>显示可用的快捷键 (%1)</translation>
     </message>
 </context>
 <context>
@@ -1009,6 +1032,29 @@ A 区</translation>
     </message>
 </context>
 <context>
+    <name>OperatorClient::SideBar</name>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Light skin</source>
+        <translation>浅色皮肤</translation>
+    </message>
+    <message>
+        <source>Dark skin</source>
+        <translation>深色皮肤</translation>
+    </message>
+    <message>
+        <source>Change between the dark and the light skin (%1)</source>
+        <translation>切换深色与浅色皮肤 (%1)</translation>
+    </message>
+</context>
+<context>
     <name>OperatorClient::StillPicture</name>
     <message>
         <source>there is no such file</source>
@@ -1290,14 +1336,6 @@ Draw an area or drop a file to open a window</source>
     <message>
         <source>Show details of the selected window beside the wall</source>
         <translation>在电视墙旁显示选中窗口的详情</translation>
-    </message>
-    <message>
-        <source>Change the skin</source>
-        <translation>切换皮肤</translation>
-    </message>
-    <message>
-        <source>Change between the dark and the light skin</source>
-        <translation>在深色与浅色皮肤之间切换</translation>
     </message>
     <message>
         <source>Wall tools</source>

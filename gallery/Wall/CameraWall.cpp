@@ -201,8 +201,7 @@ void CameraWall::AddScreenFor(const ScreenLayout& layout)
     note.cellBound = layout.cellBound;
     const int screen = m_pWall->AddScreen(
         layout.rect, SkinIcon(QStringLiteral("ToolBar"), QStringLiteral("Screen")),
-        ScreenTitle(m_pWall->GetScreenCount()),
-        QVariant::fromValue(note));
+        ScreenTitle(m_pWall->GetScreenCount()), QVariant::fromValue(note));
     ShowNote(screen, note);
     RestoreWindows(screen, layout.windows);
 }
