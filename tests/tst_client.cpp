@@ -8,6 +8,7 @@
 #include <gallery/Pictures/CameraTile.h>
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
