@@ -344,15 +344,15 @@ void TestFaults::ScreenshotsOnAFullDisk()
     bool saved = true;
     {
         const auto full = FullDisk(200);
-        saved = SaveScreenshots(window, pool, Folder());
+        saved = SaveScreenshots(window, pool, Folder(), QString());
     }
     QVERIFY(!saved);
     QCOMPARE(FilesIn(Folder()).keys(), QStringList());
     {
         const auto file = FileForFolder(Folder());
-        QVERIFY(!SaveScreenshots(window, pool, Folder()));
+        QVERIFY(!SaveScreenshots(window, pool, Folder(), QString()));
     }
-    QVERIFY(SaveScreenshots(window, pool, Folder()));
+    QVERIFY(SaveScreenshots(window, pool, Folder(), QString()));
     QCOMPARE(FilesIn(Folder()).size(), 2);
 }
 
