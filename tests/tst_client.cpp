@@ -5,23 +5,23 @@
 
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/Client.h>
-#include <gallery/Pictures/CameraTile.h>
 
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTabBar>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextEdit>
-#include <QToolBar>
-#include <QToolButton>
-#include <functional>
+#include <QTimer>
 
 using namespace OperatorClient;
 
