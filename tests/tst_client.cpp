@@ -49,7 +49,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Polish) {
+        if (event->type() == QEvent::Show) {
             for (const QMetaObject* meta = watched->metaObject(); meta != nullptr; meta = meta->superClass())
                 classes.insert(QString::fromLatin1(meta->className()).section(QStringLiteral("::"), -1));
         }

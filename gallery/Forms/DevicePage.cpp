@@ -108,12 +108,12 @@ DevicePage::DevicePage(QWidget* parent)
     right->addWidget(BuildButtons());
     right->addStretch(1);
     auto* columns = new QHBoxLayout;
-    columns->setSpacing(24);
+    columns->setSpacing(16);
     columns->addLayout(left, FormWidth);
     columns->addLayout(right, FormWidth);
     columns->addStretch(1);
     auto* page = new QVBoxLayout(this);
-    page->setContentsMargins(24, 20, 24, 20);
+    page->setContentsMargins(20, 20, 20, 20);
     page->setSpacing(2);
     page->addWidget(title);
     page->addWidget(hint);

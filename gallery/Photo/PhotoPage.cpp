@@ -97,12 +97,13 @@ QWidget* PhotoPage::BuildPhotoSide()
     auto* drawn = FollowLanguage(new KvGUI::KvPushButton(side), "text", [] { return tr("&Drawn photo"); });
     auto* head = new QHBoxLayout;
     head->setSpacing(8);
-    head->addLayout(texts, 1);
-    head->addWidget(drawn, 0, Qt::AlignBottom);
-    head->addWidget(open, 0, Qt::AlignBottom);
+    head->addWidget(drawn);
+    head->addWidget(open);
+    head->addStretch(1);
     m_pView = new PhotoView(side);
     m_pView->setAcceptDrops(true);
     FollowLanguage(m_pView, "toolTip", [] { return tr("Drop a photo here"); });
+    column->addLayout(texts);
     column->addLayout(head);
     column->addWidget(m_pView, 1);
     connect(open, &QPushButton::clicked, this, &PhotoPage::AskForFile);
