@@ -446,12 +446,12 @@ private slots:
         options.language = language;
         Client client(options);
         client.Show();
-        QString hints;
+        const QSize least = client.Window().minimumSizeHint();
+        QString hints = QStringLiteral("%1 x %2: ").arg(least.width()).arg(least.height());
         for (const Page* page : client.Window().Pages()) {
             const QSize hint = page->minimumSizeHint();
             hints += QStringLiteral("%1 %2 x %3, ").arg(page->Name()).arg(hint.width()).arg(hint.height());
         }
-        const QSize least = client.Window().minimumSizeHint();
         QVERIFY2(
             least.width() <= SmallDisplay.width() && least.height() <= SmallDisplay.height(),
             qPrintable(hints));

@@ -50,7 +50,7 @@ QFormLayout* FormIn(QGroupBox* group)
     group->setMaximumWidth(FormWidth);
     auto* form = new QFormLayout(group);
     form->setVerticalSpacing(10);
-    form->setHorizontalSpacing(16);
+    form->setHorizontalSpacing(10);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     return form;
 }
@@ -108,7 +108,7 @@ DevicePage::DevicePage(QWidget* parent)
     right->addWidget(BuildButtons());
     right->addStretch(1);
     auto* columns = new QHBoxLayout;
-    columns->setSpacing(16);
+    columns->setSpacing(12);
     columns->addLayout(left, FormWidth);
     columns->addLayout(right, FormWidth);
     columns->addStretch(1);
