@@ -117,7 +117,9 @@ void TestClientLanguage::EveryPageFollowsAndComesBack()
     QCoreApplication::processEvents();
     const QMap<QString, QString> back = ShownTexts(client.window);
     for (auto text = back.begin(); text != back.end(); ++text)
-        QVERIFY2(!HasChinese(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
+        QVERIFY2(
+            !HasChinese(*text) || *text == Language::OwnName(Chinese),
+            qPrintable(text.key() + QLatin1String(": ") + *text));
     QCOMPARE(ChangedTexts(english, back).join(QLatin1Char('\n')), QString());
     QCOMPARE(back.size(), english.size());
 }
