@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QFrame>
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -563,6 +564,10 @@ void Storm::SetProperty()
         return;
     const QMetaProperty property
         = metaObject->property(first + m_dice.Below(metaObject->propertyCount() - first));
+    // Qt itself warns of a wild frameRect, and does not bear a dialog's "modal" to change while it is shown.
+    const QMetaObject* owner = property.enclosingMetaObject();
+    if (owner == &QFrame::staticMetaObject || owner == &QDialog::staticMetaObject)
+        return;
     const QMetaEnum keys = property.enumerator();
     const QVariant value = property.isEnumType()
         ? QVariant(keys.value(m_dice.Below(keys.keyCount())))

@@ -207,7 +207,8 @@ void OpenMenu(QWidget& menu, Dice& dice)
 {
     const QPoint place(dice.Below(9000) - 4000, dice.Below(9000) - 4000);
     auto& kvMenu = static_cast<KvGUI::KvMenu&>(menu);
-    dice.OneIn(2) ? kvMenu.popup(place) : void(kvMenu.exec(place));
+    // Of two loops of one menu Qt ends the inner one only.
+    kvMenu.isVisible() || dice.OneIn(2) ? kvMenu.popup(place) : void(kvMenu.exec(place));
 }
 
 /// A panel that rests elsewhere than in or out.
