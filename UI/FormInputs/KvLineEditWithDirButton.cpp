@@ -16,6 +16,9 @@ constexpr int ButtonSize = 20; // pixels
 /// The text with each half of a surrogate pair replaced: Qt makes a regular expression of a filter.
 QString WholeCharacters(const QString& text) { return QString::fromUtf8(text.toUtf8()); }
 
+/// Qt warns of a path that holds a zero character; there is none such.
+QString WithoutZeros(QString path) { return path.remove(QChar::Null); }
+
 } // namespace
 
 KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
@@ -39,7 +42,7 @@ KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
 void KvLineEditWithDirButton::SetOpenFile(QString caption, QString directory, QString filter)
 {
     m_strCaption = std::move(caption);
-    m_strDirectory = std::move(directory);
+    m_strDirectory = WithoutZeros(std::move(directory));
     m_strFilter = WholeCharacters(filter);
 }
 
@@ -52,7 +55,7 @@ void KvLineEditWithDirButton::SetSelectDirectory(
     QString caption, QString directory, QFileDialog::Option option)
 {
     m_strCaption = std::move(caption);
-    m_strDirectory = std::move(directory);
+    m_strDirectory = WithoutZeros(std::move(directory));
     m_option = option;
 }
 
