@@ -6,6 +6,7 @@
 
 #include <QAbstractAnimation>
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
@@ -17,6 +18,7 @@
 #include <QMimeData>
 #include <QPalette>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
@@ -72,6 +74,14 @@ bool IsOfTheLibrary(const QMetaObject* metaObject)
 {
     const QByteArray name = metaObject->className();
     return name.startsWith("UICommonMdl::") || name.startsWith("KvGUI::");
+}
+
+/// Scroll bars are set by Qt in the middle of a layout, which bears no other event loop.
+bool IsPartOfScrollArea(const QWidget& widget)
+{
+    const QWidget* parent = widget.parentWidget();
+    return qobject_cast<const QScrollBar*>(&widget) != nullptr && parent != nullptr
+        && qobject_cast<const QAbstractScrollArea*>(parent->parentWidget()) != nullptr;
 }
 
 /// Whether a client can know the signal: one of a private class is for the library alone.
@@ -183,7 +193,7 @@ void Storm::Attach()
     QWidgetList widgets = m_subject->findChildren<QWidget*>();
     widgets.append(m_subject);
     for (QWidget* widget : qAsConst(widgets)) {
-        if (widget->property("stormy").toBool())
+        if (widget->property("stormy").toBool() || IsPartOfScrollArea(*widget))
             continue;
         widget->setProperty("stormy", true);
         const QMetaObject* metaObject = widget->metaObject();

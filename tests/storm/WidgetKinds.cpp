@@ -69,7 +69,7 @@ QString FaultUnless(bool right, const char* fault) { return right ? QString() : 
 void SetAddress(QWidget& edit, Dice& dice)
 {
     const QString text = dice.Text();
-    const bool isAddress = text.startsWith(QLatin1String("10.0.0."));
+    const bool isAddress = text.startsWith(QLatin1String("10.0.0.")) && text.midRef(7).toInt() <= 255;
     edit.setProperty("foreign", !isAddress && (edit.property("foreign").toBool() || !text.isEmpty()));
     static_cast<QIpAddrEdit&>(edit).settext(text);
 }
@@ -87,7 +87,8 @@ QString AddressFault(QIpAddrEdit& edit)
     if (edit.notice() && !focus && QApplication::activePopupWidget() == nullptr)
         return QStringLiteral("notice without focus");
     const bool foreign = edit.property("foreign").toBool();
-    return FaultUnless(foreign || std::all_of(octets.begin(), octets.end(), isOctet), "no octet");
+    const bool right = foreign || std::all_of(octets.begin(), octets.end(), isOctet);
+    return right ? QString() : QStringLiteral("no address: ") + edit.text();
 }
 
 QString PasswordFault(CPasswordEdit& edit)
