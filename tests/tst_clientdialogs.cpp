@@ -10,6 +10,7 @@
 #include <gallery/Pairing/PairingPage.h>
 #include <gallery/Pictures/CameraTile.h>
 #include <gallery/Wall/WallPage.h>
+#include <gallery/Wall/WallSound.h>
 
 #include <QAction>
 #include <QApplication>
@@ -254,7 +255,7 @@ void tst_ClientDialogs::soundOfTheWall()
 {
     const Client client;
     const auto source = client.Silence(0, 0);
-    client.page->Cameras()->SetWindowSound(0, 0, true);
+    client.page->Cameras()->Sound()->SetWindowOn(0, 0, true);
     KvVolumeButton* volume = client.page->findChild<WallToolBar*>()->VolumeButton();
     PressAndKey(volume, Qt::Key_PageUp);
     QCOMPARE(source->m_iVolume, 60);

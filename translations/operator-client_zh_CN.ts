@@ -230,38 +230,6 @@ Do you want to replace it?</source>
         <translation>电视墙</translation>
     </message>
     <message>
-        <source>Screen %1 selected</source>
-        <translation>已选中屏幕 %1</translation>
-    </message>
-    <message>
-        <source>Screen %1: no window selected</source>
-        <translation>屏幕 %1：未选中窗口</translation>
-    </message>
-    <message>
-        <source>Screen %1: selected windows %2</source>
-        <translation>屏幕 %1：已选中窗口 %2</translation>
-    </message>
-    <message>
-        <source>Screen %1: a fixed window was double-clicked</source>
-        <translation>屏幕 %1：双击了固定窗口</translation>
-    </message>
-    <message>
-        <source>A window was clicked; the selection stays</source>
-        <translation>单击了窗口，选择不变</translation>
-    </message>
-    <message>
-        <source>Screen %1, window %2 is at %3</source>
-        <translation>屏幕 %1 窗口 %2 位于 %3</translation>
-    </message>
-    <message>
-        <source>Screen %1: 3D frame from %2, %3 to %4, %5</source>
-        <translation>屏幕 %1：三维定位框从 %2, %3 到 %4, %5</translation>
-    </message>
-    <message>
-        <source>Screen %1: press on overlay %2</source>
-        <translation>屏幕 %1：按下叠加文字 %2</translation>
-    </message>
-    <message>
         <source>The wall is built from widgets now</source>
         <translation>电视墙现由控件构成</translation>
     </message>
@@ -310,38 +278,6 @@ Do you want to replace it?</source>
     <message>
         <source>Screen %1: windows snapped to its cells</source>
         <translation>屏幕 %1：窗口已自适应到单元格</translation>
-    </message>
-    <message>
-        <source>The site map cannot be written to %1</source>
-        <translation>无法将电子地图写入 %1</translation>
-    </message>
-    <message>
-        <source>The wall&apos;s sound is on</source>
-        <translation>电视墙声音已打开</translation>
-    </message>
-    <message>
-        <source>The wall&apos;s sound is off</source>
-        <translation>电视墙声音已关闭</translation>
-    </message>
-    <message>
-        <source>The wall&apos;s volume is %1 %</source>
-        <translation>电视墙音量为 %1 %</translation>
-    </message>
-    <message>
-        <source>Screen %1, window %2: sound on</source>
-        <translation>屏幕 %1 窗口 %2：声音已打开</translation>
-    </message>
-    <message>
-        <source>Screen %1, window %2: sound off</source>
-        <translation>屏幕 %1 窗口 %2：声音已关闭</translation>
-    </message>
-    <message>
-        <source>Screen %1, window %2: volume %3 %</source>
-        <translation>屏幕 %1 窗口 %2：音量 %3 %</translation>
-    </message>
-    <message>
-        <source>Screen %1, window %2: right click</source>
-        <translation>屏幕 %1 窗口 %2：右键单击</translation>
     </message>
 </context>
 <context>
@@ -1032,6 +968,36 @@ A 区</translation>
     </message>
 </context>
 <context>
+    <name>OperatorClient::ScreenMenu</name>
+    <message>
+        <source>New window filling the screen</source>
+        <translation>新建全屏窗口</translation>
+    </message>
+    <message>
+        <source>Snap all windows</source>
+        <translation>所有窗口自适应</translation>
+    </message>
+    <message>
+        <source>Close all windows</source>
+        <translation>关闭所有窗口</translation>
+    </message>
+    <message>
+        <source>Text overlays</source>
+        <translation>叠加文字</translation>
+    </message>
+    <message>
+        <source>Base map</source>
+        <translation>底图</translation>
+    </message>
+</context>
+<context>
+    <name>OperatorClient::ScreenNotes</name>
+    <message>
+        <source>The site map cannot be written to %1</source>
+        <translation>无法将电子地图写入 %1</translation>
+    </message>
+</context>
+<context>
     <name>OperatorClient::SideBar</name>
     <message>
         <source>Pages</source>
@@ -1146,25 +1112,71 @@ Draw an area or drop a file to open a window</source>
         <source>Open a video file</source>
         <translation>打开视频文件</translation>
     </message>
+</context>
+<context>
+    <name>OperatorClient::WallReports</name>
     <message>
-        <source>New window filling the screen</source>
-        <translation>新建全屏窗口</translation>
+        <source>Screen %1 selected</source>
+        <translation>已选中屏幕 %1</translation>
     </message>
     <message>
-        <source>Snap all windows</source>
-        <translation>所有窗口自适应</translation>
+        <source>Screen %1: a fixed window was double-clicked</source>
+        <translation>屏幕 %1：双击了固定窗口</translation>
     </message>
     <message>
-        <source>Close all windows</source>
-        <translation>关闭所有窗口</translation>
+        <source>A window was clicked; the selection stays</source>
+        <translation>单击了窗口，选择不变</translation>
     </message>
     <message>
-        <source>Text overlays</source>
-        <translation>叠加文字</translation>
+        <source>Screen %1: no window selected</source>
+        <translation>屏幕 %1：未选中窗口</translation>
     </message>
     <message>
-        <source>Base map</source>
-        <translation>底图</translation>
+        <source>Screen %1: selected windows %2</source>
+        <translation>屏幕 %1：已选中窗口 %2</translation>
+    </message>
+    <message>
+        <source>Screen %1, window %2 is at %3</source>
+        <translation>屏幕 %1 窗口 %2 位于 %3</translation>
+    </message>
+    <message>
+        <source>Screen %1: 3D frame from %2, %3 to %4, %5</source>
+        <translation>屏幕 %1：三维定位框从 %2, %3 到 %4, %5</translation>
+    </message>
+    <message>
+        <source>Screen %1: press on overlay %2</source>
+        <translation>屏幕 %1：按下叠加文字 %2</translation>
+    </message>
+    <message>
+        <source>Screen %1, window %2: right click</source>
+        <translation>屏幕 %1 窗口 %2：右键单击</translation>
+    </message>
+</context>
+<context>
+    <name>OperatorClient::WallSound</name>
+    <message>
+        <source>The wall&apos;s sound is on</source>
+        <translation>电视墙声音已打开</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s sound is off</source>
+        <translation>电视墙声音已关闭</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s volume is %1 %</source>
+        <translation>电视墙音量为 %1 %</translation>
+    </message>
+    <message>
+        <source>Screen %1, window %2: sound on</source>
+        <translation>屏幕 %1 窗口 %2：声音已打开</translation>
+    </message>
+    <message>
+        <source>Screen %1, window %2: sound off</source>
+        <translation>屏幕 %1 窗口 %2：声音已关闭</translation>
+    </message>
+    <message>
+        <source>Screen %1, window %2: volume %3 %</source>
+        <translation>屏幕 %1 窗口 %2：音量 %3 %</translation>
     </message>
 </context>
 <context>

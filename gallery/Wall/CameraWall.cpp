@@ -3,54 +3,22 @@
 #include <gallery/FollowLanguage.h>
 #include <gallery/Pictures/CameraTile.h>
 #include <gallery/SkinIcon.h>
-#include <gallery/Wall/SampleOverlays.h>
-#include <gallery/Wall/SiteMap.h>
+#include <gallery/Wall/ScreenNotes.h>
+#include <gallery/Wall/WallDrops.h>
+#include <gallery/Wall/WallNotes.h>
+#include <gallery/Wall/WallReports.h>
 #include <gallery/Wall/WallRules.h>
+#include <gallery/Wall/WallSound.h>
+#include <gallery/Wall/WallTexts.h>
 
-#include <QDropEvent>
-#include <QFile>
-#include <QMimeData>
 #include <QPushButton>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace OperatorClient {
 
 namespace {
 
-constexpr QSize WindowFrame(4, 24); // pixels of a wall's window beside its video
-
-/// The first of the dragged files that can be shown.
-bool SourceOfDrag(const QMimeData* data, SourceSpec& source)
-{
-    const QList<QUrl> urls = data->urls();
-    return std::any_of(urls.begin(), urls.end(), [&](const QUrl& url) {
-        return url.isLocalFile() && SourceOfFile(url.toLocalFile(), source);
-    });
-}
-
-bool IsDrag(const QEvent* event)
-{
-    return event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove
-        || event->type() == QEvent::Drop;
-}
-
-QString RectText(const KvGUI::StructScaleRect& rect)
-{
-    const auto number = [](double value) { return QString::number(value, 'f', 3); };
-    return QStringLiteral("%1, %2 \u2013 %3, %4")
-        .arg(number(rect.dLeft), number(rect.dTop), number(rect.dRight), number(rect.dBottom));
-}
-
 QString ScreenTitle(int screen) { return CameraWall::tr("Screen %1").arg(screen + 1); }
-
-QString NumbersText(const QList<int>& indices)
-{
-    QStringList numbers;
-    for (const int index : indices)
-        numbers << QString::number(index + 1);
-    return numbers.join(QStringLiteral(", "));
-}
 
 } // namespace
 
@@ -59,30 +27,25 @@ CameraWall::CameraWall(SourcePool& pool, FrameClock& clock, QWidget* parent)
     , m_pool(pool)
     , m_clock(clock)
     , m_pWall(new WallWidget(this))
+    , m_pNotes(new ScreenNotes(*m_pWall, this))
+    , m_pSound(new WallSound(*m_pWall, this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_pWall);
     FollowLanguage(m_pWall, "accessibleName", [] { return tr("Video wall"); });
     ShowFamily(WallLayout::DisplayFamily);
-    // Overlays keep the pixels of the moment in which they were set; they are set again when a resize or
-    // a zoom has come to rest.
-    m_resized.setSingleShot(true);
-    m_resized.setInterval(100);
-    connect(&m_resized, &QTimer::timeout, this, &CameraWall::ShowOverlaysAgain);
-    ConnectHands();
-    ConnectReports();
+    new WallDrops(*this);
+    ConnectWall();
+    ConnectParts();
 }
 
-void CameraWall::ConnectHands()
+void CameraWall::ConnectWall()
 {
     connect(
         m_pWall, &WallWidget::SignalDrawAreaOpenWindow, this,
         [this](int screen, const KvGUI::StructScaleRect& rect) { OpenWindow(screen, rect); });
     connect(m_pWall, &WallWidget::SignalWindowCloseBtnClicked, this, &CameraWall::CloseWindow);
-    connect(m_pWall, &WallWidget::SignalWindowVolumeBtnClicked, this, &CameraWall::OnVolume);
-    connect(m_pWall, &WallWidget::SignalScreenEvent, this, &CameraWall::OnScreenEvent);
-    connect(m_pWall, &WallWidget::SignalWindowEvent, this, &CameraWall::OnWindowEvent);
     connect(m_pWall, &WallWidget::SignalScreenRightClick, this, &CameraWall::SignalMenuWanted);
     connect(m_pWall, &WallWidget::SignalScreenSelectedChanged, this, &CameraWall::SignalScreenSelected);
     connect(m_pWall, &WallWidget::SignalScreenSelectedChanged, this, &CameraWall::SignalSelectionChanged);
@@ -90,43 +53,15 @@ void CameraWall::ConnectHands()
     connect(m_pWall, &WallWidget::SignalWindowGeoChanged, this, &CameraWall::SignalChanged);
 }
 
-void CameraWall::ConnectReports()
+void CameraWall::ConnectParts()
 {
-    connect(m_pWall, &WallWidget::SignalScreenSelectedChanged, this, [this](int screen) {
-        Q_EMIT SignalReport(tr("Screen %1 selected").arg(screen + 1));
-    });
-    connect(m_pWall, &WallWidget::SignalWindowSelectedChanged, this, [this](int screen) {
-        const QList<int> windows = m_pWall->GetSelectedWindowIndexs();
-        Q_EMIT SignalReport(
-            windows.isEmpty()
-                ? tr("Screen %1: no window selected").arg(screen + 1)
-                : tr("Screen %1: selected windows %2").arg(screen + 1).arg(NumbersText(windows)));
-    });
-    connect(m_pWall, &WallWidget::SignalWindowDoubleClicked, this, [this](int screen) {
-        Q_EMIT SignalReport(tr("Screen %1: a fixed window was double-clicked").arg(screen + 1));
-    });
-    connect(m_pWall, &WallWidget::SignalWindowClicked, this, [this] {
-        Q_EMIT SignalReport(tr("A window was clicked; the selection stays"));
-    });
-    connect(
-        m_pWall, &WallWidget::SignalWindowGeoChanged, this,
-        [this](int screen, int window, const KvGUI::StructScaleRect& rect) {
-            Q_EMIT SignalReport(
-                tr("Screen %1, window %2 is at %3").arg(screen + 1).arg(window + 1).arg(RectText(rect)));
-        });
-    connect(
-        m_pWall, &WallWidget::SignalWindow3DSite, this,
-        [this](int screen, int startX, int startY, int endX, int endY) {
-            Q_EMIT SignalReport(tr("Screen %1: 3D frame from %2, %3 to %4, %5")
-                                    .arg(
-                                        QString::number(screen + 1), QString::number(startX),
-                                        QString::number(startY), QString::number(endX),
-                                        QString::number(endY)));
-        });
-    connect(m_pWall, &WallWidget::SignalLabelEvent, this, [this](int screen, int label, QEvent* event) {
-        if (event->type() == QEvent::MouseButtonPress)
-            Q_EMIT SignalReport(tr("Screen %1: press on overlay %2").arg(screen + 1).arg(label + 1));
-    });
+    auto* reports = new WallReports(*m_pWall, this);
+    connect(reports, &WallReports::SignalReport, this, &CameraWall::SignalReport);
+    connect(m_pNotes, &ScreenNotes::SignalReport, this, &CameraWall::SignalReport);
+    connect(m_pNotes, &ScreenNotes::SignalChanged, this, &CameraWall::SignalChanged);
+    connect(m_pSound, &WallSound::SignalReport, this, &CameraWall::SignalReport);
+    connect(m_pSound, &WallSound::SignalChanged, this, &CameraWall::SignalChanged);
+    connect(m_pSound, &WallSound::SignalWindowChanged, this, &CameraWall::SignalSoundChanged);
 }
 
 void CameraWall::changeEvent(QEvent* event)
@@ -136,17 +71,10 @@ void CameraWall::changeEvent(QEvent* event)
         return;
     for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
         m_pWall->SetScreenTitle(screen, ScreenTitle(screen));
-        ShowNote(screen, Note(screen));
+        m_pNotes->Show(screen);
         for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window)
             NameSource(screen, window);
     }
-}
-
-bool CameraWall::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Resize || event->type() == QEvent::Wheel)
-        m_resized.start();
-    return QWidget::eventFilter(watched, event);
 }
 
 void CameraWall::ShowFamily(int family)
@@ -155,17 +83,14 @@ void CameraWall::ShowFamily(int family)
         return;
     m_iFamily = family;
     m_pWall->SetShowMode(family);
-    // A zoom resizes a wall built from widgets; one drawn in a scene gets the wheel in its view.
-    const QWidgetList walls = m_pWall->findChildren<QWidget*>();
-    for (QWidget* wall : walls)
-        wall->installEventFilter(this);
+    m_pNotes->WatchWall();
 }
 
 void CameraWall::SetFamily(int family)
 {
     WallLayout layout = Layout();
     layout.family = family;
-    SilenceAll();
+    m_pSound->SilenceAll();
     Apply(layout);
     Q_EMIT SignalReport(
         family == WallLayout::DisplayFamily ? tr("The wall is built from widgets now")
@@ -185,9 +110,7 @@ void CameraWall::Apply(const WallLayout& layout)
     SetGutter(layout.gutter);
     SetTitles(layout.titles);
     SetSelectionMode(layout.selectionMode);
-    m_bSound = layout.sound;
-    m_iVolume = layout.volume;
-    ApplySound();
+    m_pSound->Restore(layout.sound, layout.volume);
     m_pWall->SetSelectedScreenIndex(0);
     Q_EMIT SignalScreenSelected();
 }
@@ -202,7 +125,7 @@ void CameraWall::AddScreenFor(const ScreenLayout& layout)
     const int screen = m_pWall->AddScreen(
         layout.rect, SkinIcon(QStringLiteral("ToolBar"), QStringLiteral("Screen")),
         ScreenTitle(m_pWall->GetScreenCount()), QVariant::fromValue(note));
-    ShowNote(screen, note);
+    m_pNotes->Show(screen);
     RestoreWindows(screen, layout.windows);
 }
 
@@ -228,18 +151,18 @@ WallLayout CameraWall::Layout() const
     layout.selectionMode = m_pWall->GetWindowSelectionMode();
     layout.titles = m_bTitles;
     layout.gutter = m_bGutter;
-    layout.sound = m_bSound;
-    layout.volume = m_iVolume;
+    layout.sound = m_pSound->IsOn();
+    layout.volume = m_pSound->Volume();
     for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
         ScreenLayout stored;
-        const ScreenNote note = Note(screen);
+        const ScreenNote note = NoteOf(*m_pWall, screen);
         stored.text = note.text;
         stored.overlays = note.overlays;
         stored.baseMap = note.baseMap;
         stored.cellBound = note.cellBound;
         m_pWall->GetScreenScale(screen, stored.rect);
         for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window) {
-            const auto windowNote = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
+            const WindowNote windowNote = NoteOf(*m_pWall, screen, window);
             WindowLayout storedWindow;
             m_pWall->GetWindowScale(screen, window, storedWindow.rect);
             storedWindow.z = m_pWall->GetWindowZValue(screen, window);
@@ -311,7 +234,7 @@ int CameraWall::FillGrid()
 
 void CameraWall::RemoveAll()
 {
-    SilenceAll();
+    m_pSound->SilenceAll();
     m_pWall->DeleteAllScreen();
     Q_EMIT SignalScreenSelected();
     Q_EMIT SignalChanged();
@@ -354,7 +277,7 @@ int CameraWall::OpenWindow(int screen, const KvGUI::StructScaleRect& rect, const
     // Every window has a value of its own, so that raising and lowering are never in doubt.
     m_pWall->SetWindowZValue(screen, window, m_pWall->GetMaxWindowZValue(screen) + 1, true);
     Q_EMIT SignalReport(
-        tr("Screen %1: window %2 opened at %3").arg(screen + 1).arg(window + 1).arg(RectText(place)));
+        tr("Screen %1: window %2 opened at %3").arg(screen + 1).arg(window + 1).arg(PlaceText(place)));
     Q_EMIT SignalChanged();
     return window;
 }
@@ -381,7 +304,7 @@ bool CameraWall::IsShown(const SourceSpec& source) const
     const QString text = source.ToText();
     for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
         for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window) {
-            if (m_pWall->GetWindowUserData(screen, window).value<WindowNote>().source == text)
+            if (NoteOf(*m_pWall, screen, window).source == text)
                 return true;
         }
     }
@@ -403,29 +326,22 @@ void CameraWall::PlaceTile(int screen, int window, const SourceSpec& source)
 
 void CameraWall::NameSource(int screen, int window)
 {
-    CameraTile* tile = Tile(screen, window);
+    CameraTile* tile = TileOf(*m_pWall, screen, window);
     if (!tile)
         return;
     tile->setAccessibleName(tile->Source().Title());
     m_pWall->SetWindowContentText(screen, window, tile->Source().Title());
 }
 
-CameraTile* CameraWall::Tile(int screen, int window) const
-{
-    const QWidget* place = m_pWall->GetWindowWidget(screen, window);
-    return place ? place->findChild<CameraTile*>() : nullptr;
-}
-
 void CameraWall::ReplaceSource(int screen, int window, const SourceSpec& source)
 {
-    CameraTile* tile = Tile(screen, window);
+    CameraTile* tile = TileOf(*m_pWall, screen, window);
     if (!tile)
         return;
-    const bool audible = m_pWall->GetWindowVolumeBtnStatus(screen, window);
     tile->Source().SetAudible(false);
     tile->SetSource(m_pool.Get(source));
-    SetAudible(screen, window, audible);
-    auto note = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
+    m_pSound->Renew(screen, window);
+    WindowNote note = NoteOf(*m_pWall, screen, window);
     note.source = source.ToText();
     m_pWall->SetWindowUserData(screen, window, QVariant::fromValue(note));
     NameSource(screen, window);
@@ -437,8 +353,7 @@ void CameraWall::ReplaceSource(int screen, int window, const SourceSpec& source)
 
 void CameraWall::CloseWindow(int screen, int window)
 {
-    if (m_pWall->GetWindowVolumeBtnStatus(screen, window))
-        SetAudible(screen, window, false);
+    m_pSound->Silence(screen, window);
     if (!m_pWall->DeleteWindow(screen, window))
         return;
     Q_EMIT SignalReport(tr("Screen %1: window %2 closed").arg(screen + 1).arg(window + 1));
@@ -521,133 +436,11 @@ void CameraWall::SnapWindows(int screen)
     Q_EMIT SignalReport(tr("Screen %1: windows snapped to its cells").arg(screen + 1));
 }
 
-ScreenNote CameraWall::Note(int screen) const
-{
-    return m_pWall->GetScreenUserData(screen).value<ScreenNote>();
-}
-
-void CameraWall::ShowNote(int screen, const ScreenNote& note)
-{
-    // The text of the first wall is the program's own; one that the operator wrote has no translation.
-    const QByteArray text = note.text.toUtf8();
-    m_pWall->SetScreenContentText(
-        screen,
-        text.isEmpty() ? QString()
-                       : QCoreApplication::translate("OperatorClient::WallPage", text.constData()));
-    m_pWall->SetScreenFreeMode(screen, !note.cellBound);
-    m_pWall->SetScreenBaseMap(
-        screen, note.baseMap ? BaseMapPath().toStdString() : std::string(), note.baseMap);
-    std::vector<KvGUI::StructOSDInfo> infos;
-    if (note.overlays)
-        infos = SampleOverlays();
-    m_pWall->SetScreenOSDInfo(screen, infos);
-}
-
-void CameraWall::ShowOverlaysAgain()
-{
-    for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
-        if (Note(screen).overlays)
-            ShowNote(screen, Note(screen));
-    }
-}
-
-QString CameraWall::BaseMapPath()
-{
-    QString path = m_folder.filePath(QStringLiteral("site-map.png"));
-    if (!QFile::exists(path) && !SaveSiteMap(path))
-        Q_EMIT SignalReport(tr("The site map cannot be written to %1").arg(path));
-    return path;
-}
-
-void CameraWall::ChangeNote(int screen, const ScreenNote& note)
-{
-    m_pWall->SetScreenUserData(screen, QVariant::fromValue(note));
-    ShowNote(screen, note);
-    Q_EMIT SignalChanged();
-}
-
-void CameraWall::SetOverlays(int screen, bool bShow)
-{
-    ScreenNote note = Note(screen);
-    note.overlays = bShow;
-    ChangeNote(screen, note);
-}
-
-void CameraWall::SetBaseMap(int screen, bool bShow)
-{
-    ScreenNote note = Note(screen);
-    note.baseMap = bShow;
-    ChangeNote(screen, note);
-}
-
-void CameraWall::SetCellBound(int screen, bool bBound)
-{
-    ScreenNote note = Note(screen);
-    note.cellBound = bBound;
-    ChangeNote(screen, note);
-}
-
-void CameraWall::SetPositioning(int screen, bool bEnable)
-{
-    if (screen < 0 || screen != m_pWall->GetSelectedScreenIndex())
-        return;
-    ScreenNote note = Note(screen);
-    note.positioning = bEnable;
-    m_pWall->SetScreenUserData(screen, QVariant::fromValue(note));
-    m_pWall->SetPtzFrameSelectedEnable(bEnable);
-}
-
-void CameraWall::SetAudible(int screen, int window, bool bAudible)
-{
-    m_pWall->SetWindowVolumeBtn(screen, window, bAudible);
-    CameraTile* tile = Tile(screen, window);
-    if (!tile)
-        return;
-    const int volume = m_pWall->GetWindowUserData(screen, window).value<WindowNote>().volume;
-    tile->Source().SetVolume(m_iVolume * volume / 100);
-    tile->Source().SetAudible(bAudible && m_bSound);
-}
-
-void CameraWall::SilenceAll()
-{
-    for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
-        for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window)
-            SetAudible(screen, window, false);
-    }
-}
-
-/// Passes on to the window that sounds what holds for the whole wall.
-void CameraWall::ApplySound()
-{
-    for (int screen = 0; screen < m_pWall->GetScreenCount(); ++screen) {
-        for (int window = 0; window < m_pWall->GetWindowCount(screen); ++window) {
-            if (m_pWall->GetWindowVolumeBtnStatus(screen, window))
-                SetAudible(screen, window, true);
-        }
-    }
-}
-
-void CameraWall::SetSound(bool bOn)
-{
-    m_bSound = bOn;
-    ApplySound();
-    Q_EMIT SignalReport(bOn ? tr("The wall's sound is on") : tr("The wall's sound is off"));
-    Q_EMIT SignalChanged();
-}
-
-void CameraWall::SetVolume(int volume)
-{
-    m_iVolume = volume;
-    ApplySound();
-    Q_EMIT SignalReport(tr("The wall's volume is %1 %").arg(volume));
-    Q_EMIT SignalChanged();
-}
-
 WindowFacts CameraWall::Facts(int screen, int window) const
 {
     WindowFacts facts;
-    const auto note = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
-    if (const CameraTile* tile = Tile(screen, window))
+    const WindowNote note = NoteOf(*m_pWall, screen, window);
+    if (const CameraTile* tile = TileOf(*m_pWall, screen, window))
         facts.source = tile->Source().Title();
     facts.screen = screen;
     facts.window = window;
@@ -656,80 +449,6 @@ WindowFacts CameraWall::Facts(int screen, int window) const
     facts.audible = m_pWall->GetWindowVolumeBtnStatus(screen, window);
     facts.volume = note.volume;
     return facts;
-}
-
-void CameraWall::SetWindowSound(int screen, int window, bool bAudible)
-{
-    SilenceAll();
-    if (bAudible)
-        SetAudible(screen, window, true);
-    Q_EMIT SignalReport(
-        (bAudible ? tr("Screen %1, window %2: sound on") : tr("Screen %1, window %2: sound off"))
-            .arg(screen + 1)
-            .arg(window + 1));
-    Q_EMIT SignalSoundChanged();
-}
-
-void CameraWall::SetWindowVolume(int screen, int window, int volume)
-{
-    if (!Tile(screen, window))
-        return;
-    auto note = m_pWall->GetWindowUserData(screen, window).value<WindowNote>();
-    note.volume = volume;
-    m_pWall->SetWindowUserData(screen, window, QVariant::fromValue(note));
-    ApplySound();
-    Q_EMIT SignalReport(tr("Screen %1, window %2: volume %3 %").arg(screen + 1).arg(window + 1).arg(volume));
-}
-
-void CameraWall::OnVolume(int screen, int window)
-{
-    SetWindowSound(screen, window, !m_pWall->GetWindowVolumeBtnStatus(screen, window));
-}
-
-void CameraWall::OnScreenEvent(int screen, QEvent* event)
-{
-    if (!IsDrag(event))
-        return;
-    auto* drop = static_cast<QDropEvent*>(event);
-    SourceSpec source;
-    if (!SourceOfDrag(drop->mimeData(), source))
-        return;
-    drop->acceptProposedAction();
-    if (event->type() == QEvent::Drop)
-        OpenAtDrop(screen, *drop, source);
-}
-
-// The wall may be zoomed, so the new window tells how large its screen is.
-void CameraWall::OpenAtDrop(int screen, const QDropEvent& drop, const SourceSpec& source)
-{
-    KvGUI::StructScaleRect place = PlaceAround({0.5, 0.5});
-    const int window = OpenWindow(screen, place, source);
-    const QWidget* video = m_pWall->GetWindowWidget(screen, window);
-    if (!video)
-        return;
-    const QSizeF pixels = video->size() + WindowFrame;
-    const QSizeF size(
-        pixels.width() / (place.dRight - place.dLeft), pixels.height() / (place.dBottom - place.dTop));
-    place = PlaceAround({drop.posF().x() / size.width(), drop.posF().y() / size.height()});
-    place.bEditable = true;
-    m_pWall->SetWindowScale(screen, window, place);
-}
-
-void CameraWall::OnWindowEvent(int screen, int window, QEvent* event)
-{
-    if (event->type() == QEvent::ContextMenu) {
-        Q_EMIT SignalReport(tr("Screen %1, window %2: right click").arg(screen + 1).arg(window + 1));
-        return;
-    }
-    if (!IsDrag(event))
-        return;
-    auto* drop = static_cast<QDropEvent*>(event);
-    SourceSpec source;
-    if (!SourceOfDrag(drop->mimeData(), source))
-        return;
-    drop->acceptProposedAction();
-    if (event->type() == QEvent::Drop)
-        ReplaceSource(screen, window, source);
 }
 
 } // namespace OperatorClient

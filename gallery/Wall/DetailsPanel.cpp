@@ -2,6 +2,7 @@
 
 #include <gallery/FollowLanguage.h>
 #include <gallery/Wall/CameraWall.h>
+#include <gallery/Wall/WallSound.h>
 #include <gallery/Wall/WindowDetails.h>
 
 namespace OperatorClient {
@@ -26,10 +27,11 @@ DetailsPanel::DetailsPanel(CameraWall* cameras)
     connect(cameras, &CameraWall::SignalChanged, this, &DetailsPanel::Follow);
     connect(cameras, &CameraWall::SignalSoundChanged, this, &DetailsPanel::Follow);
     connect(m_pDetails, &WindowDetails::SignalSound, this, [this](bool on) {
-        m_pCameras->SetWindowSound(m_pCameras->Wall()->GetSelectedScreenIndex(), SelectedWindow(), on);
+        m_pCameras->Sound()->SetWindowOn(m_pCameras->Wall()->GetSelectedScreenIndex(), SelectedWindow(), on);
     });
     connect(m_pDetails, &WindowDetails::SignalVolume, this, [this](int volume) {
-        m_pCameras->SetWindowVolume(m_pCameras->Wall()->GetSelectedScreenIndex(), SelectedWindow(), volume);
+        m_pCameras->Sound()->SetWindowVolume(
+            m_pCameras->Wall()->GetSelectedScreenIndex(), SelectedWindow(), volume);
     });
     connect(this, &CFloatDialog::SignalBtnCloseClicked, this, [this] {
         SetWanted(false);

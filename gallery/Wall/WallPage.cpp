@@ -1,14 +1,15 @@
 #include <gallery/Wall/WallPage.h>
 
 #include <UI/Dialogs/KvVolumeButton.h>
-#include <gallery/FollowLanguage.h>
 #include <gallery/OperatorHand.h>
+#include <gallery/Wall/ScreenMenu.h>
+#include <gallery/Wall/ScreenNotes.h>
+#include <gallery/Wall/WallSound.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
 #include <QImageReader>
-#include <QMenu>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -141,21 +142,22 @@ void WallPage::ConnectScreenTools()
 {
     WallWidget* wall = m_pCameras->Wall();
     On(Command::Overlays,
-       [=](bool checked) { m_pCameras->SetOverlays(wall->GetSelectedScreenIndex(), checked); });
+       [=](bool checked) { m_pCameras->Notes()->SetOverlays(wall->GetSelectedScreenIndex(), checked); });
     On(Command::BaseMap,
-       [=](bool checked) { m_pCameras->SetBaseMap(wall->GetSelectedScreenIndex(), checked); });
+       [=](bool checked) { m_pCameras->Notes()->SetBaseMap(wall->GetSelectedScreenIndex(), checked); });
     On(Command::Positioning,
-       [=](bool checked) { m_pCameras->SetPositioning(wall->GetSelectedScreenIndex(), checked); });
+       [=](bool checked) { m_pCameras->Notes()->SetPositioning(wall->GetSelectedScreenIndex(), checked); });
     On(Command::CellBound,
-       [=](bool checked) { m_pCameras->SetCellBound(wall->GetSelectedScreenIndex(), checked); });
+       [=](bool checked) { m_pCameras->Notes()->SetCellBound(wall->GetSelectedScreenIndex(), checked); });
 }
 
 void WallPage::ConnectSound()
 {
     const UICommonMdl::KvVolumeButton* button = m_pTools->VolumeButton();
-    connect(button, &UICommonMdl::KvVolumeButton::SignalSoundOpened, m_pCameras, &CameraWall::SetSound);
+    connect(button, &UICommonMdl::KvVolumeButton::SignalSoundOpened, m_pCameras->Sound(), &WallSound::SetOn);
     connect(
-        button, &UICommonMdl::KvVolumeButton::SignalVolumeValueChanged, m_pCameras, &CameraWall::SetVolume);
+        button, &UICommonMdl::KvVolumeButton::SignalVolumeValueChanged, m_pCameras->Sound(),
+        &WallSound::SetVolume);
 }
 
 void WallPage::ConnectDetails()
@@ -197,7 +199,7 @@ void WallPage::ShowStates()
 void WallPage::ShowScreenStates()
 {
     const int screen = m_pCameras->Wall()->GetSelectedScreenIndex();
-    const ScreenNote note = m_pCameras->Note(screen);
+    const ScreenNote note = NoteOf(*m_pCameras->Wall(), screen);
     const bool inScene = m_pCameras->Family() == WallLayout::NormalFamily;
     const auto show = [&](Command command, bool checked, bool possible) {
         m_pTools->Action(command)->setEnabled(screen >= 0 && possible);
@@ -211,32 +213,9 @@ void WallPage::ShowScreenStates()
 
 void WallPage::ShowMenu(int screen)
 {
-    auto* menu = new QMenu(this);
+    auto* menu = new ScreenMenu(*m_pCameras, screen, this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto addCommand = [&](QString (*text)(), const std::function<void()>& act) {
-        FollowLanguage(menu->addAction(QString(), this, act), "text", text);
-    };
-    addCommand(
-        [] { return tr("New window filling the screen"); },
-        [=] {
-            m_pCameras->OpenWindow(screen, KvGUI::StructScaleRect{0, 0, 1, 1, true});
-        });
-    addCommand([] { return tr("Snap all windows"); }, [=] { m_pCameras->SnapWindows(screen); });
-    addCommand([] { return tr("Close all windows"); }, [=] { m_pCameras->CloseWindows(screen); });
-    menu->addSeparator();
-    const ScreenNote note = m_pCameras->Note(screen);
-    const auto addSwitch = [&](QString (*text)(), bool checked, const std::function<void(bool)>& set) {
-        QAction* action = FollowLanguage(menu->addAction(QString()), "text", text);
-        action->setCheckable(true);
-        action->setChecked(checked);
-        connect(action, &QAction::triggered, this, set);
-        connect(action, &QAction::triggered, this, &WallPage::ShowScreenStates);
-    };
-    addSwitch(
-        [] { return tr("Text overlays"); }, note.overlays,
-        [=](bool on) { m_pCameras->SetOverlays(screen, on); });
-    addSwitch(
-        [] { return tr("Base map"); }, note.baseMap, [=](bool on) { m_pCameras->SetBaseMap(screen, on); });
+    connect(menu, &ScreenMenu::SignalSwitched, this, &WallPage::ShowScreenStates);
     menu->popup(QCursor::pos());
 }
 
@@ -273,8 +252,8 @@ void WallPage::EnterOverlays()
 {
     ShowStart();
     for (const int screen : {2, 3}) {
-        m_pCameras->SetOverlays(screen, true);
-        m_pCameras->SetBaseMap(screen, true);
+        m_pCameras->Notes()->SetOverlays(screen, true);
+        m_pCameras->Notes()->SetBaseMap(screen, true);
     }
     const QSize wall = m_pCameras->Wall()->size();
     const QPoint onThird(wall.width() * 28 / 100, wall.height() * 6 / 10); // between its windows
@@ -328,7 +307,7 @@ void WallPage::EnterZoomedScene()
 {
     EnterScene();
     for (const int screen : {2, 3})
-        m_pCameras->SetOverlays(screen, true);
+        m_pCameras->Notes()->SetOverlays(screen, true);
     ZoomIntoThirdScreen();
 }
 
