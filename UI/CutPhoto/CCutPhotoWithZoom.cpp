@@ -277,8 +277,11 @@ void CCutPhotoWithZoomPrivate::CloseMenu()
     if (menu == nullptr)
         return;
     menu->hide();
-    // A client may call from inside the menu.
-    menu->deleteLater();
+    // Menus are open only during a press; a client may then call from inside one.
+    if (pressing)
+        menu->deleteLater();
+    else
+        delete menu;
     menu = nullptr;
 }
 
