@@ -10,10 +10,8 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
-#include <QTemporaryDir>
 #include <cstddef>
 #include <cstdint>
 #include <numeric>
@@ -23,20 +21,6 @@ using namespace UICommonMdl;
 namespace {
 
 constexpr qint64 MostPixels = 1 << 14; // more only makes the fuzzer slow
-
-QString Path()
-{
-    // In memory: a fuzzer writes thousands of files a second.
-    static const QTemporaryDir folder(QStringLiteral("/dev/shm/fuzz_picture-XXXXXX"));
-    return folder.filePath(QStringLiteral("photo.jpg"));
-}
-
-void WriteFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    Expect(file.open(QIODevice::WriteOnly), "the file can be written");
-    file.write(bytes);
-}
 
 QImage SeedPicture()
 {
@@ -62,8 +46,8 @@ void WriteSeeds(const QDir& corpus)
 
 bool IsTooLarge(const QByteArray& bytes)
 {
-    QByteArray copy = bytes;
-    QBuffer buffer(&copy);
+    QBuffer buffer;
+    buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
@@ -126,8 +110,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (IsTooLarge(bytes))
         return 0;
 
-    WriteFile(Path(), bytes);
-    const QImage picture = CropPicture::ReadPicture(Path());
+    QBuffer file;
+    file.setData(bytes);
+    Expect(file.open(QIODevice::ReadOnly), "bytes can be read");
+    const QImage picture = CropPicture::ReadPicture(file);
     // What follows reads no file and takes its time.
     const unsigned chance = std::accumulate(data, data + size, 0U);
     if (chance % 32 == 0)

@@ -2,6 +2,7 @@
 
 #include "JpegFitting.h"
 
+#include <QFile>
 #include <QImageReader>
 #include <cmath>
 
@@ -49,7 +50,13 @@ QImage ReadPicture(const QString& path)
 {
     if (path.isEmpty())
         return QImage(); // Qt would warn of it
-    QImageReader reader(path, QByteArray());
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? ReadPicture(file) : QImage();
+}
+
+QImage ReadPicture(QIODevice& file)
+{
+    QImageReader reader(&file, QByteArray());
     reader.setDecideFormatFromContent(true);
     QImage image;
     // A damaged header can promise more pixels than there is memory.

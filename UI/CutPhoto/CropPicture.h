@@ -2,6 +2,7 @@
 
 #include <UI/CutPhoto/CutImageInfo.h>
 
+#include <QIODevice>
 #include <QImage>
 #include <QRect>
 #include <QSize>
@@ -18,6 +19,9 @@ namespace UICommonMdl::CropPicture {
 /// the file stores them (a camera's note about its orientation is not applied). Null when there is no such
 /// file, it cannot be read as a whole, or it has more than 268 million pixels.
 QImage ReadPicture(const QString& path);
+
+/// The same of what @p file, which is open, holds from its position on.
+QImage ReadPicture(QIODevice& file);
 
 /// Where a picture shown with @p display pixels stands in a widget of @p widget pixels: in its middle, or at
 /// the upper left edge in a direction in which it is not smaller.
