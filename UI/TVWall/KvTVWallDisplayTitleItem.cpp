@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyleOption>
 #include <QVariant>
 
 namespace UICommonMdl {
@@ -43,6 +44,25 @@ protected:
 
 private:
     WindowTitle m_title;
+};
+
+/// A button whose picture is its background's. Drawing a label that is not there would cost as much as the
+/// rest of the title bar.
+class TitleButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        if (hasFocus() || !text().isEmpty() || !icon().isNull())
+            return QPushButton::paintEvent(event);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        QPainter painter(this);
+        style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
+    }
 };
 
 void SetToolTip(QPushButton* button, const QString& toolTip)
@@ -108,7 +128,7 @@ void KvTVWallDisplayTitleItem::changeEvent(QEvent* event)
 
 QPushButton* KvTVWallDisplayTitleItem::AddButton(const QString& objectName)
 {
-    auto* button = new QPushButton(this);
+    auto* button = new TitleButton(this);
     button->setObjectName(objectName);
     button->setFocusPolicy(Qt::TabFocus);
     button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

@@ -162,10 +162,17 @@ void KvTVWallDisplayWindow::paintEvent(QPaintEvent*)
     painter.fillRect(0, 0, width(), video.top(), wall->WindowColor());
     painter.fillRect(0, video.top(), video.left(), height(), wall->WindowColor());
     painter.fillRect(video.right() + 1, video.top(), width(), height(), wall->WindowColor());
-    painter.setPen(wall->WindowFrameColor());
-    if (m_bKeyboardFocus)
+    if (m_bKeyboardFocus) {
         painter.setPen(QPen(wall->BandColor(), 1, Qt::DashLine));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        return;
+    }
+    // Filled, as lines are clipped pixel by pixel.
+    const QColor frame = wall->WindowFrameColor();
+    painter.fillRect(0, 0, width(), 1, frame);
+    painter.fillRect(0, height() - 1, width(), 1, frame);
+    painter.fillRect(0, 1, 1, height() - 2, frame);
+    painter.fillRect(width() - 1, 1, 1, height() - 2, frame);
 }
 
 // Moving and resizing by the mouse. While the drag lasts only pixels move; the rectangle is set once, at the
