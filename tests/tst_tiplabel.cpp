@@ -272,7 +272,8 @@ void TestTipLabel::WholeTextIsSeen_data()
         QTest::newRow(qPrintable(QString::number(width))) << width;
 }
 
-/// Catches a text that needs more lines than the bubble has room for: padding that was not measured.
+/// Catches a text that needs more lines than the bubble has room for: padding that was not measured, or a
+/// font's leading below zero.
 void TestTipLabel::WholeTextIsSeen()
 {
     QFETCH(int, width);
@@ -282,9 +283,11 @@ void TestTipLabel::WholeTextIsSeen()
     const int tooMuch = qMax(0, int(TextBox()->document()->size().height()) - TextBox()->height());
     QVERIFY(tooMuch <= 4); // less than a line: room above and below the letters
     QCOMPARE(TextBox()->verticalScrollBar()->value(), qMin(tooMuch, 3));
-    const int lines = TextBox()->document()->firstBlock().layout()->lineCount();
-    QCOMPARE(
-        lines, width < 300 ? 1 : (QFontMetrics(TextBox()->font()).boundingRect(text).width() + 299) / 300);
+    const QFontMetrics metrics(TextBox()->font());
+    const int lines = width < 300 ? 1 : (metrics.boundingRect(text).width() + 299) / 300;
+    QCOMPARE(TextBox()->document()->firstBlock().layout()->lineCount(), lines);
+    const int height = width < 300 ? 26 : lines * metrics.lineSpacing() + 2 * metrics.leading() * lines;
+    QCOMPARE(CTipLabel::Instance()->height(), height);
 }
 
 STRICT_X_TEST_MAIN(TestTipLabel)

@@ -8,9 +8,12 @@
 #include <QPainter>
 #include <QPropertyAnimation>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <QTextFrame>
+#include <QTextLayout>
 #include <QTimerEvent>
 #include <QWindow>
 #include <cmath>
@@ -47,6 +50,15 @@ constexpr QRgb BodyColor = qRgb(102, 47, 47);
 constexpr QRgb ArrowColor = qRgb(229, 57, 53);
 
 QRect GlobalRect(const QWidget* widget) { return {widget->mapToGlobal(QPoint(0, 0)), widget->size()}; }
+
+/// The document's own count is that of its paragraphs.
+int LineCount(const QTextDocument& document)
+{
+    int lines = 0;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        lines += block.layout()->lineCount();
+    return lines;
+}
 
 } // namespace
 
@@ -131,17 +143,19 @@ QSize CTipLabel::BodySize(const QString& text) const
 {
     m_pTextBox->ensurePolished();
     const QFontMetrics metrics(m_pTextBox->font());
-    // Below zero it is no room between lines but what rounding the font's heights up has added.
-    const int leading = qMax(0, metrics.leading());
-    return TipBodySize(metrics.boundingRect(text).width(), metrics.lineSpacing(), leading);
+    return TipBodySize(metrics.boundingRect(text).width(), metrics.lineSpacing(), metrics.leading());
 }
 
 /// The text stands in the middle of the box's height. The box was measured without padding and as if every
 /// line were full: where the text would need another line, it is set a little tighter, and at last words are
-/// broken. Of a box that is a little too low, the room around the letters is left out.
+/// broken. The box may be lower than its lines, as the leading of many fonts is below zero: the lines are
+/// moved together then, and the room around the letters is left out.
 void CTipLabel::SetText(const QString& text)
 {
     setAccessibleName(text);
+    const QTextDocument* document = m_pTextBox->document();
+    const QFontMetrics metrics(m_pTextBox->font());
+    const int lines = TipLines(metrics.boundingRect(text).width());
     const int room = m_pTextBox->height() + RoomAbove + RoomBelow;
     int needed = 0;
     for (const Setting& setting : Settings) {
@@ -151,13 +165,26 @@ void CTipLabel::SetText(const QString& text)
         m_pTextBox->document()->setDefaultFont(font);
         m_pTextBox->setPlainText(text);
         needed = SetMargins(setting.padding, 0);
-        if (needed <= room) {
-            SetMargins(setting.padding, qMax(0, (m_pTextBox->height() - needed) / 2));
-            break;
-        }
+        if (LineCount(*document) > lines)
+            continue;
+        if (needed > room)
+            needed = MoveLinesTogether(lines > 1 ? (room - metrics.height()) / (lines - 1) : room);
+        SetMargins(setting.padding, qMax(0, (m_pTextBox->height() - needed) / 2));
+        break;
     }
     m_pTextBox->verticalScrollBar()->setValue(
-        needed > room ? 0 : qMin(RoomAbove, needed - m_pTextBox->height()));
+        needed > room ? 0 : qBound(0, needed - m_pTextBox->height(), RoomAbove));
+}
+
+/// Returns the height that the text needs then.
+int CTipLabel::MoveLinesTogether(int lineHeight)
+{
+    QTextBlockFormat format;
+    format.setLineHeight(lineHeight, QTextBlockFormat::FixedHeight);
+    QTextCursor all(m_pTextBox->document());
+    all.select(QTextCursor::Document);
+    all.mergeBlockFormat(format);
+    return static_cast<int>(std::ceil(m_pTextBox->document()->size().height()));
 }
 
 /// Returns the height that the text needs then.

@@ -74,6 +74,7 @@ private:
     void LetClicksThrough();
     QSize BodySize(const QString& text) const;
     void SetText(const QString& text);
+    int MoveLinesTogether(int lineHeight);
     int SetMargins(int beside, int above);
     void SetAnchor(QWidget* anchor);
 

@@ -71,12 +71,17 @@ QRect MovedInto(QRect rect, const QRect& screen)
 
 } // namespace
 
+int TipLines(int textWidth)
+{
+    return textWidth < LargestWidth ? 1 : textWidth / LargestWidth + (textWidth % LargestWidth > 0 ? 1 : 0);
+}
+
 QSize TipBodySize(int textWidth, int lineSpacing, int leading)
 {
     const int width = qBound(SmallestWidth, textWidth, LargestWidth);
     if (width < LargestWidth)
         return {width, OneLineHeight};
-    const int lines = textWidth / LargestWidth + (textWidth % LargestWidth > 0 ? 1 : 0);
+    const int lines = TipLines(textWidth);
     return {width, lines * lineSpacing + 2 * leading * lines};
 }
 

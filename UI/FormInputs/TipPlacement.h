@@ -22,9 +22,13 @@ struct TipPlacement
     int arrowStart = TipArrowStart; ///< from the bubble's left or upper edge to the arrow's base
 };
 
+/// Lines of a text in a bubble.
+/// @param textWidth width of the whole text in one line, in pixels
+int TipLines(int textWidth);
+
 /// The size of the body of a bubble, without its arrow.
 /// @param textWidth width of the whole text in one line, in pixels
-/// @param lineSpacing, leading of the text's font, in pixels
+/// @param lineSpacing, leading of the text's font, in pixels; the leading may be below zero
 QSize TipBodySize(int textWidth, int lineSpacing, int leading);
 
 /// Places a bubble beside its anchor, wholly on the screen: on the other side of the anchor when the wanted
