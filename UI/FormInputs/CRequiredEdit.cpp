@@ -1,8 +1,9 @@
 #include <UI/FormInputs/CRequiredEdit.h>
 
+#include <UI/FormInputs/LineEnds.h>
+
 #include <QEvent>
 #include <QLabel>
-#include <QStyle>
 
 namespace UICommonMdl {
 
@@ -23,20 +24,13 @@ CRequiredEdit::CRequiredEdit(QWidget* parent)
         QStringLiteral("color:red;font-size:12px;font-weight:bold;background:transparent;"));
     m_pSymbolRequired->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_pSymbolRequired->setMinimumSize(SymbolWidth, height());
-    MirrorText();
+    KeepRoom(*this, LineEnd::Start, TextLeft);
     PlaceSymbol();
-}
-
-void CRequiredEdit::MirrorText()
-{
-    const bool mirrored = isRightToLeft();
-    setTextMargins(mirrored ? 0 : TextLeft, 0, mirrored ? TextLeft : 0, 0);
 }
 
 void CRequiredEdit::PlaceSymbol()
 {
-    const QRect left(QPoint(SymbolLeft, 0), m_pSymbolRequired->size());
-    m_pSymbolRequired->move(QStyle::visualRect(layoutDirection(), rect(), left).topLeft());
+    PlaceInLine(*this, *m_pSymbolRequired, QRect(QPoint(SymbolLeft, 0), m_pSymbolRequired->size()));
 }
 
 void CRequiredEdit::changeEvent(QEvent* event)
@@ -44,7 +38,7 @@ void CRequiredEdit::changeEvent(QEvent* event)
     KvLineEdit::changeEvent(event);
     if (event->type() != QEvent::LayoutDirectionChange)
         return;
-    MirrorText();
+    KeepRoom(*this, LineEnd::Start, TextLeft);
     PlaceSymbol();
 }
 

@@ -20,7 +20,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void MirrorText();
     void PlaceSymbol();
 
     QLabel* m_pSymbolRequired;

@@ -1,8 +1,9 @@
 #include <UI/FormInputs/KvLineEditEx.h>
 
+#include <UI/FormInputs/LineEnds.h>
+
 #include <QEvent>
 #include <QLabel>
-#include <QStyle>
 
 namespace UICommonMdl {
 
@@ -17,23 +18,17 @@ KvLineEditEx::KvLineEditEx(QWidget* parent)
     : KvLineEdit(parent)
     , m_pMarker(new QLabel(QStringLiteral("*"), this))
 {
-    MirrorText();
+    KeepRoom(*this, LineEnd::Start, TextLeft);
     m_pMarker->setStyleSheet(QStringLiteral("color:red"));
     m_pMarker->setAlignment(Qt::AlignCenter);
     m_pMarker->setAttribute(Qt::WA_TransparentForMouseEvents);
-}
-
-void KvLineEditEx::MirrorText()
-{
-    const bool mirrored = isRightToLeft();
-    setTextMargins(mirrored ? 0 : TextLeft, 0, mirrored ? TextLeft : 0, 0);
 }
 
 void KvLineEditEx::PlaceMarker()
 {
     m_pMarker->setFixedHeight(height());
     const QRect left(MarkerLeft, 0, m_pMarker->sizeHint().width(), height());
-    m_pMarker->setGeometry(QStyle::visualRect(layoutDirection(), rect(), left));
+    PlaceInLine(*this, *m_pMarker, left);
 }
 
 void KvLineEditEx::resizeEvent(QResizeEvent* event)
@@ -47,7 +42,7 @@ void KvLineEditEx::changeEvent(QEvent* event)
     KvLineEdit::changeEvent(event);
     if (event->type() != QEvent::LayoutDirectionChange)
         return;
-    MirrorText();
+    KeepRoom(*this, LineEnd::Start, TextLeft);
     PlaceMarker();
 }
 

@@ -19,7 +19,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void MirrorText();
     void PlaceMarker();
 
     QLabel* m_pMarker;

@@ -2,6 +2,8 @@
 
 #include <Common/CommonFun.h>
 #include <Platform/BasicUIComponents/KvTranslatedText.h>
+#include <UI/FormInputs/LineEnds.h>
+
 #include <QEvent>
 #include <QPointer>
 #include <QStyle>
@@ -35,7 +37,7 @@ KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
     new KvGUI::KvTranslatedText(m_btnDir, "toolTip", [] { return tr("Choose"); });
     new KvGUI::KvTranslatedText(m_btnDir, "accessibleName", [] { return tr("Choose a file"); });
     connect(m_btnDir, &QToolButton::clicked, this, &KvLineEditWithDirButton::onDirButtonClicked);
-    MirrorText();
+    KeepRoom(*this, LineEnd::End, ButtonSize);
     CommonFun::SetStyleSheet(this, QStringLiteral("LineEdit"), QString(), QString());
 }
 
@@ -70,14 +72,8 @@ void KvLineEditWithDirButton::changeEvent(QEvent* event)
     KvLineEdit::changeEvent(event);
     if (event->type() != QEvent::LayoutDirectionChange)
         return;
-    MirrorText();
+    KeepRoom(*this, LineEnd::End, ButtonSize);
     PlaceButton();
-}
-
-void KvLineEditWithDirButton::MirrorText()
-{
-    const bool mirrored = isRightToLeft();
-    setTextMargins(mirrored ? ButtonSize : 0, 0, mirrored ? 0 : ButtonSize, 0);
 }
 
 /// At the end of the line: right, and left where the layout is mirrored.
@@ -88,7 +84,7 @@ void KvLineEditWithDirButton::PlaceButton()
     place.setLeft(place.right() - ButtonSize);
     place.setTop(middle - ButtonSize / 2);
     place.setBottom(middle + ButtonSize / 2);
-    m_btnDir->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+    PlaceInLine(*this, *m_btnDir, place);
 }
 
 QFileDialog* KvLineEditWithDirButton::MakeDialog()

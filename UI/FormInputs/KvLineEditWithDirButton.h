@@ -47,7 +47,6 @@ private:
         SelectDirectory = 2
     };
 
-    void MirrorText();
     void PlaceButton();
     QFileDialog* MakeDialog();
     QString AskForPath();
