@@ -50,6 +50,13 @@ Page* NewMapPage(const PageNeeds& needs)
         needs.pool, needs.clock, KvGUI::KvDir::GetCurrentPath() + QLatin1String("maps/site-map.html"));
 }
 
+Page* NewPhotoPage(const PageNeeds& needs)
+{
+    auto* page = new PhotoPage(needs.options.photo);
+    page->Remember(needs.settingsFile);
+    return page;
+}
+
 struct PageEntry
 {
     const char* name;
@@ -59,7 +66,7 @@ struct PageEntry
 const PageEntry Entries[] = {
     {"wall", NewWallPage},
     {"map", NewMapPage},
-    {"photo", [](const PageNeeds& needs) -> Page* { return new PhotoPage(needs.options.photo); }},
+    {"photo", NewPhotoPage},
     {"record", [](const PageNeeds& needs) -> Page* { return new RecordPage(needs.recordFolder); }},
     {"pairing", [](const PageNeeds&) -> Page* { return new PairingPage; }},
     {"alarms",

@@ -20,6 +20,9 @@ struct Entry
 
 const Entry Entries[] = {{QLatin1String("en"), "English"}, {QLatin1String("zh_CN"), "简体中文"}};
 
+const QString OwnFile = QStringLiteral("operator-client");
+const QString OwnFolder = QStringLiteral(":/operator-client/translations");
+
 /// Windows take the locale of their time when they are made; the later ones from here, the living ones now.
 void SetLocale(const QLocale& locale)
 {
@@ -62,6 +65,18 @@ QString Language::OfDesktop()
     return Names().contains(wanted) ? wanted : QString(Entries[0].name);
 }
 
+QStringList Language::InEach(const char* context, const char* text)
+{
+    QStringList texts;
+    for (const Entry& entry : Entries) {
+        QTranslator translator;
+        const bool loaded = translator.load(OwnFile + QLatin1Char('_') + entry.name, OwnFolder);
+        const QString translated = loaded ? translator.translate(context, text) : QString();
+        texts << (translated.isEmpty() ? QString::fromUtf8(text) : translated);
+    }
+    return texts;
+}
+
 QString Language::Name() const { return m_strName; }
 
 /// A language without a file leaves the texts of the sources.
@@ -78,7 +93,7 @@ void Language::Apply()
     KvGUI::SetLanguage(m_strName);
     // Qt's are there where the package with them is installed.
     Install(m_pQtTexts, QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    Install(m_pOwnTexts, QStringLiteral("operator-client"), QStringLiteral(":/operator-client/translations"));
+    Install(m_pOwnTexts, OwnFile, OwnFolder);
 }
 
 bool Language::Set(const QString& name)

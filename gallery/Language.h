@@ -25,6 +25,11 @@ public:
     /// The one of Names() that the desktop's settings ask for; "en" where they ask for another.
     static QString OfDesktop();
 
+    /// A text of the client in each of Names(), in their order. In a language without a translation of it, it
+    /// is the source text.
+    /// @param context, text as for QCoreApplication::translate()
+    static QStringList InEach(const char* context, const char* text);
+
     QString Name() const; ///< one of Names()
     /// @param name one of Names()
     /// @return false, and nothing changes, for any other name

@@ -16,9 +16,11 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace OperatorClient;
 
@@ -80,6 +82,8 @@ private slots:
     void QtFollowsToo();
     void UnknownLanguagesAreRefused();
     void InputOfTheOperatorStays();
+    void ColumnsAreKnownInEachLanguage();
+    void OpenCropDialogFollows();
 };
 
 // Without a desktop the font is any size.
@@ -184,6 +188,38 @@ void TestClientLanguage::InputOfTheOperatorStays()
     QCoreApplication::processEvents();
     QCOMPARE(phone->text(), QStringLiteral("Gate 4"));
     QCOMPARE(period->currentText(), QStringLiteral("每五秒（演示）"));
+}
+
+// Catches a workbook of the other language that is refused, and one without the last column that is taken.
+void TestClientLanguage::ColumnsAreKnownInEachLanguage()
+{
+    Language present;
+    for (const QString& written : Language::Names()) {
+        present.Set(written);
+        const QStringList columns = AlarmRecord::Columns();
+        for (const QString& read : Language::Names()) {
+            present.Set(read);
+            QVERIFY(AlarmRecord::AreColumns(columns));
+            QVERIFY(AlarmRecord::AreColumns(columns + QStringList{QStringLiteral("Remark")}));
+            QVERIFY(!AlarmRecord::AreColumns(columns.mid(0, columns.size() - 1)));
+        }
+    }
+}
+
+// Catches a crop dialog whose title keeps the language in which it was opened.
+void TestClientLanguage::OpenCropDialogFollows()
+{
+    Language language;
+    PhotoPage page{QString()};
+    QTimer::singleShot(0, &page, [&] {
+        auto* dialog = page.findChild<QDialog*>();
+        QVERIFY(!HasChinese(dialog->windowTitle()));
+        language.Set(Chinese);
+        QCoreApplication::processEvents();
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("裁剪：出入口绘制照片"));
+        dialog->reject();
+    });
+    page.CropPlain();
 }
 
 STRICT_TEST_MAIN(TestClientLanguage)

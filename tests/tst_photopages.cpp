@@ -15,6 +15,7 @@
 #include <gallery/Photo/PhotoView.h>
 #include <gallery/Photo/RecordPage.h>
 #include <gallery/Photo/Visitors.h>
+#include <gallery/StoredText.h>
 
 using namespace OperatorClient;
 
@@ -122,6 +123,38 @@ private slots:
         QVERIFY(page.Cut()->image.width() <= 640 && page.Cut()->image.height() <= 640);
         QVERIFY(page.Cut()->jpeg.size() <= 8 * 1024);
         QCOMPARE(QImage::fromData(page.Cut()->jpeg, "JPG").size(), page.Cut()->image.size());
+    }
+
+    /// Catches limits that are another page's at the next start, and a damaged store that changes them.
+    void LimitsComeBack()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("settings.ini"));
+        const auto numbers = [](const PhotoPage& page) {
+            QVector<int> values;
+            for (const QSpinBox* box : page.findChildren<QSpinBox*>())
+                values << box->value();
+            values << int(page.findChild<QCheckBox*>()->isChecked());
+            return values;
+        };
+        PhotoPage first{QString()};
+        const QVector<int> usual = numbers(first);
+        first.Remember(file);
+        QCOMPARE(numbers(first), usual);
+        first.findChildren<QSpinBox*>().at(0)->setValue(0); // no limit
+        first.findChildren<QSpinBox*>().at(2)->setValue(480);
+        first.findChild<QCheckBox*>()->setChecked(false);
+        PhotoPage second{QString()};
+        second.Remember(file);
+        QCOMPARE(numbers(second), (QVector<int>{0, usual.at(1), 480, 0}));
+        for (const char* text : {"", "1024 640", "-5 1 1 1", "1024 99999999999 1 1", "a b c d"}) {
+            const QString damaged = folder.filePath(QStringLiteral("damaged.ini"));
+            StoredText(damaged, QStringLiteral("Photo"), QStringLiteral("Limits"))
+                .Write(QString::fromLatin1(text));
+            PhotoPage page{QString()};
+            page.Remember(damaged);
+            QCOMPARE(numbers(page), usual);
+        }
     }
 
     void LimitsStandEachForItself_data()

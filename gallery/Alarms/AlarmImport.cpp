@@ -20,11 +20,10 @@ QString Translated(const char* text)
 /// The row with the titles of the columns; 0 when there is none.
 int TitleRow(AxExcelFunction& excel)
 {
-    const QStringList titles = AlarmRecord::Columns();
     for (int row = 1; row <= qMin(LastTitleRow, excel.GetRowCout()); ++row) {
         QStringList texts;
         excel.GetRowValue(row, texts);
-        if (texts.mid(0, titles.size()) == titles)
+        if (AlarmRecord::AreColumns(texts))
             return row;
     }
     return 0;

@@ -1,7 +1,10 @@
 #include <gallery/Alarms/AlarmRecord.h>
 
+#include <gallery/Language.h>
+
 #include <QCoreApplication>
 #include <QRegularExpression>
+#include <algorithm>
 #include <random>
 
 namespace OperatorClient {
@@ -75,6 +78,19 @@ QStringList AlarmRecord::Columns()
     for (const char* title : ColumnTitles)
         columns << Translated(title);
     return columns;
+}
+
+bool AlarmRecord::AreColumns(const QStringList& texts)
+{
+    QVector<QStringList> titles(Language::Names().size());
+    for (const char* title : ColumnTitles) {
+        const QStringList translations = Language::InEach("OperatorClient::AlarmRecord", title);
+        for (int language = 0; language < titles.size(); ++language)
+            titles[language] << translations.at(language);
+    }
+    return std::any_of(titles.begin(), titles.end(), [&](const QStringList& columns) {
+        return texts.mid(0, columns.size()) == columns;
+    });
 }
 
 QStringList AlarmRecord::Texts() const

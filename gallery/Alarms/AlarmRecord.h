@@ -22,6 +22,9 @@ struct AlarmRecord
     /// The titles of the columns of a table of alarms, and of a workbook with them.
     static QStringList Columns();
 
+    /// Whether the first texts of a row of a workbook are those titles, in any of the client's languages.
+    static bool AreColumns(const QStringList& texts);
+
     /// One a column. Words that the program knows are shown in the operator's language.
     QStringList Texts() const;
 

@@ -5,6 +5,7 @@
 #include <UI/CutPhoto/CCutPhotoDlg.h>
 #include <UI/CutPhoto/CCutPhotoDlgWithZoom.h>
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
+#include <gallery/FollowLanguage.h>
 
 #include <QBuffer>
 #include <QFileDialog>
@@ -73,13 +74,14 @@ PhotoCut CutOf(const Dialog& dialog)
 
 template <typename Dialog>
 std::optional<PhotoCut>
-Ask(const Photo& photo, const CutLimits& clientLimits, const QString& title, QWidget* parent)
+Ask(const Photo& photo, const CutLimits& clientLimits, const KvGUI::KvTranslatedText::Source& title,
+    QWidget* parent)
 {
     const CutLimits limits = DialogLimits(clientLimits);
     // The parent may take the dialog along while it is open.
     const QPointer<Dialog> dialog(new Dialog(parent));
     const QSize canvas = PhotoCrop::CanvasSize(photo.image.size());
-    dialog->SetDlgTitle(title);
+    FollowLanguage(dialog.data(), "windowTitle", title);
     dialog->SetPhotoResolution(canvas.width(), canvas.height());
     dialog->SetImageMaxCapacity(limits.bytes);
     dialog->SetPicMaxSize(limits.width, limits.height);
@@ -134,14 +136,16 @@ QString ChosenFile(const QPointer<QFileDialog>& dialog)
 
 } // namespace
 
-std::optional<PhotoCut>
-PhotoCrop::WithZoom(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent)
+std::optional<PhotoCut> PhotoCrop::WithZoom(
+    const Photo& photo, const CutLimits& limits, const KvGUI::KvTranslatedText::Source& title,
+    QWidget* parent)
 {
     return Ask<UICommonMdl::CCutPhotoDlgWithZoom>(photo, limits, title, parent);
 }
 
-std::optional<PhotoCut>
-PhotoCrop::Plain(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent)
+std::optional<PhotoCut> PhotoCrop::Plain(
+    const Photo& photo, const CutLimits& limits, const KvGUI::KvTranslatedText::Source& title,
+    QWidget* parent)
 {
     return Ask<UICommonMdl::CCutPhotoDlg>(photo, limits, title, parent);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Platform/BasicUIComponents/KvTranslatedText.h>
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QImage>
@@ -52,14 +54,18 @@ class PhotoCrop
     Q_DECLARE_TR_FUNCTIONS(OperatorClient::PhotoCrop)
 
 public:
-    /// In the dialog with handles and search. @return nothing when the operator cancelled,
+    /// In the dialog with handles and search.
+    /// @param title of the dialog; asked again when the language changes
+    /// @return nothing when the operator cancelled,
     /// or, with a message, when what was framed cannot be a JPEG
-    static std::optional<PhotoCut>
-    WithZoom(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent);
+    static std::optional<PhotoCut> WithZoom(
+        const Photo& photo, const CutLimits& limits, const KvGUI::KvTranslatedText::Source& title,
+        QWidget* parent);
 
     /// In the plain dialog.
-    static std::optional<PhotoCut>
-    Plain(const Photo& photo, const CutLimits& limits, const QString& title, QWidget* parent);
+    static std::optional<PhotoCut> Plain(
+        const Photo& photo, const CutLimits& limits, const KvGUI::KvTranslatedText::Source& title,
+        QWidget* parent);
 
     /// Whether one of these dialogs is open and its canvas has got the photo.
     static bool ShowsPicture(const QDialog& dialog);

@@ -6,6 +6,7 @@
 #include <gallery/OperatorHand.h>
 #include <gallery/Photo/PhotoView.h>
 #include <gallery/Photo/Visitors.h>
+#include <gallery/StoredText.h>
 
 #include <QApplication>
 #include <QDialog>
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -45,6 +47,27 @@ QString SearchText(Search search)
 QString SizeText(const QSize& size)
 {
     return PhotoPage::tr("%1 \u00d7 %2 pixels").arg(size.width()).arg(size.height());
+}
+
+/// "bytes width height halve" in numbers.
+QString LimitsText(const CutLimits& limits)
+{
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(limits.bytes)
+        .arg(limits.width)
+        .arg(limits.height)
+        .arg(limits.halve ? 1 : 0);
+}
+
+/// Nothing for any other text. Numbers that are too large are the inputs' to bound.
+std::optional<CutLimits> LimitsFromText(const QString& text)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,9}) (\\d{1,9}) (\\d{1,9}) ([01])$"));
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const auto number = [&](int part) { return match.captured(part).toInt(); };
+    return CutLimits{number(1), number(2), number(3), number(4) == 1};
 }
 
 QWidget* FirstCanvas(QDialog* dialog)
@@ -247,10 +270,35 @@ CutLimits PhotoPage::Limits() const
         m_pHalve->isChecked()};
 }
 
+void PhotoPage::ShowLimits(const CutLimits& limits)
+{
+    m_pKilobytes->setValue(limits.bytes / BytesOfKilobyte);
+    m_pWidth->setValue(limits.width);
+    m_pHeight->setValue(limits.height);
+    m_pHalve->setChecked(limits.halve);
+}
+
+void PhotoPage::Remember(const QString& settingsFile)
+{
+    const StoredText stored(settingsFile, QStringLiteral("Photo"), QStringLiteral("Limits"));
+    const QStringList texts = stored.Read();
+    for (const QString& text : texts) {
+        if (const auto limits = LimitsFromText(text)) {
+            ShowLimits(*limits);
+            break;
+        }
+    }
+    const auto store = [this, stored] { stored.Write(LimitsText(Limits())); };
+    for (QSpinBox* box : {m_pKilobytes, m_pWidth, m_pHeight})
+        connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, store);
+    connect(m_pHalve, &QCheckBox::toggled, this, store);
+}
+
 void PhotoPage::CropWithZoom()
 {
     const QPointer<PhotoPage> guard(this);
-    const auto cut = PhotoCrop::WithZoom(m_photo, Limits(), tr("Crop: %1").arg(m_photo.title), this);
+    const auto cut = PhotoCrop::WithZoom(
+        m_photo, Limits(), [this] { return tr("Crop: %1").arg(m_photo.title); }, this);
     if (guard && cut)
         ShowCut(cut);
 }
@@ -258,7 +306,8 @@ void PhotoPage::CropWithZoom()
 void PhotoPage::CropPlain()
 {
     const QPointer<PhotoPage> guard(this);
-    const auto cut = PhotoCrop::Plain(m_photo, Limits(), tr("Crop: %1").arg(m_photo.title), this);
+    const auto cut = PhotoCrop::Plain(
+        m_photo, Limits(), [this] { return tr("Crop: %1").arg(m_photo.title); }, this);
     if (guard && cut)
         ShowCut(cut);
 }

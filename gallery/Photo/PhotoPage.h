@@ -30,6 +30,8 @@ public:
     QString Name() const override;
     QVector<Picture> Pictures() override;
 
+    /// Takes the limits that were stored in this settings file, and stores there each change of them.
+    void Remember(const QString& settingsFile);
     void OpenFile(const QString& path);
     void CropWithZoom();
     void CropPlain();
@@ -52,6 +54,7 @@ private:
     void ShowCut(const std::optional<PhotoCut>& cut);
     void SaveCut();
     CutLimits Limits() const;
+    void ShowLimits(const CutLimits& limits);
     void ShowWithDialog(void (PhotoPage::*crop)(), const std::function<void(QDialog*)>& act);
     void CloseDialogs();
 

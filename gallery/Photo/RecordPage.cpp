@@ -193,7 +193,7 @@ void RecordPage::UploadPicture()
         return;
     const QPointer<RecordPage> guard(this);
     const auto cut = PhotoCrop::WithZoom(
-        {QFileInfo(path).fileName(), path, image}, RecordLimits, tr("Person's picture"), this);
+        {QFileInfo(path).fileName(), path, image}, RecordLimits, [] { return tr("Person's picture"); }, this);
     if (guard && cut)
         SetPicture(cut->jpeg);
 }
@@ -202,7 +202,8 @@ void RecordPage::CapturePicture()
 {
     const QPointer<RecordPage> guard(this);
     const auto cut = PhotoCrop::Plain(
-        {tr("Entrance camera"), QString(), EntrancePhoto()}, RecordLimits, tr("Entrance camera"), this);
+        {tr("Entrance camera"), QString(), EntrancePhoto()}, RecordLimits,
+        [] { return tr("Entrance camera"); }, this);
     if (guard && cut)
         SetPicture(cut->jpeg);
 }

@@ -70,7 +70,12 @@ WallPage::WallPage(
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
     all->addWidget(m_pTools);
-    all->addWidget(m_pCameras, 1);
+    // The details panel takes the height of its parent's parent: so that is as high as the wall.
+    auto* area = new QWidget(this);
+    auto* wall = new QVBoxLayout(area);
+    wall->setContentsMargins(0, 0, 0, 0);
+    wall->addWidget(m_pCameras);
+    all->addWidget(area, 1);
     m_saveSoon.setSingleShot(true);
     m_saveSoon.setInterval(SaveDelay);
     connect(&m_saveSoon, &QTimer::timeout, this, &WallPage::Save);

@@ -3,13 +3,45 @@
 #include <Platform/Automation/LinkWebMembers.h>
 
 #include <QCoreApplication>
+#include <QEvent>
 
 namespace WebEngine {
 
-WebControl::WebControl(QWidget* parent)
-    : m_pView(new QWebEngineView(parent))
+namespace {
+
+/// A view that is called "Web page", in the operator's language, until a page gives it another name.
+class View : public QWebEngineView
 {
-    m_pView->setAccessibleName(QCoreApplication::translate("WebEngine::WebControl", "Web page"));
+public:
+    explicit View(QWidget* parent)
+        : QWebEngineView(parent)
+    {
+        Name();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QWebEngineView::changeEvent(event);
+        if (event->type() == QEvent::LanguageChange && accessibleName() == m_strName)
+            Name();
+    }
+
+private:
+    void Name()
+    {
+        m_strName = QCoreApplication::translate("WebEngine::WebControl", "Web page");
+        setAccessibleName(m_strName);
+    }
+
+    QString m_strName; ///< the view's own
+};
+
+} // namespace
+
+WebControl::WebControl(QWidget* parent)
+    : m_pView(new View(parent))
+{
     // A file dropped on the page would take its place.
     m_pView->setAcceptDrops(false);
     // The menu offers to leave, reload, save and dissect the page, which is part of the client.
