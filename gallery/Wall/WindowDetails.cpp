@@ -34,6 +34,8 @@ WindowDetails::WindowDetails(QWidget* parent)
     form->setContentsMargins(0, 0, 0, 0);
     form->setVerticalSpacing(8);
     form->setHorizontalSpacing(16);
+    // Numbers stand beside their names, also where the layout is mirrored.
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     m_pScreen = AddRow([] { return tr("Screen"); });
     m_pWindow = AddRow([] { return tr("Window"); });
     m_pPlace = AddRow([] { return tr("Place"); });
