@@ -1,5 +1,6 @@
 // The range calendar and the button that opens it, by mouse and keyboard.
 
+#include "support/AtEvent.h"
 #include "support/Deletion.h"
 #include "support/ShowActive.h"
 #include "support/StrictMain.h"
@@ -231,6 +232,7 @@ private slots:
     void ButtonDeletedByASlot_data();
     void ButtonDeletedByASlot();
     void OpenedAgainByASlot();
+    void HiddenWhileShown();
 
 public slots:
     void DeleteVictim() { delete m_victim; }
@@ -917,6 +919,20 @@ void TestDateCalendar::OpenedAgainByASlot()
     calendar->hide();
     QVERIFY(!form.button);
     QTRY_VERIFY(!calendar);
+}
+
+/// Catches a calendar that Qt keeps as its open popup although it is hidden: the next window that comes up
+/// closes it for ever, and the client stands still.
+void TestDateCalendar::HiddenWhileShown()
+{
+    KvCalendarEx popup(nullptr, Qt::Popup | Qt::FramelessWindowHint);
+    const TestSupport::AtEvent hide(&popup, QEvent::Show, [&] { popup.hide(); });
+    popup.show();
+    QVERIFY(hide.HasActed());
+    QVERIFY(!popup.isVisible());
+    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+    popup.show();
+    QCOMPARE(QApplication::activePopupWidget(), &popup);
 }
 
 STRICT_X_TEST_MAIN(TestDateCalendar)

@@ -331,17 +331,18 @@ void KvCalendarEx::SetTimeEditVisible(bool visible)
     adjustSize();
 }
 
-/// Shown by a slot while Qt is still hiding it, the calendar would come up without its pages: that waits.
+/// A slot that shows or hides the calendar while Qt is still doing the other waits: it would come up without
+/// its pages, or stay, hidden, in Qt's list of popups, which the next window closes until none is left.
 void KvCalendarEx::setVisible(bool visible)
 {
     d->shallBeVisible = visible;
-    if (d->hiding)
+    if (d->changing)
         return;
-    d->hiding = !visible;
+    d->changing = true;
     QWidget::setVisible(visible);
-    d->hiding = false;
-    if (!visible && d->shallBeVisible)
-        QWidget::setVisible(true);
+    d->changing = false;
+    if (visible != d->shallBeVisible)
+        QWidget::setVisible(!visible);
 }
 
 void KvCalendarEx::showEvent(QShowEvent* event)

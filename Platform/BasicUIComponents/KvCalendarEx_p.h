@@ -54,7 +54,7 @@ public:
     QLabel* endLabel = nullptr;
     QTimeEdit* startTime = nullptr;
     QTimeEdit* endTime = nullptr;
-    bool hiding = false; ///< Qt is at it
+    bool changing = false; ///< Qt is showing or hiding it
     bool shallBeVisible = false; ///< asked for last
 
 private:
