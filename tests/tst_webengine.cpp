@@ -191,6 +191,7 @@ private slots:
     void DestructionWhileLoading();
     void NewAddressWhileLoading();
     void ProcessKilled();
+    void ProcessStopped();
 
 private:
     QString Page(const QString& html);
@@ -697,6 +698,26 @@ void tst_webengine::ProcessKilled()
 
     QVERIFY(client.Open(Page(QString())));
     QCOMPARE(client.Value(Name("innerWidth")), Name("500"));
+    QVERIFY(!client.names.contains(Name("lost")));
+}
+
+// Catches a client that waits for a page whose process is stopped, or that cannot leave it for another.
+void tst_webengine::ProcessStopped()
+{
+    Client client;
+    QVERIFY(client.Open(Page(QString())));
+    const QVector<int> processes = RenderProcesses();
+    QVERIFY(!processes.isEmpty());
+    for (const int process : processes)
+        ::kill(process, SIGSTOP);
+    client.web->ExecuteJavaScript(CallOf(Name("lost")));
+    client.web->resize(500, 400);
+    const Pulse pulse;
+    QVERIFY(pulse.Beats(20));
+    const bool left = client.Open(Page(QString())) && client.Value(Name("innerWidth")) == Name("500");
+    for (const int process : processes)
+        ::kill(process, SIGCONT);
+    QVERIFY(left);
     QVERIFY(!client.names.contains(Name("lost")));
 }
 
