@@ -3,6 +3,7 @@
 // UICOMPONENTS_KILLS=1000 kills each writer so often, in place of a few times.
 
 #include "support/StrictMain.h"
+#include "support/VirtualDisplay.h"
 #include "support/WriteFaults.h"
 
 #include <Common/CIniFile.h>
@@ -10,6 +11,7 @@
 #include <Common/CommonFun.h>
 #include <Common/QIniFile.h>
 #include <Platform/BasicUIComponents/KvDir.h>
+#include <UI/TVWall/KvTVWallNormalWnd.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Photo/PersonRecord.h>
 #include <gallery/Photo/PhotoCrop.h>
@@ -23,6 +25,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <random>
 
 using namespace OperatorClient;
@@ -196,6 +199,22 @@ void KillSaverAfter(int saver, const QString& folder, int milliseconds)
     QVERIFY(child.waitForFinished());
 }
 
+/// The child process that has a display: saves once, and shows a wall until its end.
+int ShowWall(QApplication& application, const QString& folder)
+{
+    SaveWall(folder, 1);
+    UICommonMdl::KvTVWallNormalWnd wall;
+    wall.SetTVWallGridCount(1, 1);
+    const int screen = wall.AddScreen({0, 0, 1, 1, true}, QVariant());
+    wall.OpenWindow(screen, {0, 0, 1, 1, true}, QVariant());
+    wall.show();
+    QTimer::singleShot(0, [] {
+        std::fputs("shown\n", stdout);
+        std::fflush(stdout);
+    });
+    return application.exec();
+}
+
 /// A page without anything.
 class EmptyPage : public Page
 {
@@ -220,6 +239,7 @@ private Q_SLOTS:
     void WritesIntoAFolderThatVanished();
     void KeepsTheBackup();
     void ScreenshotsOnAFullDisk();
+    void EndsWithItsDisplay();
 
 private:
     QString Folder() const { return m_folder->filePath(QStringLiteral("data")); }
@@ -356,6 +376,22 @@ void TestFaults::ScreenshotsOnAFullDisk()
     QCOMPARE(FilesIn(Folder()).size(), 2);
 }
 
+// Catches a client that hangs when its display goes away, or that loses what it had saved.
+void TestFaults::EndsWithItsDisplay()
+{
+    QProcess child;
+    {
+        const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+        const VirtualDisplay display;
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--show"), Folder()});
+        qputenv("QT_QPA_PLATFORM", platform);
+        QVERIFY(child.waitForReadyRead(60000));
+    }
+    QVERIFY(child.waitForFinished(LongestWait));
+    QVERIFY(child.exitStatus() == QProcess::NormalExit && child.exitCode() != 0);
+    QCOMPARE(SavedWall(Folder()), 1);
+}
+
 int main(int argc, char** argv)
 {
     TestSupport::PrepareEnvironment();
@@ -363,7 +399,9 @@ int main(int argc, char** argv)
         const QCoreApplication application(argc, argv);
         return SaveForEver(Savers[std::atoi(argv[2])], QString::fromLocal8Bit(argv[3]));
     }
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--show") == 0)
+        return ShowWall(application, QString::fromLocal8Bit(argv[2]));
     TestFaults test;
     return TestSupport::RunStrictly(test, argc, argv);
 }
