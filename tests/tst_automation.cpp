@@ -3,11 +3,8 @@
 
 #include <Platform/Automation/AutomationRegistry.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 using Automation::AutomationRegistry;
 
@@ -26,74 +23,69 @@ class TestAutomation : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void LoadsProvidersWhenAskedFor();
-    void LeavesProvidersOfOtherPlatforms();
-    void PrefersTheApplicationsFactory();
-    void MakesControlsInTheirParent();
+    void initTestCase()
+    {
+        // A folder that does not exist, and one with a library that is none, must do no harm.
+        QFile broken(m_broken.filePath(QStringLiteral("libbroken.so")));
+        QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
+        const QStringList folders{
+            QStringLiteral("/nonexistent"), m_broken.path(), QStringLiteral(PROBE_PLUGINS)};
+        qputenv("UICOMPONENTS_PLUGIN_PATH", QFile::encodeName(folders.join(QDir::listSeparator())));
+    }
+
+    // Catches a plugin that is not found, one that is loaded for what it does not offer (a browser engine for
+    // a workbook, or beside another that has delivered), and one whose failure hides the next.
+    void LoadsProvidersWhenAskedFor()
+    {
+        QWidget parent;
+        QVERIFY(AutomationRegistry::CreateControl(&parent));
+        QCOMPARE(Origin("Probe.Unknown"), QStringLiteral("none"));
+        QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
+        QVERIFY(!qApp->property("otherProviderLoaded").toBool());
+        QCOMPARE(Origin("Probe.Both"), QStringLiteral("other:Probe.Both"));
+        QVERIFY(qApp->property("otherProviderLoaded").toBool());
+        QCOMPARE(Origin("Probe.Second"), QStringLiteral("other:Probe.Second"));
+    }
+
+    // Catches a browser engine that is loaded, and ends the program, where there is no display for it.
+    void LeavesProvidersOfOtherPlatforms()
+    {
+        QWidget parent;
+        QVERIFY(AutomationRegistry::CreateControl(&parent));
+        QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
+        QVERIFY(!qApp->property("foreignProviderLoaded").toBool());
+    }
+
+    // Catches a real office that is started behind the back of an application with a factory of its own.
+    void PrefersTheApplicationsFactory()
+    {
+        const QString id = QStringLiteral("Probe.First");
+        AutomationRegistry::SetObjectFactory(
+            id, [] { return std::make_unique<ProbeObject>(QStringLiteral("own")); });
+        QCOMPARE(Origin("Probe.First"), QStringLiteral("own"));
+        QCOMPARE(Origin("Probe.Second"), QStringLiteral("other:Probe.Second"));
+        AutomationRegistry::SetObjectFactory(id, [] { return nullptr; });
+        QCOMPARE(Origin("Probe.First"), QStringLiteral("none"));
+        AutomationRegistry::SetObjectFactory(id, {});
+        QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
+    }
+
+    // Catches a control that opens in a window of its own.
+    void MakesControlsInTheirParent()
+    {
+        QWidget parent;
+        const auto control = AutomationRegistry::CreateControl(&parent);
+        QVERIFY(control && control->widget());
+        QCOMPARE(control->widget()->parentWidget(), &parent);
+        AutomationRegistry::SetControlFactory([](QWidget*) { return nullptr; });
+        QVERIFY(!AutomationRegistry::CreateControl(&parent));
+        AutomationRegistry::SetControlFactory({});
+        QVERIFY(AutomationRegistry::CreateControl(&parent));
+    }
 
 private:
     QTemporaryDir m_broken;
 };
-
-void TestAutomation::initTestCase()
-{
-    // A folder that does not exist, and one with a library that is none, must do no harm.
-    QFile broken(m_broken.filePath(QStringLiteral("libbroken.so")));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
-    const QStringList folders{QStringLiteral("/nonexistent"), m_broken.path(), QStringLiteral(PROBE_PLUGINS)};
-    qputenv("UICOMPONENTS_PLUGIN_PATH", QFile::encodeName(folders.join(QDir::listSeparator())));
-}
-
-// Catches a plugin that is not found, one that is loaded for what it does not offer (a browser engine for
-// a workbook, or beside another that has delivered), and one whose failure hides the next.
-void TestAutomation::LoadsProvidersWhenAskedFor()
-{
-    QWidget parent;
-    QVERIFY(AutomationRegistry::CreateControl(&parent));
-    QCOMPARE(Origin("Probe.Unknown"), QStringLiteral("none"));
-    QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
-    QVERIFY(!qApp->property("otherProviderLoaded").toBool());
-    QCOMPARE(Origin("Probe.Both"), QStringLiteral("other:Probe.Both"));
-    QVERIFY(qApp->property("otherProviderLoaded").toBool());
-    QCOMPARE(Origin("Probe.Second"), QStringLiteral("other:Probe.Second"));
-}
-
-// Catches a browser engine that is loaded, and ends the program, where there is no display for it.
-void TestAutomation::LeavesProvidersOfOtherPlatforms()
-{
-    QWidget parent;
-    QVERIFY(AutomationRegistry::CreateControl(&parent));
-    QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
-    QVERIFY(!qApp->property("foreignProviderLoaded").toBool());
-}
-
-// Catches a real office that is started behind the back of an application with a factory of its own.
-void TestAutomation::PrefersTheApplicationsFactory()
-{
-    const QString id = QStringLiteral("Probe.First");
-    AutomationRegistry::SetObjectFactory(
-        id, [] { return std::make_unique<ProbeObject>(QStringLiteral("own")); });
-    QCOMPARE(Origin("Probe.First"), QStringLiteral("own"));
-    QCOMPARE(Origin("Probe.Second"), QStringLiteral("other:Probe.Second"));
-    AutomationRegistry::SetObjectFactory(id, [] { return nullptr; });
-    QCOMPARE(Origin("Probe.First"), QStringLiteral("none"));
-    AutomationRegistry::SetObjectFactory(id, {});
-    QCOMPARE(Origin("Probe.First"), QStringLiteral("probe:Probe.First"));
-}
-
-// Catches a control that opens in a window of its own.
-void TestAutomation::MakesControlsInTheirParent()
-{
-    QWidget parent;
-    const auto control = AutomationRegistry::CreateControl(&parent);
-    QVERIFY(control && control->widget());
-    QCOMPARE(control->widget()->parentWidget(), &parent);
-    AutomationRegistry::SetControlFactory([](QWidget*) { return nullptr; });
-    QVERIFY(!AutomationRegistry::CreateControl(&parent));
-    AutomationRegistry::SetControlFactory({});
-    QVERIFY(AutomationRegistry::CreateControl(&parent));
-}
 
 STRICT_TEST_MAIN(TestAutomation)
 

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/ShownTexts.h"
 #include "support/StrictMain.h"
 
@@ -14,13 +15,8 @@
 #include <gallery/Wall/WallLayoutFile.h>
 #include <gallery/Wall/WallPage.h>
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 
 using namespace OperatorClient;
 
@@ -75,152 +71,141 @@ class TestClientLanguage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void EveryPageFollowsAndComesBack();
-    void PluralsAreWritten_data();
-    void PluralsAreWritten();
-    void QtFollowsToo();
-    void UnknownLanguagesAreRefused();
-    void InputOfTheOperatorStays();
-    void ColumnsAreKnownInEachLanguage();
-    void OpenCropDialogFollows();
-};
-
-// Without a desktop the font is any size.
-void TestClientLanguage::initTestCase()
-{
-    QFont font = QApplication::font();
-    font.setPixelSize(13);
-    QApplication::setFont(font);
-}
-
-// Catches a text of any page that stays in the former language, or does not come back.
-void TestClientLanguage::EveryPageFollowsAndComesBack()
-{
-    Language language;
-    Client client;
-    const QMap<QString, QString> english = ShownTexts(client.window);
-    QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
-
-    QVERIFY(language.Set(Chinese));
-    QCoreApplication::processEvents();
-    const QMap<QString, QString> chinese = ShownTexts(client.window);
-    const QSet<QString> sources
-        = SourceTexts(QStringLiteral(LIBRARY_TEXTS)) + SourceTexts(QStringLiteral(CLIENT_TEXTS));
-    QVERIFY(sources.size() > 250);
-    for (auto text = chinese.begin(); text != chinese.end(); ++text)
-        QVERIFY2(!sources.contains(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
-    const QStringList wanted{QStringLiteral("操作客户端"), QStringLiteral("电视墙"),
-                             QStringLiteral("停车场"),     QStringLiteral("1,500 条报警"),
-                             QStringLiteral("二楼走廊"),   QStringLiteral("屏幕")};
-    for (const QString& text : wanted)
-        QVERIFY2(chinese.values().contains(text), qPrintable(text));
-    QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
-
-    QVERIFY(language.Set(English));
-    QCoreApplication::processEvents();
-    const QMap<QString, QString> back = ShownTexts(client.window);
-    for (auto text = back.begin(); text != back.end(); ++text)
-        QVERIFY2(
-            !HasChinese(*text) || *text == Language::OwnName(Chinese),
-            qPrintable(text.key() + QLatin1String(": ") + *text));
-    QCOMPARE(ChangedTexts(english, back).join(QLatin1Char('\n')), QString());
-    QCOMPARE(back.size(), english.size());
-}
-
-void TestClientLanguage::PluralsAreWritten_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("screens");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("one") << English << 1 << QStringLiteral("1 screen added");
-    QTest::newRow("some") << English << 3 << QStringLiteral("3 screens added");
-    QTest::newRow("Chinese") << Chinese << 1 << QStringLiteral("已添加 1 个屏幕");
-}
-
-// Catches "screen(s)", which only stands in the sources.
-void TestClientLanguage::PluralsAreWritten()
-{
-    QFETCH(QString, language);
-    QFETCH(int, screens);
-    Language present;
-    present.Set(language);
-    QTEST(WallPage::tr("%n screen(s) added", nullptr, screens), "text");
-}
-
-// Catches Qt's own dialogs and the locale of new and living windows in another language than the client.
-void TestClientLanguage::QtFollowsToo()
-{
-    Language language;
-    QWidget living;
-    language.Set(Chinese);
-    QCOMPARE(living.locale().language(), QLocale::Chinese);
-    QCOMPARE(QWidget().locale().language(), QLocale::Chinese);
-    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("取消"));
-    language.Set(English);
-    QCOMPARE(living.locale().language(), QLocale::English);
-    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
-}
-
-// Catches a wrong name, from the settings for example, that leaves the client without a language.
-void TestClientLanguage::UnknownLanguagesAreRefused()
-{
-    Language language;
-    language.Set(Chinese);
-    for (const char* name : {"", "de", "zh", "ZH_cn"})
-        QVERIFY(!language.Set(QString::fromLatin1(name)));
-    QCOMPARE(language.Name(), Chinese);
-    QCOMPARE(KvGUI::GetLanguage(), Chinese);
-    QVERIFY(HasChinese(Language::OwnName(Chinese)));
-    QVERIFY(Language::Names().contains(Language::OfDesktop()));
-}
-
-// Catches a change of the language that overwrites what was typed or chosen.
-void TestClientLanguage::InputOfTheOperatorStays()
-{
-    Language language;
-    PairingPage page;
-    auto* phone = page.findChild<QLineEdit*>();
-    auto* period = page.findChild<QComboBox*>();
-    phone->setText(QStringLiteral("Gate 4"));
-    period->setCurrentIndex(1);
-    language.Set(Chinese);
-    QCoreApplication::processEvents();
-    QCOMPARE(phone->text(), QStringLiteral("Gate 4"));
-    QCOMPARE(period->currentText(), QStringLiteral("每五秒（演示）"));
-}
-
-// Catches a workbook of the other language that is refused, and one without the last column that is taken.
-void TestClientLanguage::ColumnsAreKnownInEachLanguage()
-{
-    Language present;
-    for (const QString& written : Language::Names()) {
-        present.Set(written);
-        const QStringList columns = AlarmRecord::Columns();
-        for (const QString& read : Language::Names()) {
-            present.Set(read);
-            QVERIFY(AlarmRecord::AreColumns(columns));
-            QVERIFY(AlarmRecord::AreColumns(columns + QStringList{QStringLiteral("Remark")}));
-            QVERIFY(!AlarmRecord::AreColumns(columns.mid(0, columns.size() - 1)));
-        }
+    // Without a desktop the font is any size.
+    void initTestCase()
+    {
+        QFont font = QApplication::font();
+        font.setPixelSize(13);
+        QApplication::setFont(font);
     }
-}
 
-// Catches a crop dialog whose title keeps the language in which it was opened.
-void TestClientLanguage::OpenCropDialogFollows()
-{
-    Language language;
-    PhotoPage page{QString()};
-    QTimer::singleShot(0, &page, [&] {
-        auto* dialog = page.findChild<QDialog*>();
-        QVERIFY(!HasChinese(dialog->windowTitle()));
+    // Catches a text of any page that stays in the former language, or does not come back.
+    void EveryPageFollowsAndComesBack()
+    {
+        Language language;
+        Client client;
+        const QMap<QString, QString> english = ShownTexts(client.window);
+        QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
+
+        QVERIFY(language.Set(Chinese));
+        QCoreApplication::processEvents();
+        const QMap<QString, QString> chinese = ShownTexts(client.window);
+        const QSet<QString> sources
+            = SourceTexts(QStringLiteral(LIBRARY_TEXTS)) + SourceTexts(QStringLiteral(CLIENT_TEXTS));
+        QVERIFY(sources.size() > 250);
+        for (auto text = chinese.begin(); text != chinese.end(); ++text)
+            QVERIFY2(!sources.contains(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
+        const QStringList wanted{QStringLiteral("操作客户端"), QStringLiteral("电视墙"),
+                                 QStringLiteral("停车场"),     QStringLiteral("1,500 条报警"),
+                                 QStringLiteral("二楼走廊"),   QStringLiteral("屏幕")};
+        for (const QString& text : wanted)
+            QVERIFY2(chinese.values().contains(text), qPrintable(text));
+        QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
+
+        QVERIFY(language.Set(English));
+        QCoreApplication::processEvents();
+        const QMap<QString, QString> back = ShownTexts(client.window);
+        for (auto text = back.begin(); text != back.end(); ++text)
+            QVERIFY2(
+                !HasChinese(*text) || *text == Language::OwnName(Chinese),
+                qPrintable(text.key() + QLatin1String(": ") + *text));
+        QCOMPARE(ChangedTexts(english, back).join(QLatin1Char('\n')), QString());
+        QCOMPARE(back.size(), english.size());
+    }
+
+    void PluralsAreWritten_data()
+    {
+        TestSupport::Columns<QString, int, QString>("language", "screens", "text");
+        QTest::newRow("one") << English << 1 << QStringLiteral("1 screen added");
+        QTest::newRow("some") << English << 3 << QStringLiteral("3 screens added");
+        QTest::newRow("Chinese") << Chinese << 1 << QStringLiteral("已添加 1 个屏幕");
+    }
+
+    // Catches "screen(s)", which only stands in the sources.
+    void PluralsAreWritten()
+    {
+        QFETCH(QString, language);
+        QFETCH(int, screens);
+        Language present;
+        present.Set(language);
+        QTEST(WallPage::tr("%n screen(s) added", nullptr, screens), "text");
+    }
+
+    // Catches Qt's own dialogs and the locale of new and living windows in another language than the client.
+    void QtFollowsToo()
+    {
+        Language language;
+        QWidget living;
+        language.Set(Chinese);
+        QCOMPARE(living.locale().language(), QLocale::Chinese);
+        QCOMPARE(QWidget().locale().language(), QLocale::Chinese);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("取消"));
+        language.Set(English);
+        QCOMPARE(living.locale().language(), QLocale::English);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
+    }
+
+    // Catches a wrong name, from the settings for example, that leaves the client without a language.
+    void UnknownLanguagesAreRefused()
+    {
+        Language language;
+        language.Set(Chinese);
+        for (const char* name : {"", "de", "zh", "ZH_cn"})
+            QVERIFY(!language.Set(QString::fromLatin1(name)));
+        QCOMPARE(language.Name(), Chinese);
+        QCOMPARE(KvGUI::GetLanguage(), Chinese);
+        QVERIFY(HasChinese(Language::OwnName(Chinese)));
+        QVERIFY(Language::Names().contains(Language::OfDesktop()));
+    }
+
+    // Catches a change of the language that overwrites what was typed or chosen.
+    void InputOfTheOperatorStays()
+    {
+        Language language;
+        PairingPage page;
+        auto* phone = page.findChild<QLineEdit*>();
+        auto* period = page.findChild<QComboBox*>();
+        phone->setText(QStringLiteral("Gate 4"));
+        period->setCurrentIndex(1);
         language.Set(Chinese);
         QCoreApplication::processEvents();
-        QCOMPARE(dialog->windowTitle(), QStringLiteral("裁剪：出入口绘制照片"));
-        dialog->reject();
-    });
-    page.CropPlain();
-}
+        QCOMPARE(phone->text(), QStringLiteral("Gate 4"));
+        QCOMPARE(period->currentText(), QStringLiteral("每五秒（演示）"));
+    }
+
+    // Catches a workbook of the other language that is refused, and one without the last column that is
+    // taken.
+    void ColumnsAreKnownInEachLanguage()
+    {
+        Language present;
+        for (const QString& written : Language::Names()) {
+            present.Set(written);
+            const QStringList columns = AlarmRecord::Columns();
+            for (const QString& read : Language::Names()) {
+                present.Set(read);
+                QVERIFY(AlarmRecord::AreColumns(columns));
+                QVERIFY(AlarmRecord::AreColumns(columns + QStringList{QStringLiteral("Remark")}));
+                QVERIFY(!AlarmRecord::AreColumns(columns.mid(0, columns.size() - 1)));
+            }
+        }
+    }
+
+    // Catches a crop dialog whose title keeps the language in which it was opened.
+    void OpenCropDialogFollows()
+    {
+        Language language;
+        PhotoPage page{QString()};
+        QTimer::singleShot(0, &page, [&] {
+            auto* dialog = page.findChild<QDialog*>();
+            QVERIFY(!HasChinese(dialog->windowTitle()));
+            language.Set(Chinese);
+            QCoreApplication::processEvents();
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("裁剪：出入口绘制照片"));
+            dialog->reject();
+        });
+        page.CropPlain();
+    }
+};
 
 STRICT_TEST_MAIN(TestClientLanguage)
 

@@ -10,14 +10,8 @@
 #include <UI/CutPhoto/JpegForecast.h>
 #include <UI/CutPhoto/SearchMenu.h>
 
-#include <QApplication>
-#include <QBuffer>
-#include <QColorSpace>
-#include <QImageWriter>
-#include <QLinearGradient>
-#include <QPainter>
-#include <QRandomGenerator>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <limits>
 
 using namespace UICommonMdl;
@@ -148,322 +142,310 @@ class TestCropPicture : public QObject
     Q_OBJECT
 
 private slots:
-    void FramesFollowAResizedPhoto();
-    void FramesMeanSourcePixels();
-    void CutsSurviveAnyFrame();
-    void HalvingStopsInTime();
-    void LimitsAreChecked_data();
-    void LimitsAreChecked();
-    void ResizingKeepsToItsSteps();
-    void CursorsTellPlaces();
-    void ChangedRegionsHoldAllThatDiffers();
-    void DotsAreThoseOfAPen();
-    void JpegFittingEqualsThePlainLoop_data();
-    void JpegFittingEqualsThePlainLoop();
-    void ForecastCoversUsualPictures();
-    void NoJpegIsLongerThanItsFormatAllows();
+    // Catches ratios in double precision, products that are rounded, and a division by an empty photo.
+    void FramesFollowAResizedPhoto()
+    {
+        const auto followed = CropPicture::FollowedCrop; // crop, photo before, photo now
+        const QRect photo(0, 0, 300, 200);
+        QCOMPARE(followed({10, 20, 30, 40}, photo, {0, 0, 600, 400}), QRect(20, 40, 60, 80));
+        QCOMPARE(followed({-5, 5, 101, 99}, photo, {0, 0, 200, 100}), QRect(-3, 2, 67, 49)); // towards zero
+        // 7 * (31 / 7) is 31 in double precision, and 11 * (185 / 11) less than 185.
+        QCOMPARE(followed({7, 0, 7, 10}, {0, 0, 7, 10}, {0, 0, 31, 10}), QRect(30, 0, 30, 10));
+        QCOMPARE(followed({11, 0, 11, 10}, {0, 0, 11, 10}, {0, 0, 185, 10}), QRect(185, 0, 185, 10));
+        QCOMPARE(followed({50, 50, -20, -10}, photo, {0, 0, 150, 100}), QRect(25, 25, -10, -5)); // backwards
+        QCOMPARE(followed({1, 2, 3, 4}, {0, 0, 0, 200}, photo), QRect(1, 2, 3, 4)); // no photo before
+        QCOMPARE(followed({1, 2, 3, 4}, photo, {0, 0, 0, 0}), QRect(0, 0, 0, 0));
+    }
+
+    // Catches a frame mapped without the photo's place, with swapped directions, or rounded.
+    void FramesMeanSourcePixels()
+    {
+        const auto pixels = [](const QRect& crop, const QRect& photo, const QSize& source) {
+            return CropPicture::SourceRect(crop, photo, photo.size(), source);
+        };
+        const QRect photo(0, 0, 200, 100);
+        QCOMPARE(pixels({10, 20, 30, 40}, photo, {800, 300}), QRect(40, 60, 120, 120));
+        QCOMPARE(pixels({15, 9, 33, 18}, photo, {20, 50}), QRect(1, 4, 3, 9));
+        QCOMPARE(pixels({60, 45, 20, 10}, {50, 40, 200, 100}, {400, 200}), QRect(20, 10, 40, 20));
+        QCOMPARE(pixels({-3, -3, 300, 200}, photo, {100, 50}), QRect(-1, -1, 150, 100)); // outside
+        QCOMPARE(pixels({0, 0, 199, 99}, photo, {1, 1}), QRect(0, 0, 0, 0));
+        QCOMPARE(pixels({10, 20, 30, 40}, photo, {0, 0}), QRect(0, 0, 0, 0)); // no source
+        QCOMPARE(pixels({10, 20, 30, 40}, {0, 0, 0, 0}, {8, 8}), QRect(0, 0, 0, 0)); // no photo
+    }
+
+    // Catches overflows (seen by a sanitizer) and pictures of gigabytes made from a wild frame.
+    void CutsSurviveAnyFrame()
+    {
+        const int most = std::numeric_limits<int>::max();
+        const int least = std::numeric_limits<int>::min();
+        const QRect crops[] = {
+            {QPoint(least, least), QPoint(most, most)},
+            {QPoint(most, most), QPoint(least, least)},
+            {QPoint(most, most), QPoint(most, most)},
+            {QPoint(least, least), QPoint(least, least)},
+            {QPoint(least, 0), QPoint(most, 10)},
+            {50, 50, -20, -10},
+            {5, 5, 10, 0},
+        };
+        CutImageInfo info;
+        info.bHasImage = true;
+        info.image = Gradient(QSize(400, 300));
+        const QRect photo(0, 0, 200, 150);
+        CropPicture::Limits limits;
+        limits.iMaxCapacity = 100000;
+        for (const QRect& crop : crops) {
+            const QImage cut = CropPicture::GetCutImage(info, crop, photo, photo.size());
+            QVERIFY(qint64(cut.width()) * cut.height() <= 1 << 28);
+            CropPicture::CheckCut(info, crop, photo, photo.size(), limits);
+            CropPicture::FollowedCrop(crop, photo, QRect(0, 0, 9999, 1));
+
+            const QRect bounded = CropFrame::Bounded(crop);
+            CropFrame::Normalized(bounded);
+            CropFrame::BackwardsRect(bounded, QSize(least, -7));
+            CropFrame::HoverCursor(QPoint(1, 1), bounded, photo);
+            CropPainting::ChangedRegion(bounded, QRect(3, 3, 9, 9));
+            QImage canvas(50, 50, QImage::Format_RGB32);
+            QPainter painter(&canvas);
+            CropPainting::PaintFrame(painter, canvas.rect(), canvas.rect(), bounded);
+        }
+    }
+
+    // Catches halving that ends at nothing, one step late, or for one limit only, and a negative limit that
+    // leaves one pixel.
+    void HalvingStopsInTime()
+    {
+        const auto halved = [](const QSize& size, const QSize& maximum) {
+            return CropPicture::ChanageImageByAspectRatio(QImage(size, QImage::Format_RGB32), maximum).size();
+        };
+        QCOMPARE(halved({3000, 2000}, {640, 480}), QSize(375, 250));
+        QCOMPARE(halved({640, 480}, {640, 480}), QSize(640, 480));
+        QCOMPARE(halved({641, 10}, {640, 480}), QSize(320, 5));
+        QCOMPARE(halved({10, 481}, {640, 480}), QSize(4, 240)); // proportions kept
+        QCOMPARE(halved({3000, 2000}, {0, 480}), QSize(3000, 2000)); // one limit is none
+        QCOMPARE(halved({3000, 2000}, {640, 0}), QSize(3000, 2000));
+        QCOMPARE(halved({1, 20000}, {100, 100}), QSize(1, 20000));
+        QCOMPARE(halved({4, 2000}, {100, 100}), QSize(1, 500));
+        QCOMPARE(halved({9, 9}, {-5, -5}), QSize(9, 9));
+        QCOMPARE(halved({9, 9}, {4, -1}), QSize(9, 9));
+        QCOMPARE(halved({0, 0}, {-1, -1}), QSize(0, 0));
+    }
+
+    // Catches limits checked in another order, one of two limits taken for none, and a compress ratio touched
+    // where nothing was measured.
+    void LimitsAreChecked_data()
+    {
+        QTest::addColumn<QSize>("crop"); // on a photo shown at half its size of 400 x 300
+        QTest::addColumn<int>("capacity");
+        QTest::addColumn<QSize>("maximum");
+        QTest::addColumn<bool>("keep");
+        QTest::addColumn<int>("verdict");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("ratio"); // -2 for not measured
+
+        const int valid = int(CropPicture::Verdict::Valid);
+        const int noArea = int(CropPicture::Verdict::NoArea);
+        const int pixels = int(CropPicture::Verdict::TooManyPixels);
+        const int bytes = int(CropPicture::Verdict::TooManyBytes);
+        const QSize whole(200, 150);
+        const QSize none(0, 0);
+        QTest::newRow("no limit") << whole << 0 << none << false << valid << QSize(400, 300) << -2;
+        QTest::newRow("no width") << QSize(0, 9) << 0 << none << false << noArea << none << -2;
+        QTest::newRow("no height") << QSize(9, 0) << 0 << none << false << noArea << none << -2;
+        QTest::newRow("pixels without bytes")
+            << whole << 0 << QSize(10, 10) << false << valid << QSize(400, 300) << -2;
+        QTest::newRow("fits at once") << whole << 900000 << none << false << valid << QSize(400, 300) << 90;
+        QTest::newRow("never fits") << whole << 1 << none << false << bytes << none << -1;
+        QTest::newRow("negative bytes") << whole << -9 << none << false << valid << QSize(400, 300) << -2;
+        QTest::newRow("negative pixels")
+            << whole << 900000 << QSize(-1, -1) << false << valid << QSize(400, 300) << 90;
+        QTest::newRow("too wide") << whole << 900000 << QSize(399, 300) << false << pixels << none << -2;
+        QTest::newRow("width alone") << whole << 900000 << QSize(400, 0) << false << pixels << none << -2;
+        QTest::newRow("halved") << whole << 900000 << QSize(399, 300) << true << valid << QSize(200, 150)
+                                << 90;
+        QTest::newRow("width alone, kept")
+            << whole << 900000 << QSize(400, 0) << true << valid << QSize(400, 300) << 90;
+    }
+
+    void LimitsAreChecked()
+    {
+        QFETCH(QSize, crop);
+        QFETCH(int, capacity);
+        QFETCH(QSize, maximum);
+        QFETCH(bool, keep);
+        const CropPicture::Limits limits{capacity, maximum, keep};
+        CutImageInfo info;
+        info.bHasImage = true;
+        info.image = Scene(QSize(400, 300));
+        const QRect photo(0, 0, 200, 150);
+        const CropPicture::CheckedCut cut
+            = CropPicture::CheckCut(info, QRect(QPoint(0, 0), crop), photo, photo.size(), limits);
+        QTEST(int(cut.verdict), "verdict");
+        QTEST(cut.image.size(), "size");
+        QTEST(cut.compressRatio.value_or(-2), "ratio");
+    }
+
+    // Catches a resize that was "tidied": the bottom edge lags one event behind, the left edge stays.
+    void ResizingKeepsToItsSteps()
+    {
+        const QPoint anchor = CropFrame::Anchor(QRect(50, 60, 100, 60));
+        QCOMPARE(anchor, QPoint(50, 120));
+        const QRect first = CropFrame::ResizedTo(QPoint(160, 50), QRect(50, 60, 100, 60), anchor);
+        QCOMPARE(first, QRect(50, 50, 111, 61));
+        const QRect second = CropFrame::ResizedTo(QPoint(160, 50), first, anchor);
+        QCOMPARE(second, QRect(50, 50, 111, 71));
+        QVERIFY(CropFrame::CanResizeTo(QPoint(70, 100), QRect(50, 60, 100, 60)));
+        QVERIFY(!CropFrame::CanResizeTo(QPoint(69, 100), QRect(50, 60, 100, 60)));
+        QVERIFY(!CropFrame::CanResizeTo(QPoint(70, 101), QRect(50, 60, 100, 60)));
+    }
+
+    // Catches the frame's corners taken where the photo's count, and another order of the tests.
+    void CursorsTellPlaces()
+    {
+        const auto cursor = [](int x, int y) {
+            return CropFrame::HoverCursor({x, y}, QRect(30, 40, 100, 50), QRect(0, 0, 200, 150));
+        };
+        QCOMPARE(cursor(20, 40), Qt::SizeAllCursor);
+        QCOMPARE(cursor(19, 40), Qt::ArrowCursor);
+        QCOMPARE(cursor(230, 30), Qt::SizeAllCursor); // a photo's width to the right
+        QCOMPARE(cursor(231, 40), Qt::ArrowCursor);
+        QCOMPARE(cursor(100, 50), Qt::SizeAllCursor); // below the upper edge
+        QCOMPARE(cursor(100, 51), Qt::ArrowCursor);
+        QCOMPARE(cursor(190, 10), Qt::SizeBDiagCursor); // the photo's top right
+        QCOMPARE(cursor(210, 160), Qt::OpenHandCursor); // and bottom right
+        QCOMPARE(cursor(130, 90), Qt::ArrowCursor); // the frame's
+    }
+
+    // Catches traces that a dragged frame leaves behind because too little is painted again.
+    void ChangedRegionsHoldAllThatDiffers()
+    {
+        const QRect photo(0, 0, 90, 70);
+        const QRect frames[]
+            = {QRect(20, 20, 40, 30), QRect(20, 20, 41, 31), QRect(19, 22, 40, 30), QRect(60, 50, -30, -20),
+               QRect(5, 5, 0, 0),     QRect(0, 0, 90, 70),   QRect(80, 60, 30, 30), QRect(30, 30, 3, 50)};
+        const auto painted = [&](const QRect& frame) {
+            QImage image(photo.size(), QImage::Format_RGB32);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            CropPainting::PaintFrame(painter, image.rect(), photo, frame);
+            return image;
+        };
+        for (const QRect& before : frames)
+            for (const QRect& now : frames) {
+                const QImage a = painted(before);
+                const QImage b = painted(now);
+                const QRegion changed = CropPainting::ChangedRegion(before, now);
+                for (int y = 0; y < photo.height(); ++y)
+                    for (int x = 0; x < photo.width(); ++x)
+                        QVERIFY(a.pixel(x, y) == b.pixel(x, y) || changed.contains(QPoint(x, y)));
+            }
+    }
+
+    // Catches a frame that is painted quickly but not as a dotted pen paints it, at the corners above all and
+    // where it comes into the canvas from outside.
+    void DotsAreThoseOfAPen()
+    {
+        QVector<QRect> crops
+            = {{-3001, 4, 6002, 500}, {-700, -900, 730, 931}, {7, -2000, 3000, 4001}, {-50, -60, 400, 93}};
+        for (int width = 0; width < 40; ++width)
+            for (int height = 0; height < 40; ++height)
+                crops << QRect(5, 4, width, height);
+        for (const QRect& crop : crops) {
+            QImage ours(50, 50, QImage::Format_RGB32);
+            ours.fill(Qt::darkGreen);
+            QImage pens = ours;
+            QPainter painter(&ours);
+            CropPainting::PaintFrame(painter, ours.rect(), crop, crop);
+            QPainter pen(&pens);
+            pen.setPen(QPen(QColor(0x40, 0xC4, 0xFF), 2.0, Qt::DotLine, Qt::SquareCap, Qt::BevelJoin));
+            pen.drawRect(crop);
+            QVERIFY2(
+                ours == pens, qPrintable(QStringLiteral("%1 x %2").arg(crop.width()).arg(crop.height())));
+        }
+    }
+
+    // Catches a fast search that ends at another quality or another size than encoding each one.
+    void JpegFittingEqualsThePlainLoop_data()
+    {
+        QTest::addColumn<QImage>("image");
+
+        const QImage scene = Scene(QSize(333, 217));
+        QTest::newRow("null") << QImage();
+        QTest::newRow("1 x 1") << Gradient(QSize(1, 1));
+        QTest::newRow("1 x 20000") << Gradient(QSize(1, 20000));
+        QTest::newRow("20000 x 1") << Gradient(QSize(20000, 1));
+        QTest::newRow("sizes rise at lower quality") << Checkerboard(QSize(64, 64), 2);
+        QTest::newRow("checkerboard") << Checkerboard(QSize(200, 200), 3);
+        QTest::newRow("flat") << Noise(QSize(256, 200), 1);
+        QTest::newRow("noise") << Noise(QSize(256, 200), 128);
+        QTest::newRow("soft noise") << Noise(QSize(201, 190), 12);
+        QTest::newRow("gradient") << Gradient(QSize(310, 222));
+        QTest::newRow("text") << Text(QSize(240, 240));
+        QTest::newRow("scene") << scene;
+        for (const int extra : {0, 1, 7, 8, 9, 15})
+            QTest::addRow("edges %d", extra) << Scene(QSize(160 + extra, 144 + 15 - extra));
+        QTest::newRow("comments, resolution, colour space") << WithDetails(scene);
+        QTest::newRow("translucent") << Translucent(scene, QImage::Format_ARGB32);
+        QTest::newRow("premultiplied") << Translucent(scene, QImage::Format_ARGB32_Premultiplied);
+        const QImage::Format formats[]
+            = {QImage::Format_Mono,       QImage::Format_MonoLSB,     QImage::Format_Indexed8,
+               QImage::Format_RGB16,      QImage::Format_RGB555,      QImage::Format_RGB888,
+               QImage::Format_BGR888,     QImage::Format_RGB30,       QImage::Format_RGBX8888,
+               QImage::Format_Grayscale8, QImage::Format_Grayscale16, QImage::Format_RGBX64,
+               QImage::Format_Alpha8};
+        for (const QImage::Format format : formats)
+            QTest::addRow("format %d", format) << scene.convertToFormat(format);
+        QTest::newRow("translucent 64 bits") << Translucent(scene, QImage::Format_RGBA64);
+        QTest::newRow("grey palette") << GreyPalette(scene);
+    }
+
+    void JpegFittingEqualsThePlainLoop()
+    {
+        QFETCH(QImage, image);
+        const PlainLoop loop(image);
+        for (const int percent : {100, 60, 31, 22, 15, 11, 8, 6, 5, 4, 3, 2, 1, 0}) {
+            // One byte more or less than a true size is where an approximation would show.
+            const int fitting = loop.Fit(loop.Largest() * percent / 100).bytes;
+            for (const int maximum : {loop.Largest() * percent / 100, fitting, fitting - 1}) {
+                const JpegFit plain = loop.Fit(maximum);
+                const JpegFit fit = FitJpeg(image, maximum);
+                QCOMPARE(fit.bytes, plain.bytes);
+                QCOMPARE(fit.ratio, plain.ratio);
+            }
+        }
+    }
+
+    // Catches an encoder that is asked all the same, and warns.
+    void NoJpegIsLongerThanItsFormatAllows()
+    {
+        QVERIFY(!JpegBytes(QImage(65500, 1, QImage::Format_RGB32), 0).isEmpty());
+        QVERIFY(JpegBytes(QImage(65501, 1, QImage::Format_RGB32), 0).isEmpty());
+    }
+
+    // Catches counting that no longer agrees with the encoder, which costs nothing but all of the speed.
+    void ForecastCoversUsualPictures()
+    {
+        const QImage scene = Scene(QSize(333, 217));
+        const QImage images[] = {
+            scene,
+            Noise(QSize(256, 200), 128),
+            WithDetails(scene),
+            scene.convertToFormat(QImage::Format_Grayscale8),
+            scene.convertToFormat(QImage::Format_Indexed8),
+            Translucent(scene, QImage::Format_ARGB32),
+            scene.convertToFormat(QImage::Format_RGBA64),
+        };
+        for (const QImage& image : images) {
+            JpegForecast forecast(image);
+            for (int quality = 90; quality >= 0; quality = NextLowerQuality(quality)) {
+                const QByteArray bytes = Encoded(image, quality);
+                // Bytes of 255 among the picture's bits are followed by a zero, which is not counted.
+                const int counted = bytes.size() - bytes.count(QByteArray("\xFF\x00", 2));
+                QVERIFY(forecast.Exceeds(quality, counted - 1));
+                QVERIFY(!forecast.Exceeds(quality, bytes.size()));
+            }
+        }
+    }
 };
-
-// Catches ratios in double precision, products that are rounded, and a division by an empty photo.
-void TestCropPicture::FramesFollowAResizedPhoto()
-{
-    const auto followed = CropPicture::FollowedCrop; // crop, photo before, photo now
-    const QRect photo(0, 0, 300, 200);
-    QCOMPARE(followed({10, 20, 30, 40}, photo, {0, 0, 600, 400}), QRect(20, 40, 60, 80));
-    QCOMPARE(followed({-5, 5, 101, 99}, photo, {0, 0, 200, 100}), QRect(-3, 2, 67, 49)); // towards zero
-    // 7 * (31 / 7) is 31 in double precision, and 11 * (185 / 11) less than 185.
-    QCOMPARE(followed({7, 0, 7, 10}, {0, 0, 7, 10}, {0, 0, 31, 10}), QRect(30, 0, 30, 10));
-    QCOMPARE(followed({11, 0, 11, 10}, {0, 0, 11, 10}, {0, 0, 185, 10}), QRect(185, 0, 185, 10));
-    QCOMPARE(followed({50, 50, -20, -10}, photo, {0, 0, 150, 100}), QRect(25, 25, -10, -5)); // backwards
-    QCOMPARE(followed({1, 2, 3, 4}, {0, 0, 0, 200}, photo), QRect(1, 2, 3, 4)); // no photo before
-    QCOMPARE(followed({1, 2, 3, 4}, photo, {0, 0, 0, 0}), QRect(0, 0, 0, 0));
-}
-
-// Catches a frame mapped without the photo's place, with swapped directions, or rounded.
-void TestCropPicture::FramesMeanSourcePixels()
-{
-    const auto pixels = [](const QRect& crop, const QRect& photo, const QSize& source) {
-        return CropPicture::SourceRect(crop, photo, photo.size(), source);
-    };
-    const QRect photo(0, 0, 200, 100);
-    QCOMPARE(pixels({10, 20, 30, 40}, photo, {800, 300}), QRect(40, 60, 120, 120));
-    QCOMPARE(pixels({15, 9, 33, 18}, photo, {20, 50}), QRect(1, 4, 3, 9));
-    QCOMPARE(pixels({60, 45, 20, 10}, {50, 40, 200, 100}, {400, 200}), QRect(20, 10, 40, 20));
-    QCOMPARE(pixels({-3, -3, 300, 200}, photo, {100, 50}), QRect(-1, -1, 150, 100)); // outside
-    QCOMPARE(pixels({0, 0, 199, 99}, photo, {1, 1}), QRect(0, 0, 0, 0));
-    QCOMPARE(pixels({10, 20, 30, 40}, photo, {0, 0}), QRect(0, 0, 0, 0)); // no source
-    QCOMPARE(pixels({10, 20, 30, 40}, {0, 0, 0, 0}, {8, 8}), QRect(0, 0, 0, 0)); // no photo
-}
-
-// Catches overflows (seen by a sanitizer) and pictures of gigabytes made from a wild frame.
-void TestCropPicture::CutsSurviveAnyFrame()
-{
-    const int most = std::numeric_limits<int>::max();
-    const int least = std::numeric_limits<int>::min();
-    const QRect crops[] = {
-        {QPoint(least, least), QPoint(most, most)},
-        {QPoint(most, most), QPoint(least, least)},
-        {QPoint(most, most), QPoint(most, most)},
-        {QPoint(least, least), QPoint(least, least)},
-        {QPoint(least, 0), QPoint(most, 10)},
-        {50, 50, -20, -10},
-        {5, 5, 10, 0},
-    };
-    CutImageInfo info;
-    info.bHasImage = true;
-    info.image = Gradient(QSize(400, 300));
-    const QRect photo(0, 0, 200, 150);
-    CropPicture::Limits limits;
-    limits.iMaxCapacity = 100000;
-    for (const QRect& crop : crops) {
-        const QImage cut = CropPicture::GetCutImage(info, crop, photo, photo.size());
-        QVERIFY(qint64(cut.width()) * cut.height() <= 1 << 28);
-        CropPicture::CheckCut(info, crop, photo, photo.size(), limits);
-        CropPicture::FollowedCrop(crop, photo, QRect(0, 0, 9999, 1));
-
-        const QRect bounded = CropFrame::Bounded(crop);
-        CropFrame::Normalized(bounded);
-        CropFrame::BackwardsRect(bounded, QSize(least, -7));
-        CropFrame::HoverCursor(QPoint(1, 1), bounded, photo);
-        CropPainting::ChangedRegion(bounded, QRect(3, 3, 9, 9));
-        QImage canvas(50, 50, QImage::Format_RGB32);
-        QPainter painter(&canvas);
-        CropPainting::PaintFrame(painter, canvas.rect(), canvas.rect(), bounded);
-    }
-}
-
-// Catches halving that ends at nothing, one step late, or for one limit only, and a negative limit that
-// leaves one pixel.
-void TestCropPicture::HalvingStopsInTime()
-{
-    const auto halved = [](const QSize& size, const QSize& maximum) {
-        return CropPicture::ChanageImageByAspectRatio(QImage(size, QImage::Format_RGB32), maximum).size();
-    };
-    QCOMPARE(halved({3000, 2000}, {640, 480}), QSize(375, 250));
-    QCOMPARE(halved({640, 480}, {640, 480}), QSize(640, 480));
-    QCOMPARE(halved({641, 10}, {640, 480}), QSize(320, 5));
-    QCOMPARE(halved({10, 481}, {640, 480}), QSize(4, 240)); // proportions kept
-    QCOMPARE(halved({3000, 2000}, {0, 480}), QSize(3000, 2000)); // one limit is none
-    QCOMPARE(halved({3000, 2000}, {640, 0}), QSize(3000, 2000));
-    QCOMPARE(halved({1, 20000}, {100, 100}), QSize(1, 20000));
-    QCOMPARE(halved({4, 2000}, {100, 100}), QSize(1, 500));
-    QCOMPARE(halved({9, 9}, {-5, -5}), QSize(9, 9));
-    QCOMPARE(halved({9, 9}, {4, -1}), QSize(9, 9));
-    QCOMPARE(halved({0, 0}, {-1, -1}), QSize(0, 0));
-}
-
-// Catches limits checked in another order, one of two limits taken for none, and a compress ratio touched
-// where nothing was measured.
-void TestCropPicture::LimitsAreChecked_data()
-{
-    QTest::addColumn<QSize>("crop"); // on a photo shown at half its size of 400 x 300
-    QTest::addColumn<int>("capacity");
-    QTest::addColumn<QSize>("maximum");
-    QTest::addColumn<bool>("keep");
-    QTest::addColumn<int>("verdict");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("ratio"); // -2 for not measured
-
-    const int valid = int(CropPicture::Verdict::Valid);
-    const int noArea = int(CropPicture::Verdict::NoArea);
-    const int pixels = int(CropPicture::Verdict::TooManyPixels);
-    const int bytes = int(CropPicture::Verdict::TooManyBytes);
-    const QSize whole(200, 150);
-    const QSize none(0, 0);
-    QTest::newRow("no limit") << whole << 0 << none << false << valid << QSize(400, 300) << -2;
-    QTest::newRow("no width") << QSize(0, 9) << 0 << none << false << noArea << none << -2;
-    QTest::newRow("no height") << QSize(9, 0) << 0 << none << false << noArea << none << -2;
-    QTest::newRow("pixels without bytes")
-        << whole << 0 << QSize(10, 10) << false << valid << QSize(400, 300) << -2;
-    QTest::newRow("fits at once") << whole << 900000 << none << false << valid << QSize(400, 300) << 90;
-    QTest::newRow("never fits") << whole << 1 << none << false << bytes << none << -1;
-    QTest::newRow("negative bytes") << whole << -9 << none << false << valid << QSize(400, 300) << -2;
-    QTest::newRow("negative pixels") << whole << 900000 << QSize(-1, -1) << false << valid << QSize(400, 300)
-                                     << 90;
-    QTest::newRow("too wide") << whole << 900000 << QSize(399, 300) << false << pixels << none << -2;
-    QTest::newRow("width alone") << whole << 900000 << QSize(400, 0) << false << pixels << none << -2;
-    QTest::newRow("halved") << whole << 900000 << QSize(399, 300) << true << valid << QSize(200, 150) << 90;
-    QTest::newRow("width alone, kept")
-        << whole << 900000 << QSize(400, 0) << true << valid << QSize(400, 300) << 90;
-}
-
-void TestCropPicture::LimitsAreChecked()
-{
-    QFETCH(QSize, crop);
-    QFETCH(int, capacity);
-    QFETCH(QSize, maximum);
-    QFETCH(bool, keep);
-    const CropPicture::Limits limits{capacity, maximum, keep};
-    CutImageInfo info;
-    info.bHasImage = true;
-    info.image = Scene(QSize(400, 300));
-    const QRect photo(0, 0, 200, 150);
-    const CropPicture::CheckedCut cut
-        = CropPicture::CheckCut(info, QRect(QPoint(0, 0), crop), photo, photo.size(), limits);
-    QTEST(int(cut.verdict), "verdict");
-    QTEST(cut.image.size(), "size");
-    QTEST(cut.compressRatio.value_or(-2), "ratio");
-}
-
-// Catches a resize that was "tidied": the bottom edge lags one event behind, the left edge stays.
-void TestCropPicture::ResizingKeepsToItsSteps()
-{
-    const QPoint anchor = CropFrame::Anchor(QRect(50, 60, 100, 60));
-    QCOMPARE(anchor, QPoint(50, 120));
-    const QRect first = CropFrame::ResizedTo(QPoint(160, 50), QRect(50, 60, 100, 60), anchor);
-    QCOMPARE(first, QRect(50, 50, 111, 61));
-    const QRect second = CropFrame::ResizedTo(QPoint(160, 50), first, anchor);
-    QCOMPARE(second, QRect(50, 50, 111, 71));
-    QVERIFY(CropFrame::CanResizeTo(QPoint(70, 100), QRect(50, 60, 100, 60)));
-    QVERIFY(!CropFrame::CanResizeTo(QPoint(69, 100), QRect(50, 60, 100, 60)));
-    QVERIFY(!CropFrame::CanResizeTo(QPoint(70, 101), QRect(50, 60, 100, 60)));
-}
-
-// Catches the frame's corners taken where the photo's count, and another order of the tests.
-void TestCropPicture::CursorsTellPlaces()
-{
-    const auto cursor = [](int x, int y) {
-        return CropFrame::HoverCursor({x, y}, QRect(30, 40, 100, 50), QRect(0, 0, 200, 150));
-    };
-    QCOMPARE(cursor(20, 40), Qt::SizeAllCursor);
-    QCOMPARE(cursor(19, 40), Qt::ArrowCursor);
-    QCOMPARE(cursor(230, 30), Qt::SizeAllCursor); // a photo's width to the right
-    QCOMPARE(cursor(231, 40), Qt::ArrowCursor);
-    QCOMPARE(cursor(100, 50), Qt::SizeAllCursor); // below the upper edge
-    QCOMPARE(cursor(100, 51), Qt::ArrowCursor);
-    QCOMPARE(cursor(190, 10), Qt::SizeBDiagCursor); // the photo's top right
-    QCOMPARE(cursor(210, 160), Qt::OpenHandCursor); // and bottom right
-    QCOMPARE(cursor(130, 90), Qt::ArrowCursor); // the frame's
-}
-
-// Catches traces that a dragged frame leaves behind because too little is painted again.
-void TestCropPicture::ChangedRegionsHoldAllThatDiffers()
-{
-    const QRect photo(0, 0, 90, 70);
-    const QRect frames[]
-        = {QRect(20, 20, 40, 30), QRect(20, 20, 41, 31), QRect(19, 22, 40, 30), QRect(60, 50, -30, -20),
-           QRect(5, 5, 0, 0),     QRect(0, 0, 90, 70),   QRect(80, 60, 30, 30), QRect(30, 30, 3, 50)};
-    const auto painted = [&](const QRect& frame) {
-        QImage image(photo.size(), QImage::Format_RGB32);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        CropPainting::PaintFrame(painter, image.rect(), photo, frame);
-        return image;
-    };
-    for (const QRect& before : frames)
-        for (const QRect& now : frames) {
-            const QImage a = painted(before);
-            const QImage b = painted(now);
-            const QRegion changed = CropPainting::ChangedRegion(before, now);
-            for (int y = 0; y < photo.height(); ++y)
-                for (int x = 0; x < photo.width(); ++x)
-                    QVERIFY(a.pixel(x, y) == b.pixel(x, y) || changed.contains(QPoint(x, y)));
-        }
-}
-
-// Catches a frame that is painted quickly but not as a dotted pen paints it, at the corners above all and
-// where it comes into the canvas from outside.
-void TestCropPicture::DotsAreThoseOfAPen()
-{
-    QVector<QRect> crops
-        = {{-3001, 4, 6002, 500}, {-700, -900, 730, 931}, {7, -2000, 3000, 4001}, {-50, -60, 400, 93}};
-    for (int width = 0; width < 40; ++width)
-        for (int height = 0; height < 40; ++height)
-            crops << QRect(5, 4, width, height);
-    for (const QRect& crop : crops) {
-        QImage ours(50, 50, QImage::Format_RGB32);
-        ours.fill(Qt::darkGreen);
-        QImage pens = ours;
-        QPainter painter(&ours);
-        CropPainting::PaintFrame(painter, ours.rect(), crop, crop);
-        QPainter pen(&pens);
-        pen.setPen(QPen(QColor(0x40, 0xC4, 0xFF), 2.0, Qt::DotLine, Qt::SquareCap, Qt::BevelJoin));
-        pen.drawRect(crop);
-        QVERIFY2(ours == pens, qPrintable(QStringLiteral("%1 x %2").arg(crop.width()).arg(crop.height())));
-    }
-}
-
-// Catches a fast search that ends at another quality or another size than encoding each one.
-void TestCropPicture::JpegFittingEqualsThePlainLoop_data()
-{
-    QTest::addColumn<QImage>("image");
-
-    const QImage scene = Scene(QSize(333, 217));
-    QTest::newRow("null") << QImage();
-    QTest::newRow("1 x 1") << Gradient(QSize(1, 1));
-    QTest::newRow("1 x 20000") << Gradient(QSize(1, 20000));
-    QTest::newRow("20000 x 1") << Gradient(QSize(20000, 1));
-    QTest::newRow("sizes rise at lower quality") << Checkerboard(QSize(64, 64), 2);
-    QTest::newRow("checkerboard") << Checkerboard(QSize(200, 200), 3);
-    QTest::newRow("flat") << Noise(QSize(256, 200), 1);
-    QTest::newRow("noise") << Noise(QSize(256, 200), 128);
-    QTest::newRow("soft noise") << Noise(QSize(201, 190), 12);
-    QTest::newRow("gradient") << Gradient(QSize(310, 222));
-    QTest::newRow("text") << Text(QSize(240, 240));
-    QTest::newRow("scene") << scene;
-    for (const int extra : {0, 1, 7, 8, 9, 15})
-        QTest::addRow("edges %d", extra) << Scene(QSize(160 + extra, 144 + 15 - extra));
-    QTest::newRow("comments, resolution, colour space") << WithDetails(scene);
-    QTest::newRow("translucent") << Translucent(scene, QImage::Format_ARGB32);
-    QTest::newRow("premultiplied") << Translucent(scene, QImage::Format_ARGB32_Premultiplied);
-    const QImage::Format formats[] = {
-        QImage::Format_Mono,     QImage::Format_MonoLSB,    QImage::Format_Indexed8,    QImage::Format_RGB16,
-        QImage::Format_RGB555,   QImage::Format_RGB888,     QImage::Format_BGR888,      QImage::Format_RGB30,
-        QImage::Format_RGBX8888, QImage::Format_Grayscale8, QImage::Format_Grayscale16, QImage::Format_RGBX64,
-        QImage::Format_Alpha8};
-    for (const QImage::Format format : formats)
-        QTest::addRow("format %d", format) << scene.convertToFormat(format);
-    QTest::newRow("translucent 64 bits") << Translucent(scene, QImage::Format_RGBA64);
-    QTest::newRow("grey palette") << GreyPalette(scene);
-}
-
-void TestCropPicture::JpegFittingEqualsThePlainLoop()
-{
-    QFETCH(QImage, image);
-    const PlainLoop loop(image);
-    for (const int percent : {100, 60, 31, 22, 15, 11, 8, 6, 5, 4, 3, 2, 1, 0}) {
-        // One byte more or less than a true size is where an approximation would show.
-        const int fitting = loop.Fit(loop.Largest() * percent / 100).bytes;
-        for (const int maximum : {loop.Largest() * percent / 100, fitting, fitting - 1}) {
-            const JpegFit plain = loop.Fit(maximum);
-            const JpegFit fit = FitJpeg(image, maximum);
-            QCOMPARE(fit.bytes, plain.bytes);
-            QCOMPARE(fit.ratio, plain.ratio);
-        }
-    }
-}
-
-// Catches an encoder that is asked all the same, and warns.
-void TestCropPicture::NoJpegIsLongerThanItsFormatAllows()
-{
-    QVERIFY(!JpegBytes(QImage(65500, 1, QImage::Format_RGB32), 0).isEmpty());
-    QVERIFY(JpegBytes(QImage(65501, 1, QImage::Format_RGB32), 0).isEmpty());
-}
-
-// Catches counting that no longer agrees with the encoder, which costs nothing but all of the speed.
-void TestCropPicture::ForecastCoversUsualPictures()
-{
-    const QImage scene = Scene(QSize(333, 217));
-    const QImage images[] = {
-        scene,
-        Noise(QSize(256, 200), 128),
-        WithDetails(scene),
-        scene.convertToFormat(QImage::Format_Grayscale8),
-        scene.convertToFormat(QImage::Format_Indexed8),
-        Translucent(scene, QImage::Format_ARGB32),
-        scene.convertToFormat(QImage::Format_RGBA64),
-    };
-    for (const QImage& image : images) {
-        JpegForecast forecast(image);
-        for (int quality = 90; quality >= 0; quality = NextLowerQuality(quality)) {
-            const QByteArray bytes = Encoded(image, quality);
-            // Bytes of 255 among the picture's bits are followed by a zero, which is not counted.
-            const int counted = bytes.size() - bytes.count(QByteArray("\xFF\x00", 2));
-            QVERIFY(forecast.Exceeds(quality, counted - 1));
-            QVERIFY(!forecast.Exceeds(quality, bytes.size()));
-        }
-    }
-}
 
 STRICT_TEST_MAIN(TestCropPicture)
 #include "tst_croppicture.moc"

@@ -8,18 +8,8 @@
 
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
 
-#include <QApplication>
-#include <QBuffer>
-#include <QLabel>
-#include <QMenu>
-#include <QMouseEvent>
-#include <QPointer>
-#include <QScreen>
-#include <QSignalSpy>
-#include <QStyle>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 #include <functional>
 #include <memory>
 
@@ -188,572 +178,550 @@ class TestCutPhoto : public QObject
     Q_OBJECT
 
 private slots:
-    void DraggingMarksAFrame();
-    void TheCornerMovesToThePointer();
-    void ResizingFollowsThePointer();
-    void AResizedWholePhotoStaysResized();
-    void HoverLooksAtTheLastPress();
-    void OnlyAPressedCanvasIsDimmed();
-    void PaintedStepsEqualAFreshPaint();
-    void TheMenuOffersSearchesInOrder();
-    void SearchesAreReported();
-    void ASearchEndsReloading();
-    void CancelTakesTheFrameAway();
-    void SearchHandleOpensTheMenu();
-    void AMenuMayDeleteTheCanvas();
-    void ASlotMayDeleteTheCanvas();
-    void KeysEmptyTheFrame();
-    void ResizingReadsTheFileAgain();
-    void APictureInMemoryIsLostByAResize();
-    void FilesOfAllKindsAreRead_data();
-    void FilesOfAllKindsAreRead();
-    void CanvasesWithoutASizeWork();
-    void InvalidChoicesAreTold();
-    void LimitsReachTheCut();
-    void PlainDragsAreReported();
-    void PlainDragsBeginOnThePhoto();
-    void PlainTipGoesWithTheFirstDrag();
-    void APlainSlotMayDeleteTheCanvas();
-};
-
-// Catches a drag whose frame is off, the least size taken without its sign or its limit, and the extents of
-// an earlier selection that make a click a frame of no size.
-void TestCutPhoto::DraggingMarksAFrame()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    const auto framed = [&](const QPoint& from, const QPoint& to) {
-        canvas->OnClose();
-        Drag(*canvas, from, to);
-        return Framed(*canvas);
-    };
-    QCOMPARE(framed({20, 10}, {120, 60}), QRect(20, 10, 100, 50));
-    QCOMPARE(framed({20, 10}, {26, 16}), QRect(20, 10, 6, 6));
-    QCOMPARE(framed({20, 10}, {25, 60}), Whole);
-    QCOMPARE(framed({20, 10}, {90, 15}), Whole);
-    QCOMPARE(framed({20, 10}, {20, 10}), Whole);
-    QCOMPARE(framed({120, 60}, {20, 10}), Whole); // left and up
-    QCOMPARE(framed({120, 10}, {20, 60}), Whole);
-    QCOMPARE(framed({20, 60}, {120, 10}), Whole);
-    QCOMPARE(framed({20, 10}, {120, 60}), QRect(20, 10, 100, 50));
-    canvas->OnClose();
-    Click(*canvas, {30, 30});
-    QCOMPARE(Framed(*canvas), Whole);
-}
-
-// Catches a move that keeps the distance between corner and pointer, one that leaves the picture, and a
-// handle that reaches too far or not far enough.
-void TestCutPhoto::TheCornerMovesToThePointer()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    const auto corner = [&](const QPoint& press, const QPoint& to) {
-        canvas->OnClose();
-        Drag(*canvas, {40, 30}, {100, 70});
-        Drag(*canvas, press, to);
-        MoveHeld(*canvas, {60, 60}); // the button is up: nothing moves any more
-        const QRect framed = Framed(*canvas);
-        return framed.size() == QSize(60, 40) ? framed.topLeft() : QPoint(-1, -1);
-    };
-    QCOMPARE(corner({40, 30}, {70, 50}), QPoint(70, 50));
-    QCOMPARE(corner({50, 20}, {70, 50}), QPoint(70, 50)); // farthest in the handle
-    QCOMPARE(corner({51, 30}, {70, 50}), QPoint(40, 30)); // beside it
-    QCOMPARE(corner({40, 19}, {70, 50}), QPoint(40, 30)); // above it
-    QCOMPARE(corner({40, 30}, {140, 50}), QPoint(140, 50)); // to the edges, and past them
-    QCOMPARE(corner({40, 30}, {141, 50}), QPoint(91, 40));
-    QCOMPARE(corner({40, 30}, {60, 110}), QPoint(60, 110));
-    QCOMPARE(corner({40, 30}, {60, 111}), QPoint(50, 71));
-    QCOMPARE(corner({40, 30}, {0, 20}), QPoint(0, 20));
-    QCOMPARE(corner({40, 30}, {-1, 20}), QPoint(20, 25));
-}
-
-// Catches a resize by another corner, or one that does not stop near the opposite edges.
-void TestCutPhoto::ResizingFollowsThePointer()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, {50, 60}, {150, 120});
-    Press(*canvas, {150, 60});
-    QCOMPARE(canvas->cursor().shape(), Qt::SizeBDiagCursor);
-    MoveHeld(*canvas, {160, 50});
-    QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
-    MoveHeld(*canvas, {69, 50}); // too near to the left edge
-    QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
-    QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(69, 50));
-    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
-    QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
-}
-
-// Catches a release that looks at the extents of the click that selected everything.
-void TestCutPhoto::AResizedWholePhotoStaysResized()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Click(*canvas, {30, 30});
-    Drag(*canvas, {195, 5}, {151, 41});
-    QCOMPARE(Framed(*canvas).width(), 152);
-    // And one that does not: a click beside all handles makes it the whole photo again.
-    canvas->OnClose();
-    Click(*canvas, {30, 30});
-    canvas->SetCutRegion(QRect(50, 50, 20, 20));
-    Click(*canvas, {150, 20});
-    QCOMPARE(Framed(*canvas), Whole);
-}
-
-// Catches a host's timer that changes the cursor before there is a frame, or looks at the live pointer.
-void TestCutPhoto::HoverLooksAtTheLastPress()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    canvas->setCursor(Qt::WaitCursor);
-    canvas->OnTimeOut();
-    QCOMPARE(canvas->cursor().shape(), Qt::WaitCursor);
-    Drag(*canvas, {40, 30}, {100, 70});
-    canvas->OnTimeOut();
-    QCOMPARE(canvas->cursor().shape(), Qt::SizeAllCursor);
-    Click(*canvas, {150, 120});
-    MoveHeld(*canvas, {40, 30});
-    canvas->setCursor(Qt::WaitCursor);
-    canvas->OnTimeOut();
-    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
-}
-
-// Catches a mask that is painted too early or too long, over the frame, or misplaced while a selection runs
-// backwards.
-void TestCutPhoto::OnlyAPressedCanvasIsDimmed()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    canvas->SetCutRegion(QRect(60, 60, 50, 50));
-    const QPoint inside(90, 90);
-    const QPoint outside(150, 120);
-    const QRgb bright = PixelAt(*canvas, inside);
-    const QRgb brightOutside = PixelAt(*canvas, outside);
-    QCOMPARE(bright, PlacePicture(Source).pixel(inside * 2));
-
-    Press(*canvas, {120, 110});
-    MoveHeld(*canvas, {60, 60});
-    QCOMPARE(PixelAt(*canvas, inside), bright);
-    QVERIFY(qAbs(qRed(PixelAt(*canvas, outside)) - qRed(brightOutside) / 2) <= 1);
-    QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
-    QCOMPARE(PixelAt(*canvas, outside), brightOutside); // the whole photo is framed
-
-    canvas->OnClose();
-    QCOMPARE(PixelAt(*canvas, inside), bright);
-    QCOMPARE(PixelAt(*canvas, outside), brightOutside);
-}
-
-// Catches pixels of an earlier step that stay behind because too little was painted again.
-void TestCutPhoto::PaintedStepsEqualAFreshPaint()
-{
-    const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
-    const auto plain = MakeCanvas<CCutDetailPhoto>();
-    const QPoint places[]
-        = {{20, 20}, {90, 70}, {150, 80}, {140, 130}, {10, 140}, {5, 5}, {80, 10}, {81, 11}};
-    for (QWidget* canvas : {static_cast<QWidget*>(zoom.get()), static_cast<QWidget*>(plain.get())}) {
-        QVERIFY(QTest::qWaitForWindowExposed(canvas));
-        QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(60, 50));
-        for (const QPoint& place : places) {
-            MoveHeld(*canvas, place);
-            QCoreApplication::processEvents();
-            const QImage shown = canvas->screen()->grabWindow(canvas->winId()).toImage();
-            QCOMPARE(
-                shown.convertToFormat(QImage::Format_RGB32),
-                canvas->grab().toImage().convertToFormat(QImage::Format_RGB32));
-        }
-        QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(81, 11));
-    }
-}
-
-// Catches another order, a missing icon or another look of the menu.
-void TestCutPhoto::TheMenuOffersSearchesInOrder()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    int menus = 0;
-    OnNextMenu([&](QMenu* menu) {
-        ++menus;
-        QStringList texts;
-        for (const QAction* action : menu->actions()) {
-            texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
-            QVERIFY(action->isSeparator() || !action->icon().pixmap(20, 20).isNull());
-            QCOMPARE(action->parent(), menu);
-        }
-        const QStringList expected
-            = {QStringLiteral("Vehicle Images Search"), QStringLiteral("Face Image Search"),
-               QStringLiteral("-"), QStringLiteral("Human Body Image Search"), QStringLiteral("Cancel")};
-        QCOMPARE(texts, expected);
-        QCOMPARE(menu->objectName(), QStringLiteral("mainMenu"));
-        QVERIFY(menu->width() >= 220);
-        QCOMPARE(menu->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, menu), 20);
-        QCOMPARE(
-            menu->styleSheet(),
-            QStringLiteral("QMenu::item:hover{background-color:#29465a;color:#bbbbbb}"
-                           "QMenu::item:selected{background-color:#29465a;color:#bbbbbb}"));
-    });
-    Press(*canvas, {100, 100}, Qt::RightButton);
-    QCOMPARE(menus, 1);
-    // Dismissed, it stays until a choice or a close.
-    QCOMPARE(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).size(), 1);
-    canvas->OnClose();
-    QVERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
-}
-
-// Catches actions connected to another search, at once instead of queued, or a menu that stays, were it only
-// until the next events.
-void TestCutPhoto::SearchesAreReported()
-{
-    const char* const texts[] = {"Vehicle Images Search", "Face Image Search", "Human Body Image Search"};
-    for (int chosen = 0; chosen < 3; ++chosen) {
+    // Catches a drag whose frame is off, the least size taken without its sign or its limit, and the extents
+    // of an earlier selection that make a click a frame of no size.
+    void DraggingMarksAFrame()
+    {
         const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-        QVector<int> reported;
-        connect(canvas.get(), &CCutPhotoWithZoom::SignClickVehicleSearch, [&] { reported << 0; });
-        connect(canvas.get(), &CCutPhotoWithZoom::SignClickFaceSearch, [&] { reported << 1; });
-        connect(canvas.get(), &CCutPhotoWithZoom::SignClickHumanSearch, [&] { reported << 2; });
-        OnNextMenu([&](QMenu* menu) { ChooseInMenu(menu, QLatin1String(texts[chosen])); });
+        const auto framed = [&](const QPoint& from, const QPoint& to) {
+            canvas->OnClose();
+            Drag(*canvas, from, to);
+            return Framed(*canvas);
+        };
+        QCOMPARE(framed({20, 10}, {120, 60}), QRect(20, 10, 100, 50));
+        QCOMPARE(framed({20, 10}, {26, 16}), QRect(20, 10, 6, 6));
+        QCOMPARE(framed({20, 10}, {25, 60}), Whole);
+        QCOMPARE(framed({20, 10}, {90, 15}), Whole);
+        QCOMPARE(framed({20, 10}, {20, 10}), Whole);
+        QCOMPARE(framed({120, 60}, {20, 10}), Whole); // left and up
+        QCOMPARE(framed({120, 10}, {20, 60}), Whole);
+        QCOMPARE(framed({20, 60}, {120, 10}), Whole);
+        QCOMPARE(framed({20, 10}, {120, 60}), QRect(20, 10, 100, 50));
+        canvas->OnClose();
+        Click(*canvas, {30, 30});
+        QCOMPARE(Framed(*canvas), Whole);
+    }
+
+    // Catches a move that keeps the distance between corner and pointer, one that leaves the picture, and a
+    // handle that reaches too far or not far enough.
+    void TheCornerMovesToThePointer()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        const auto corner = [&](const QPoint& press, const QPoint& to) {
+            canvas->OnClose();
+            Drag(*canvas, {40, 30}, {100, 70});
+            Drag(*canvas, press, to);
+            MoveHeld(*canvas, {60, 60}); // the button is up: nothing moves any more
+            const QRect framed = Framed(*canvas);
+            return framed.size() == QSize(60, 40) ? framed.topLeft() : QPoint(-1, -1);
+        };
+        QCOMPARE(corner({40, 30}, {70, 50}), QPoint(70, 50));
+        QCOMPARE(corner({50, 20}, {70, 50}), QPoint(70, 50)); // farthest in the handle
+        QCOMPARE(corner({51, 30}, {70, 50}), QPoint(40, 30)); // beside it
+        QCOMPARE(corner({40, 19}, {70, 50}), QPoint(40, 30)); // above it
+        QCOMPARE(corner({40, 30}, {140, 50}), QPoint(140, 50)); // to the edges, and past them
+        QCOMPARE(corner({40, 30}, {141, 50}), QPoint(91, 40));
+        QCOMPARE(corner({40, 30}, {60, 110}), QPoint(60, 110));
+        QCOMPARE(corner({40, 30}, {60, 111}), QPoint(50, 71));
+        QCOMPARE(corner({40, 30}, {0, 20}), QPoint(0, 20));
+        QCOMPARE(corner({40, 30}, {-1, 20}), QPoint(20, 25));
+    }
+
+    // Catches a resize by another corner, or one that does not stop near the opposite edges.
+    void ResizingFollowsThePointer()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        Drag(*canvas, {50, 60}, {150, 120});
+        Press(*canvas, {150, 60});
+        QCOMPARE(canvas->cursor().shape(), Qt::SizeBDiagCursor);
+        MoveHeld(*canvas, {160, 50});
+        QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
+        MoveHeld(*canvas, {69, 50}); // too near to the left edge
+        QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
+        QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(69, 50));
+        QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(Framed(*canvas), QRect(50, 50, 111, 61));
+    }
+
+    // Catches a release that looks at the extents of the click that selected everything.
+    void AResizedWholePhotoStaysResized()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        Click(*canvas, {30, 30});
+        Drag(*canvas, {195, 5}, {151, 41});
+        QCOMPARE(Framed(*canvas).width(), 152);
+        // And one that does not: a click beside all handles makes it the whole photo again.
+        canvas->OnClose();
+        Click(*canvas, {30, 30});
+        canvas->SetCutRegion(QRect(50, 50, 20, 20));
+        Click(*canvas, {150, 20});
+        QCOMPARE(Framed(*canvas), Whole);
+    }
+
+    // Catches a host's timer that changes the cursor before there is a frame, or looks at the live pointer.
+    void HoverLooksAtTheLastPress()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        canvas->setCursor(Qt::WaitCursor);
+        canvas->OnTimeOut();
+        QCOMPARE(canvas->cursor().shape(), Qt::WaitCursor);
+        Drag(*canvas, {40, 30}, {100, 70});
+        canvas->OnTimeOut();
+        QCOMPARE(canvas->cursor().shape(), Qt::SizeAllCursor);
+        Click(*canvas, {150, 120});
+        MoveHeld(*canvas, {40, 30});
+        canvas->setCursor(Qt::WaitCursor);
+        canvas->OnTimeOut();
+        QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    // Catches a mask that is painted too early or too long, over the frame, or misplaced while a selection
+    // runs backwards.
+    void OnlyAPressedCanvasIsDimmed()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        canvas->SetCutRegion(QRect(60, 60, 50, 50));
+        const QPoint inside(90, 90);
+        const QPoint outside(150, 120);
+        const QRgb bright = PixelAt(*canvas, inside);
+        const QRgb brightOutside = PixelAt(*canvas, outside);
+        QCOMPARE(bright, PlacePicture(Source).pixel(inside * 2));
+
+        Press(*canvas, {120, 110});
+        MoveHeld(*canvas, {60, 60});
+        QCOMPARE(PixelAt(*canvas, inside), bright);
+        QVERIFY(qAbs(qRed(PixelAt(*canvas, outside)) - qRed(brightOutside) / 2) <= 1);
+        QTest::mouseRelease(canvas.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
+        QCOMPARE(PixelAt(*canvas, outside), brightOutside); // the whole photo is framed
+
+        canvas->OnClose();
+        QCOMPARE(PixelAt(*canvas, inside), bright);
+        QCOMPARE(PixelAt(*canvas, outside), brightOutside);
+    }
+
+    // Catches pixels of an earlier step that stay behind because too little was painted again.
+    void PaintedStepsEqualAFreshPaint()
+    {
+        const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
+        const auto plain = MakeCanvas<CCutDetailPhoto>();
+        const QPoint places[]
+            = {{20, 20}, {90, 70}, {150, 80}, {140, 130}, {10, 140}, {5, 5}, {80, 10}, {81, 11}};
+        for (QWidget* canvas : {static_cast<QWidget*>(zoom.get()), static_cast<QWidget*>(plain.get())}) {
+            QVERIFY(QTest::qWaitForWindowExposed(canvas));
+            QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(60, 50));
+            for (const QPoint& place : places) {
+                MoveHeld(*canvas, place);
+                QCoreApplication::processEvents();
+                const QImage shown = canvas->screen()->grabWindow(canvas->winId()).toImage();
+                QCOMPARE(
+                    shown.convertToFormat(QImage::Format_RGB32),
+                    canvas->grab().toImage().convertToFormat(QImage::Format_RGB32));
+            }
+            QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(81, 11));
+        }
+    }
+
+    // Catches another order, a missing icon or another look of the menu.
+    void TheMenuOffersSearchesInOrder()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        int menus = 0;
+        OnNextMenu([&](QMenu* menu) {
+            ++menus;
+            QStringList texts;
+            for (const QAction* action : menu->actions()) {
+                texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
+                QVERIFY(action->isSeparator() || !action->icon().pixmap(20, 20).isNull());
+                QCOMPARE(action->parent(), menu);
+            }
+            const QStringList expected
+                = {QStringLiteral("Vehicle Images Search"), QStringLiteral("Face Image Search"),
+                   QStringLiteral("-"), QStringLiteral("Human Body Image Search"), QStringLiteral("Cancel")};
+            QCOMPARE(texts, expected);
+            QCOMPARE(menu->objectName(), QStringLiteral("mainMenu"));
+            QVERIFY(menu->width() >= 220);
+            QCOMPARE(menu->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, menu), 20);
+            QCOMPARE(
+                menu->styleSheet(),
+                QStringLiteral("QMenu::item:hover{background-color:#29465a;color:#bbbbbb}"
+                               "QMenu::item:selected{background-color:#29465a;color:#bbbbbb}"));
+        });
         Press(*canvas, {100, 100}, Qt::RightButton);
-        QCOMPARE(reported, QVector<int>());
-        QCoreApplication::processEvents();
-        QCOMPARE(reported, QVector<int>{chosen});
+        QCOMPARE(menus, 1);
+        // Dismissed, it stays until a choice or a close.
+        QCOMPARE(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).size(), 1);
+        canvas->OnClose();
         QVERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
     }
-}
 
-// Catches a picture that is read again while the host closes after a search.
-void TestCutPhoto::ASearchEndsReloading()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    canvas->OnFaceSearchPicture();
-    canvas->resize(100, 75);
-    QVERIFY(canvas->GetCutPhoto().bHasImage);
-    canvas->OnClose();
-    canvas->resize(110, 75);
-    QVERIFY(!canvas->GetCutPhoto().bHasImage);
-}
+    // Catches actions connected to another search, at once instead of queued, or a menu that stays, were it
+    // only until the next events.
+    void SearchesAreReported()
+    {
+        const char* const texts[] = {"Vehicle Images Search", "Face Image Search", "Human Body Image Search"};
+        for (int chosen = 0; chosen < 3; ++chosen) {
+            const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+            QVector<int> reported;
+            connect(canvas.get(), &CCutPhotoWithZoom::SignClickVehicleSearch, [&] { reported << 0; });
+            connect(canvas.get(), &CCutPhotoWithZoom::SignClickFaceSearch, [&] { reported << 1; });
+            connect(canvas.get(), &CCutPhotoWithZoom::SignClickHumanSearch, [&] { reported << 2; });
+            OnNextMenu([&](QMenu* menu) { ChooseInMenu(menu, QLatin1String(texts[chosen])); });
+            Press(*canvas, {100, 100}, Qt::RightButton);
+            QCOMPARE(reported, QVector<int>());
+            QCoreApplication::processEvents();
+            QCOMPARE(reported, QVector<int>{chosen});
+            QVERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
+        }
+    }
 
-// Catches a frame or a completed state that survives "Cancel".
-void TestCutPhoto::CancelTakesTheFrameAway()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, {20, 10}, {120, 60});
-    OnNextMenu([](QMenu* menu) { ChooseInMenu(menu, QStringLiteral("Cancel")); });
-    Press(*canvas, {150, 100}, Qt::RightButton);
-    QCoreApplication::processEvents();
-    QCOMPARE(Framed(*canvas), QRect());
-    Drag(*canvas, {30, 40}, {60, 80});
-    QCOMPARE(Framed(*canvas), QRect(30, 40, 30, 40));
-    KvGUI::KvMessageNotify::Instance()->CloseAll();
-}
+    // Catches a picture that is read again while the host closes after a search.
+    void ASearchEndsReloading()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        canvas->OnFaceSearchPicture();
+        canvas->resize(100, 75);
+        QVERIFY(canvas->GetCutPhoto().bHasImage);
+        canvas->OnClose();
+        canvas->resize(110, 75);
+        QVERIFY(!canvas->GetCutPhoto().bHasImage);
+    }
 
-// Catches a handle at another corner, and the second menu of a right press on it.
-void TestCutPhoto::SearchHandleOpensTheMenu()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, {20, 10}, {120, 60});
-    int menus = 0;
-    const auto count = [&](QMenu*) { ++menus; };
-    OnNextMenu(count);
-    Press(*canvas, {130, 70});
-    QCOMPARE(menus, 1);
-    OnNextMenu([&](QMenu* menu) {
+    // Catches a frame or a completed state that survives "Cancel".
+    void CancelTakesTheFrameAway()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        Drag(*canvas, {20, 10}, {120, 60});
+        OnNextMenu([](QMenu* menu) { ChooseInMenu(menu, QStringLiteral("Cancel")); });
+        Press(*canvas, {150, 100}, Qt::RightButton);
+        QCoreApplication::processEvents();
+        QCOMPARE(Framed(*canvas), QRect());
+        Drag(*canvas, {30, 40}, {60, 80});
+        QCOMPARE(Framed(*canvas), QRect(30, 40, 30, 40));
+        KvGUI::KvMessageNotify::Instance()->CloseAll();
+    }
+
+    // Catches a handle at another corner, and the second menu of a right press on it.
+    void SearchHandleOpensTheMenu()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        Drag(*canvas, {20, 10}, {120, 60});
+        int menus = 0;
+        const auto count = [&](QMenu*) { ++menus; };
         OnNextMenu(count);
-        count(menu);
-    });
-    Press(*canvas, {120, 60}, Qt::RightButton);
-    QCOMPARE(menus, 3);
-}
+        Press(*canvas, {130, 70});
+        QCOMPARE(menus, 1);
+        OnNextMenu([&](QMenu* menu) {
+            OnNextMenu(count);
+            count(menu);
+        });
+        Press(*canvas, {120, 60}, Qt::RightButton);
+        QCOMPARE(menus, 3);
+    }
 
-// Catches a canvas that goes on after it was deleted while its modal menu was open, or by what was chosen.
-void TestCutPhoto::AMenuMayDeleteTheCanvas()
-{
-    for (const auto& [button, byChoice] :
-         {std::pair(Qt::LeftButton, false), std::pair(Qt::LeftButton, true),
-          std::pair(Qt::RightButton, false), std::pair(Qt::RightButton, true)}) {
+    // Catches a canvas that goes on after it was deleted while its modal menu was open, or by what was
+    // chosen.
+    void AMenuMayDeleteTheCanvas()
+    {
+        for (const auto& [button, byChoice] :
+             {std::pair(Qt::LeftButton, false), std::pair(Qt::LeftButton, true),
+              std::pair(Qt::RightButton, false), std::pair(Qt::RightButton, true)}) {
+            QWidget host;
+            host.resize(Canvas);
+            TestSupport::AnnounceCropCanvases();
+            const QPointer<CCutPhotoWithZoom> canvas = new CCutPhotoWithZoom(&host);
+            canvas->resize(Canvas);
+            host.show();
+            canvas->SetSrcImage(PlacePicture(Source));
+            Drag(*canvas, {20, 10}, {120, 60});
+            connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, this, [&] { delete canvas; });
+            OnNextMenu([&, choose = byChoice](QMenu* menu) {
+                if (choose)
+                    ChooseInMenu(menu, QStringLiteral("Face Image Search"));
+                else
+                    delete canvas;
+            });
+            QTest::mousePress(host.windowHandle(), button, Qt::NoModifier, QPoint(120, 60));
+            QTRY_VERIFY(canvas.isNull());
+            QTest::mouseRelease(host.windowHandle(), button, Qt::NoModifier, QPoint(120, 60));
+        }
+    }
+
+    // Catches state that is touched after a slot has deleted the canvas.
+    void ASlotMayDeleteTheCanvas()
+    {
+        for (const char* slot : {"OnFaceSearchPicture", "OnKeyPressed"}) {
+            CCutPhotoWithZoom* canvas = MakeCanvas<CCutPhotoWithZoom>().release();
+            const QPointer<CCutPhotoWithZoom> guard(canvas);
+            connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, canvas, [canvas] { delete canvas; });
+            connect(canvas, &CCutPhotoWithZoom::SignCloseWind, canvas, [canvas] { delete canvas; });
+            QMetaObject::invokeMethod(canvas, slot);
+            QVERIFY(guard.isNull());
+        }
+    }
+
+    // Catches Escape and the host's key slot that keep the frame, or that begin a new selection.
+    void KeysEmptyTheFrame()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        QSignalSpy closed(canvas.get(), &CCutPhotoWithZoom::SignCloseWind);
+        Drag(*canvas, {40, 30}, {120, 80});
+        QTest::keyRelease(canvas.get(), Qt::Key_Return);
+        QCOMPARE(Framed(*canvas), QRect(40, 30, 80, 50));
+        QTest::keyRelease(canvas.get(), Qt::Key_Escape);
+        QCOMPARE(Framed(*canvas), QRect());
+        QVERIFY(closed.isEmpty());
+        // A frame counts as completed still: a press selects nothing new.
+        Press(*canvas, {90, 90});
+        MoveHeld(*canvas, {140, 130});
+        QCOMPARE(Framed(*canvas), QRect());
+
+        canvas->SetCutRegion(QRect(40, 30, 80, 50));
+        canvas->OnKeyPressed();
+        QCOMPARE(closed.size(), 1);
+        QCOMPARE(Framed(*canvas), QRect());
+        KvGUI::KvMessageNotify::Instance()->CloseAll();
+    }
+
+    // Catches a frame that does not follow its photo, and a file that is not read again.
+    void ResizingReadsTheFileAgain()
+    {
+        const QTemporaryDir folder;
+        const QString path
+            = WriteFile(folder, QStringLiteral("photo.png"), Encoded(PlacePicture(Source), "PNG"));
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        canvas->SetSrcPhoto(path);
+        Drag(*canvas, {20, 10}, {120, 60});
+        canvas->resize(Canvas / 2);
+        QCOMPARE(canvas->GetCutPhoto().strFilePath, path);
+        QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50)); // the same pixels of the picture
+        canvas->resize(Canvas * 2);
+        QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50));
+        QVERIFY(QFile::remove(path));
+        canvas->resize(Canvas);
+        QVERIFY(!canvas->GetCutPhoto().bHasImage);
+    }
+
+    // Catches a canvas that keeps what it cannot read again.
+    void APictureInMemoryIsLostByAResize()
+    {
+        const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
+        zoom->resize(100, 100);
+        QVERIFY(zoom->GetCutPhoto().image.isNull());
+        const auto plain = MakeCanvas<CCutDetailPhoto>();
+        plain->resize(100, 100);
+        QCOMPARE(plain->GetCutPhoto().image.size(), Source);
+    }
+
+    // Catches formats told by the name, and a file that is not read to its end but taken, or crashes the
+    // client.
+    void FilesOfAllKindsAreRead_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QSize>("size"); // empty when it is not a picture
+
+        const QImage scene = PlacePicture(QSize(60, 40));
+        const QByteArray png = Encoded(scene, "PNG");
+        const auto encoded
+            = [&](QImage::Format format) { return Encoded(scene.convertToFormat(format), "PNG"); };
+        QTest::newRow("jpeg") << "a.jpg" << Encoded(scene, "JPG") << scene.size();
+        QTest::newRow("renamed png") << "a.jpg" << png << QSize(60, 40);
+        QTest::newRow("without a suffix") << "a" << Encoded(scene, "BMP") << QSize(60, 40);
+        QTest::newRow("1 x 1") << "a.png" << Encoded(PlacePicture(QSize(1, 1)), "PNG") << QSize(1, 1);
+        QTest::newRow("thread") << "a.png" << Encoded(PlacePicture(QSize(1, 20000)), "PNG")
+                                << QSize(1, 20000);
+        QTest::newRow("16 bits") << "a.png" << encoded(QImage::Format_RGBA64) << scene.size();
+        QTest::newRow("palette") << "a.png" << encoded(QImage::Format_Indexed8) << scene.size();
+        QTest::newRow("two colours") << "a.png" << encoded(QImage::Format_Mono) << scene.size();
+        QImage clear(QSize(60, 40), QImage::Format_ARGB32);
+        clear.fill(Qt::transparent);
+        QTest::newRow("alpha") << "a.png" << Encoded(clear, "PNG") << QSize(60, 40);
+        QTest::newRow("four colours") << "a.jpg" << FourColorJpeg() << QSize(8, 8);
+        QTest::newRow("camera on its side") << "a.jpg" << RotatedJpeg(scene) << QSize(60, 40);
+        QTest::newRow("truncated png") << "a.png" << png.left(png.size() / 2) << QSize();
+        QTest::newRow("text") << "a.png" << QByteArray("no picture at all") << QSize();
+        QTest::newRow("empty file") << "a.png" << QByteArray() << QSize();
+    }
+
+    void FilesOfAllKindsAreRead()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QSize, size);
+        const QTemporaryDir folder;
+        const QString path = WriteFile(folder, name, bytes);
+        const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
+        const auto plain = MakeCanvas<CCutDetailPhoto>();
+        zoom->SetSrcPhoto(QString());
+        QCOMPARE(zoom->GetCutPhoto().image.size(), Source);
+        zoom->SetSrcPhoto(path);
+        plain->SetSrcPhoto(path);
+        for (const CutImageInfo& info : {zoom->GetCutPhoto(), plain->GetCutPhoto()}) {
+            QCOMPARE(info.bHasImage, !size.isEmpty());
+            QCOMPARE(info.image.isNull(), size.isEmpty());
+            QCOMPARE(info.strFilePath, size.isEmpty() ? QString() : path);
+            if (!size.isEmpty())
+                QCOMPARE(info.image.size(), size);
+        }
+        zoom->SetImageMaxCapacity(5000);
+        Drag(*zoom, QPoint(20, 10), QPoint(120, 60));
+        zoom->IsCutPhotoVaildWithNotify();
+        plain->IsCutPhotoVaildWithNotify();
+        zoom->grab();
+        plain->grab();
+        KvGUI::KvMessageNotify::Instance()->CloseAll();
+    }
+
+    // Catches a division by the size of a canvas that has none yet, and an event that a client's canvas
+    // passes on and that is none.
+    void CanvasesWithoutASizeWork()
+    {
+        struct OpenZoom : CCutPhotoWithZoom
+        {
+            using CCutPhotoWithZoom::mouseMoveEvent;
+        };
+        struct OpenPlain : CCutDetailPhoto
+        {
+            using CCutDetailPhoto::mouseMoveEvent;
+        };
+        TestSupport::AnnounceCropCanvases();
+        OpenZoom zoom;
+        OpenPlain plain;
+        zoom.mouseMoveEvent(nullptr);
+        plain.mouseMoveEvent(nullptr);
+        zoom.resize(0, 0);
+        plain.resize(0, 40);
+        zoom.SetSrcImage(PlacePicture(Source));
+        plain.SetSrcImage(PlacePicture(Source));
+        zoom.SetImageMaxCapacity(1000);
+        QTest::mouseClick(&zoom, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+        QTest::mouseClick(&plain, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+        QVERIFY(!zoom.IsCutPhotoVaildWithNotify());
+        QVERIFY(!plain.IsCutPhotoVaildWithNotify());
+        zoom.SetCutRegion(QRect(3, 3, 30, 30));
+        zoom.IsCutPhotoVaildWithNotify();
+        zoom.grab();
+        plain.grab();
+        KvGUI::KvMessageNotify::Instance()->CloseAll();
+    }
+
+    // Catches another message, or one that is not shown, or shown where nothing is to be said.
+    void InvalidChoicesAreTold()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
+        QVERIFY(IsTold(NoArea));
+
+        Drag(*canvas, {20, 10}, {120, 60});
+        canvas->SetImageMaxCapacity(50000);
+        canvas->SetPicMaxSize(199, 300);
+        QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
+        QVERIFY(IsTold(QStringLiteral("Picture size exceeds the upper limit of 199 * 300.")));
+        QCOMPARE(canvas->GetCutPhoto().image.size(), Source);
+
+        canvas->SetPicMaxSize(0, 0);
+        canvas->SetImageMaxCapacity(1);
+        QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
+        QVERIFY(!IsTold(NoArea));
+        QCOMPARE(canvas->GetCompressRatio(), -1);
+        QCOMPARE(canvas->GetCutPhoto().image.size(), Source);
+    }
+
+    // Catches a limit that a setter loses, a compressed picture as the result, or a quality of no use.
+    void LimitsReachTheCut()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        Drag(*canvas, {20, 10}, {120, 60});
+        QVERIFY(canvas->IsCutPhotoVaildWithNotify());
+        QCOMPARE(canvas->GetCompressRatio(), 100);
+
+        canvas->SetSrcImage(PlacePicture(Source));
+        canvas->SetPicMaxSize(150, 150);
+        QCOMPARE(canvas->ChanageImageByAspectRatio(PlacePicture(Source)).size(), QSize(100, 75));
+        canvas->SetKeepAspectRatio(true);
+        canvas->SetImageMaxCapacity(2000);
+        QVERIFY(canvas->IsCutPhotoVaildWithNotify());
+        const QImage cut = canvas->GetCutPhoto().image;
+        QCOMPARE(cut.size(), QSize(100, 50));
+        QCOMPARE(cut.pixel(0, 0), PlacePicture(Source).pixel(40, 20));
+        QVERIFY(canvas->GetCompressRatio() < 90);
+        QVERIFY(Encoded(cut, "JPG", canvas->GetCompressRatio()).size() <= 2000);
+    }
+
+    // Catches wrong corners or flags of a drag, and a clamp one pixel off.
+    void PlainDragsAreReported()
+    {
+        const QPoint middle(100, 80);
+        const auto reported = [&](const QPoint& to) {
+            const auto canvas = MakeCanvas<CCutDetailPhoto>();
+            QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
+            Drag(*canvas, middle, to);
+            MoveHeld(*canvas, {3, 3});
+            return updated.size() == 2 ? QVariantList(updated.last()) : QVariantList(); // one a step
+        };
+        QCOMPARE(reported({150, 100}), (QVariantList{QRect(100, 80, 51, 21), true, true}));
+        QCOMPARE(reported({50, 60}), (QVariantList{QRect(50, 60, 51, 21), false, false}));
+        QCOMPARE(reported({50, 100}), (QVariantList{QRect(50, 80, 51, 21), false, true}));
+        QCOMPARE(reported({150, 60}), (QVariantList{QRect(100, 60, 51, 21), true, false}));
+        QCOMPARE(reported(middle), (QVariantList{QRect(100, 80, 1, 1), true, true}));
+        QCOMPARE(reported({100, 90}), (QVariantList{QRect(100, 80, 1, 11), true, true}));
+        QCOMPARE(reported({500, 80}), (QVariantList{QRect(100, 80, 101, 1), true, true})); // past the edges
+        QCOMPARE(reported({100, 500}), (QVariantList{QRect(100, 80, 1, 70), true, true}));
+        QCOMPARE(reported({-9, -9}), (QVariantList{QRect(0, 0, 101, 81), false, false}));
+    }
+
+    // Catches a drag from beside the photo that marks something, a new picture that is not wholly selected,
+    // and a cursor that stays when the pointer leaves the photo.
+    void PlainDragsBeginOnThePhoto()
+    {
+        const auto canvas = MakeCanvas<CCutDetailPhoto>();
+        canvas->resize(300, 200);
+        QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
+        MoveHeld(*canvas, {199, 149});
+        QCOMPARE(canvas->cursor().shape(), Qt::CrossCursor);
+        MoveHeld(*canvas, {200, 149});
+        QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
+        Drag(*canvas, {200, 50}, {100, 100});
+        QVERIFY(updated.isEmpty());
+        QCOMPARE(Framed(*canvas), Whole);
+        Drag(*canvas, {199, 149}, {100, 100});
+        QCOMPARE(Framed(*canvas), QRect(100, 100, 100, 50));
+        canvas->SetCutRegion(QRect(20, 10, 60, 40));
+        QCOMPARE(Framed(*canvas), QRect(20, 10, 60, 40));
+    }
+
+    // Catches a bubble that covers the photo while it is cropped, or that comes back.
+    void PlainTipGoesWithTheFirstDrag()
+    {
+        const auto canvas = MakeCanvas<CCutDetailPhoto>();
+        auto* tip = canvas->findChild<QWidget*>(QStringLiteral("CComTipWiget"));
+        QVERIFY(tip != nullptr && tip->isVisible());
+        Click(*canvas, {50, 50});
+        QVERIFY(tip->isVisible());
+        Drag(*canvas, {50, 50}, {90, 90});
+        QVERIFY(!tip->isVisible());
+        canvas->SetSrcImage(PlacePicture(Source));
+        QVERIFY(!tip->isVisible());
+    }
+
+    // Catches state that is touched after a slot has deleted the canvas in the middle of a drag.
+    void APlainSlotMayDeleteTheCanvas()
+    {
         QWidget host;
         host.resize(Canvas);
-        TestSupport::AnnounceCropCanvases();
-        const QPointer<CCutPhotoWithZoom> canvas = new CCutPhotoWithZoom(&host);
+        auto* canvas = new CCutDetailPhoto(&host);
         canvas->resize(Canvas);
-        host.show();
         canvas->SetSrcImage(PlacePicture(Source));
-        Drag(*canvas, {20, 10}, {120, 60});
-        connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, this, [&] { delete canvas; });
-        OnNextMenu([&, choose = byChoice](QMenu* menu) {
-            if (choose)
-                ChooseInMenu(menu, QStringLiteral("Face Image Search"));
-            else
-                delete canvas;
-        });
-        QTest::mousePress(host.windowHandle(), button, Qt::NoModifier, QPoint(120, 60));
-        QTRY_VERIFY(canvas.isNull());
-        QTest::mouseRelease(host.windowHandle(), button, Qt::NoModifier, QPoint(120, 60));
-    }
-}
-
-// Catches state that is touched after a slot has deleted the canvas.
-void TestCutPhoto::ASlotMayDeleteTheCanvas()
-{
-    for (const char* slot : {"OnFaceSearchPicture", "OnKeyPressed"}) {
-        CCutPhotoWithZoom* canvas = MakeCanvas<CCutPhotoWithZoom>().release();
-        const QPointer<CCutPhotoWithZoom> guard(canvas);
-        connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, canvas, [canvas] { delete canvas; });
-        connect(canvas, &CCutPhotoWithZoom::SignCloseWind, canvas, [canvas] { delete canvas; });
-        QMetaObject::invokeMethod(canvas, slot);
+        host.show();
+        const QPointer<CCutDetailPhoto> guard(canvas);
+        connect(canvas, &CCutDetailPhoto::SignalUpdateCutRect, canvas, [canvas] { delete canvas; });
+        QTest::mousePress(host.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+        QTest::mouseMove(host.windowHandle(), QPoint(80, 80));
+        QCoreApplication::processEvents();
         QVERIFY(guard.isNull());
+        QTest::mouseRelease(host.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(80, 80));
     }
-}
-
-// Catches Escape and the host's key slot that keep the frame, or that begin a new selection.
-void TestCutPhoto::KeysEmptyTheFrame()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    QSignalSpy closed(canvas.get(), &CCutPhotoWithZoom::SignCloseWind);
-    Drag(*canvas, {40, 30}, {120, 80});
-    QTest::keyRelease(canvas.get(), Qt::Key_Return);
-    QCOMPARE(Framed(*canvas), QRect(40, 30, 80, 50));
-    QTest::keyRelease(canvas.get(), Qt::Key_Escape);
-    QCOMPARE(Framed(*canvas), QRect());
-    QVERIFY(closed.isEmpty());
-    // A frame counts as completed still: a press selects nothing new.
-    Press(*canvas, {90, 90});
-    MoveHeld(*canvas, {140, 130});
-    QCOMPARE(Framed(*canvas), QRect());
-
-    canvas->SetCutRegion(QRect(40, 30, 80, 50));
-    canvas->OnKeyPressed();
-    QCOMPARE(closed.size(), 1);
-    QCOMPARE(Framed(*canvas), QRect());
-    KvGUI::KvMessageNotify::Instance()->CloseAll();
-}
-
-// Catches a frame that does not follow its photo, and a file that is not read again.
-void TestCutPhoto::ResizingReadsTheFileAgain()
-{
-    const QTemporaryDir folder;
-    const QString path = WriteFile(folder, QStringLiteral("photo.png"), Encoded(PlacePicture(Source), "PNG"));
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    canvas->SetSrcPhoto(path);
-    Drag(*canvas, {20, 10}, {120, 60});
-    canvas->resize(Canvas / 2);
-    QCOMPARE(canvas->GetCutPhoto().strFilePath, path);
-    QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50)); // the same pixels of the picture
-    canvas->resize(Canvas * 2);
-    QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50));
-    QVERIFY(QFile::remove(path));
-    canvas->resize(Canvas);
-    QVERIFY(!canvas->GetCutPhoto().bHasImage);
-}
-
-// Catches a canvas that keeps what it cannot read again.
-void TestCutPhoto::APictureInMemoryIsLostByAResize()
-{
-    const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
-    zoom->resize(100, 100);
-    QVERIFY(zoom->GetCutPhoto().image.isNull());
-    const auto plain = MakeCanvas<CCutDetailPhoto>();
-    plain->resize(100, 100);
-    QCOMPARE(plain->GetCutPhoto().image.size(), Source);
-}
-
-// Catches formats told by the name, and a file that is not read to its end but taken, or crashes the client.
-void TestCutPhoto::FilesOfAllKindsAreRead_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QSize>("size"); // empty when it is not a picture
-
-    const QImage scene = PlacePicture(QSize(60, 40));
-    const QByteArray png = Encoded(scene, "PNG");
-    const auto encoded = [&](QImage::Format format) { return Encoded(scene.convertToFormat(format), "PNG"); };
-    QTest::newRow("jpeg") << "a.jpg" << Encoded(scene, "JPG") << scene.size();
-    QTest::newRow("renamed png") << "a.jpg" << png << QSize(60, 40);
-    QTest::newRow("without a suffix") << "a" << Encoded(scene, "BMP") << QSize(60, 40);
-    QTest::newRow("1 x 1") << "a.png" << Encoded(PlacePicture(QSize(1, 1)), "PNG") << QSize(1, 1);
-    QTest::newRow("thread") << "a.png" << Encoded(PlacePicture(QSize(1, 20000)), "PNG") << QSize(1, 20000);
-    QTest::newRow("16 bits") << "a.png" << encoded(QImage::Format_RGBA64) << scene.size();
-    QTest::newRow("palette") << "a.png" << encoded(QImage::Format_Indexed8) << scene.size();
-    QTest::newRow("two colours") << "a.png" << encoded(QImage::Format_Mono) << scene.size();
-    QImage clear(QSize(60, 40), QImage::Format_ARGB32);
-    clear.fill(Qt::transparent);
-    QTest::newRow("alpha") << "a.png" << Encoded(clear, "PNG") << QSize(60, 40);
-    QTest::newRow("four colours") << "a.jpg" << FourColorJpeg() << QSize(8, 8);
-    QTest::newRow("camera on its side") << "a.jpg" << RotatedJpeg(scene) << QSize(60, 40);
-    QTest::newRow("truncated png") << "a.png" << png.left(png.size() / 2) << QSize();
-    QTest::newRow("text") << "a.png" << QByteArray("no picture at all") << QSize();
-    QTest::newRow("empty file") << "a.png" << QByteArray() << QSize();
-}
-
-void TestCutPhoto::FilesOfAllKindsAreRead()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, bytes);
-    QFETCH(QSize, size);
-    const QTemporaryDir folder;
-    const QString path = WriteFile(folder, name, bytes);
-    const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
-    const auto plain = MakeCanvas<CCutDetailPhoto>();
-    zoom->SetSrcPhoto(QString());
-    QCOMPARE(zoom->GetCutPhoto().image.size(), Source);
-    zoom->SetSrcPhoto(path);
-    plain->SetSrcPhoto(path);
-    for (const CutImageInfo& info : {zoom->GetCutPhoto(), plain->GetCutPhoto()}) {
-        QCOMPARE(info.bHasImage, !size.isEmpty());
-        QCOMPARE(info.image.isNull(), size.isEmpty());
-        QCOMPARE(info.strFilePath, size.isEmpty() ? QString() : path);
-        if (!size.isEmpty())
-            QCOMPARE(info.image.size(), size);
-    }
-    zoom->SetImageMaxCapacity(5000);
-    Drag(*zoom, QPoint(20, 10), QPoint(120, 60));
-    zoom->IsCutPhotoVaildWithNotify();
-    plain->IsCutPhotoVaildWithNotify();
-    zoom->grab();
-    plain->grab();
-    KvGUI::KvMessageNotify::Instance()->CloseAll();
-}
-
-// Catches a division by the size of a canvas that has none yet, and an event that a client's canvas passes on
-// and that is none.
-void TestCutPhoto::CanvasesWithoutASizeWork()
-{
-    struct OpenZoom : CCutPhotoWithZoom
-    {
-        using CCutPhotoWithZoom::mouseMoveEvent;
-    };
-    struct OpenPlain : CCutDetailPhoto
-    {
-        using CCutDetailPhoto::mouseMoveEvent;
-    };
-    TestSupport::AnnounceCropCanvases();
-    OpenZoom zoom;
-    OpenPlain plain;
-    zoom.mouseMoveEvent(nullptr);
-    plain.mouseMoveEvent(nullptr);
-    zoom.resize(0, 0);
-    plain.resize(0, 40);
-    zoom.SetSrcImage(PlacePicture(Source));
-    plain.SetSrcImage(PlacePicture(Source));
-    zoom.SetImageMaxCapacity(1000);
-    QTest::mouseClick(&zoom, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
-    QTest::mouseClick(&plain, Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
-    QVERIFY(!zoom.IsCutPhotoVaildWithNotify());
-    QVERIFY(!plain.IsCutPhotoVaildWithNotify());
-    zoom.SetCutRegion(QRect(3, 3, 30, 30));
-    zoom.IsCutPhotoVaildWithNotify();
-    zoom.grab();
-    plain.grab();
-    KvGUI::KvMessageNotify::Instance()->CloseAll();
-}
-
-// Catches another message, or one that is not shown, or shown where nothing is to be said.
-void TestCutPhoto::InvalidChoicesAreTold()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
-    QVERIFY(IsTold(NoArea));
-
-    Drag(*canvas, {20, 10}, {120, 60});
-    canvas->SetImageMaxCapacity(50000);
-    canvas->SetPicMaxSize(199, 300);
-    QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
-    QVERIFY(IsTold(QStringLiteral("Picture size exceeds the upper limit of 199 * 300.")));
-    QCOMPARE(canvas->GetCutPhoto().image.size(), Source);
-
-    canvas->SetPicMaxSize(0, 0);
-    canvas->SetImageMaxCapacity(1);
-    QVERIFY(!canvas->IsCutPhotoVaildWithNotify());
-    QVERIFY(!IsTold(NoArea));
-    QCOMPARE(canvas->GetCompressRatio(), -1);
-    QCOMPARE(canvas->GetCutPhoto().image.size(), Source);
-}
-
-// Catches a limit that a setter loses, a compressed picture as the result, or a quality of no use.
-void TestCutPhoto::LimitsReachTheCut()
-{
-    const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
-    Drag(*canvas, {20, 10}, {120, 60});
-    QVERIFY(canvas->IsCutPhotoVaildWithNotify());
-    QCOMPARE(canvas->GetCompressRatio(), 100);
-
-    canvas->SetSrcImage(PlacePicture(Source));
-    canvas->SetPicMaxSize(150, 150);
-    QCOMPARE(canvas->ChanageImageByAspectRatio(PlacePicture(Source)).size(), QSize(100, 75));
-    canvas->SetKeepAspectRatio(true);
-    canvas->SetImageMaxCapacity(2000);
-    QVERIFY(canvas->IsCutPhotoVaildWithNotify());
-    const QImage cut = canvas->GetCutPhoto().image;
-    QCOMPARE(cut.size(), QSize(100, 50));
-    QCOMPARE(cut.pixel(0, 0), PlacePicture(Source).pixel(40, 20));
-    QVERIFY(canvas->GetCompressRatio() < 90);
-    QVERIFY(Encoded(cut, "JPG", canvas->GetCompressRatio()).size() <= 2000);
-}
-
-// Catches wrong corners or flags of a drag, and a clamp one pixel off.
-void TestCutPhoto::PlainDragsAreReported()
-{
-    const QPoint middle(100, 80);
-    const auto reported = [&](const QPoint& to) {
-        const auto canvas = MakeCanvas<CCutDetailPhoto>();
-        QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
-        Drag(*canvas, middle, to);
-        MoveHeld(*canvas, {3, 3});
-        return updated.size() == 2 ? QVariantList(updated.last()) : QVariantList(); // one a step
-    };
-    QCOMPARE(reported({150, 100}), (QVariantList{QRect(100, 80, 51, 21), true, true}));
-    QCOMPARE(reported({50, 60}), (QVariantList{QRect(50, 60, 51, 21), false, false}));
-    QCOMPARE(reported({50, 100}), (QVariantList{QRect(50, 80, 51, 21), false, true}));
-    QCOMPARE(reported({150, 60}), (QVariantList{QRect(100, 60, 51, 21), true, false}));
-    QCOMPARE(reported(middle), (QVariantList{QRect(100, 80, 1, 1), true, true}));
-    QCOMPARE(reported({100, 90}), (QVariantList{QRect(100, 80, 1, 11), true, true}));
-    QCOMPARE(reported({500, 80}), (QVariantList{QRect(100, 80, 101, 1), true, true})); // past the edges
-    QCOMPARE(reported({100, 500}), (QVariantList{QRect(100, 80, 1, 70), true, true}));
-    QCOMPARE(reported({-9, -9}), (QVariantList{QRect(0, 0, 101, 81), false, false}));
-}
-
-// Catches a drag from beside the photo that marks something, a new picture that is not wholly selected, and
-// a cursor that stays when the pointer leaves the photo.
-void TestCutPhoto::PlainDragsBeginOnThePhoto()
-{
-    const auto canvas = MakeCanvas<CCutDetailPhoto>();
-    canvas->resize(300, 200);
-    QSignalSpy updated(canvas.get(), &CCutDetailPhoto::SignalUpdateCutRect);
-    MoveHeld(*canvas, {199, 149});
-    QCOMPARE(canvas->cursor().shape(), Qt::CrossCursor);
-    MoveHeld(*canvas, {200, 149});
-    QCOMPARE(canvas->cursor().shape(), Qt::ArrowCursor);
-    Drag(*canvas, {200, 50}, {100, 100});
-    QVERIFY(updated.isEmpty());
-    QCOMPARE(Framed(*canvas), Whole);
-    Drag(*canvas, {199, 149}, {100, 100});
-    QCOMPARE(Framed(*canvas), QRect(100, 100, 100, 50));
-    canvas->SetCutRegion(QRect(20, 10, 60, 40));
-    QCOMPARE(Framed(*canvas), QRect(20, 10, 60, 40));
-}
-
-// Catches a bubble that covers the photo while it is cropped, or that comes back.
-void TestCutPhoto::PlainTipGoesWithTheFirstDrag()
-{
-    const auto canvas = MakeCanvas<CCutDetailPhoto>();
-    auto* tip = canvas->findChild<QWidget*>(QStringLiteral("CComTipWiget"));
-    QVERIFY(tip != nullptr && tip->isVisible());
-    Click(*canvas, {50, 50});
-    QVERIFY(tip->isVisible());
-    Drag(*canvas, {50, 50}, {90, 90});
-    QVERIFY(!tip->isVisible());
-    canvas->SetSrcImage(PlacePicture(Source));
-    QVERIFY(!tip->isVisible());
-}
-
-// Catches state that is touched after a slot has deleted the canvas in the middle of a drag.
-void TestCutPhoto::APlainSlotMayDeleteTheCanvas()
-{
-    QWidget host;
-    host.resize(Canvas);
-    auto* canvas = new CCutDetailPhoto(&host);
-    canvas->resize(Canvas);
-    canvas->SetSrcImage(PlacePicture(Source));
-    host.show();
-    const QPointer<CCutDetailPhoto> guard(canvas);
-    connect(canvas, &CCutDetailPhoto::SignalUpdateCutRect, canvas, [canvas] { delete canvas; });
-    QTest::mousePress(host.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
-    QTest::mouseMove(host.windowHandle(), QPoint(80, 80));
-    QCoreApplication::processEvents();
-    QVERIFY(guard.isNull());
-    QTest::mouseRelease(host.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(80, 80));
-}
+};
 
 STRICT_TEST_MAIN(TestCutPhoto)
 #include "tst_cutphoto.moc"

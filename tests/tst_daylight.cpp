@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <Common/QCommon.h>
@@ -45,45 +46,40 @@ class TestDaylight : public QObject
     Q_OBJECT
 
 private slots:
-    void Answers_data();
-    void Answers();
+    void Answers_data()
+    {
+        TestSupport::Columns<QByteArray, QByteArray, QByteArray>("settings", "timeZone", "answers");
+        const QByteArray zone(kTimeZone);
+        QTest::newRow("no file") << QByteArray() << zone << QByteArray("00100");
+        QTest::newRow("enabled") << QByteArray("[DST]\nenable=1\n") << zone << QByteArray("11000");
+        QTest::newRow("enabled by word") << QByteArray("[DST]\nenable=true\n") << zone << QByteArray("11000");
+        QTest::newRow("disabled") << QByteArray("[DST]\nenable=0\n") << zone << QByteArray("00100");
+        QTest::newRow("other section") << QByteArray("[Other]\nenable=1\n") << zone << QByteArray("00100");
+        QTest::newRow("no summer time")
+            << QByteArray("[DST]\nenable=0\n") << QByteArray(kNoSummerTime) << QByteArray("00000");
+    }
+
+    /// Catches a file that is looked for elsewhere, a flag that follows later edits, an adjustment when the
+    /// application makes it itself, and winter taken for summer.
+    void Answers()
+    {
+        QFETCH(QByteArray, settings);
+        QFETCH(QByteArray, timeZone);
+        QFETCH(QByteArray, answers);
+        QTemporaryDir folder;
+        if (!settings.isEmpty())
+            WriteSettings(folder.path(), settings);
+
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("TZ"), QString::fromLatin1(timeZone));
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), folder.path()});
+        QVERIFY(child.waitForFinished());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.readAllStandardOutput(), answers);
+    }
 };
-
-void TestDaylight::Answers_data()
-{
-    QTest::addColumn<QByteArray>("settings");
-    QTest::addColumn<QByteArray>("timeZone");
-    QTest::addColumn<QByteArray>("answers");
-    const QByteArray zone(kTimeZone);
-    QTest::newRow("no file") << QByteArray() << zone << QByteArray("00100");
-    QTest::newRow("enabled") << QByteArray("[DST]\nenable=1\n") << zone << QByteArray("11000");
-    QTest::newRow("enabled by word") << QByteArray("[DST]\nenable=true\n") << zone << QByteArray("11000");
-    QTest::newRow("disabled") << QByteArray("[DST]\nenable=0\n") << zone << QByteArray("00100");
-    QTest::newRow("other section") << QByteArray("[Other]\nenable=1\n") << zone << QByteArray("00100");
-    QTest::newRow("no summer time") << QByteArray("[DST]\nenable=0\n") << QByteArray(kNoSummerTime)
-                                    << QByteArray("00000");
-}
-
-/// Catches a file that is looked for elsewhere, a flag that follows later edits, an adjustment when the
-/// application makes it itself, and winter taken for summer.
-void TestDaylight::Answers()
-{
-    QFETCH(QByteArray, settings);
-    QFETCH(QByteArray, timeZone);
-    QFETCH(QByteArray, answers);
-    QTemporaryDir folder;
-    if (!settings.isEmpty())
-        WriteSettings(folder.path(), settings);
-
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TZ"), QString::fromLatin1(timeZone));
-    child.setProcessEnvironment(environment);
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child"), folder.path()});
-    QVERIFY(child.waitForFinished());
-    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(child.readAllStandardOutput(), answers);
-}
 
 int main(int argc, char** argv)
 {

@@ -3,14 +3,11 @@
 #include <support/CropCanvas.h>
 #include <support/StrictMain.h>
 
-#include <QBuffer>
-#include <QDir>
-#include <QFile>
-#include <QIcon>
-#include <QPluginLoader>
-#include <QRegularExpression>
 #include <QUiLoader>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+
+#include <QtTest>
+#include <QtWidgets>
 #include <memory>
 
 namespace {

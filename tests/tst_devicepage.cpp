@@ -1,5 +1,6 @@
 // The client's device form, filled in by the keyboard alone.
 
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <Platform/BasicUIComponents/KvSkin.h>
@@ -12,14 +13,8 @@
 #include <gallery/Forms/PasswordRating.h>
 #include <gallery/MainWindow.h>
 
-#include <QAccessible>
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTextEdit>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 
 using namespace OperatorClient;
 using namespace UICommonMdl;
@@ -80,134 +75,125 @@ class TestDevicePage : public QObject
     Q_OBJECT
 
 private slots:
-    void Ratings_data();
-    void Ratings();
-    void FilledInByKeys();
-    void FirstWrongFieldTells();
-    void NewGroups();
-    void EveryFieldHasAName();
-    void FolderComesFromAFile();
-};
-
-void TestDevicePage::Ratings_data()
-{
-    QTest::addColumn<QString>("password");
-    QTest::addColumn<int>("level");
-    QTest::newRow("none") << QString() << 0;
-    QTest::newRow("short") << QStringLiteral("aB1-") << 1;
-    QTest::newRow("long, of one kind") << QStringLiteral("abcdefghijklmnop") << 1;
-    QTest::newRow("eight of two kinds") << QStringLiteral("abcdefg1") << 2;
-    QTest::newRow("seven of two kinds") << QStringLiteral("abcdef1") << 1;
-    QTest::newRow("nine of three kinds") << QStringLiteral("abcdefG1x") << 2;
-    QTest::newRow("ten of three kinds") << QStringLiteral("abcdefG1xx") << 3;
-}
-
-/// Catches limits that are off by one.
-void TestDevicePage::Ratings()
-{
-    QFETCH(QString, password);
-    QTEST(RatePassword(password), "level");
-}
-
-/// Catches a field that the keyboard cannot reach or leave, and a shortcut that two fields claim.
-void TestDevicePage::FilledInByKeys()
-{
-    Client client;
-    QSignalSpy reports(client.page, &Page::SignalReport);
-    client.Shortcut('n');
-    client.Type(QStringLiteral("North gate"));
-    client.Press(Qt::Key_Tab);
-    client.Type(QStringLiteral("192.168.1.64"));
-    client.Press(Qt::Key_Enter, Qt::KeypadModifier);
-    QVERIFY(client.Field("Serial number")->hasFocus());
-    client.Shortcut('i');
-    QVERIFY(client.page->findChild<QIpAddrEdit*>()->isAncestorOf(QApplication::focusWidget()));
-    client.Shortcut('e');
-    client.Type(QStringLiteral("operator"));
-    client.Press(Qt::Key_Tab);
-    client.Type(QStringLiteral("Wren-4127-oak"));
-    QCOMPARE(client.page->findChild<CPasswordStrength*>()->GetStrength(), 3);
-    client.Shortcut('s');
-    QCOMPARE(Bubble(), QString());
-    QCOMPARE(
-        reports.value(0).value(0).toString(),
-        QStringLiteral("North gate at 192.168.1.64 saved in the group Entrances"));
-    client.Shortcut('c');
-    QVERIFY(client.Field("Name")->text().isEmpty());
-    QCOMPARE(client.page->findChild<CPasswordStrength*>()->GetStrength(), 0);
-}
-
-/// Catches a complaint at another field than the first wrong one, and one that stays.
-void TestDevicePage::FirstWrongFieldTells()
-{
-    Client client;
-    auto* address = client.page->findChild<QIpAddrEdit*>();
-    client.Shortcut('s');
-    QCOMPARE(Bubble(), QStringLiteral("Enter a name"));
-    QVERIFY(client.Field("Name")->hasFocus());
-    client.Type(QStringLiteral("North gate"));
-    client.Shortcut('s');
-    QCOMPARE(Bubble(), QStringLiteral("Enter the device's address"));
-    QVERIFY(address->errorState());
-    client.Type(QStringLiteral("10.0.0."));
-    QVERIFY(!address->errorState());
-    client.Shortcut('s');
-    QCOMPARE(Bubble(), QStringLiteral("The address needs four numbers"));
-    client.Type(QStringLiteral("7"));
-    QCOMPARE(address->text(), QStringLiteral("10.0.0.7"));
-    client.Shortcut('s');
-    QCOMPARE(Bubble(), QStringLiteral("Enter the user of the device"));
-    client.Type(QStringLiteral("operator"));
-    client.Shortcut('s');
-    QCOMPARE(Bubble(), QStringLiteral("Enter the password"));
-    QVERIFY(client.Field("Password")->hasFocus());
-}
-
-/// Catches a group that is lost or added twice, and a dialog that closes on a name it refuses.
-void TestDevicePage::NewGroups()
-{
-    Client client;
-    const auto* groups = client.page->findChild<QComboBox*>();
-    const int before = groups->count();
-    client.Shortcut('o');
-    auto* dialog = client.page->findChild<WmAddGroup*>();
-    QVERIFY(dialog->isVisible());
-    auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("edtName"));
-    const auto save = [&](const QString& name) {
-        edit->clear();
-        QTest::keyClicks(edit, name);
-        QTest::keyClick(edit, Qt::Key_Return);
-        return !dialog->isVisible();
-    };
-    QVERIFY(!save(QStringLiteral("car park")));
-    QCOMPARE(groups->count(), before);
-    QVERIFY(save(QStringLiteral("Gates")));
-    QCOMPARE(groups->count(), before + 1);
-    QCOMPARE(groups->currentText(), QStringLiteral("Gates"));
-}
-
-/// Catches a field that a screen reader cannot name.
-void TestDevicePage::EveryFieldHasAName()
-{
-    Client client;
-    int fields = 0;
-    for (QWidget* widget : client.page->findChildren<QWidget*>()) {
-        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
-            continue;
-        ++fields;
-        const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), widget->metaObject()->className());
+    void Ratings_data()
+    {
+        TestSupport::Columns<QString, int>("password", "level");
+        QTest::newRow("none") << QString() << 0;
+        QTest::newRow("short") << QStringLiteral("aB1-") << 1;
+        QTest::newRow("long, of one kind") << QStringLiteral("abcdefghijklmnop") << 1;
+        QTest::newRow("eight of two kinds") << QStringLiteral("abcdefg1") << 2;
+        QTest::newRow("seven of two kinds") << QStringLiteral("abcdef1") << 1;
+        QTest::newRow("nine of three kinds") << QStringLiteral("abcdefG1x") << 2;
+        QTest::newRow("ten of three kinds") << QStringLiteral("abcdefG1xx") << 3;
     }
-    QVERIFY(fields >= 18);
-}
 
-/// Catches a folder field that keeps the file by which the folder was chosen.
-void TestDevicePage::FolderComesFromAFile()
-{
-    Client client;
-    client.Field("Folder")->setText(QCoreApplication::applicationFilePath());
-    QCOMPARE(client.Field("Folder")->text(), QCoreApplication::applicationDirPath());
-}
+    /// Catches limits that are off by one.
+    void Ratings()
+    {
+        QFETCH(QString, password);
+        QTEST(RatePassword(password), "level");
+    }
+
+    /// Catches a field that the keyboard cannot reach or leave, and a shortcut that two fields claim.
+    void FilledInByKeys()
+    {
+        Client client;
+        QSignalSpy reports(client.page, &Page::SignalReport);
+        client.Shortcut('n');
+        client.Type(QStringLiteral("North gate"));
+        client.Press(Qt::Key_Tab);
+        client.Type(QStringLiteral("192.168.1.64"));
+        client.Press(Qt::Key_Enter, Qt::KeypadModifier);
+        QVERIFY(client.Field("Serial number")->hasFocus());
+        client.Shortcut('i');
+        QVERIFY(client.page->findChild<QIpAddrEdit*>()->isAncestorOf(QApplication::focusWidget()));
+        client.Shortcut('e');
+        client.Type(QStringLiteral("operator"));
+        client.Press(Qt::Key_Tab);
+        client.Type(QStringLiteral("Wren-4127-oak"));
+        QCOMPARE(client.page->findChild<CPasswordStrength*>()->GetStrength(), 3);
+        client.Shortcut('s');
+        QCOMPARE(Bubble(), QString());
+        QCOMPARE(
+            reports.value(0).value(0).toString(),
+            QStringLiteral("North gate at 192.168.1.64 saved in the group Entrances"));
+        client.Shortcut('c');
+        QVERIFY(client.Field("Name")->text().isEmpty());
+        QCOMPARE(client.page->findChild<CPasswordStrength*>()->GetStrength(), 0);
+    }
+
+    /// Catches a complaint at another field than the first wrong one, and one that stays.
+    void FirstWrongFieldTells()
+    {
+        Client client;
+        auto* address = client.page->findChild<QIpAddrEdit*>();
+        client.Shortcut('s');
+        QCOMPARE(Bubble(), QStringLiteral("Enter a name"));
+        QVERIFY(client.Field("Name")->hasFocus());
+        client.Type(QStringLiteral("North gate"));
+        client.Shortcut('s');
+        QCOMPARE(Bubble(), QStringLiteral("Enter the device's address"));
+        QVERIFY(address->errorState());
+        client.Type(QStringLiteral("10.0.0."));
+        QVERIFY(!address->errorState());
+        client.Shortcut('s');
+        QCOMPARE(Bubble(), QStringLiteral("The address needs four numbers"));
+        client.Type(QStringLiteral("7"));
+        QCOMPARE(address->text(), QStringLiteral("10.0.0.7"));
+        client.Shortcut('s');
+        QCOMPARE(Bubble(), QStringLiteral("Enter the user of the device"));
+        client.Type(QStringLiteral("operator"));
+        client.Shortcut('s');
+        QCOMPARE(Bubble(), QStringLiteral("Enter the password"));
+        QVERIFY(client.Field("Password")->hasFocus());
+    }
+
+    /// Catches a group that is lost or added twice, and a dialog that closes on a name it refuses.
+    void NewGroups()
+    {
+        Client client;
+        const auto* groups = client.page->findChild<QComboBox*>();
+        const int before = groups->count();
+        client.Shortcut('o');
+        auto* dialog = client.page->findChild<WmAddGroup*>();
+        QVERIFY(dialog->isVisible());
+        auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("edtName"));
+        const auto save = [&](const QString& name) {
+            edit->clear();
+            QTest::keyClicks(edit, name);
+            QTest::keyClick(edit, Qt::Key_Return);
+            return !dialog->isVisible();
+        };
+        QVERIFY(!save(QStringLiteral("car park")));
+        QCOMPARE(groups->count(), before);
+        QVERIFY(save(QStringLiteral("Gates")));
+        QCOMPARE(groups->count(), before + 1);
+        QCOMPARE(groups->currentText(), QStringLiteral("Gates"));
+    }
+
+    /// Catches a field that a screen reader cannot name.
+    void EveryFieldHasAName()
+    {
+        Client client;
+        int fields = 0;
+        for (QWidget* widget : client.page->findChildren<QWidget*>()) {
+            if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
+                continue;
+            ++fields;
+            const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), widget->metaObject()->className());
+        }
+        QVERIFY(fields >= 18);
+    }
+
+    /// Catches a folder field that keeps the file by which the folder was chosen.
+    void FolderComesFromAFile()
+    {
+        Client client;
+        client.Field("Folder")->setText(QCoreApplication::applicationFilePath());
+        QCOMPARE(client.Field("Folder")->text(), QCoreApplication::applicationDirPath());
+    }
+};
 
 STRICT_TEST_MAIN(TestDevicePage)
 #include "tst_devicepage.moc"

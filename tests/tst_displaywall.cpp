@@ -6,15 +6,8 @@
 
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
 
-#include <QAbstractEventDispatcher>
-#include <QAccessible>
-#include <QApplication>
-#include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <memory>
 
 using Rect = KvGUI::StructScaleRect;
@@ -64,177 +57,6 @@ QList<int> Stacking(const Fixture& f)
     return order;
 }
 
-} // namespace
-
-class tst_DisplayWall : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void screensArePlaced();
-    void hiddenWallIsLaidOut();
-    void windowsAreNumberedWhenOpened();
-    void zOrder();
-    void positioningFrame();
-    void videoMayBeDeletedInADrag();
-    void nothingOfTheBaseClassActs();
-    void spaceSelects();
-    void overlaysAreShown();
-    void overlaysAreReused();
-    void overlaysRoll();
-    void unseenOverlaysRest();
-    void backgroundHidesOverlays();
-    void baseMapIsPainted();
-    void paintedColours();
-};
-
-// Catches a layout that waits for the first show, for a resize, or for the screens added after SetDeviceType.
-void tst_DisplayWall::screensArePlaced()
-{
-    Wall wall;
-    wall.resize(1000, 600);
-    wall.SetTVWallGridCount(2, 2);
-    wall.AddScreen({0.0, 0.0, 0.5, 0.5}, QVariant());
-    const auto screens = [&wall] { return wall.findChildren<QMdiArea*>(); };
-    QCOMPARE(screens().at(0)->geometry(), QRect(QPoint(0, 0), QPoint(495, 295)));
-    wall.SetDeviceType(true);
-    QCOMPARE(screens().at(0)->geometry(), QRect(QPoint(0, 0), QPoint(499, 299)));
-    wall.AddScreen({0.5, 0.0, 0.9, 0.5}, QVariant());
-    QCOMPARE(screens().at(1)->geometry(), QRect(QPoint(500, 0), QPoint(895, 295)));
-    wall.show();
-    wall.resize(500, 300);
-    QCOMPARE(screens().at(0)->geometry(), QRect(QPoint(0, 0), QPoint(249, 149)));
-}
-
-// Catches windows of a hidden wall that are placed when it is shown only, or a second time then.
-void tst_DisplayWall::hiddenWallIsLaidOut()
-{
-    Wall wall;
-    wall.resize(1000, 600);
-    wall.SetTVWallGridCount(1, 1);
-    wall.AddScreen(Whole, QVariant());
-    wall.OpenWindow(0, LeftUpper, QVariant());
-    wall.OpenWindow(0, LeftUpper, QVariant());
-    for (int shown = 0; shown < 2; ++shown) {
-        QCOMPARE(wall.GetWindowWidget(0, 1)->parentWidget()->geometry(), QRect(100, 60, 300, 240));
-        QCOMPARE(wall.GetWindowWidget(0, 1)->geometry(), QRect(1, 26, 296, 216)); // for a player made now
-        wall.show();
-        QApplication::processEvents();
-    }
-}
-
-void tst_DisplayWall::windowsAreNumberedWhenOpened()
-{
-    const Fixture f;
-    const auto title
-        = [&f](int w) { return f.Window(w)->findChild<QLabel*>(QStringLiteral("pWindowTitleText"))->text(); };
-    f.wall->OpenWindow(0, LeftUpper, 10);
-    f.wall->SetWindowTitleShow(true);
-    f.wall->OpenWindow(0, LeftUpper, 11);
-    f.wall->OpenWindow(0, LeftUpper, 12);
-    f.wall->SetWindowContentText(0, 2, QStringLiteral("Gate"));
-    QCOMPARE(title(0), QString());
-    QVERIFY(f.wall->DeleteWindow(0, 0));
-    QCOMPARE(title(0), QStringLiteral("Window 2"));
-    QCOMPARE(title(1), QStringLiteral("Window 3  Gate"));
-    QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(12));
-    f.wall->OpenWindow(0, LeftUpper, 13);
-    QCOMPARE(title(2), QStringLiteral("Window 3"));
-    const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(f.Window(2));
-    QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Window 3"));
-    QVERIFY(accessible->childCount() > 0); // or its buttons cannot be found
-}
-
-void tst_DisplayWall::zOrder()
-{
-    const Fixture f;
-    for (int w = 0; w < 4; ++w)
-        f.wall->OpenWindow(0, LeftUpper, QVariant());
-    for (int w = 0; w < 4; ++w)
-        f.wall->SetWindowZValue(0, w, w + 1, false);
-    QCOMPARE(Stacking(f), (QList<int>{0, 1, 2, 3})); // only numbers so far
-    f.wall->SetWindowZValue(0, 1, 5, true);
-    QCOMPARE(f.wall->GetWindowZValue(0, 0), 1);
-    QCOMPARE(f.wall->GetWindowZValue(0, 2), 2);
-    QCOMPARE(f.wall->GetWindowZValue(0, 3), 3);
-    QCOMPARE(f.wall->GetMaxWindowZValue(0), 5);
-    QCOMPARE(Stacking(f), (QList<int>{0, 2, 3, 1}));
-    // Of the two windows with 5 only the later one takes part; the lowest of the list is left in place.
-    f.wall->SetWindowZValue(0, 0, 5, true);
-    QCOMPARE(f.wall->GetWindowZValue(0, 1), 4);
-    QCOMPARE(Stacking(f), (QList<int>{2, 3, 1, 0}));
-    QCOMPARE(f.wall->GetMaxWindowZValue(0), 5);
-}
-
-// Catches a frame normalised on its way, which loses the direction that the camera shall turn.
-void tst_DisplayWall::positioningFrame()
-{
-    Fixture f({{0.1, 0.1, 0.9, 0.9, true}});
-    QSignalSpy spy(f.wall.get(), SIGNAL(SignalWindow3DSite(int, int, int, int, int)));
-    f.wall->SetPtzFrameSelectedEnable(true); // no screen is selected: nothing
-    f.mouse.Drag({500, 300}, {250, 150});
-    QCOMPARE(spy.count(), 0);
-    f.wall->SetSelectedScreenIndex(0);
-    f.wall->SetPtzFrameSelectedEnable(true);
-    f.mouse.Drag({500, 300}, {250, 150});
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0), (QVariantList{0, 4096, 4096, 2048, 2048}));
-    QCOMPARE(f.Window(0)->geometry(), QRect(100, 60, 800, 480)); // not dragged
-}
-
-void tst_DisplayWall::videoMayBeDeletedInADrag()
-{
-    Fixture f({LeftUpper});
-    QWidget* window = f.Window(0);
-    f.mouse.Press(OnTitle);
-    f.mouse.Move(OnTitle + QPoint(80, 80));
-    delete f.wall->GetWindowWidget(0, 0);
-    f.mouse.Release(OnTitle + QPoint(80, 80));
-    QCOMPARE(window->geometry(), QRect(180, 140, 300, 240));
-    QCOMPARE(f.wall->GetWindowWidget(0, 0), nullptr);
-    QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
-    QCOMPARE(f.PixelAt({300, 300}), f.wall->WindowColor().rgb());
-}
-
-// Catches the conduct of MDI windows: closing by key or call while the list still holds the window, raising
-// on click and activation, and window states.
-void tst_DisplayWall::nothingOfTheBaseClassActs()
-{
-    Fixture f({LeftUpper, {0.2, 0.2, 0.5, 0.6, false}});
-    auto* window = qobject_cast<QMdiSubWindow*>(f.Window(0));
-    QVERIFY(window != nullptr);
-    window->setFocus();
-    for (const int key : {Qt::Key_F4, Qt::Key_W, Qt::Key_Tab, Qt::Key_Backtab})
-        QTest::keyClick(window, Qt::Key(key), Qt::ControlModifier);
-    QVERIFY(!window->close());
-    window->showMaximized();
-    window->showNormal();
-    f.mouse.Click(OnTitle);
-    f.wall->GetWindowWidget(0, 0)->setFocus();
-    f.Screen()->activateNextSubWindow();
-    f.Screen()->closeAllSubWindows();
-    QApplication::processEvents();
-    QVERIFY(window->isVisible());
-    QCOMPARE(Stacking(f), (QList<int>{0, 1}));
-    QCOMPARE(window->geometry(), QRect(100, 60, 300, 240));
-    QVERIFY(window->windowFlags() & Qt::FramelessWindowHint);
-    QVERIFY(window->windowFlags() & Qt::CustomizeWindowHint);
-    QCOMPARE(f.Empty()->size(), f.Screen()->size()); // no scroll bar takes room
-}
-
-void tst_DisplayWall::spaceSelects()
-{
-    const Fixture f({LeftUpper});
-    f.wall->SetWindowSelectionMode(Wall::MultiSelection);
-    f.Window(0)->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(f.Window(0), Qt::Key_Space);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
-    QTest::keyClick(f.Window(0), Qt::Key_Space);
-    QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
-}
-
-namespace {
-
 KvGUI::StructOSDInfo Overlay(const char* text, bool roll)
 {
     KvGUI::StructOSDInfo info;
@@ -259,150 +81,303 @@ QList<QLabel*> ShownOverlays(const Fixture& f)
 
 } // namespace
 
-void tst_DisplayWall::overlaysAreShown()
+class tst_DisplayWall : public QObject
 {
-    const Fixture f({Whole});
-    std::vector<KvGUI::StructOSDInfo> infos;
-    for (int i = 0; i < 10; ++i) {
-        infos.push_back(Overlay("<b>plain</b>", false));
-        infos.push_back(Overlay("rolling", true));
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Catches a layout that waits for the first show, for a resize, or for the screens added after
+    // SetDeviceType.
+    void screensArePlaced()
+    {
+        Wall wall;
+        wall.resize(1000, 600);
+        wall.SetTVWallGridCount(2, 2);
+        wall.AddScreen({0.0, 0.0, 0.5, 0.5}, QVariant());
+        const auto screens = [&wall] { return wall.findChildren<QMdiArea*>(); };
+        QCOMPARE(screens().at(0)->geometry(), QRect(QPoint(0, 0), QPoint(495, 295)));
+        wall.SetDeviceType(true);
+        QCOMPARE(screens().at(0)->geometry(), QRect(QPoint(0, 0), QPoint(499, 299)));
+        wall.AddScreen({0.5, 0.0, 0.9, 0.5}, QVariant());
+        QCOMPARE(screens().at(1)->geometry(), QRect(QPoint(500, 0), QPoint(895, 295)));
+        wall.show();
+        wall.resize(500, 300);
+        QCOMPARE(screens().at(0)->geometry(), QRect(QPoint(0, 0), QPoint(249, 149)));
     }
-    QVERIFY(f.wall->SetScreenOSDInfo(0, infos));
-    QCOMPARE(ShownOverlays(f).size(), 16); // the first eight of each kind
-    QLabel* plain = ShownOverlays(f).first();
-    QCOMPARE(plain->geometry(), QRect(99, 73, 500, 78));
-    QCOMPARE(plain->textFormat(), Qt::PlainText);
-    QCOMPARE(plain->objectName(), QStringLiteral("SongStyle"));
-    // Windows opened and raised later stay below the texts.
-    f.wall->OpenWindow(0, Whole, QVariant());
-    QCOMPARE(f.Empty()->childAt(300, 100)->inherits("QLabel"), true);
-    QList<int> labels;
-    connect(f.wall.get(), &Wall::SignalLabelEvent, f.wall.get(), [&](int, int label, QEvent*) {
-        labels << label;
-    });
-    QTest::mouseClick(plain, Qt::LeftButton);
-    QTest::mouseClick(ShownOverlays(f).last(), Qt::LeftButton);
-    QCOMPARE(labels, (QList<int>{8, 8, 7, 7}));
-    infos.clear();
-    f.wall->SetScreenOSDInfo(0, infos);
-    QTest::keyClick(plain, Qt::Key_A); // an event still under way to a removed overlay
-    QCOMPARE(labels.size(), 4);
-}
 
-// Catches the look of the overlay that a label showed before.
-void tst_DisplayWall::overlaysAreReused()
-{
-    const Fixture f;
-    std::vector<KvGUI::StructOSDInfo> infos{Overlay("a", false), Overlay("b", false)};
-    infos[0].strFontName = "simHei";
-    infos[0].iFontPercent = 20;
-    infos[1].strFontName = "simKai";
-    f.wall->SetScreenOSDInfo(0, infos);
-    const QList<QLabel*> first = ShownOverlays(f);
-    QCOMPARE(first.size(), 2);
-    QVERIFY(first.at(0)->font().bold());
-    QCOMPARE(first.at(0)->objectName(), QString());
-    QCOMPARE(first.at(0)->font().pixelSize(), 14);
-    QCOMPARE(first.at(1)->objectName(), QStringLiteral("KaiStyle"));
-    infos = {Overlay("c", false)};
-    infos[0].strFontName = "other";
-    f.wall->SetScreenOSDInfo(0, infos);
-    const QList<QLabel*> second = ShownOverlays(f);
-    QCOMPARE(second.size(), 1);
-    QVERIFY(!second.at(0)->font().bold());
-    QCOMPARE(second.at(0)->font().pixelSize(), 73);
-    QCOMPARE(second.at(0)->objectName(), QStringLiteral("SongStyle"));
-}
-
-void tst_DisplayWall::overlaysRoll()
-{
-    const Fixture f;
-    for (unsigned char mode = 0; mode < 6; ++mode) {
-        std::vector<KvGUI::StructOSDInfo> infos{Overlay("rolling text", true)};
-        infos[0].iRollMode = mode;
-        f.wall->SetScreenOSDInfo(0, infos);
-        QLabel* label = ShownOverlays(f).first();
-        const QImage before = label->grab().toImage();
-        QCOMPARE(before.pixel(1, 1), qRgb(0, 120, 0));
-        QTRY_VERIFY(label->grab().toImage() != before);
-    }
-}
-
-// Catches timers that run on for texts that nobody sees, and texts that stand still when they are back.
-void tst_DisplayWall::unseenOverlaysRest()
-{
-    const Fixture f;
-    std::vector<KvGUI::StructOSDInfo> infos{Overlay("rolling text", true)};
-    f.wall->SetScreenOSDInfo(0, infos);
-    const auto timers = [&f] {
-        int count = 0;
-        const auto objects = f.wall->findChildren<QObject*>();
-        for (QObject* object : objects) {
-            if (object->inherits("UICommonMdl::OverlayLabels"))
-                count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+    // Catches windows of a hidden wall that are placed when it is shown only, or a second time then.
+    void hiddenWallIsLaidOut()
+    {
+        Wall wall;
+        wall.resize(1000, 600);
+        wall.SetTVWallGridCount(1, 1);
+        wall.AddScreen(Whole, QVariant());
+        wall.OpenWindow(0, LeftUpper, QVariant());
+        wall.OpenWindow(0, LeftUpper, QVariant());
+        for (int shown = 0; shown < 2; ++shown) {
+            QCOMPARE(wall.GetWindowWidget(0, 1)->parentWidget()->geometry(), QRect(100, 60, 300, 240));
+            QCOMPARE(wall.GetWindowWidget(0, 1)->geometry(), QRect(1, 26, 296, 216)); // for a player made now
+            wall.show();
+            QApplication::processEvents();
         }
-        return count;
-    };
-    QTRY_COMPARE(timers(), 1);
-    f.wall->hide();
-    QTRY_COMPARE(timers(), 0);
-    f.wall->show();
-    QTRY_COMPARE(timers(), 1);
-    QWidget cover(f.wall.get());
-    cover.setAutoFillBackground(true);
-    cover.resize(f.wall->size());
-    cover.show();
-    QTRY_COMPARE(timers(), 0);
-    cover.hide();
-    QTRY_COMPARE(timers(), 1);
-}
-
-void tst_DisplayWall::backgroundHidesOverlays()
-{
-    const Fixture f;
-    std::vector<KvGUI::StructOSDInfo> infos{Overlay("a", false), Overlay("b", true)};
-    f.wall->SetScreenOSDInfo(0, infos);
-    QVERIFY(f.wall->SetScreenWindowBackgroudColor(0, QColor(10, 90, 20), true));
-    QCOMPARE(f.PixelAt({50, 500}), qRgb(10, 90, 20));
-    QCOMPARE(ShownOverlays(f).size(), 2);
-    f.wall->SetScreenWindowBackgroudColor(0, QColor(10, 90, 20), false);
-    QCOMPARE(ShownOverlays(f).size(), 0);
-    QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
-    f.wall->SetScreenWindowBackgroudColor(0, QColor(10, 90, 20), true);
-    QCOMPARE(ShownOverlays(f).size(), 0); // only new records show them again
-}
-
-void tst_DisplayWall::baseMapIsPainted()
-{
-    QTemporaryDir folder;
-    QImage map(40, 20, QImage::Format_RGB32);
-    map.fill(QColor(200, 30, 40));
-    QVERIFY(map.save(folder.filePath(QStringLiteral("site.jpg")), "JPG", 100));
-    const Fixture f;
-    const std::string raw = folder.filePath(QStringLiteral("site.yuv")).toStdString();
-    QVERIFY(f.wall->SetScreenBaseMapShow(0, raw, true));
-    QVERIFY(qAbs(qRed(f.PixelAt({50, 500})) - 200) < 6);
-    f.wall->SetScreenBaseMapShow(0, raw, false);
-    QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
-    for (const char* nothing : {"/no/such/file.png", ""}) {
-        f.wall->SetScreenBaseMapShow(0, nothing, true);
-        QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
     }
-}
 
-void tst_DisplayWall::paintedColours()
-{
-    const Fixture f;
-    f.wall->OpenWindow(0, Whole, QVariant()); // covers the whole screen
-    f.wall->SetSelectedScreenIndex(0);
-    QCOMPARE(f.PixelAt({500, 0}), qRgb(219, 221, 225)); // and not the selected screen's frame
-    f.wall->DeleteWindow(0, 0);
-    const QImage painted = f.wall->grab().toImage();
-    int dashes = 0; // on the line between the two columns of cells
-    for (int y = 10; y < 290; ++y)
-        dashes += painted.pixel(500, y) != qRgb(33, 34, 37);
-    QVERIFY(dashes > 70 && dashes < 210);
-}
+    void windowsAreNumberedWhenOpened()
+    {
+        const Fixture f;
+        const auto title = [&f](int w) {
+            return f.Window(w)->findChild<QLabel*>(QStringLiteral("pWindowTitleText"))->text();
+        };
+        f.wall->OpenWindow(0, LeftUpper, 10);
+        f.wall->SetWindowTitleShow(true);
+        f.wall->OpenWindow(0, LeftUpper, 11);
+        f.wall->OpenWindow(0, LeftUpper, 12);
+        f.wall->SetWindowContentText(0, 2, QStringLiteral("Gate"));
+        QCOMPARE(title(0), QString());
+        QVERIFY(f.wall->DeleteWindow(0, 0));
+        QCOMPARE(title(0), QStringLiteral("Window 2"));
+        QCOMPARE(title(1), QStringLiteral("Window 3  Gate"));
+        QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(12));
+        f.wall->OpenWindow(0, LeftUpper, 13);
+        QCOMPARE(title(2), QStringLiteral("Window 3"));
+        const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(f.Window(2));
+        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Window 3"));
+        QVERIFY(accessible->childCount() > 0); // or its buttons cannot be found
+    }
+
+    void zOrder()
+    {
+        const Fixture f;
+        for (int w = 0; w < 4; ++w)
+            f.wall->OpenWindow(0, LeftUpper, QVariant());
+        for (int w = 0; w < 4; ++w)
+            f.wall->SetWindowZValue(0, w, w + 1, false);
+        QCOMPARE(Stacking(f), (QList<int>{0, 1, 2, 3})); // only numbers so far
+        f.wall->SetWindowZValue(0, 1, 5, true);
+        QCOMPARE(f.wall->GetWindowZValue(0, 0), 1);
+        QCOMPARE(f.wall->GetWindowZValue(0, 2), 2);
+        QCOMPARE(f.wall->GetWindowZValue(0, 3), 3);
+        QCOMPARE(f.wall->GetMaxWindowZValue(0), 5);
+        QCOMPARE(Stacking(f), (QList<int>{0, 2, 3, 1}));
+        // Of the two windows with 5 only the later one takes part; the lowest of the list is left in place.
+        f.wall->SetWindowZValue(0, 0, 5, true);
+        QCOMPARE(f.wall->GetWindowZValue(0, 1), 4);
+        QCOMPARE(Stacking(f), (QList<int>{2, 3, 1, 0}));
+        QCOMPARE(f.wall->GetMaxWindowZValue(0), 5);
+    }
+
+    // Catches a frame normalised on its way, which loses the direction that the camera shall turn.
+    void positioningFrame()
+    {
+        Fixture f({{0.1, 0.1, 0.9, 0.9, true}});
+        QSignalSpy spy(f.wall.get(), SIGNAL(SignalWindow3DSite(int, int, int, int, int)));
+        f.wall->SetPtzFrameSelectedEnable(true); // no screen is selected: nothing
+        f.mouse.Drag({500, 300}, {250, 150});
+        QCOMPARE(spy.count(), 0);
+        f.wall->SetSelectedScreenIndex(0);
+        f.wall->SetPtzFrameSelectedEnable(true);
+        f.mouse.Drag({500, 300}, {250, 150});
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0), (QVariantList{0, 4096, 4096, 2048, 2048}));
+        QCOMPARE(f.Window(0)->geometry(), QRect(100, 60, 800, 480)); // not dragged
+    }
+
+    void videoMayBeDeletedInADrag()
+    {
+        Fixture f({LeftUpper});
+        QWidget* window = f.Window(0);
+        f.mouse.Press(OnTitle);
+        f.mouse.Move(OnTitle + QPoint(80, 80));
+        delete f.wall->GetWindowWidget(0, 0);
+        f.mouse.Release(OnTitle + QPoint(80, 80));
+        QCOMPARE(window->geometry(), QRect(180, 140, 300, 240));
+        QCOMPARE(f.wall->GetWindowWidget(0, 0), nullptr);
+        QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
+        QCOMPARE(f.PixelAt({300, 300}), f.wall->WindowColor().rgb());
+    }
+
+    // Catches the conduct of MDI windows: closing by key or call while the list still holds the window,
+    // raising on click and activation, and window states.
+    void nothingOfTheBaseClassActs()
+    {
+        Fixture f({LeftUpper, {0.2, 0.2, 0.5, 0.6, false}});
+        auto* window = qobject_cast<QMdiSubWindow*>(f.Window(0));
+        QVERIFY(window != nullptr);
+        window->setFocus();
+        for (const int key : {Qt::Key_F4, Qt::Key_W, Qt::Key_Tab, Qt::Key_Backtab})
+            QTest::keyClick(window, Qt::Key(key), Qt::ControlModifier);
+        QVERIFY(!window->close());
+        window->showMaximized();
+        window->showNormal();
+        f.mouse.Click(OnTitle);
+        f.wall->GetWindowWidget(0, 0)->setFocus();
+        f.Screen()->activateNextSubWindow();
+        f.Screen()->closeAllSubWindows();
+        QApplication::processEvents();
+        QVERIFY(window->isVisible());
+        QCOMPARE(Stacking(f), (QList<int>{0, 1}));
+        QCOMPARE(window->geometry(), QRect(100, 60, 300, 240));
+        QVERIFY(window->windowFlags() & Qt::FramelessWindowHint);
+        QVERIFY(window->windowFlags() & Qt::CustomizeWindowHint);
+        QCOMPARE(f.Empty()->size(), f.Screen()->size()); // no scroll bar takes room
+    }
+
+    void spaceSelects()
+    {
+        const Fixture f({LeftUpper});
+        f.wall->SetWindowSelectionMode(Wall::MultiSelection);
+        f.Window(0)->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(f.Window(0), Qt::Key_Space);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
+        QTest::keyClick(f.Window(0), Qt::Key_Space);
+        QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
+    }
+
+    void overlaysAreShown()
+    {
+        const Fixture f({Whole});
+        std::vector<KvGUI::StructOSDInfo> infos;
+        for (int i = 0; i < 10; ++i) {
+            infos.push_back(Overlay("<b>plain</b>", false));
+            infos.push_back(Overlay("rolling", true));
+        }
+        QVERIFY(f.wall->SetScreenOSDInfo(0, infos));
+        QCOMPARE(ShownOverlays(f).size(), 16); // the first eight of each kind
+        QLabel* plain = ShownOverlays(f).first();
+        QCOMPARE(plain->geometry(), QRect(99, 73, 500, 78));
+        QCOMPARE(plain->textFormat(), Qt::PlainText);
+        QCOMPARE(plain->objectName(), QStringLiteral("SongStyle"));
+        // Windows opened and raised later stay below the texts.
+        f.wall->OpenWindow(0, Whole, QVariant());
+        QCOMPARE(f.Empty()->childAt(300, 100)->inherits("QLabel"), true);
+        QList<int> labels;
+        connect(f.wall.get(), &Wall::SignalLabelEvent, f.wall.get(), [&](int, int label, QEvent*) {
+            labels << label;
+        });
+        QTest::mouseClick(plain, Qt::LeftButton);
+        QTest::mouseClick(ShownOverlays(f).last(), Qt::LeftButton);
+        QCOMPARE(labels, (QList<int>{8, 8, 7, 7}));
+        infos.clear();
+        f.wall->SetScreenOSDInfo(0, infos);
+        QTest::keyClick(plain, Qt::Key_A); // an event still under way to a removed overlay
+        QCOMPARE(labels.size(), 4);
+    }
+
+    // Catches the look of the overlay that a label showed before.
+    void overlaysAreReused()
+    {
+        const Fixture f;
+        std::vector<KvGUI::StructOSDInfo> infos{Overlay("a", false), Overlay("b", false)};
+        infos[0].strFontName = "simHei";
+        infos[0].iFontPercent = 20;
+        infos[1].strFontName = "simKai";
+        f.wall->SetScreenOSDInfo(0, infos);
+        const QList<QLabel*> first = ShownOverlays(f);
+        QCOMPARE(first.size(), 2);
+        QVERIFY(first.at(0)->font().bold());
+        QCOMPARE(first.at(0)->objectName(), QString());
+        QCOMPARE(first.at(0)->font().pixelSize(), 14);
+        QCOMPARE(first.at(1)->objectName(), QStringLiteral("KaiStyle"));
+        infos = {Overlay("c", false)};
+        infos[0].strFontName = "other";
+        f.wall->SetScreenOSDInfo(0, infos);
+        const QList<QLabel*> second = ShownOverlays(f);
+        QCOMPARE(second.size(), 1);
+        QVERIFY(!second.at(0)->font().bold());
+        QCOMPARE(second.at(0)->font().pixelSize(), 73);
+        QCOMPARE(second.at(0)->objectName(), QStringLiteral("SongStyle"));
+    }
+
+    void overlaysRoll()
+    {
+        const Fixture f;
+        for (unsigned char mode = 0; mode < 6; ++mode) {
+            std::vector<KvGUI::StructOSDInfo> infos{Overlay("rolling text", true)};
+            infos[0].iRollMode = mode;
+            f.wall->SetScreenOSDInfo(0, infos);
+            QLabel* label = ShownOverlays(f).first();
+            const QImage before = label->grab().toImage();
+            QCOMPARE(before.pixel(1, 1), qRgb(0, 120, 0));
+            QTRY_VERIFY(label->grab().toImage() != before);
+        }
+    }
+
+    // Catches timers that run on for texts that nobody sees, and texts that stand still when they are back.
+    void unseenOverlaysRest()
+    {
+        const Fixture f;
+        std::vector<KvGUI::StructOSDInfo> infos{Overlay("rolling text", true)};
+        f.wall->SetScreenOSDInfo(0, infos);
+        const auto timers = [&f] {
+            int count = 0;
+            const auto objects = f.wall->findChildren<QObject*>();
+            for (QObject* object : objects) {
+                if (object->inherits("UICommonMdl::OverlayLabels"))
+                    count += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+            }
+            return count;
+        };
+        QTRY_COMPARE(timers(), 1);
+        f.wall->hide();
+        QTRY_COMPARE(timers(), 0);
+        f.wall->show();
+        QTRY_COMPARE(timers(), 1);
+        QWidget cover(f.wall.get());
+        cover.setAutoFillBackground(true);
+        cover.resize(f.wall->size());
+        cover.show();
+        QTRY_COMPARE(timers(), 0);
+        cover.hide();
+        QTRY_COMPARE(timers(), 1);
+    }
+
+    void backgroundHidesOverlays()
+    {
+        const Fixture f;
+        std::vector<KvGUI::StructOSDInfo> infos{Overlay("a", false), Overlay("b", true)};
+        f.wall->SetScreenOSDInfo(0, infos);
+        QVERIFY(f.wall->SetScreenWindowBackgroudColor(0, QColor(10, 90, 20), true));
+        QCOMPARE(f.PixelAt({50, 500}), qRgb(10, 90, 20));
+        QCOMPARE(ShownOverlays(f).size(), 2);
+        f.wall->SetScreenWindowBackgroudColor(0, QColor(10, 90, 20), false);
+        QCOMPARE(ShownOverlays(f).size(), 0);
+        QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
+        f.wall->SetScreenWindowBackgroudColor(0, QColor(10, 90, 20), true);
+        QCOMPARE(ShownOverlays(f).size(), 0); // only new records show them again
+    }
+
+    void baseMapIsPainted()
+    {
+        QTemporaryDir folder;
+        QImage map(40, 20, QImage::Format_RGB32);
+        map.fill(QColor(200, 30, 40));
+        QVERIFY(map.save(folder.filePath(QStringLiteral("site.jpg")), "JPG", 100));
+        const Fixture f;
+        const std::string raw = folder.filePath(QStringLiteral("site.yuv")).toStdString();
+        QVERIFY(f.wall->SetScreenBaseMapShow(0, raw, true));
+        QVERIFY(qAbs(qRed(f.PixelAt({50, 500})) - 200) < 6);
+        f.wall->SetScreenBaseMapShow(0, raw, false);
+        QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
+        for (const char* nothing : {"/no/such/file.png", ""}) {
+            f.wall->SetScreenBaseMapShow(0, nothing, true);
+            QCOMPARE(f.PixelAt({50, 500}), qRgb(33, 34, 37));
+        }
+    }
+
+    void paintedColours()
+    {
+        const Fixture f;
+        f.wall->OpenWindow(0, Whole, QVariant()); // covers the whole screen
+        f.wall->SetSelectedScreenIndex(0);
+        QCOMPARE(f.PixelAt({500, 0}), qRgb(219, 221, 225)); // and not the selected screen's frame
+        f.wall->DeleteWindow(0, 0);
+        const QImage painted = f.wall->grab().toImage();
+        int dashes = 0; // on the line between the two columns of cells
+        for (int y = 10; y < 290; ++y)
+            dashes += painted.pixel(500, y) != qRgb(33, 34, 37);
+        QVERIFY(dashes > 70 && dashes < 210);
+    }
+};
 
 STRICT_TEST_MAIN(tst_DisplayWall)
 #include "tst_displaywall.moc"

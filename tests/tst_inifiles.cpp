@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <Common/CIniFile.h>
@@ -42,30 +43,319 @@ class TestIniFiles : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void ListsComeBackAsOneText_data();
-    void ListsComeBackAsOneText();
-    void DefaultListIsJoined();
-    void OtherTypesAreNotJoined();
-    void MissingValues();
-    void FileIsUtf8();
-    void WritesAtOnce();
-    void PlaceMarksInNames();
-    void RemovesValuesAndGroups();
-    void EmptyNamesTouchNothing();
-    void DamagedValues_data();
-    void DamagedValues();
-    void WritesOnlyWhatCanBeRead();
-    void UnsignedLockOfADeadWriter();
-    void MovedFilesHaveOneOwner();
-    void LocalFileLiesInTheCurrentFolder();
-    void FileHasData_data();
-    void FileHasData();
-    void DamagedFileComesBack_data();
-    void DamagedFileComesBack();
-    void DamagedFileLeavesTheBackup();
-    void BackupFollowsTheFile();
-    void NothingToRestore();
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        QVERIFY(m_folder->isValid());
+    }
+
+    void ListsComeBackAsOneText_data()
+    {
+        TestSupport::Columns<QByteArray, QString>("line", "value");
+        QTest::newRow("numbers") << QByteArray("Layout=1,2,3") << QStringLiteral("1,2,3");
+        QTest::newRow("blanks around") << QByteArray("Layout=10, 20 ,30") << QStringLiteral("10,20,30");
+        QTest::newRow("empty parts") << QByteArray("Layout=,,") << QStringLiteral(",,");
+        QTest::newRow("quoted") << QByteArray("Layout=\"a,b\"") << QStringLiteral("a,b");
+        QTest::newRow("plain") << QByteArray("Layout=abc") << QStringLiteral("abc");
+    }
+
+    /// Catches a comma-separated line that reads as a list, and a difference between the two classes.
+    void ListsComeBackAsOneText()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(QString, value);
+        Write(Path(), "[Wall]\n" + line + "\n");
+        for (const QVariant& read :
+             {CIniFile(Path()).ReadValue(kSection, kKey, 5), QIniFile(Path()).ReadValue(kSection, kKey)}) {
+            QCOMPARE(int(read.type()), int(QVariant::String));
+            QCOMPARE(read.toString(), value);
+        }
+    }
+
+    /// Catches a default that escapes the joining of lists.
+    void DefaultListIsJoined()
+    {
+        const QStringList list{QStringLiteral("a"), QStringLiteral("b")};
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, list), QVariant(QStringLiteral("a,b")));
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QStringList()), QVariant(QString()));
+    }
+
+    /// Catches a joining that also turns other values into texts.
+    void OtherTypesAreNotJoined()
+    {
+        const QVariantList list{1, 2};
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, list), QVariant(list));
+        CIniFile file(Path());
+        file.WriteValue(kSection, kKey, QByteArray("\0\x01\xFF", 3));
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 0).toByteArray(), QByteArray("\0\x01\xFF", 3));
+    }
+
+    /// Catches a missing value that comes back as something valid.
+    void MissingValues()
+    {
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 42), QVariant(42));
+        QVERIFY(!QIniFile(Path()).ReadValue(kSection, kKey).isValid());
+        QVERIFY(!QFile::exists(Path()));
+    }
+
+    /// Catches escapes in place of UTF-8, and a file of another hand that is read as Latin-1.
+    void FileIsUtf8()
+    {
+        const QString text = QStringLiteral("\u4E2D\u6587 \u00E9");
+        CIniFile(Path()).WriteValue(kSection, kKey, text);
+        QVERIFY(Read(Path()).contains(text.toUtf8()));
+        Write(m_folder->filePath(QStringLiteral("other.ini")), "[Wall]\nLayout=\xE4\xB8\xAD\n");
+        QIniFile other(m_folder->filePath(QStringLiteral("other.ini")));
+        QCOMPARE(other.ReadValue(kSection, kKey).toString(), QStringLiteral("\u4E2D"));
+    }
+
+    /// Catches a write that waits for the object's end, and a written text that reads back as a list.
+    void WritesAtOnce()
+    {
+        CIniFile file(Path());
+        file.WriteValue(kSection, kKey, QStringLiteral("a,b"));
+        QVERIFY(Read(Path()).contains("Layout"));
+        QCOMPARE(file.ReadValue(kSection, kKey, QVariant()), QVariant(QStringLiteral("a,b")));
+        QIniFile small(Path());
+        small.WriteValue(kSection, QStringLiteral("Other"), 7);
+        QVERIFY(Read(Path()).contains("Other=7"));
+    }
+
+    /// Catches a key that is built in two steps, so that the key goes into the section's place mark.
+    void PlaceMarksInNames()
+    {
+        const QString section = QStringLiteral("100%2");
+        CIniFile file(Path());
+        file.WriteValue(section, kKey, 1);
+        QCOMPARE(file.ReadAllSecName(), QStringList{section});
+    }
+
+    /// Catches a removal that takes too much or stays in memory.
+    void RemovesValuesAndGroups()
+    {
+        Write(Path(), "[Wall]\nLayout=1\nRows=2\n\n[Screens]\nFirst=3\n\n[Users]\nadmin=4\n");
+        CIniFile file(Path());
+        file.RemoveValue(kSection, kKey);
+        QVERIFY(!Read(Path()).contains("Layout"));
+        QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), 2);
+        file.RemoveValue(QStringLiteral("Screens"), QString());
+        QCOMPARE(file.ReadAllSecName(), (QStringList{QStringLiteral("Users"), kSection}));
+    }
+
+    /// Catches an empty name that clears the whole file, which is what the settings class makes of it.
+    void EmptyNamesTouchNothing()
+    {
+        const QByteArray text = "[Wall]\nLayout=1\n";
+        Write(Path(), text);
+        CIniFile file(Path());
+        file.RemoveValue(QString(), QString());
+        file.RemoveValue(QStringLiteral("/"), QStringLiteral("//"));
+        file.WriteValue(QString(), QString(), 5);
+        QCOMPARE(file.ReadValue(QString(), QString(), 6), QVariant(6));
+        QCOMPARE(Read(Path()), text);
+    }
+
+    void DamagedValues_data()
+    {
+        TestSupport::Columns<QByteArray, bool>("value", "safe");
+        const auto deep = [](int depth) {
+            return "@Variant(" + QByteArray("\\0\\0\\0\\x9\\0\\0\\0\\x1").repeated(depth)
+                + "\\0\\0\\0\\x2\\0\\0\\0\\x5)";
+        };
+        QTest::newRow("number") << QByteArray("@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)") << true;
+        QTest::newRow("colour") << QByteArray(
+            "@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)")
+                                << true;
+        QTest::newRow("list") << deep(3) << true;
+        QTest::newRow("a text") << QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << true;
+        QTest::newRow("list without end")
+            << QByteArray("@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
+        QTest::newRow("map without end") << QByteArray("@Variant(\\0\\0\\0\\b\\x10\\0\\0\\0)") << false;
+        QTest::newRow("texts without end") << QByteArray("\"@Variant(\\0\\0\\0\\v\\x1f\\0\\0\\0)\"") << false;
+        QTest::newRow("nested without end") << deep(100000) << false;
+        QTest::newRow("points without end") << QByteArray("@Variant(\\0\\0\\0GB231)") << false;
+        QTest::newRow("in a list") << QByteArray("a, @Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
+        QTest::newRow("in a moment") << QByteArray("@DateTime(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)")
+                                     << false;
+        QTest::newRow("written otherwise")
+            << QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << false;
+    }
+
+    /// Catches a damaged value that ends the client, or takes all memory or the stack, and one that costs the
+    /// other values or the backup.
+    void DamagedValues()
+    {
+        QFETCH(QByteArray, value);
+        QFETCH(bool, safe);
+        const QByteArray text = "[Wall]\nRows=2\nLayout=" + value + "\n";
+        Write(Path(), text);
+        Write(BackupPath(), "[Wall]\nRows=3\n");
+        CIniFile file(Path());
+        QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), safe ? 2 : 3);
+        QCOMPARE(file.ReadValue(kSection, kKey, QVariant()).isValid(), safe);
+        file.WriteValue(kSection, kKey, 7);
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
+        QCOMPARE(Read(Path() + QStringLiteral(".damaged")), safe ? QByteArray("no such file") : text);
+    }
+
+    /// Catches a value that is stored and then taken for damage, with the whole file.
+    void WritesOnlyWhatCanBeRead()
+    {
+        const QVariant plain[]
+            = {QRectF(1, 2, 3, 4),
+               QUrl(QStringLiteral("http://a/b")),
+               QDateTime::currentDateTime(),
+               QColor(Qt::red),
+               QVariantMap{{QStringLiteral("a"), QVariantList{1, QSize(2, 3), 'c'}}},
+               QLocale(QLocale::German)};
+        for (const QVariant& value : plain) {
+            CIniFile(Path()).WriteValue(kSection, kKey, value);
+            QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), value);
+        }
+        CIniFile(Path()).WriteValue(kSection, kKey, QVariantList{QPolygon(QRect(0, 0, 2, 2))});
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), QVariant(QLocale(QLocale::German)));
+    }
+
+    /// Catches a writer that waits half a minute for one that was killed before it had signed its lock.
+    void UnsignedLockOfADeadWriter()
+    {
+        Write(Path() + QStringLiteral(".lock"), QByteArray());
+        QElapsedTimer timer;
+        timer.start();
+        CIniFile(Path()).WriteValue(kSection, kKey, 7);
+        QVERIFY(timer.elapsed() < 10000);
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
+    }
+
+    /// Catches two owners of one settings object and a crash of the one that was moved from.
+    void MovedFilesHaveOneOwner()
+    {
+        static_assert(!IsCopied<CIniFile> && !IsCopied<QIniFile>, "a copy would delete the settings twice");
+        CIniFile first(Path());
+        CIniFile second(std::move(first));
+        second.WriteValue(kSection, kKey, 1);
+        // NOLINTNEXTLINE(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+        first.WriteValue(kSection, kKey, 2);
+        first.RemoveValue(kSection, kKey);
+        QCOMPARE(first.ReadValue(kSection, kKey, 3), QVariant(3));
+        QVERIFY(first.ReadAllSecName().isEmpty());
+        QCOMPARE(second.ReadValue(kSection, kKey, 3).toInt(), 1);
+    }
+
+    /// Catches a file that is looked for in the working directory.
+    void LocalFileLiesInTheCurrentFolder()
+    {
+        KvGUI::KvDir::SetCurrentPath(m_folder->path());
+        const QString name = QStringLiteral("client.ini");
+        QVERIFY(!CLocalIniFile::ReadValue(kSection, kKey, name).isValid());
+        CLocalIniFile::WriteValue(kSection, kKey, QStringLiteral("a,b"), name);
+        QCOMPARE(CLocalIniFile::ReadValue(kSection, kKey, name), QVariant(QStringLiteral("a,b")));
+        QVERIFY(QFile::exists(Path()));
+        KvGUI::KvDir::SetCurrentPath(QString());
+    }
+
+    void FileHasData_data()
+    {
+        TestSupport::Columns<QByteArray, bool>("bytes", "hasData");
+        QTest::newRow("empty") << QByteArray("") << false;
+        QTest::newRow("text") << QByteArray("[Wall]\nRows=2\n") << true;
+        QTest::newRow("no line ending") << QByteArray("a") << true;
+        QTest::newRow("blank") << QByteArray(" \n") << true;
+        QTest::newRow("first line empty") << QByteArray("\n[Wall]\n") << false;
+        QTest::newRow("first line empty, CR LF") << QByteArray("\r\n[Wall]\r\n") << false;
+        QTest::newRow("a CR that ends nothing") << QByteArray("\r[Wall]\n") << true;
+        QTest::newRow("zeros") << QByteArray(512, '\0') << false;
+        QTest::newRow("ones") << QByteArray(10, '\1') << false;
+        QTest::newRow("smallest data") << QByteArray(9, '\0') + "\2" << true;
+        QTest::newRow("data after zeros") << QByteArray("\0\0\0\0[Wall]\n", 11) << true;
+        QTest::newRow("data too late") << QByteArray(10, '\0') + "[Wall]\n" << false;
+        QTest::newRow("CR LF after zeros") << QByteArray(9, '\0') + "\r\n" << false;
+        QTest::newRow("not ASCII") << QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD\xE4[Wall]\n") << false;
+        QTest::newRow("ASCII as tenth byte")
+            << QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD=1\n") << true;
+        QTest::newRow("data behind the line") << QByteArray("\0\0\n[Wall]\n", 9) << false;
+    }
+
+    /// Catches bytes read as unsigned, a line that ends at a zero byte, a line ending that counts as data,
+    /// and bytes beyond the tenth or the first line that are looked at.
+    void FileHasData()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, hasData);
+        Write(Path(), bytes);
+        QCOMPARE(CommonFun::CheckFileHasData(Path()), hasData);
+    }
+
+    void DamagedFileComesBack_data()
+    {
+        TestSupport::Columns<bool, QByteArray>("exists", "bytes");
+        QTest::newRow("gone") << false << QByteArray();
+        QTest::newRow("emptied") << true << QByteArray();
+        QTest::newRow("zeroed") << true << QByteArray(4096, '\0');
+    }
+
+    /// Catches a damaged file that is not restored, and a returned name that is that of the backup.
+    void DamagedFileComesBack()
+    {
+        QFETCH(bool, exists);
+        QFETCH(QByteArray, bytes);
+        const QByteArray good = "[Wall]\nRows=2\n";
+        Write(BackupPath(), good);
+        if (exists)
+            Write(Path(), bytes);
+        QCOMPARE(CommonFun::GetHasBackupConfigFileName(Path()), Path());
+        QCOMPARE(Read(Path()), good);
+        QCOMPARE(Read(BackupPath()), good);
+    }
+
+    /// Catches a damaged file that overwrites the good backup.
+    void DamagedFileLeavesTheBackup()
+    {
+        Write(BackupPath(), "[Wall]\nRows=2\n");
+        Write(Path(), QByteArray(64, '\0'));
+        CommonFun::BackupConfigFile(Path());
+        QCOMPARE(Read(BackupPath()), QByteArray("[Wall]\nRows=2\n"));
+        QFile::remove(Path());
+        CommonFun::BackupConfigFile(Path());
+        QCOMPARE(Read(BackupPath()), QByteArray("[Wall]\nRows=2\n"));
+    }
+
+    /// Catches a second backup that does not replace the first (also a read-only one), a backup that can be
+    /// read by more people than the file, and files left over.
+    void BackupFollowsTheFile()
+    {
+        const auto permissions = QFileDevice::ReadOwner | QFileDevice::ReadUser;
+        for (const char* text : {"[Wall]\nRows=2\n", "[Wall]\nRows=3\n[More]\n", "[W]\n"}) {
+            QFile::remove(Path());
+            Write(Path(), text);
+            QVERIFY(QFile::setPermissions(Path(), permissions));
+            CommonFun::BackupConfigFile(Path());
+            QCOMPARE(Read(BackupPath()), QByteArray(text));
+            QCOMPARE(QFile::permissions(BackupPath()), QFile::permissions(Path()));
+        }
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
+    }
+
+    /// Catches a good file that is overwritten by its backup, a good file lost to a bad backup, and a crash
+    /// on names without a file.
+    void NothingToRestore()
+    {
+        Write(Path(), "[Wall]\nRows=3\n");
+        Write(BackupPath(), "[Wall]\nRows=2\n");
+        CommonFun::GetHasBackupConfigFileName(Path());
+        QCOMPARE(Read(Path()), QByteArray("[Wall]\nRows=3\n"));
+
+        Write(Path(), "\n[Wall]\n");
+        Write(BackupPath(), QByteArray(20, '\0'));
+        CommonFun::GetHasBackupConfigFileName(Path());
+        QCOMPARE(Read(Path()), QByteArray("\n[Wall]\n"));
+
+        QCOMPARE(CommonFun::GetHasBackupConfigFileName(QString()), QString());
+        CommonFun::BackupConfigFile(QString());
+        QVERIFY(!CommonFun::CheckFileHasData(m_folder->path()));
+        QCOMPARE(CommonFun::GetHasBackupConfigFileName(m_folder->path()), m_folder->path());
+    }
 
 private:
     QString Path() const { return m_folder->filePath(QStringLiteral("client.ini")); }
@@ -73,320 +363,6 @@ private:
 
     QScopedPointer<QTemporaryDir> m_folder;
 };
-
-void TestIniFiles::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    QVERIFY(m_folder->isValid());
-}
-
-void TestIniFiles::ListsComeBackAsOneText_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("numbers") << QByteArray("Layout=1,2,3") << QStringLiteral("1,2,3");
-    QTest::newRow("blanks around") << QByteArray("Layout=10, 20 ,30") << QStringLiteral("10,20,30");
-    QTest::newRow("empty parts") << QByteArray("Layout=,,") << QStringLiteral(",,");
-    QTest::newRow("quoted") << QByteArray("Layout=\"a,b\"") << QStringLiteral("a,b");
-    QTest::newRow("plain") << QByteArray("Layout=abc") << QStringLiteral("abc");
-}
-
-/// Catches a comma-separated line that reads as a list, and a difference between the two classes.
-void TestIniFiles::ListsComeBackAsOneText()
-{
-    QFETCH(QByteArray, line);
-    QFETCH(QString, value);
-    Write(Path(), "[Wall]\n" + line + "\n");
-    for (const QVariant& read :
-         {CIniFile(Path()).ReadValue(kSection, kKey, 5), QIniFile(Path()).ReadValue(kSection, kKey)}) {
-        QCOMPARE(int(read.type()), int(QVariant::String));
-        QCOMPARE(read.toString(), value);
-    }
-}
-
-/// Catches a default that escapes the joining of lists.
-void TestIniFiles::DefaultListIsJoined()
-{
-    const QStringList list{QStringLiteral("a"), QStringLiteral("b")};
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, list), QVariant(QStringLiteral("a,b")));
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QStringList()), QVariant(QString()));
-}
-
-/// Catches a joining that also turns other values into texts.
-void TestIniFiles::OtherTypesAreNotJoined()
-{
-    const QVariantList list{1, 2};
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, list), QVariant(list));
-    CIniFile file(Path());
-    file.WriteValue(kSection, kKey, QByteArray("\0\x01\xFF", 3));
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 0).toByteArray(), QByteArray("\0\x01\xFF", 3));
-}
-
-/// Catches a missing value that comes back as something valid.
-void TestIniFiles::MissingValues()
-{
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 42), QVariant(42));
-    QVERIFY(!QIniFile(Path()).ReadValue(kSection, kKey).isValid());
-    QVERIFY(!QFile::exists(Path()));
-}
-
-/// Catches escapes in place of UTF-8, and a file of another hand that is read as Latin-1.
-void TestIniFiles::FileIsUtf8()
-{
-    const QString text = QStringLiteral("\u4E2D\u6587 \u00E9");
-    CIniFile(Path()).WriteValue(kSection, kKey, text);
-    QVERIFY(Read(Path()).contains(text.toUtf8()));
-    Write(m_folder->filePath(QStringLiteral("other.ini")), "[Wall]\nLayout=\xE4\xB8\xAD\n");
-    QIniFile other(m_folder->filePath(QStringLiteral("other.ini")));
-    QCOMPARE(other.ReadValue(kSection, kKey).toString(), QStringLiteral("\u4E2D"));
-}
-
-/// Catches a write that waits for the object's end, and a written text that reads back as a list.
-void TestIniFiles::WritesAtOnce()
-{
-    CIniFile file(Path());
-    file.WriteValue(kSection, kKey, QStringLiteral("a,b"));
-    QVERIFY(Read(Path()).contains("Layout"));
-    QCOMPARE(file.ReadValue(kSection, kKey, QVariant()), QVariant(QStringLiteral("a,b")));
-    QIniFile small(Path());
-    small.WriteValue(kSection, QStringLiteral("Other"), 7);
-    QVERIFY(Read(Path()).contains("Other=7"));
-}
-
-/// Catches a key that is built in two steps, so that the key goes into the section's place mark.
-void TestIniFiles::PlaceMarksInNames()
-{
-    const QString section = QStringLiteral("100%2");
-    CIniFile file(Path());
-    file.WriteValue(section, kKey, 1);
-    QCOMPARE(file.ReadAllSecName(), QStringList{section});
-}
-
-/// Catches a removal that takes too much or stays in memory.
-void TestIniFiles::RemovesValuesAndGroups()
-{
-    Write(Path(), "[Wall]\nLayout=1\nRows=2\n\n[Screens]\nFirst=3\n\n[Users]\nadmin=4\n");
-    CIniFile file(Path());
-    file.RemoveValue(kSection, kKey);
-    QVERIFY(!Read(Path()).contains("Layout"));
-    QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), 2);
-    file.RemoveValue(QStringLiteral("Screens"), QString());
-    QCOMPARE(file.ReadAllSecName(), (QStringList{QStringLiteral("Users"), kSection}));
-}
-
-/// Catches an empty name that clears the whole file, which is what the settings class makes of it.
-void TestIniFiles::EmptyNamesTouchNothing()
-{
-    const QByteArray text = "[Wall]\nLayout=1\n";
-    Write(Path(), text);
-    CIniFile file(Path());
-    file.RemoveValue(QString(), QString());
-    file.RemoveValue(QStringLiteral("/"), QStringLiteral("//"));
-    file.WriteValue(QString(), QString(), 5);
-    QCOMPARE(file.ReadValue(QString(), QString(), 6), QVariant(6));
-    QCOMPARE(Read(Path()), text);
-}
-
-void TestIniFiles::DamagedValues_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<bool>("safe");
-    const auto deep = [](int depth) {
-        return "@Variant(" + QByteArray("\\0\\0\\0\\x9\\0\\0\\0\\x1").repeated(depth)
-            + "\\0\\0\\0\\x2\\0\\0\\0\\x5)";
-    };
-    QTest::newRow("number") << QByteArray("@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)") << true;
-    QTest::newRow("colour") << QByteArray("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)")
-                            << true;
-    QTest::newRow("list") << deep(3) << true;
-    QTest::newRow("a text") << QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << true;
-    QTest::newRow("list without end") << QByteArray("@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
-    QTest::newRow("map without end") << QByteArray("@Variant(\\0\\0\\0\\b\\x10\\0\\0\\0)") << false;
-    QTest::newRow("texts without end") << QByteArray("\"@Variant(\\0\\0\\0\\v\\x1f\\0\\0\\0)\"") << false;
-    QTest::newRow("nested without end") << deep(100000) << false;
-    QTest::newRow("points without end") << QByteArray("@Variant(\\0\\0\\0GB231)") << false;
-    QTest::newRow("in a list") << QByteArray("a, @Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
-    QTest::newRow("in a moment") << QByteArray("@DateTime(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)") << false;
-    QTest::newRow("written otherwise")
-        << QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << false;
-}
-
-/// Catches a damaged value that ends the client, or takes all memory or the stack, and one that costs the
-/// other values or the backup.
-void TestIniFiles::DamagedValues()
-{
-    QFETCH(QByteArray, value);
-    QFETCH(bool, safe);
-    const QByteArray text = "[Wall]\nRows=2\nLayout=" + value + "\n";
-    Write(Path(), text);
-    Write(BackupPath(), "[Wall]\nRows=3\n");
-    CIniFile file(Path());
-    QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), safe ? 2 : 3);
-    QCOMPARE(file.ReadValue(kSection, kKey, QVariant()).isValid(), safe);
-    file.WriteValue(kSection, kKey, 7);
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
-    QCOMPARE(Read(Path() + QStringLiteral(".damaged")), safe ? QByteArray("no such file") : text);
-}
-
-/// Catches a value that is stored and then taken for damage, with the whole file.
-void TestIniFiles::WritesOnlyWhatCanBeRead()
-{
-    const QVariant plain[]
-        = {QRectF(1, 2, 3, 4),
-           QUrl(QStringLiteral("http://a/b")),
-           QDateTime::currentDateTime(),
-           QColor(Qt::red),
-           QVariantMap{{QStringLiteral("a"), QVariantList{1, QSize(2, 3), 'c'}}},
-           QLocale(QLocale::German)};
-    for (const QVariant& value : plain) {
-        CIniFile(Path()).WriteValue(kSection, kKey, value);
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), value);
-    }
-    CIniFile(Path()).WriteValue(kSection, kKey, QVariantList{QPolygon(QRect(0, 0, 2, 2))});
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), QVariant(QLocale(QLocale::German)));
-}
-
-/// Catches a writer that waits half a minute for one that was killed before it had signed its lock.
-void TestIniFiles::UnsignedLockOfADeadWriter()
-{
-    Write(Path() + QStringLiteral(".lock"), QByteArray());
-    QElapsedTimer timer;
-    timer.start();
-    CIniFile(Path()).WriteValue(kSection, kKey, 7);
-    QVERIFY(timer.elapsed() < 10000);
-    QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
-}
-
-/// Catches two owners of one settings object and a crash of the one that was moved from.
-void TestIniFiles::MovedFilesHaveOneOwner()
-{
-    static_assert(!IsCopied<CIniFile> && !IsCopied<QIniFile>, "a copy would delete the settings twice");
-    CIniFile first(Path());
-    CIniFile second(std::move(first));
-    second.WriteValue(kSection, kKey, 1);
-    // NOLINTNEXTLINE(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
-    first.WriteValue(kSection, kKey, 2);
-    first.RemoveValue(kSection, kKey);
-    QCOMPARE(first.ReadValue(kSection, kKey, 3), QVariant(3));
-    QVERIFY(first.ReadAllSecName().isEmpty());
-    QCOMPARE(second.ReadValue(kSection, kKey, 3).toInt(), 1);
-}
-
-/// Catches a file that is looked for in the working directory.
-void TestIniFiles::LocalFileLiesInTheCurrentFolder()
-{
-    KvGUI::KvDir::SetCurrentPath(m_folder->path());
-    const QString name = QStringLiteral("client.ini");
-    QVERIFY(!CLocalIniFile::ReadValue(kSection, kKey, name).isValid());
-    CLocalIniFile::WriteValue(kSection, kKey, QStringLiteral("a,b"), name);
-    QCOMPARE(CLocalIniFile::ReadValue(kSection, kKey, name), QVariant(QStringLiteral("a,b")));
-    QVERIFY(QFile::exists(Path()));
-    KvGUI::KvDir::SetCurrentPath(QString());
-}
-
-void TestIniFiles::FileHasData_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("hasData");
-    QTest::newRow("empty") << QByteArray("") << false;
-    QTest::newRow("text") << QByteArray("[Wall]\nRows=2\n") << true;
-    QTest::newRow("no line ending") << QByteArray("a") << true;
-    QTest::newRow("blank") << QByteArray(" \n") << true;
-    QTest::newRow("first line empty") << QByteArray("\n[Wall]\n") << false;
-    QTest::newRow("first line empty, CR LF") << QByteArray("\r\n[Wall]\r\n") << false;
-    QTest::newRow("a CR that ends nothing") << QByteArray("\r[Wall]\n") << true;
-    QTest::newRow("zeros") << QByteArray(512, '\0') << false;
-    QTest::newRow("ones") << QByteArray(10, '\1') << false;
-    QTest::newRow("smallest data") << QByteArray(9, '\0') + "\2" << true;
-    QTest::newRow("data after zeros") << QByteArray("\0\0\0\0[Wall]\n", 11) << true;
-    QTest::newRow("data too late") << QByteArray(10, '\0') + "[Wall]\n" << false;
-    QTest::newRow("CR LF after zeros") << QByteArray(9, '\0') + "\r\n" << false;
-    QTest::newRow("not ASCII") << QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD\xE4[Wall]\n") << false;
-    QTest::newRow("ASCII as tenth byte") << QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD=1\n") << true;
-    QTest::newRow("data behind the line") << QByteArray("\0\0\n[Wall]\n", 9) << false;
-}
-
-/// Catches bytes read as unsigned, a line that ends at a zero byte, a line ending that counts as data,
-/// and bytes beyond the tenth or the first line that are looked at.
-void TestIniFiles::FileHasData()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(bool, hasData);
-    Write(Path(), bytes);
-    QCOMPARE(CommonFun::CheckFileHasData(Path()), hasData);
-}
-
-void TestIniFiles::DamagedFileComesBack_data()
-{
-    QTest::addColumn<bool>("exists");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("gone") << false << QByteArray();
-    QTest::newRow("emptied") << true << QByteArray();
-    QTest::newRow("zeroed") << true << QByteArray(4096, '\0');
-}
-
-/// Catches a damaged file that is not restored, and a returned name that is that of the backup.
-void TestIniFiles::DamagedFileComesBack()
-{
-    QFETCH(bool, exists);
-    QFETCH(QByteArray, bytes);
-    const QByteArray good = "[Wall]\nRows=2\n";
-    Write(BackupPath(), good);
-    if (exists)
-        Write(Path(), bytes);
-    QCOMPARE(CommonFun::GetHasBackupConfigFileName(Path()), Path());
-    QCOMPARE(Read(Path()), good);
-    QCOMPARE(Read(BackupPath()), good);
-}
-
-/// Catches a damaged file that overwrites the good backup.
-void TestIniFiles::DamagedFileLeavesTheBackup()
-{
-    Write(BackupPath(), "[Wall]\nRows=2\n");
-    Write(Path(), QByteArray(64, '\0'));
-    CommonFun::BackupConfigFile(Path());
-    QCOMPARE(Read(BackupPath()), QByteArray("[Wall]\nRows=2\n"));
-    QFile::remove(Path());
-    CommonFun::BackupConfigFile(Path());
-    QCOMPARE(Read(BackupPath()), QByteArray("[Wall]\nRows=2\n"));
-}
-
-/// Catches a second backup that does not replace the first (also a read-only one), a backup that can be
-/// read by more people than the file, and files left over.
-void TestIniFiles::BackupFollowsTheFile()
-{
-    const auto permissions = QFileDevice::ReadOwner | QFileDevice::ReadUser;
-    for (const char* text : {"[Wall]\nRows=2\n", "[Wall]\nRows=3\n[More]\n", "[W]\n"}) {
-        QFile::remove(Path());
-        Write(Path(), text);
-        QVERIFY(QFile::setPermissions(Path(), permissions));
-        CommonFun::BackupConfigFile(Path());
-        QCOMPARE(Read(BackupPath()), QByteArray(text));
-        QCOMPARE(QFile::permissions(BackupPath()), QFile::permissions(Path()));
-    }
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
-}
-
-/// Catches a good file that is overwritten by its backup, a good file lost to a bad backup, and a crash on
-/// names without a file.
-void TestIniFiles::NothingToRestore()
-{
-    Write(Path(), "[Wall]\nRows=3\n");
-    Write(BackupPath(), "[Wall]\nRows=2\n");
-    CommonFun::GetHasBackupConfigFileName(Path());
-    QCOMPARE(Read(Path()), QByteArray("[Wall]\nRows=3\n"));
-
-    Write(Path(), "\n[Wall]\n");
-    Write(BackupPath(), QByteArray(20, '\0'));
-    CommonFun::GetHasBackupConfigFileName(Path());
-    QCOMPARE(Read(Path()), QByteArray("\n[Wall]\n"));
-
-    QCOMPARE(CommonFun::GetHasBackupConfigFileName(QString()), QString());
-    CommonFun::BackupConfigFile(QString());
-    QVERIFY(!CommonFun::CheckFileHasData(m_folder->path()));
-    QCOMPARE(CommonFun::GetHasBackupConfigFileName(m_folder->path()), m_folder->path());
-}
 
 int main(int argc, char** argv)
 {

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <Common/Base64.h>
@@ -31,189 +32,172 @@ class TestKvl : public QObject
     Q_OBJECT
 
 private slots:
-    void Md5_data();
-    void Md5();
-    void Base64Vectors_data();
-    void Base64Vectors();
-    void MalformedBase64_data();
-    void MalformedBase64();
-    void EncodingKeepsToItsBuffer();
-    void DecodingKeepsToItsBuffer();
-    void RandomBytesSurviveBase64();
-    void Base64OfNothing();
-    void FormattingIsBounded_data();
-    void FormattingIsBounded();
-    void CopyingIsBounded();
-    void NullBuffersAreLeftAlone();
-};
-
-void TestKvl::Md5_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("digest");
-    // RFC 1321, appendix A.5
-    QTest::newRow("empty") << QByteArray() << QByteArray("d41d8cd98f00b204e9800998ecf8427e");
-    QTest::newRow("short") << QByteArray("message digest") << QByteArray("f96b697d7cb7938d525a2f31aaf161d0");
-    QTest::newRow("longer than a block")
-        << QByteArray("1234567890").repeated(8) << QByteArray("57edf4a22be3c955ac49da2e2107b67a");
-}
-
-/// Catches pieces that are dropped or joined wrongly, and an Init() that keeps what was added before.
-void TestKvl::Md5()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QByteArray, digest);
-    QCOMPARE(Md5InPieces(text, 7), digest);
-    QCOMPARE(Md5InPieces(text, 1000), digest);
-}
-
-void TestKvl::Base64Vectors_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("text");
-    // RFC 4648, section 10
-    QTest::newRow("one") << QByteArray("f") << QByteArray("Zg==");
-    QTest::newRow("two") << QByteArray("fo") << QByteArray("Zm8=");
-    QTest::newRow("three") << QByteArray("foo") << QByteArray("Zm9v");
-    QTest::newRow("six") << QByteArray("foobar") << QByteArray("Zm9vYmFy");
-    QTest::newRow("last digits") << QByteArray("\xfb\xef\xff", 3) << QByteArray("++//");
-    QTest::newRow("zeros inside") << QByteArray("a\0\0b", 4) << QByteArray("YQAAYg==");
-}
-
-/// Catches a wrong digit, wrong padding, and a text that ends at a zero byte.
-void TestKvl::Base64Vectors()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QByteArray, text);
-    QCOMPARE(QByteArray::fromStdString(Common::enBase64(bytes.toStdString())), text);
-    QCOMPARE(QByteArray::fromStdString(Common::deBase64(text.toStdString())), bytes);
-    QByteArray out(bytes.size(), 'x');
-    QCOMPARE(Common::deBase64(text.toStdString(), out.data()), bytes.size());
-    QCOMPARE(out, bytes);
-}
-
-void TestKvl::MalformedBase64_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("no padding") << QByteArray("Zg");
-    QTest::newRow("too little padding") << QByteArray("Zg=");
-    QTest::newRow("too much padding") << QByteArray("Z===");
-    QTest::newRow("nothing but padding") << QByteArray("====");
-    QTest::newRow("padding inside") << QByteArray("Zg==Zg==");
-    QTest::newRow("padding before a digit") << QByteArray("Zm=v");
-    QTest::newRow("line break") << QByteArray("Zm9v\nYmF");
-    QTest::newRow("foreign character") << QByteArray("Zm9-");
-    QTest::newRow("byte above 0x7F") << QByteArray("Zm9\xC3");
-    QTest::newRow("zero byte") << QByteArray("Zm9\0", 4);
-    QTest::newRow("stray bits") << QByteArray("Zh==");
-}
-
-/// Catches malformed text that is decoded to something, and a call that writes in spite of its error.
-void TestKvl::MalformedBase64()
-{
-    QFETCH(QByteArray, text);
-    QByteArray out(64, 'x');
-    QVERIFY(Common::deBase64(text.toStdString(), out.data()) < 0);
-    QCOMPARE(out, QByteArray(64, 'x'));
-    QVERIFY(Common::deBase64(text.toStdString()).empty());
-}
-
-/// Catches a write past the buffer, and a buffer of exactly the needed size that is refused.
-void TestKvl::EncodingKeepsToItsBuffer()
-{
-    QByteArray text(9, 'x');
-    QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 7), -1LL);
-    QCOMPARE(kvl::DBase64::Encode("foobar", LLONG_MAX, text.data(), 9), -1LL);
-    QCOMPARE(kvl::DBase64::Encode("foobar", -1, text.data(), 9), -1LL);
-    QCOMPARE(text, QByteArray(9, 'x'));
-    QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 8), 8LL);
-    QCOMPARE(text, QByteArray("Zm9vYmFyx"));
-    QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 9), 8LL);
-    QCOMPARE(text, QByteArray("Zm9vYmFy\0", 9));
-}
-
-/// Catches the same of the other direction.
-void TestKvl::DecodingKeepsToItsBuffer()
-{
-    QByteArray bytes(6, 'x');
-    QCOMPARE(kvl::DBase64::Decode("Zm9vYmE=", 8, bytes.data(), 4), -1LL);
-    QCOMPARE(bytes.at(4), 'x');
-    QCOMPARE(kvl::DBase64::Decode("Zm9v", -4, bytes.data(), 6), -1LL);
-    QCOMPARE(kvl::DBase64::Decode("Zm9vYmE=", 8, bytes.data(), 5), 5LL);
-    QCOMPARE(bytes, QByteArray("foobax"));
-}
-
-/// Catches a digit or a length that only some bytes bring to light.
-void TestKvl::RandomBytesSurviveBase64()
-{
-    std::mt19937 random(4648);
-    for (std::size_t size = 0; size < 300; ++size) {
-        std::string bytes(size, '\0');
-        std::generate(bytes.begin(), bytes.end(), [&random] { return static_cast<char>(random()); });
-        const std::string text = Common::enBase64(bytes);
-        QCOMPARE(text.size(), (size + 2) / 3 * 4);
-        QCOMPARE(Common::deBase64(text), bytes);
-        QCOMPARE(QByteArray::fromStdString(text), QByteArray::fromStdString(bytes).toBase64());
+    void Md5_data()
+    {
+        TestSupport::Columns<QByteArray, QByteArray>("text", "digest");
+        // RFC 1321, appendix A.5
+        QTest::newRow("empty") << QByteArray() << QByteArray("d41d8cd98f00b204e9800998ecf8427e");
+        QTest::newRow("short") << QByteArray("message digest")
+                               << QByteArray("f96b697d7cb7938d525a2f31aaf161d0");
+        QTest::newRow("longer than a block")
+            << QByteArray("1234567890").repeated(8) << QByteArray("57edf4a22be3c955ac49da2e2107b67a");
     }
-}
 
-/// Catches a crash on null pointers and an error where there is just nothing to do.
-void TestKvl::Base64OfNothing()
-{
-    QVERIFY(Common::enBase64(nullptr, 0).empty());
-    QVERIFY(Common::enBase64(nullptr, 5).empty());
-    QVERIFY(Common::enBase64("a", ULLONG_MAX).empty());
-    QCOMPARE(Common::deBase64(std::string(), nullptr), 0);
-    QVERIFY(Common::deBase64(std::string("Zm9v"), nullptr) < 0);
-}
+    /// Catches pieces that are dropped or joined wrongly, and an Init() that keeps what was added before.
+    void Md5()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, digest);
+        QCOMPARE(Md5InPieces(text, 7), digest);
+        QCOMPARE(Md5InPieces(text, 1000), digest);
+    }
 
-void TestKvl::FormattingIsBounded_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("written");
-    QTest::addColumn<QByteArray>("buffer");
-    QTest::newRow("room to spare") << 8 << 5 << QByteArray("12-ab\0xx", 8);
-    QTest::newRow("just fits") << 6 << 5 << QByteArray("12-ab\0xx", 8);
-    QTest::newRow("one short") << 5 << 4 << QByteArray("12-a\0xxx", 8);
-    QTest::newRow("terminator only") << 1 << 0 << QByteArray("\0xxxxxxx", 8);
-    QTest::newRow("no buffer") << 0 << -1 << QByteArray("xxxxxxxx");
-}
+    void Base64Vectors_data()
+    {
+        TestSupport::Columns<QByteArray, QByteArray>("bytes", "text");
+        // RFC 4648, section 10
+        QTest::newRow("one") << QByteArray("f") << QByteArray("Zg==");
+        QTest::newRow("two") << QByteArray("fo") << QByteArray("Zm8=");
+        QTest::newRow("three") << QByteArray("foo") << QByteArray("Zm9v");
+        QTest::newRow("six") << QByteArray("foobar") << QByteArray("Zm9vYmFy");
+        QTest::newRow("last digits") << QByteArray("\xfb\xef\xff", 3) << QByteArray("++//");
+        QTest::newRow("zeros inside") << QByteArray("a\0\0b", 4) << QByteArray("YQAAYg==");
+    }
 
-/// Catches a missing terminator and a write past the given size.
-void TestKvl::FormattingIsBounded()
-{
-    QFETCH(int, size);
-    QFETCH(int, written);
-    QFETCH(QByteArray, buffer);
-    QByteArray out(8, 'x');
-    QCOMPARE(kvl::DStr::sprintf_x(out.data(), static_cast<std::size_t>(size), "%d-%s", 12, "ab"), written);
-    QCOMPARE(out, buffer);
-}
+    /// Catches a wrong digit, wrong padding, and a text that ends at a zero byte.
+    void Base64Vectors()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QByteArray, text);
+        QCOMPARE(QByteArray::fromStdString(Common::enBase64(bytes.toStdString())), text);
+        QCOMPARE(QByteArray::fromStdString(Common::deBase64(text.toStdString())), bytes);
+        QByteArray out(bytes.size(), 'x');
+        QCOMPARE(Common::deBase64(text.toStdString(), out.data()), bytes.size());
+        QCOMPARE(out, bytes);
+    }
 
-/// Catches a copy without a terminator and a cut that is not reported.
-void TestKvl::CopyingIsBounded()
-{
-    QByteArray out(6, 'x');
-    QVERIFY(kvl::DStr::strcpy_x(out.data(), 5, "wall"));
-    QCOMPARE(out, QByteArray("wall\0x", 6));
-    QVERIFY(!kvl::DStr::strcpy_x(out.data(), 4, "wall"));
-    QCOMPARE(out, QByteArray("wal\0\0x", 6));
-}
+    void MalformedBase64_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("no padding") << QByteArray("Zg");
+        QTest::newRow("too little padding") << QByteArray("Zg=");
+        QTest::newRow("too much padding") << QByteArray("Z===");
+        QTest::newRow("nothing but padding") << QByteArray("====");
+        QTest::newRow("padding inside") << QByteArray("Zg==Zg==");
+        QTest::newRow("padding before a digit") << QByteArray("Zm=v");
+        QTest::newRow("line break") << QByteArray("Zm9v\nYmF");
+        QTest::newRow("foreign character") << QByteArray("Zm9-");
+        QTest::newRow("byte above 0x7F") << QByteArray("Zm9\xC3");
+        QTest::newRow("zero byte") << QByteArray("Zm9\0", 4);
+        QTest::newRow("stray bits") << QByteArray("Zh==");
+    }
 
-/// Catches a crash on a null buffer, source or digest.
-void TestKvl::NullBuffersAreLeftAlone()
-{
-    QCOMPARE(kvl::DStr::sprintf_x(nullptr, 5, "%d", 1), -1);
-    QVERIFY(!kvl::DStr::strcpy_x(nullptr, 5, "a"));
-    QByteArray out(2, 'x');
-    QVERIFY(!kvl::DStr::strcpy_x(out.data(), 0, "a"));
-    QVERIFY(!kvl::DStr::strcpy_x(out.data(), 2, nullptr));
-    QCOMPARE(out, QByteArray("xx"));
-    kvl::DMD5 md5;
-    md5.Update(nullptr, 4);
-    md5.Final(nullptr);
-    QCOMPARE(Md5InPieces(QByteArray(), 1), QByteArray("d41d8cd98f00b204e9800998ecf8427e"));
-}
+    /// Catches malformed text that is decoded to something, and a call that writes in spite of its error.
+    void MalformedBase64()
+    {
+        QFETCH(QByteArray, text);
+        QByteArray out(64, 'x');
+        QVERIFY(Common::deBase64(text.toStdString(), out.data()) < 0);
+        QCOMPARE(out, QByteArray(64, 'x'));
+        QVERIFY(Common::deBase64(text.toStdString()).empty());
+    }
+
+    /// Catches a write past the buffer, and a buffer of exactly the needed size that is refused.
+    void EncodingKeepsToItsBuffer()
+    {
+        QByteArray text(9, 'x');
+        QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 7), -1LL);
+        QCOMPARE(kvl::DBase64::Encode("foobar", LLONG_MAX, text.data(), 9), -1LL);
+        QCOMPARE(kvl::DBase64::Encode("foobar", -1, text.data(), 9), -1LL);
+        QCOMPARE(text, QByteArray(9, 'x'));
+        QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 8), 8LL);
+        QCOMPARE(text, QByteArray("Zm9vYmFyx"));
+        QCOMPARE(kvl::DBase64::Encode("foobar", 6, text.data(), 9), 8LL);
+        QCOMPARE(text, QByteArray("Zm9vYmFy\0", 9));
+    }
+
+    /// Catches the same of the other direction.
+    void DecodingKeepsToItsBuffer()
+    {
+        QByteArray bytes(6, 'x');
+        QCOMPARE(kvl::DBase64::Decode("Zm9vYmE=", 8, bytes.data(), 4), -1LL);
+        QCOMPARE(bytes.at(4), 'x');
+        QCOMPARE(kvl::DBase64::Decode("Zm9v", -4, bytes.data(), 6), -1LL);
+        QCOMPARE(kvl::DBase64::Decode("Zm9vYmE=", 8, bytes.data(), 5), 5LL);
+        QCOMPARE(bytes, QByteArray("foobax"));
+    }
+
+    /// Catches a digit or a length that only some bytes bring to light.
+    void RandomBytesSurviveBase64()
+    {
+        std::mt19937 random(4648);
+        for (std::size_t size = 0; size < 300; ++size) {
+            std::string bytes(size, '\0');
+            std::generate(bytes.begin(), bytes.end(), [&random] { return static_cast<char>(random()); });
+            const std::string text = Common::enBase64(bytes);
+            QCOMPARE(text.size(), (size + 2) / 3 * 4);
+            QCOMPARE(Common::deBase64(text), bytes);
+            QCOMPARE(QByteArray::fromStdString(text), QByteArray::fromStdString(bytes).toBase64());
+        }
+    }
+
+    /// Catches a crash on null pointers and an error where there is just nothing to do.
+    void Base64OfNothing()
+    {
+        QVERIFY(Common::enBase64(nullptr, 0).empty());
+        QVERIFY(Common::enBase64(nullptr, 5).empty());
+        QVERIFY(Common::enBase64("a", ULLONG_MAX).empty());
+        QCOMPARE(Common::deBase64(std::string(), nullptr), 0);
+        QVERIFY(Common::deBase64(std::string("Zm9v"), nullptr) < 0);
+    }
+
+    void FormattingIsBounded_data()
+    {
+        TestSupport::Columns<int, int, QByteArray>("size", "written", "buffer");
+        QTest::newRow("room to spare") << 8 << 5 << QByteArray("12-ab\0xx", 8);
+        QTest::newRow("just fits") << 6 << 5 << QByteArray("12-ab\0xx", 8);
+        QTest::newRow("one short") << 5 << 4 << QByteArray("12-a\0xxx", 8);
+        QTest::newRow("terminator only") << 1 << 0 << QByteArray("\0xxxxxxx", 8);
+        QTest::newRow("no buffer") << 0 << -1 << QByteArray("xxxxxxxx");
+    }
+
+    /// Catches a missing terminator and a write past the given size.
+    void FormattingIsBounded()
+    {
+        QFETCH(int, size);
+        QFETCH(int, written);
+        QFETCH(QByteArray, buffer);
+        QByteArray out(8, 'x');
+        QCOMPARE(
+            kvl::DStr::sprintf_x(out.data(), static_cast<std::size_t>(size), "%d-%s", 12, "ab"), written);
+        QCOMPARE(out, buffer);
+    }
+
+    /// Catches a copy without a terminator and a cut that is not reported.
+    void CopyingIsBounded()
+    {
+        QByteArray out(6, 'x');
+        QVERIFY(kvl::DStr::strcpy_x(out.data(), 5, "wall"));
+        QCOMPARE(out, QByteArray("wall\0x", 6));
+        QVERIFY(!kvl::DStr::strcpy_x(out.data(), 4, "wall"));
+        QCOMPARE(out, QByteArray("wal\0\0x", 6));
+    }
+
+    /// Catches a crash on a null buffer, source or digest.
+    void NullBuffersAreLeftAlone()
+    {
+        QCOMPARE(kvl::DStr::sprintf_x(nullptr, 5, "%d", 1), -1);
+        QVERIFY(!kvl::DStr::strcpy_x(nullptr, 5, "a"));
+        QByteArray out(2, 'x');
+        QVERIFY(!kvl::DStr::strcpy_x(out.data(), 0, "a"));
+        QVERIFY(!kvl::DStr::strcpy_x(out.data(), 2, nullptr));
+        QCOMPARE(out, QByteArray("xx"));
+        kvl::DMD5 md5;
+        md5.Update(nullptr, 4);
+        md5.Final(nullptr);
+        QCOMPARE(Md5InPieces(QByteArray(), 1), QByteArray("d41d8cd98f00b204e9800998ecf8427e"));
+    }
+};
 
 STRICT_TEST_MAIN(TestKvl)
 #include "tst_kvl.moc"

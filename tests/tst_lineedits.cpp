@@ -1,5 +1,6 @@
 // The marked line edits, the edit with a folder button and the push buttons.
 
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <UI/FormInputs/CRequiredEdit.h>
@@ -8,16 +9,8 @@
 #include <UI/FormInputs/KvLineEditWithDirButton.h>
 #include <UI/FormInputs/WmNoImpPushButton.h>
 
-#include <QApplication>
-#include <QFileDialog>
-#include <QLabel>
-#include <QMouseEvent>
-#include <QPointer>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <QToolButton>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 #include <functional>
 
 using namespace UICommonMdl;
@@ -53,214 +46,199 @@ class TestLineEdits : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void AsteriskFollowsTheHeight();
-    void MarkerFollowsTheHeight();
-    void ClickOnTheAsteriskEdits();
-    void FolderButtonStaysAtTheEnd_data();
-    void FolderButtonStaysAtTheEnd();
-    void ChosenFileIsTaken();
-    void CancelledDialogChangesNothing();
-    void AlwaysOpensAFile();
-    void GivenFileIsPreselected();
-    void DeletedWhileItsDialogIsOpen_data();
-    void DeletedWhileItsDialogIsOpen();
-    void ButtonsTakeTheirOwnSheets();
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    /// Catches an asterisk that keeps the height of the edit's birth.
+    void AsteriskFollowsTheHeight()
+    {
+        CRequiredEdit edit;
+        const auto* symbol = edit.findChild<QLabel*>(QStringLiteral("CRequiredEdit--m_pSymbolRequired"));
+        edit.show();
+        for (const int height : {60, 34}) {
+            edit.resize(200, height);
+            QCOMPARE(symbol->height(), height);
+            QCOMPARE(symbol->pos(), QPoint(5, 0));
+        }
+        QVERIFY(symbol->width() >= 10);
+        QCOMPARE(edit.textMargins(), QMargins(10, 0, 0, 0));
+    }
+
+    /// The same for the other marked edit.
+    void MarkerFollowsTheHeight()
+    {
+        KvLineEditEx edit;
+        const auto* marker = edit.findChild<QLabel*>();
+        edit.show();
+        for (const int height : {60, 34}) {
+            edit.resize(200, height);
+            QCOMPARE(marker->height(), height);
+            QCOMPARE(marker->pos(), QPoint(5, 0));
+        }
+        QCOMPARE(edit.textMargins(), QMargins(15, 0, 0, 0));
+    }
+
+    /// Catches a mark that keeps clicks from the edit below it.
+    void ClickOnTheAsteriskEdits()
+    {
+        CRequiredEdit edit;
+        edit.setText(QStringLiteral("abc"));
+        edit.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        QCOMPARE(edit.cursorPosition(), 3);
+        QTest::mouseClick(edit.windowHandle(), Qt::LeftButton, {}, QPoint(7, edit.height() / 2));
+        QCOMPARE(edit.cursorPosition(), 0);
+    }
+
+    void FolderButtonStaysAtTheEnd_data()
+    {
+        TestSupport::Columns<QSize, QRect>("size", "place");
+        QTest::newRow("usual") << QSize(200, 30) << QRect(179, 4, 21, 21);
+        QTest::newRow("odd height") << QSize(301, 41) << QRect(280, 10, 21, 21);
+        QTest::newRow("lower than the button") << QSize(200, 16) << QRect(179, -3, 21, 21);
+    }
+
+    /// Catches a button that stays where the edit ended before.
+    void FolderButtonStaysAtTheEnd()
+    {
+        QFETCH(QSize, size);
+        KvLineEditWithDirButton edit;
+        edit.setMinimumSize(1, 1);
+        edit.ensurePolished(); // afterwards no base class sets its sheet
+        edit.setStyleSheet(QString());
+        edit.resize(size);
+        edit.show();
+        QTEST(edit.findChild<QToolButton*>()->geometry(), "place");
+    }
+
+    /// Catches a button without effect, and a caption, folder or filter that does not reach the dialog.
+    void ChosenFileIsTaken()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("camera.cfg"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        KvLineEditWithDirButton edit;
+        edit.SetOpenFile(QStringLiteral("Camera list"), folder.path(), QStringLiteral("Lists (*.cfg)"));
+        edit.show();
+        DialogAnswer answer([&](QFileDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), QStringLiteral("Camera list"));
+            QCOMPARE(dialog.directory().absolutePath(), folder.path());
+            QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("Lists (*.cfg)")));
+            dialog.selectFile(path);
+            dialog.findChild<QLineEdit*>()->setText(path);
+            QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+        });
+        QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+        QCOMPARE(answer.shown, 1);
+        QCOMPARE(edit.text(), path);
+    }
+
+    /// Catches a cancelled dialog that clears the edit.
+    void CancelledDialogChangesNothing()
+    {
+        KvLineEditWithDirButton edit;
+        edit.setText(QStringLiteral("/before"));
+        edit.show();
+        DialogAnswer answer([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        QTest::keyClick(edit.findChild<QToolButton*>(), Qt::Key_Space);
+        QCOMPARE(answer.shown, 1);
+        QCOMPARE(edit.text(), QStringLiteral("/before"));
+    }
+
+    /// Catches a setter that changes the kind of dialog.
+    void AlwaysOpensAFile()
+    {
+        KvLineEditWithDirButton edit;
+        edit.show();
+        DialogAnswer answer([](QFileDialog& dialog) {
+            QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+            QCOMPARE(dialog.fileMode(), QFileDialog::ExistingFile);
+            dialog.reject();
+        });
+        edit.SetSaveFile(QStringLiteral("Save"), QDir::tempPath(), QString());
+        QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+        answer.timer.start();
+        edit.SetSelectDirectory(QStringLiteral("Folder"), QDir::tempPath(), QFileDialog::ShowDirsOnly);
+        QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+        QCOMPARE(answer.shown, 2);
+    }
+
+    /// Catches a dialog that begins in the right folder and forgets the file which the client named.
+    void GivenFileIsPreselected()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("camera.cfg"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        KvLineEditWithDirButton edit;
+        edit.SetOpenFile(
+            QString(), path, QString(QChar(0xd800))); // half a character is no pattern: Qt would warn
+        edit.show();
+        DialogAnswer answer([&](QFileDialog& dialog) {
+            QCOMPARE(dialog.directory().absolutePath(), folder.path());
+            QCOMPARE(dialog.selectedFiles(), QStringList(path));
+            QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+        });
+        QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
+        QCOMPARE(edit.text(), path);
+    }
+
+    void DeletedWhileItsDialogIsOpen_data()
+    {
+        TestSupport::Columns<bool, bool>("withWindow", "byKey");
+        QTest::newRow("edit, opened by the mouse") << false << false;
+        QTest::newRow("edit, opened by a key") << false << true;
+        QTest::newRow("window, opened by the mouse") << true << false;
+    }
+
+    /// Catches a file dialog that does not bear the end of its edit: a page is closed by a lost connection,
+    /// say.
+    void DeletedWhileItsDialogIsOpen()
+    {
+        QFETCH(bool, withWindow);
+        QFETCH(bool, byKey);
+        QPointer<QWidget> window(new QWidget);
+        QPointer<KvLineEditWithDirButton> edit(new KvLineEditWithDirButton(window));
+        window->show();
+        QPointer<QFileDialog> opened;
+        DialogAnswer answer([&](QFileDialog& dialog) {
+            opened = &dialog;
+            if (withWindow)
+                delete window;
+            else
+                delete edit;
+        });
+        auto* button = edit->findChild<QToolButton*>();
+        // Not by QTest's clicks, which go on with the button that they were given.
+        QEvent::Type types[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease};
+        for (const QEvent::Type type : types) {
+            QMouseEvent mouse(type, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QKeyEvent key(
+                type == QEvent::MouseButtonPress ? QEvent::KeyPress : QEvent::KeyRelease, Qt::Key_Space,
+                Qt::NoModifier);
+            QCoreApplication::sendEvent(button, byKey ? static_cast<QEvent*>(&key) : &mouse);
+        }
+        QCOMPARE(answer.shown, 1);
+        QVERIFY(!edit);
+        QVERIFY(!opened);
+        delete window;
+    }
+
+    /// Catches buttons styled by their base class's sheet alone.
+    void ButtonsTakeTheirOwnSheets()
+    {
+        const KvGUI::KvPushButton plain(QStringLiteral("Plain"));
+        const KvImpPushButton important(QStringLiteral("Save"));
+        const WmNoImpPushButton other(QIcon(), QStringLiteral("Cancel"));
+        QCOMPARE(important.text(), QStringLiteral("Save"));
+        QCOMPARE(other.text(), QStringLiteral("Cancel"));
+        QVERIFY(important.styleSheet() != plain.styleSheet());
+        QVERIFY(other.styleSheet() != plain.styleSheet());
+        QVERIFY(important.styleSheet() != other.styleSheet());
+    }
 };
-
-void TestLineEdits::initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
-
-/// Catches an asterisk that keeps the height of the edit's birth.
-void TestLineEdits::AsteriskFollowsTheHeight()
-{
-    CRequiredEdit edit;
-    const auto* symbol = edit.findChild<QLabel*>(QStringLiteral("CRequiredEdit--m_pSymbolRequired"));
-    edit.show();
-    for (const int height : {60, 34}) {
-        edit.resize(200, height);
-        QCOMPARE(symbol->height(), height);
-        QCOMPARE(symbol->pos(), QPoint(5, 0));
-    }
-    QVERIFY(symbol->width() >= 10);
-    QCOMPARE(edit.textMargins(), QMargins(10, 0, 0, 0));
-}
-
-/// The same for the other marked edit.
-void TestLineEdits::MarkerFollowsTheHeight()
-{
-    KvLineEditEx edit;
-    const auto* marker = edit.findChild<QLabel*>();
-    edit.show();
-    for (const int height : {60, 34}) {
-        edit.resize(200, height);
-        QCOMPARE(marker->height(), height);
-        QCOMPARE(marker->pos(), QPoint(5, 0));
-    }
-    QCOMPARE(edit.textMargins(), QMargins(15, 0, 0, 0));
-}
-
-/// Catches a mark that keeps clicks from the edit below it.
-void TestLineEdits::ClickOnTheAsteriskEdits()
-{
-    CRequiredEdit edit;
-    edit.setText(QStringLiteral("abc"));
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&edit));
-    QCOMPARE(edit.cursorPosition(), 3);
-    QTest::mouseClick(edit.windowHandle(), Qt::LeftButton, {}, QPoint(7, edit.height() / 2));
-    QCOMPARE(edit.cursorPosition(), 0);
-}
-
-void TestLineEdits::FolderButtonStaysAtTheEnd_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QRect>("place");
-    QTest::newRow("usual") << QSize(200, 30) << QRect(179, 4, 21, 21);
-    QTest::newRow("odd height") << QSize(301, 41) << QRect(280, 10, 21, 21);
-    QTest::newRow("lower than the button") << QSize(200, 16) << QRect(179, -3, 21, 21);
-}
-
-/// Catches a button that stays where the edit ended before.
-void TestLineEdits::FolderButtonStaysAtTheEnd()
-{
-    QFETCH(QSize, size);
-    KvLineEditWithDirButton edit;
-    edit.setMinimumSize(1, 1);
-    edit.ensurePolished(); // afterwards no base class sets its sheet
-    edit.setStyleSheet(QString());
-    edit.resize(size);
-    edit.show();
-    QTEST(edit.findChild<QToolButton*>()->geometry(), "place");
-}
-
-/// Catches a button without effect, and a caption, folder or filter that does not reach the dialog.
-void TestLineEdits::ChosenFileIsTaken()
-{
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("camera.cfg"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    KvLineEditWithDirButton edit;
-    edit.SetOpenFile(QStringLiteral("Camera list"), folder.path(), QStringLiteral("Lists (*.cfg)"));
-    edit.show();
-    DialogAnswer answer([&](QFileDialog& dialog) {
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Camera list"));
-        QCOMPARE(dialog.directory().absolutePath(), folder.path());
-        QCOMPARE(dialog.nameFilters(), QStringList(QStringLiteral("Lists (*.cfg)")));
-        dialog.selectFile(path);
-        dialog.findChild<QLineEdit*>()->setText(path);
-        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
-    });
-    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
-    QCOMPARE(answer.shown, 1);
-    QCOMPARE(edit.text(), path);
-}
-
-/// Catches a cancelled dialog that clears the edit.
-void TestLineEdits::CancelledDialogChangesNothing()
-{
-    KvLineEditWithDirButton edit;
-    edit.setText(QStringLiteral("/before"));
-    edit.show();
-    DialogAnswer answer([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    QTest::keyClick(edit.findChild<QToolButton*>(), Qt::Key_Space);
-    QCOMPARE(answer.shown, 1);
-    QCOMPARE(edit.text(), QStringLiteral("/before"));
-}
-
-/// Catches a setter that changes the kind of dialog.
-void TestLineEdits::AlwaysOpensAFile()
-{
-    KvLineEditWithDirButton edit;
-    edit.show();
-    DialogAnswer answer([](QFileDialog& dialog) {
-        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
-        QCOMPARE(dialog.fileMode(), QFileDialog::ExistingFile);
-        dialog.reject();
-    });
-    edit.SetSaveFile(QStringLiteral("Save"), QDir::tempPath(), QString());
-    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
-    answer.timer.start();
-    edit.SetSelectDirectory(QStringLiteral("Folder"), QDir::tempPath(), QFileDialog::ShowDirsOnly);
-    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
-    QCOMPARE(answer.shown, 2);
-}
-
-/// Catches a dialog that begins in the right folder and forgets the file which the client named.
-void TestLineEdits::GivenFileIsPreselected()
-{
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("camera.cfg"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    KvLineEditWithDirButton edit;
-    edit.SetOpenFile(
-        QString(), path, QString(QChar(0xd800))); // half a character is no pattern: Qt would warn
-    edit.show();
-    DialogAnswer answer([&](QFileDialog& dialog) {
-        QCOMPARE(dialog.directory().absolutePath(), folder.path());
-        QCOMPARE(dialog.selectedFiles(), QStringList(path));
-        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
-    });
-    QTest::mouseClick(edit.findChild<QToolButton*>(), Qt::LeftButton);
-    QCOMPARE(edit.text(), path);
-}
-
-void TestLineEdits::DeletedWhileItsDialogIsOpen_data()
-{
-    QTest::addColumn<bool>("withWindow");
-    QTest::addColumn<bool>("byKey");
-    QTest::newRow("edit, opened by the mouse") << false << false;
-    QTest::newRow("edit, opened by a key") << false << true;
-    QTest::newRow("window, opened by the mouse") << true << false;
-}
-
-/// Catches a file dialog that does not bear the end of its edit: a page is closed by a lost connection, say.
-void TestLineEdits::DeletedWhileItsDialogIsOpen()
-{
-    QFETCH(bool, withWindow);
-    QFETCH(bool, byKey);
-    QPointer<QWidget> window(new QWidget);
-    QPointer<KvLineEditWithDirButton> edit(new KvLineEditWithDirButton(window));
-    window->show();
-    QPointer<QFileDialog> opened;
-    DialogAnswer answer([&](QFileDialog& dialog) {
-        opened = &dialog;
-        if (withWindow)
-            delete window;
-        else
-            delete edit;
-    });
-    auto* button = edit->findChild<QToolButton*>();
-    // Not by QTest's clicks, which go on with the button that they were given.
-    QEvent::Type types[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease};
-    for (const QEvent::Type type : types) {
-        QMouseEvent mouse(type, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QKeyEvent key(
-            type == QEvent::MouseButtonPress ? QEvent::KeyPress : QEvent::KeyRelease, Qt::Key_Space,
-            Qt::NoModifier);
-        QCoreApplication::sendEvent(button, byKey ? static_cast<QEvent*>(&key) : &mouse);
-    }
-    QCOMPARE(answer.shown, 1);
-    QVERIFY(!edit);
-    QVERIFY(!opened);
-    delete window;
-}
-
-/// Catches buttons styled by their base class's sheet alone.
-void TestLineEdits::ButtonsTakeTheirOwnSheets()
-{
-    const KvGUI::KvPushButton plain(QStringLiteral("Plain"));
-    const KvImpPushButton important(QStringLiteral("Save"));
-    const WmNoImpPushButton other(QIcon(), QStringLiteral("Cancel"));
-    QCOMPARE(important.text(), QStringLiteral("Save"));
-    QCOMPARE(other.text(), QStringLiteral("Cancel"));
-    QVERIFY(important.styleSheet() != plain.styleSheet());
-    QVERIFY(other.styleSheet() != plain.styleSheet());
-    QVERIFY(important.styleSheet() != other.styleSheet());
-}
 
 STRICT_TEST_MAIN(TestLineEdits)
 #include "tst_lineedits.moc"

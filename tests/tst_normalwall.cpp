@@ -1,23 +1,15 @@
 // What only the wall drawn by a graphics view has; what it shares with the other family is in tst_walls.cpp.
 
 #include "support/AtEvent.h"
+#include "support/Columns.h"
 #include "support/ScaleRects.h"
 #include "support/StrictMain.h"
 #include "support/WallMouse.h"
 
 #include <UI/TVWall/KvTVWallNormalWnd.h>
 
-#include <QApplication>
-#include <QDragMoveEvent>
-#include <QDropEvent>
-#include <QGraphicsView>
-#include <QHelpEvent>
-#include <QMimeData>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <QToolTip>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 #include <limits>
 
 using Rect = KvGUI::StructScaleRect;
@@ -115,452 +107,430 @@ class tst_NormalWall : public QObject
 
 private Q_SLOTS:
     void initTestCase() { qRegisterMetaType<QEvent*>(); }
-    void zDecidesThePaintingOrder_data();
-    void zDecidesThePaintingOrder();
-    void headings();
-    void titlesAreToldWhereTheyAreCovered();
-    void boundScreensEndDragsOnCells();
-    void videoWidgets();
-    void videosOfTheClient();
-    void videoWidgetsDeletedByTheClient();
-    void overviewOfAZoomedWall();
-    void zoomSurvivesResizing();
-    void videoEndsTheZoom();
-    void videoOpensWindowsInANewLook();
-    void audioButtons();
-    void buttonsNeedPressAndReleaseInside();
-    void narrowWindowsCanBeMoved();
-    void cursors();
-    void keyboard();
-    void dragsFromElsewhere();
-    void styleReachesThePainting();
-    void sizeBeforeShowing();
-};
 
-void tst_NormalWall::zDecidesThePaintingOrder_data()
-{
-    QTest::addColumn<double>("first");
-    QTest::addColumn<double>("second");
-    QTest::addColumn<bool>("firstOnTop");
-    QTest::newRow("new windows") << 0.0 << 0.0 << false;
-    QTest::newRow("equal") << 2.5 << 2.5 << false;
-    QTest::newRow("less than one apart") << 0.25 << 0.2 << true;
-    QTest::newRow("below zero") << -0.5 << -0.75 << true;
-    QTest::newRow("infinite") << Infinity << 1e300 << true;
-    QTest::newRow("infinite below") << 0.0 << -Infinity << true;
-}
+    void zDecidesThePaintingOrder_data()
+    {
+        TestSupport::Columns<double, double, bool>("first", "second", "firstOnTop");
+        QTest::newRow("new windows") << 0.0 << 0.0 << false;
+        QTest::newRow("equal") << 2.5 << 2.5 << false;
+        QTest::newRow("less than one apart") << 0.25 << 0.2 << true;
+        QTest::newRow("below zero") << -0.5 << -0.75 << true;
+        QTest::newRow("infinite") << Infinity << 1e300 << true;
+        QTest::newRow("infinite below") << 0.0 << -Infinity << true;
+    }
 
-// Catches z-values that are cut to whole numbers, and an order that is painted only at the next change.
-void tst_NormalWall::zDecidesThePaintingOrder()
-{
-    QFETCH(double, first);
-    QFETCH(double, second);
-    Fixture f({LeftUpper, LeftUpper});
-    f.Fill(0, Qt::red);
-    f.Fill(1, Qt::blue);
-    f.Picture();
-    QVERIFY(f.wall->SetWindowZValue(0, 0, first) && f.wall->SetWindowZValue(0, 1, second));
-    const QColor seen = f.Picture().pixelColor(OnLeftVideo);
-    QTEST(seen == Qt::red, "firstOnTop");
-    QVERIFY(!f.wall->SetWindowZValue(0, 0, std::numeric_limits<double>::quiet_NaN()));
-    QCOMPARE(f.wall->GetWindowZValue(0, 0), first);
-    QCOMPARE(f.wall->GetMaxWindowZValue(0), qMax(0.0, qMax(first, second)));
-    QCOMPARE(f.Picture().pixelColor(OnLeftVideo), seen);
-}
+    // Catches z-values that are cut to whole numbers, and an order that is painted only at the next change.
+    void zDecidesThePaintingOrder()
+    {
+        QFETCH(double, first);
+        QFETCH(double, second);
+        Fixture f({LeftUpper, LeftUpper});
+        f.Fill(0, Qt::red);
+        f.Fill(1, Qt::blue);
+        f.Picture();
+        QVERIFY(f.wall->SetWindowZValue(0, 0, first) && f.wall->SetWindowZValue(0, 1, second));
+        const QColor seen = f.Picture().pixelColor(OnLeftVideo);
+        QTEST(seen == Qt::red, "firstOnTop");
+        QVERIFY(!f.wall->SetWindowZValue(0, 0, std::numeric_limits<double>::quiet_NaN()));
+        QCOMPARE(f.wall->GetWindowZValue(0, 0), first);
+        QCOMPARE(f.wall->GetMaxWindowZValue(0), qMax(0.0, qMax(first, second)));
+        QCOMPARE(f.Picture().pixelColor(OnLeftVideo), seen);
+    }
 
-// Catches headings that are dropped, painted over each other, or left behind.
-void tst_NormalWall::headings()
-{
-    Fixture f;
-    const QRect area(0, 0, 500, 40);
-    const QImage plain = f.Picture();
-    QVERIFY(f.wall->SetScreenTitle(0, QStringLiteral("Entrance")));
-    const QImage titled = f.Picture();
-    QVERIFY(Different(plain, titled, area) > 50);
-    f.wall->SetScreenTitle(0, QString());
-    QCOMPARE(f.Picture(), plain);
-    f.wall->DeleteAllScreen();
-    f.wall->AddScreen(Whole, GreenIcon(), QStringLiteral("Entrance"), QVariant());
-    const QImage both = f.Picture();
-    QCOMPARE(both.pixelColor(OnHeading), QColor(Qt::green));
-    QVERIFY(Different(both, titled, area) > 50); // the text has moved aside
-    f.wall->OpenWindow(0, Whole, QVariant());
-    QVERIFY(f.Picture().pixelColor(OnHeading + QPoint(0, 30)) != QColor(Qt::green));
-}
+    // Catches headings that are dropped, painted over each other, or left behind.
+    void headings()
+    {
+        Fixture f;
+        const QRect area(0, 0, 500, 40);
+        const QImage plain = f.Picture();
+        QVERIFY(f.wall->SetScreenTitle(0, QStringLiteral("Entrance")));
+        const QImage titled = f.Picture();
+        QVERIFY(Different(plain, titled, area) > 50);
+        f.wall->SetScreenTitle(0, QString());
+        QCOMPARE(f.Picture(), plain);
+        f.wall->DeleteAllScreen();
+        f.wall->AddScreen(Whole, GreenIcon(), QStringLiteral("Entrance"), QVariant());
+        const QImage both = f.Picture();
+        QCOMPARE(both.pixelColor(OnHeading), QColor(Qt::green));
+        QVERIFY(Different(both, titled, area) > 50); // the text has moved aside
+        f.wall->OpenWindow(0, Whole, QVariant());
+        QVERIFY(f.Picture().pixelColor(OnHeading + QPoint(0, 30)) != QColor(Qt::green));
+    }
 
-// Catches a title that cannot be read once windows fill the screen, and one taken for rich text.
-void tst_NormalWall::titlesAreToldWhereTheyAreCovered()
-{
-    Fixture f({LeftUpper});
-    const auto told = [&f](const char* title) {
-        f.wall->SetScreenTitle(0, QString::fromLatin1(title));
-        QHelpEvent help(QEvent::ToolTip, OnLeftVideo, f.wall->mapToGlobal(OnLeftVideo));
-        QApplication::sendEvent(f.Viewport(), &help);
-        return QToolTip::text();
-    };
-    QCOMPARE(told("Gate 7 & 8 < 9"), QStringLiteral("Gate 7 & 8 < 9"));
-    QCOMPARE(told("<b>7</b>"), QStringLiteral("&lt;b&gt;7&lt;/b&gt;"));
-    QToolTip::hideText();
-}
+    // Catches a title that cannot be read once windows fill the screen, and one taken for rich text.
+    void titlesAreToldWhereTheyAreCovered()
+    {
+        Fixture f({LeftUpper});
+        const auto told = [&f](const char* title) {
+            f.wall->SetScreenTitle(0, QString::fromLatin1(title));
+            QHelpEvent help(QEvent::ToolTip, OnLeftVideo, f.wall->mapToGlobal(OnLeftVideo));
+            QApplication::sendEvent(f.Viewport(), &help);
+            return QToolTip::text();
+        };
+        QCOMPARE(told("Gate 7 & 8 < 9"), QStringLiteral("Gate 7 & 8 < 9"));
+        QCOMPARE(told("<b>7</b>"), QStringLiteral("&lt;b&gt;7&lt;/b&gt;"));
+        QToolTip::hideText();
+    }
 
-// Catches a bound screen whose windows end between cells, a client's rectangle that is bent, and a binding
-// that outlasts its end.
-void tst_NormalWall::boundScreensEndDragsOnCells()
-{
-    Fixture f;
-    QVERIFY(f.wall->IsScreenFreeMode(0) && f.wall->IsScreenFreeMode(7));
-    f.wall->SetScreenFreeMode(0, false);
-    f.wall->SetScreenFreeMode(7, false);
-    QVERIFY(!f.wall->IsScreenFreeMode(0) && f.wall->IsScreenFreeMode(7));
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    QCOMPARE(f.Scale(0), LeftUpper);
-    f.mouse.Press(OnLeftTitle);
-    f.mouse.Move(OnLeftTitle + QPoint(200, 0));
-    QCOMPARE(f.Video(0), QRect(251, 26, 496, 576)); // of the window at 250, 0 with 500 x 600 pixels
-    QCOMPARE(f.Scale(0), LeftUpper);
-    f.mouse.Release(OnLeftTitle + QPoint(200, 0));
-    QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.75, 1.0, true}));
-    f.mouse.Drag({749, 300}, {600, 300}); // its right edge
-    QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.75, 1.0, true}));
-    f.mouse.Drag({749, 300}, {480, 300});
-    QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.5, 1.0, true}));
-    f.wall->SetWindowScale(0, 0, LeftUpper);
-    QCOMPARE(f.Scale(0), LeftUpper);
-    f.wall->SetScreenFreeMode(0, true);
-    f.mouse.Drag(OnLeftTitle, OnLeftTitle + QPoint(50, 0));
-    QCOMPARE(f.Scale(0), (Rect{0.15, 0.2, 0.45, 0.6, true}));
-}
-
-// Catches settings that are lost because they came before the widget, and a widget that does not follow.
-void tst_NormalWall::videoWidgets()
-{
-    Fixture f({LeftUpper});
-    const QImage without = f.Picture();
-    QVERIFY(f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("Connecting")));
-    const QImage painted = f.Picture();
-    QVERIFY(Different(without, painted, QRect(110, 150, 280, 200)) > 50);
-    QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, false));
-    QWidget* video = f.wall->GetWindowWidget(0, 0);
-    QVERIFY(video != nullptr && !video->updatesEnabled());
-    QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, true));
-    QCOMPARE(f.Picture(), painted); // text and colours are the same in the widget
-    QCOMPARE(f.wall->GetWindowWidget(0, 0), video);
-    QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
-    f.wall->SetWindowScale(0, 0, RightUpper);
-    QCOMPARE(f.Video(0), QRect(501, 146, 296, 216));
-    f.wall->resize(500, 300);
-    QCOMPARE(f.Video(0), QRect(251, 86, 146, 96));
-}
-
-// Catches a video that takes the clicks which are the window's, or does not get its own.
-void tst_NormalWall::videosOfTheClient()
-{
-    Fixture f;
-    f.wall->SetWindowSelectionMode(Wall::SingleSelection);
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    auto* button = new QPushButton(f.wall->GetWindowWidget(0, 0));
-    button->setGeometry(20, 60, 100, 60);
-    button->show();
-    const QSignalSpy clicked(button, &QPushButton::clicked);
-    const QSignalSpy events(f.wall, &Wall::SignalWindowEvent);
-    f.mouse.Click(OnLeftVideo);
-    QCOMPARE(clicked.count(), 1);
-    QCOMPARE(events.count(), 0);
-    QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
-    f.mouse.Click(OnLeftVideo + QPoint(100, 0)); // beside it
-    QCOMPARE(clicked.count(), 1);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
-    QVERIFY(events.count() > 0);
-}
-
-// Catches a proxy that is used after its widget.
-void tst_NormalWall::videoWidgetsDeletedByTheClient()
-{
-    Fixture f({LeftUpper});
-    f.Fill(0, Qt::red);
-    QCOMPARE(f.Picture().pixelColor(OnLeftVideo), QColor(Qt::red));
-    delete f.wall->GetWindowWidget(0, 0);
-    QVERIFY(f.wall->GetWindowWidget(0, 0) == nullptr);
-    QVERIFY(!f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("text")));
-    QVERIFY(!f.wall->SetWindowUpdateEnable(0, 0, true));
-    QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
-    QVERIFY(f.wall->SetWindowScale(0, 0, RightUpper));
-    QVERIFY(f.Picture().pixelColor(OnRightVideo) != QColor(Qt::red));
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    QVERIFY(f.wall->DeleteWindowWidget(0, 1)); // though nobody has asked for it
-    QVERIFY(f.wall->GetWindowWidget(0, 1) == nullptr);
-    QVERIFY(!f.wall->DeleteWindowWidget(0, 1));
-}
-
-// Catches an overview in the way of an operator who sees the whole wall, and a way back that is none.
-void tst_NormalWall::overviewOfAZoomedWall()
-{
-    Fixture f({LeftUpper});
-    const QRect unzoomed = f.Video(0);
-    QVERIFY(f.Overview() == nullptr);
-    QSignalSpy wheel(f.wall, &Wall::SignalWheelEvent);
-    f.mouse.Wheel({0, 0}, 120);
-    QCOMPARE(wheel.count(), 1);
-    QCOMPARE(f.Video(0), QRect(151, 206, 446, 336)); // 1500 x 900 pixels from the origin
-    QWidget* overview = f.Overview();
-    QVERIFY(overview != nullptr);
-    QCOMPARE(overview->geometry().bottomRight(), f.wall->rect().bottomRight());
-    f.mouse.Click(overview->geometry().topLeft() + QPoint(overview->width() - 10, 10));
-    QCOMPARE(f.Video(0).left(), 151 - 499); // all the way to the right, and up: offset -500
-    QCOMPARE(f.Video(0).top(), 206);
-    f.wall->RecoverEagleEye();
-    QCOMPARE(f.Video(0), unzoomed);
-    QVERIFY(f.Overview() == nullptr);
-    f.mouse.Wheel({500, 300}, 120);
-    QVERIFY(f.Overview() != nullptr);
-    f.mouse.Wheel({500, 300}, -120);
-    QVERIFY(f.Overview() == nullptr);
-    QCOMPARE(f.Video(0), unzoomed);
-}
-
-// Catches a zoom that a resize forgets, an overview left where the corner was, and a division by no size.
-void tst_NormalWall::zoomSurvivesResizing()
-{
-    Fixture f({LeftUpper});
-    f.mouse.Wheel({0, 0}, 120);
-    f.wall->resize(500, 300);
-    QCOMPARE(f.Video(0), QRect(76, 116, 221, 156)); // of 750 x 450 pixels
-    QVERIFY(f.Overview() != nullptr);
-    QCOMPARE(f.Overview()->geometry().bottomRight(), f.wall->rect().bottomRight());
-    f.wall->resize(0, 0);
-    f.wall->RecoverEagleEye();
-    f.wall->resize(1000, 600);
-    QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
-}
-
-// Catches a zoom step that goes on with its own size after a video has shown the whole wall again.
-void tst_NormalWall::videoEndsTheZoom()
-{
-    Fixture f;
-    f.wall->AddScreen(Whole, QVariant());
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.wall->OpenWindow(1, LeftUpper, QVariant());
-    const QWidget* last = f.wall->GetWindowWidget(1, 0);
-    const TestSupport::AtEvent atResize(
-        f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&f] { f.wall->RecoverEagleEye(); });
-    f.mouse.Wheel({0, 0}, 120);
-    QVERIFY(atResize.HasActed());
-    QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
-    QCOMPARE(last->size(), QSize(296, 216));
-    QVERIFY(f.Overview() == nullptr);
-}
-
-// Catches a list of windows that is walked while a video in another colour changes it; meant to be run under
-// a sanitizer as well.
-void tst_NormalWall::videoOpensWindowsInANewLook()
-{
-    Fixture f;
-    for (int w = 0; w < 3; ++w)
+    // Catches a bound screen whose windows end between cells, a client's rectangle that is bent, and a
+    // binding that outlasts its end.
+    void boundScreensEndDragsOnCells()
+    {
+        Fixture f;
+        QVERIFY(f.wall->IsScreenFreeMode(0) && f.wall->IsScreenFreeMode(7));
+        f.wall->SetScreenFreeMode(0, false);
+        f.wall->SetScreenFreeMode(7, false);
+        QVERIFY(!f.wall->IsScreenFreeMode(0) && f.wall->IsScreenFreeMode(7));
         f.wall->OpenWindow(0, LeftUpper, QVariant());
-    const TestSupport::AtEvent atColor(f.wall->GetWindowWidget(0, 0), QEvent::PaletteChange, [&f] {
-        for (int i = 0; i < 50; ++i) {
-            f.wall->AddScreen(Whole, QVariant());
+        QCOMPARE(f.Scale(0), LeftUpper);
+        f.mouse.Press(OnLeftTitle);
+        f.mouse.Move(OnLeftTitle + QPoint(200, 0));
+        QCOMPARE(f.Video(0), QRect(251, 26, 496, 576)); // of the window at 250, 0 with 500 x 600 pixels
+        QCOMPARE(f.Scale(0), LeftUpper);
+        f.mouse.Release(OnLeftTitle + QPoint(200, 0));
+        QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.75, 1.0, true}));
+        f.mouse.Drag({749, 300}, {600, 300}); // its right edge
+        QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.75, 1.0, true}));
+        f.mouse.Drag({749, 300}, {480, 300});
+        QCOMPARE(f.Scale(0), (Rect{0.25, 0.0, 0.5, 1.0, true}));
+        f.wall->SetWindowScale(0, 0, LeftUpper);
+        QCOMPARE(f.Scale(0), LeftUpper);
+        f.wall->SetScreenFreeMode(0, true);
+        f.mouse.Drag(OnLeftTitle, OnLeftTitle + QPoint(50, 0));
+        QCOMPARE(f.Scale(0), (Rect{0.15, 0.2, 0.45, 0.6, true}));
+    }
+
+    // Catches settings that are lost because they came before the widget, and a widget that does not follow.
+    void videoWidgets()
+    {
+        Fixture f({LeftUpper});
+        const QImage without = f.Picture();
+        QVERIFY(f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("Connecting")));
+        const QImage painted = f.Picture();
+        QVERIFY(Different(without, painted, QRect(110, 150, 280, 200)) > 50);
+        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, false));
+        QWidget* video = f.wall->GetWindowWidget(0, 0);
+        QVERIFY(video != nullptr && !video->updatesEnabled());
+        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, true));
+        QCOMPARE(f.Picture(), painted); // text and colours are the same in the widget
+        QCOMPARE(f.wall->GetWindowWidget(0, 0), video);
+        QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
+        f.wall->SetWindowScale(0, 0, RightUpper);
+        QCOMPARE(f.Video(0), QRect(501, 146, 296, 216));
+        f.wall->resize(500, 300);
+        QCOMPARE(f.Video(0), QRect(251, 86, 146, 96));
+    }
+
+    // Catches a video that takes the clicks which are the window's, or does not get its own.
+    void videosOfTheClient()
+    {
+        Fixture f;
+        f.wall->SetWindowSelectionMode(Wall::SingleSelection);
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+        auto* button = new QPushButton(f.wall->GetWindowWidget(0, 0));
+        button->setGeometry(20, 60, 100, 60);
+        button->show();
+        const QSignalSpy clicked(button, &QPushButton::clicked);
+        const QSignalSpy events(f.wall, &Wall::SignalWindowEvent);
+        f.mouse.Click(OnLeftVideo);
+        QCOMPARE(clicked.count(), 1);
+        QCOMPARE(events.count(), 0);
+        QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
+        f.mouse.Click(OnLeftVideo + QPoint(100, 0)); // beside it
+        QCOMPARE(clicked.count(), 1);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
+        QVERIFY(events.count() > 0);
+    }
+
+    // Catches a proxy that is used after its widget.
+    void videoWidgetsDeletedByTheClient()
+    {
+        Fixture f({LeftUpper});
+        f.Fill(0, Qt::red);
+        QCOMPARE(f.Picture().pixelColor(OnLeftVideo), QColor(Qt::red));
+        delete f.wall->GetWindowWidget(0, 0);
+        QVERIFY(f.wall->GetWindowWidget(0, 0) == nullptr);
+        QVERIFY(!f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("text")));
+        QVERIFY(!f.wall->SetWindowUpdateEnable(0, 0, true));
+        QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
+        QVERIFY(f.wall->SetWindowScale(0, 0, RightUpper));
+        QVERIFY(f.Picture().pixelColor(OnRightVideo) != QColor(Qt::red));
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+        QVERIFY(f.wall->DeleteWindowWidget(0, 1)); // though nobody has asked for it
+        QVERIFY(f.wall->GetWindowWidget(0, 1) == nullptr);
+        QVERIFY(!f.wall->DeleteWindowWidget(0, 1));
+    }
+
+    // Catches an overview in the way of an operator who sees the whole wall, and a way back that is none.
+    void overviewOfAZoomedWall()
+    {
+        Fixture f({LeftUpper});
+        const QRect unzoomed = f.Video(0);
+        QVERIFY(f.Overview() == nullptr);
+        QSignalSpy wheel(f.wall, &Wall::SignalWheelEvent);
+        f.mouse.Wheel({0, 0}, 120);
+        QCOMPARE(wheel.count(), 1);
+        QCOMPARE(f.Video(0), QRect(151, 206, 446, 336)); // 1500 x 900 pixels from the origin
+        QWidget* overview = f.Overview();
+        QVERIFY(overview != nullptr);
+        QCOMPARE(overview->geometry().bottomRight(), f.wall->rect().bottomRight());
+        f.mouse.Click(overview->geometry().topLeft() + QPoint(overview->width() - 10, 10));
+        QCOMPARE(f.Video(0).left(), 151 - 499); // all the way to the right, and up: offset -500
+        QCOMPARE(f.Video(0).top(), 206);
+        f.wall->RecoverEagleEye();
+        QCOMPARE(f.Video(0), unzoomed);
+        QVERIFY(f.Overview() == nullptr);
+        f.mouse.Wheel({500, 300}, 120);
+        QVERIFY(f.Overview() != nullptr);
+        f.mouse.Wheel({500, 300}, -120);
+        QVERIFY(f.Overview() == nullptr);
+        QCOMPARE(f.Video(0), unzoomed);
+    }
+
+    // Catches a zoom that a resize forgets, an overview left where the corner was, and a division by no size.
+    void zoomSurvivesResizing()
+    {
+        Fixture f({LeftUpper});
+        f.mouse.Wheel({0, 0}, 120);
+        f.wall->resize(500, 300);
+        QCOMPARE(f.Video(0), QRect(76, 116, 221, 156)); // of 750 x 450 pixels
+        QVERIFY(f.Overview() != nullptr);
+        QCOMPARE(f.Overview()->geometry().bottomRight(), f.wall->rect().bottomRight());
+        f.wall->resize(0, 0);
+        f.wall->RecoverEagleEye();
+        f.wall->resize(1000, 600);
+        QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
+    }
+
+    // Catches a zoom step that goes on with its own size after a video has shown the whole wall again.
+    void videoEndsTheZoom()
+    {
+        Fixture f;
+        f.wall->AddScreen(Whole, QVariant());
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+        f.wall->OpenWindow(1, LeftUpper, QVariant());
+        const QWidget* last = f.wall->GetWindowWidget(1, 0);
+        const TestSupport::AtEvent atResize(
+            f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&f] { f.wall->RecoverEagleEye(); });
+        f.mouse.Wheel({0, 0}, 120);
+        QVERIFY(atResize.HasActed());
+        QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
+        QCOMPARE(last->size(), QSize(296, 216));
+        QVERIFY(f.Overview() == nullptr);
+    }
+
+    // Catches a list of windows that is walked while a video in another colour changes it; meant to be run
+    // under a sanitizer as well.
+    void videoOpensWindowsInANewLook()
+    {
+        Fixture f;
+        for (int w = 0; w < 3; ++w)
             f.wall->OpenWindow(0, LeftUpper, QVariant());
-        }
-    });
-    f.wall->setStyleSheet(
-        QStringLiteral("UICommonMdl--KvTVWallNormalView { qproperty-videoColor: #00ff00; }"));
-    QVERIFY(atColor.HasActed());
-    QCOMPARE(f.wall->GetWindowCount(0), 53);
-}
+        const TestSupport::AtEvent atColor(f.wall->GetWindowWidget(0, 0), QEvent::PaletteChange, [&f] {
+            for (int i = 0; i < 50; ++i) {
+                f.wall->AddScreen(Whole, QVariant());
+                f.wall->OpenWindow(0, LeftUpper, QVariant());
+            }
+        });
+        f.wall->setStyleSheet(
+            QStringLiteral("UICommonMdl--KvTVWallNormalView { qproperty-videoColor: #00ff00; }"));
+        QVERIFY(atColor.HasActed());
+        QCOMPARE(f.wall->GetWindowCount(0), 53);
+    }
 
-// Catches windows that are forgotten, and a button that is hidden but still there for the mouse.
-void tst_NormalWall::audioButtons()
-{
-    Fixture f;
-    const QPoint onButton(400 - 2 - 4 * 21 + 10, 132);
-    const QSignalSpy volume(f.wall, &Wall::SignalWindowVolumeBtnClicked);
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.mouse.Click(onButton);
-    QCOMPARE(volume.count(), 1);
-    const QImage shown = f.Picture();
-    f.wall->SetAudioBtnVisible(false);
-    QVERIFY(Different(shown, f.Picture(), QRect(onButton - QPoint(10, 10), QSize(20, 20))) > 10);
-    f.mouse.Click(onButton);
-    f.wall->OpenWindow(0, RightUpper, QVariant());
-    f.mouse.Click(onButton + QPoint(400, 0));
-    QCOMPARE(volume.count(), 1);
-    QVERIFY(f.wall->SetWindowVolumeBtn(0, 0, true));
-    f.wall->SetAudioBtnVisible(true);
-    QVERIFY(f.wall->GetWindowVolumeBtnStatus(0, 0));
-    f.mouse.Click(onButton + QPoint(400, 0));
-    QCOMPARE(volume.count(), 2);
-}
+    // Catches windows that are forgotten, and a button that is hidden but still there for the mouse.
+    void audioButtons()
+    {
+        Fixture f;
+        const QPoint onButton(400 - 2 - 4 * 21 + 10, 132);
+        const QSignalSpy volume(f.wall, &Wall::SignalWindowVolumeBtnClicked);
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+        f.mouse.Click(onButton);
+        QCOMPARE(volume.count(), 1);
+        const QImage shown = f.Picture();
+        f.wall->SetAudioBtnVisible(false);
+        QVERIFY(Different(shown, f.Picture(), QRect(onButton - QPoint(10, 10), QSize(20, 20))) > 10);
+        f.mouse.Click(onButton);
+        f.wall->OpenWindow(0, RightUpper, QVariant());
+        f.mouse.Click(onButton + QPoint(400, 0));
+        QCOMPARE(volume.count(), 1);
+        QVERIFY(f.wall->SetWindowVolumeBtn(0, 0, true));
+        f.wall->SetAudioBtnVisible(true);
+        QVERIFY(f.wall->GetWindowVolumeBtnStatus(0, 0));
+        f.mouse.Click(onButton + QPoint(400, 0));
+        QCOMPARE(volume.count(), 2);
+    }
 
-// Catches a window that is closed by a press alone, or after the operator has thought better of it.
-void tst_NormalWall::buttonsNeedPressAndReleaseInside()
-{
-    Fixture f({LeftUpper});
-    const QPoint onClose(400 - 2 - 10, 132);
-    const QSignalSpy close(f.wall, &Wall::SignalWindowCloseBtnClicked);
-    f.mouse.Press(onClose);
-    f.mouse.Move(onClose + QPoint(0, 60));
-    f.mouse.Release(onClose + QPoint(0, 60));
-    QCOMPARE(close.count(), 0);
-    f.mouse.Drag(onClose + QPoint(0, 60), onClose);
-    QCOMPARE(close.count(), 0);
-    f.mouse.Press(onClose);
-    QCOMPARE(close.count(), 0);
-    f.mouse.Move(onClose + QPoint(0, 60));
-    f.mouse.Move(onClose);
-    f.mouse.Release(onClose);
-    QCOMPARE(close.count(), 1);
-    QCOMPARE(f.Scale(0), LeftUpper);
-}
+    // Catches a window that is closed by a press alone, or after the operator has thought better of it.
+    void buttonsNeedPressAndReleaseInside()
+    {
+        Fixture f({LeftUpper});
+        const QPoint onClose(400 - 2 - 10, 132);
+        const QSignalSpy close(f.wall, &Wall::SignalWindowCloseBtnClicked);
+        f.mouse.Press(onClose);
+        f.mouse.Move(onClose + QPoint(0, 60));
+        f.mouse.Release(onClose + QPoint(0, 60));
+        QCOMPARE(close.count(), 0);
+        f.mouse.Drag(onClose + QPoint(0, 60), onClose);
+        QCOMPARE(close.count(), 0);
+        f.mouse.Press(onClose);
+        QCOMPARE(close.count(), 0);
+        f.mouse.Move(onClose + QPoint(0, 60));
+        f.mouse.Move(onClose);
+        f.mouse.Release(onClose);
+        QCOMPARE(close.count(), 1);
+        QCOMPARE(f.Scale(0), LeftUpper);
+    }
 
-// Catches buttons that fill the whole title bar, so that nothing is left to take hold of.
-void tst_NormalWall::narrowWindowsCanBeMoved()
-{
-    Fixture f;
-    f.wall->OpenWindow(0, {0.1, 0.2, 0.16, 0.6, true}, QVariant()); // 60 pixels
-    f.mouse.Drag({108, 132}, {208, 132});
-    QCOMPARE(f.Scale(0), (Rect{0.2, 0.2, 0.26, 0.6, true}));
-}
+    // Catches buttons that fill the whole title bar, so that nothing is left to take hold of.
+    void narrowWindowsCanBeMoved()
+    {
+        Fixture f;
+        f.wall->OpenWindow(0, {0.1, 0.2, 0.16, 0.6, true}, QVariant()); // 60 pixels
+        f.mouse.Drag({108, 132}, {208, 132});
+        QCOMPARE(f.Scale(0), (Rect{0.2, 0.2, 0.26, 0.6, true}));
+    }
 
-// Catches a cursor that promises what the mouse does not do.
-void tst_NormalWall::cursors()
-{
-    Fixture f({LeftUpper, {0.5, 0.2, 0.8, 0.6, false}});
-    const auto shapeAt = [&f](const QPoint& pos) {
-        f.mouse.Move(pos);
-        return f.Viewport()->cursor().shape();
-    };
-    QCOMPARE(shapeAt({101, 240}), Qt::SizeHorCursor);
-    QCOMPARE(shapeAt({250, 358}), Qt::SizeVerCursor);
-    QCOMPARE(shapeAt({101, 121}), Qt::SizeFDiagCursor);
-    QCOMPARE(shapeAt({398, 121}), Qt::SizeBDiagCursor);
-    QCOMPARE(shapeAt(OnLeftVideo), Qt::ArrowCursor);
-    QCOMPARE(shapeAt({398, 240}), Qt::SizeHorCursor);
-    QCOMPARE(shapeAt({396, 132}), Qt::ArrowCursor); // the close button, near the edge
-    QCOMPARE(shapeAt({501, 240}), Qt::ArrowCursor); // not editable
-    QCOMPARE(shapeAt({20, 580}), Qt::ArrowCursor);
-}
+    // Catches a cursor that promises what the mouse does not do.
+    void cursors()
+    {
+        Fixture f({LeftUpper, {0.5, 0.2, 0.8, 0.6, false}});
+        const auto shapeAt = [&f](const QPoint& pos) {
+            f.mouse.Move(pos);
+            return f.Viewport()->cursor().shape();
+        };
+        QCOMPARE(shapeAt({101, 240}), Qt::SizeHorCursor);
+        QCOMPARE(shapeAt({250, 358}), Qt::SizeVerCursor);
+        QCOMPARE(shapeAt({101, 121}), Qt::SizeFDiagCursor);
+        QCOMPARE(shapeAt({398, 121}), Qt::SizeBDiagCursor);
+        QCOMPARE(shapeAt(OnLeftVideo), Qt::ArrowCursor);
+        QCOMPARE(shapeAt({398, 240}), Qt::SizeHorCursor);
+        QCOMPARE(shapeAt({396, 132}), Qt::ArrowCursor); // the close button, near the edge
+        QCOMPARE(shapeAt({501, 240}), Qt::ArrowCursor); // not editable
+        QCOMPARE(shapeAt({20, 580}), Qt::ArrowCursor);
+    }
 
-// Catches windows and buttons that only a mouse can reach, and a focus that never leaves the wall.
-void tst_NormalWall::keyboard()
-{
-    Fixture f;
-    f.wall->SetWindowSelectionMode(Wall::SingleSelection);
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    f.wall->OpenWindow(0, RightUpper, QVariant());
-    QPushButton before(&f.client);
-    before.show();
-    QWidget::setTabOrder(&before, f.wall);
-    before.setFocus();
-    const QSignalSpy close(f.wall, &Wall::SignalWindowCloseBtnClicked);
-    const QSignalSpy selected(f.wall, &Wall::SignalWindowSelectedChanged);
-    const auto press = [&f](Qt::Key key) { QTest::keyClick(f.client.windowHandle(), key); };
-    press(Qt::Key_Tab);
-    const QImage focused = f.Picture();
-    press(Qt::Key_Space);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
-    QCOMPARE(selected.count(), 1);
-    for (int i = 0; i < 4; ++i)
-        press(Qt::Key_Tab); // volume, snap, maximise, close
-    QVERIFY(Different(focused, f.Picture(), QRect(378, 122, 20, 20)) > 10); // it is seen
-    press(Qt::Key_Space);
-    QCOMPARE(close.count(), 1);
-    QCOMPARE(close.at(0).at(1).toInt(), 0);
-    press(Qt::Key_Tab);
-    press(Qt::Key_Space);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{1});
-    press(Qt::Key_Backtab);
-    press(Qt::Key_Space);
-    QCOMPARE(close.count(), 2);
-    for (int i = 0; i < 6; ++i)
+    // Catches windows and buttons that only a mouse can reach, and a focus that never leaves the wall.
+    void keyboard()
+    {
+        Fixture f;
+        f.wall->SetWindowSelectionMode(Wall::SingleSelection);
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+        f.wall->OpenWindow(0, RightUpper, QVariant());
+        QPushButton before(&f.client);
+        before.show();
+        QWidget::setTabOrder(&before, f.wall);
+        before.setFocus();
+        const QSignalSpy close(f.wall, &Wall::SignalWindowCloseBtnClicked);
+        const QSignalSpy selected(f.wall, &Wall::SignalWindowSelectedChanged);
+        const auto press = [&f](Qt::Key key) { QTest::keyClick(f.client.windowHandle(), key); };
         press(Qt::Key_Tab);
-    QVERIFY(before.hasFocus());
-    press(Qt::Key_Backtab);
-    press(Qt::Key_Space);
-    QCOMPARE(close.count(), 3);
-    QCOMPARE(close.at(2).at(1).toInt(), 1);
-}
+        const QImage focused = f.Picture();
+        press(Qt::Key_Space);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
+        QCOMPARE(selected.count(), 1);
+        for (int i = 0; i < 4; ++i)
+            press(Qt::Key_Tab); // volume, snap, maximise, close
+        QVERIFY(Different(focused, f.Picture(), QRect(378, 122, 20, 20)) > 10); // it is seen
+        press(Qt::Key_Space);
+        QCOMPARE(close.count(), 1);
+        QCOMPARE(close.at(0).at(1).toInt(), 0);
+        press(Qt::Key_Tab);
+        press(Qt::Key_Space);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{1});
+        press(Qt::Key_Backtab);
+        press(Qt::Key_Space);
+        QCOMPARE(close.count(), 2);
+        for (int i = 0; i < 6; ++i)
+            press(Qt::Key_Tab);
+        QVERIFY(before.hasFocus());
+        press(Qt::Key_Backtab);
+        press(Qt::Key_Space);
+        QCOMPARE(close.count(), 3);
+        QCOMPARE(close.at(2).at(1).toInt(), 1);
+    }
 
-// Catches a drag that is offered once to the wall as a whole, and drops that go to the wrong window.
-void tst_NormalWall::dragsFromElsewhere()
-{
-    Fixture f({LeftUpper, RightUpper});
-    QVector<QPair<int, QEvent::Type>> seen; // -1: the screen
-    const int takes = 1; // window that takes the drop
-    connect(f.wall, &Wall::SignalWindowEvent, f.wall, [&](int, int window, QEvent* event) {
-        seen << qMakePair(window, event->type());
-        if (event->type() != QEvent::DragLeave)
-            event->setAccepted(window == takes);
-    });
-    connect(f.wall, &Wall::SignalScreenEvent, f.wall, [&](int, QEvent* event) {
-        seen << qMakePair(-1, event->type());
-        event->ignore();
-    });
-    const QMimeData data;
-    const auto move = [&](const QPoint& to) {
-        QDragMoveEvent event(to, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(f.client.windowHandle(), &event);
-        return event.isAccepted();
-    };
-    using Seen = QVector<QPair<int, QEvent::Type>>;
-    f.mouse.DragEnter(OnLeftVideo, data);
-    QCOMPARE(std::exchange(seen, {}), Seen({{0, QEvent::DragEnter}, {-1, QEvent::DragEnter}}));
-    QVERIFY(!move(OnLeftVideo + QPoint(5, 0)));
-    QVERIFY(seen.isEmpty());
-    QVERIFY(move(OnRightVideo));
-    QVERIFY(move(OnRightVideo + QPoint(5, 0)));
-    QCOMPARE(
-        std::exchange(seen, {}),
-        Seen({{1, QEvent::DragEnter}, {1, QEvent::DragMove}, {1, QEvent::DragMove}}));
-    QVERIFY(!move({20, 580}));
-    QCOMPARE(std::exchange(seen, {}), Seen({{1, QEvent::DragLeave}, {-1, QEvent::DragEnter}}));
-    QVERIFY(move(OnRightVideo));
-    seen.clear();
-    f.mouse.Drop(OnRightVideo, data);
-    QCOMPARE(seen.last(), qMakePair(1, QEvent::Drop));
-    seen.clear();
-    f.mouse.DragEnter(OnRightVideo, data);
-    f.mouse.DragLeave();
-    QCOMPARE(seen.last(), qMakePair(1, QEvent::DragLeave));
-}
+    // Catches a drag that is offered once to the wall as a whole, and drops that go to the wrong window.
+    void dragsFromElsewhere()
+    {
+        Fixture f({LeftUpper, RightUpper});
+        QVector<QPair<int, QEvent::Type>> seen; // -1: the screen
+        const int takes = 1; // window that takes the drop
+        connect(f.wall, &Wall::SignalWindowEvent, f.wall, [&](int, int window, QEvent* event) {
+            seen << qMakePair(window, event->type());
+            if (event->type() != QEvent::DragLeave)
+                event->setAccepted(window == takes);
+        });
+        connect(f.wall, &Wall::SignalScreenEvent, f.wall, [&](int, QEvent* event) {
+            seen << qMakePair(-1, event->type());
+            event->ignore();
+        });
+        const QMimeData data;
+        const auto move = [&](const QPoint& to) {
+            QDragMoveEvent event(to, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(f.client.windowHandle(), &event);
+            return event.isAccepted();
+        };
+        using Seen = QVector<QPair<int, QEvent::Type>>;
+        f.mouse.DragEnter(OnLeftVideo, data);
+        QCOMPARE(std::exchange(seen, {}), Seen({{0, QEvent::DragEnter}, {-1, QEvent::DragEnter}}));
+        QVERIFY(!move(OnLeftVideo + QPoint(5, 0)));
+        QVERIFY(seen.isEmpty());
+        QVERIFY(move(OnRightVideo));
+        QVERIFY(move(OnRightVideo + QPoint(5, 0)));
+        QCOMPARE(
+            std::exchange(seen, {}),
+            Seen({{1, QEvent::DragEnter}, {1, QEvent::DragMove}, {1, QEvent::DragMove}}));
+        QVERIFY(!move({20, 580}));
+        QCOMPARE(std::exchange(seen, {}), Seen({{1, QEvent::DragLeave}, {-1, QEvent::DragEnter}}));
+        QVERIFY(move(OnRightVideo));
+        seen.clear();
+        f.mouse.Drop(OnRightVideo, data);
+        QCOMPARE(seen.last(), qMakePair(1, QEvent::Drop));
+        seen.clear();
+        f.mouse.DragEnter(OnRightVideo, data);
+        f.mouse.DragLeave();
+        QCOMPARE(seen.last(), qMakePair(1, QEvent::DragLeave));
+    }
 
-// Catches colours and pictures that are read once and kept.
-void tst_NormalWall::styleReachesThePainting()
-{
-    Fixture f({LeftUpper});
-    f.wall->SetSelectedScreenIndex(0);
-    f.wall->SetSelectedWindowIndexs(0, 0, true);
-    f.wall->OpenWindow(0, RightUpper, QVariant());
-    f.wall->GetWindowWidget(0, 1);
-    f.Picture();
-    f.wall->setStyleSheet(QStringLiteral(
-        "UICommonMdl--KvTVWallNormalView { qproperty-titleColor: #ff0000; qproperty-videoColor: #00ff00;"
-        "qproperty-windowSelectedFrameColor: #0000ff; qproperty-closeIcon: \"\"; }"));
-    const QImage styled = f.Picture();
-    QCOMPARE(styled.pixelColor(OnLeftTitle), QColor(Qt::red));
-    QCOMPARE(styled.pixelColor(400 - 2 - 10, 132), QColor(Qt::red)); // the cross is gone
-    QCOMPARE(styled.pixelColor(OnLeftVideo), QColor(Qt::green));
-    QCOMPARE(styled.pixelColor(OnRightVideo), QColor(Qt::green)); // a widget
-    QCOMPARE(styled.pixelColor(100, 240), QColor(Qt::blue));
-}
+    // Catches colours and pictures that are read once and kept.
+    void styleReachesThePainting()
+    {
+        Fixture f({LeftUpper});
+        f.wall->SetSelectedScreenIndex(0);
+        f.wall->SetSelectedWindowIndexs(0, 0, true);
+        f.wall->OpenWindow(0, RightUpper, QVariant());
+        f.wall->GetWindowWidget(0, 1);
+        f.Picture();
+        f.wall->setStyleSheet(QStringLiteral(
+            "UICommonMdl--KvTVWallNormalView { qproperty-titleColor: #ff0000; qproperty-videoColor: #00ff00;"
+            "qproperty-windowSelectedFrameColor: #0000ff; qproperty-closeIcon: \"\"; }"));
+        const QImage styled = f.Picture();
+        QCOMPARE(styled.pixelColor(OnLeftTitle), QColor(Qt::red));
+        QCOMPARE(styled.pixelColor(400 - 2 - 10, 132), QColor(Qt::red)); // the cross is gone
+        QCOMPARE(styled.pixelColor(OnLeftVideo), QColor(Qt::green));
+        QCOMPARE(styled.pixelColor(OnRightVideo), QColor(Qt::green)); // a widget
+        QCOMPARE(styled.pixelColor(100, 240), QColor(Qt::blue));
+    }
 
-// Catches overlays and windows placed on a wall that does not know its size yet.
-void tst_NormalWall::sizeBeforeShowing()
-{
-    Wall wall;
-    wall.resize(1000, 600);
-    wall.SetTVWallGridCount(2, 2);
-    wall.AddScreen(Whole, QVariant());
-    wall.OpenWindow(0, LeftUpper, QVariant());
-    QCOMPARE(wall.GetWindowWidget(0, 0)->size(), QSize(296, 216));
-    KvGUI::StructOSDInfo info;
-    info.iRight = info.iBottom = 4096;
-    info.iBackG = 255;
-    info.iFontPercent = 10;
-    std::vector<KvGUI::StructOSDInfo> infos{info};
-    wall.SetScreenOSDInfo(0, infos);
-    QCOMPARE(wall.grab().toImage().pixelColor(50, 200), QColor(Qt::green));
-}
+    // Catches overlays and windows placed on a wall that does not know its size yet.
+    void sizeBeforeShowing()
+    {
+        Wall wall;
+        wall.resize(1000, 600);
+        wall.SetTVWallGridCount(2, 2);
+        wall.AddScreen(Whole, QVariant());
+        wall.OpenWindow(0, LeftUpper, QVariant());
+        QCOMPARE(wall.GetWindowWidget(0, 0)->size(), QSize(296, 216));
+        KvGUI::StructOSDInfo info;
+        info.iRight = info.iBottom = 4096;
+        info.iBackG = 255;
+        info.iFontPercent = 10;
+        std::vector<KvGUI::StructOSDInfo> infos{info};
+        wall.SetScreenOSDInfo(0, infos);
+        QCOMPARE(wall.grab().toImage().pixelColor(50, 200), QColor(Qt::green));
+    }
+};
 
 STRICT_TEST_MAIN(tst_NormalWall)
 #include "tst_normalwall.moc"

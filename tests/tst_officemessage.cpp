@@ -1,14 +1,11 @@
 // What the office's plugin and its host tell each other, read without either.
 
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <Platform/Automation/Office/OfficeMessage.h>
 
-#include <QColor>
-#include <QDateTime>
-#include <QGuiApplication>
-#include <QPoint>
-#include <QTest>
+#include <QtTest>
 
 using namespace Office;
 
@@ -42,108 +39,103 @@ class TestOfficeMessage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Values_data();
-    void Values();
-    void RefusesWhatIsNoMessage_data();
-    void RefusesWhatIsNoMessage();
-    void Frames();
-};
-
-void TestOfficeMessage::Values_data()
-{
-    const QDateTime local(QDate(2026, 3, 14), QTime(10, 24, 36, 789));
-    const QDateTime utc(QDate(2026, 3, 29), QTime(2, 30), Qt::UTC);
-    QTest::addColumn<QVariant>("sent");
-    QTest::addColumn<QVariant>("received");
-    const auto same = [](const char* name, const QVariant& value) { QTest::newRow(name) << value << value; };
-    same("nothing", QVariant());
-    same("true", true);
-    same("smallest", std::numeric_limits<qlonglong>::min());
-    same("largest", std::numeric_limits<qulonglong>::max());
-    same("double", -0.1);
-    same("text", QStringLiteral("\u4E2D \U0001F600 ") + QString(QChar(0)) + QChar(0xD800));
-    same("date", QDate(1900, 2, 28));
-    same("moment", local);
-    same("moment of UTC", utc);
-    same("colour", QColor(1, 2, 3));
-    same("block", QVariantList{QVariantList{QVariantList{1.5, QVariant()}, QVariantList{}}});
-    QTest::newRow("int") << QVariant(-7) << QVariant(qlonglong(-7));
-    QTest::newRow("texts") << QVariant(QStringList{QStringLiteral("a")})
-                           << QVariant(QVariantList{QStringLiteral("a")});
-    QTest::newRow("bytes") << QVariant(QByteArray("abc")) << QVariant(QStringLiteral("abc"));
-    QTest::newRow("invalid colour") << QVariant(QColor()) << QVariant();
-    QTest::newRow("no value of cells") << QVariant(QPoint(1, 2)) << QVariant(QString());
-    QTest::newRow("too deep") << ListIn(1.0, 6) << ListIn(QVariant(), 4);
-}
-
-// Catches a value that arrives as another, and one of a client's that the other end would refuse with the
-// whole message.
-void TestOfficeMessage::Values()
-{
-    QFETCH(QVariant, sent);
-    QFETCH(QVariant, received);
-    Answer answer;
-    answer.value = sent;
-    FrameBuffer buffer;
-    const QByteArray frame = ToFrame(answer);
-    buffer.Add(frame.constData(), frame.size());
-    const auto message = buffer.Take();
-    QVERIFY(message);
-    const auto again = ToAnswer(*message);
-    QVERIFY(again);
-    QCOMPARE(again->value.type(), received.type());
-    QCOMPARE(again->value, received);
-}
-
-void TestOfficeMessage::RefusesWhatIsNoMessage_data()
-{
-    QTest::addColumn<QByteArray>("message");
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("cut") << ResultWith("\5\0\0");
-    QTest::newRow("more than one") << ResultWith(QByteArray("\0\0", 2));
-    QTest::newRow("unknown kind") << ResultWith(QByteArray(1, '\0')).replace(0, 1, "\7");
-    QTest::newRow("unknown status") << ResultWith(QByteArray(1, '\0')).replace(1, 1, "\3");
-    QTest::newRow("unknown value") << ResultWith("\x0b");
-    QTest::newRow("list without end") << ResultWith("\x0a\xff\xff\xff\xff");
-    QTest::newRow("text without end") << ResultWith("\x06\x7f\xff\xff\xff"
-                                                    "abcd");
-    QTest::newRow("nested without end") << ResultWith(Nested(100000));
-}
-
-// Catches memory or stack that is taken for what a message only claims, and values outside of an enumeration.
-void TestOfficeMessage::RefusesWhatIsNoMessage()
-{
-    QFETCH(QByteArray, message);
-    QVERIFY(!ToAnswer(message));
-    QVERIFY(!ToRequest(message));
-}
-
-// Catches a frame that is lost between two pieces, and a wait for one that no end would send.
-void TestOfficeMessage::Frames()
-{
-    Request request;
-    request.kind = Request::Write;
-    request.object = 3;
-    request.member = QStringLiteral("Name");
-    request.arguments = {QStringLiteral("x")};
-    const QByteArray frames = ToFrame(request) + ToFrame(Request());
-    FrameBuffer buffer;
-    QList<Request> requests;
-    for (const char byte : frames) {
-        buffer.Add(&byte, 1);
-        while (const auto message = buffer.Take())
-            requests << ToRequest(*message).value();
+    void Values_data()
+    {
+        const QDateTime local(QDate(2026, 3, 14), QTime(10, 24, 36, 789));
+        const QDateTime utc(QDate(2026, 3, 29), QTime(2, 30), Qt::UTC);
+        TestSupport::Columns<QVariant, QVariant>("sent", "received");
+        const auto same
+            = [](const char* name, const QVariant& value) { QTest::newRow(name) << value << value; };
+        same("nothing", QVariant());
+        same("true", true);
+        same("smallest", std::numeric_limits<qlonglong>::min());
+        same("largest", std::numeric_limits<qulonglong>::max());
+        same("double", -0.1);
+        same("text", QStringLiteral("\u4E2D \U0001F600 ") + QString(QChar(0)) + QChar(0xD800));
+        same("date", QDate(1900, 2, 28));
+        same("moment", local);
+        same("moment of UTC", utc);
+        same("colour", QColor(1, 2, 3));
+        same("block", QVariantList{QVariantList{QVariantList{1.5, QVariant()}, QVariantList{}}});
+        QTest::newRow("int") << QVariant(-7) << QVariant(qlonglong(-7));
+        QTest::newRow("texts") << QVariant(QStringList{QStringLiteral("a")})
+                               << QVariant(QVariantList{QStringLiteral("a")});
+        QTest::newRow("bytes") << QVariant(QByteArray("abc")) << QVariant(QStringLiteral("abc"));
+        QTest::newRow("invalid colour") << QVariant(QColor()) << QVariant();
+        QTest::newRow("no value of cells") << QVariant(QPoint(1, 2)) << QVariant(QString());
+        QTest::newRow("too deep") << ListIn(1.0, 6) << ListIn(QVariant(), 4);
     }
-    QCOMPARE(requests.size(), 2);
-    QCOMPARE(requests.first().kind, Request::Write);
-    QCOMPARE(requests.first().object, Handle(3));
-    QCOMPARE(requests.first().member, request.member);
-    QCOMPARE(requests.first().arguments, request.arguments);
-    QVERIFY(!buffer.IsBroken());
-    buffer.Add("\xff\xff\xff\xff", 4);
-    QVERIFY(!buffer.Take());
-    QVERIFY(buffer.IsBroken());
-}
+
+    // Catches a value that arrives as another, and one of a client's that the other end would refuse with the
+    // whole message.
+    void Values()
+    {
+        QFETCH(QVariant, sent);
+        QFETCH(QVariant, received);
+        Answer answer;
+        answer.value = sent;
+        FrameBuffer buffer;
+        const QByteArray frame = ToFrame(answer);
+        buffer.Add(frame.constData(), frame.size());
+        const auto message = buffer.Take();
+        QVERIFY(message);
+        const auto again = ToAnswer(*message);
+        QVERIFY(again);
+        QCOMPARE(again->value.type(), received.type());
+        QCOMPARE(again->value, received);
+    }
+
+    void RefusesWhatIsNoMessage_data()
+    {
+        QTest::addColumn<QByteArray>("message");
+        QTest::newRow("nothing") << QByteArray();
+        QTest::newRow("cut") << ResultWith("\5\0\0");
+        QTest::newRow("more than one") << ResultWith(QByteArray("\0\0", 2));
+        QTest::newRow("unknown kind") << ResultWith(QByteArray(1, '\0')).replace(0, 1, "\7");
+        QTest::newRow("unknown status") << ResultWith(QByteArray(1, '\0')).replace(1, 1, "\3");
+        QTest::newRow("unknown value") << ResultWith("\x0b");
+        QTest::newRow("list without end") << ResultWith("\x0a\xff\xff\xff\xff");
+        QTest::newRow("text without end") << ResultWith("\x06\x7f\xff\xff\xff"
+                                                        "abcd");
+        QTest::newRow("nested without end") << ResultWith(Nested(100000));
+    }
+
+    // Catches memory or stack that is taken for what a message only claims, and values outside of an
+    // enumeration.
+    void RefusesWhatIsNoMessage()
+    {
+        QFETCH(QByteArray, message);
+        QVERIFY(!ToAnswer(message));
+        QVERIFY(!ToRequest(message));
+    }
+
+    // Catches a frame that is lost between two pieces, and a wait for one that no end would send.
+    void Frames()
+    {
+        Request request;
+        request.kind = Request::Write;
+        request.object = 3;
+        request.member = QStringLiteral("Name");
+        request.arguments = {QStringLiteral("x")};
+        const QByteArray frames = ToFrame(request) + ToFrame(Request());
+        FrameBuffer buffer;
+        QList<Request> requests;
+        for (const char byte : frames) {
+            buffer.Add(&byte, 1);
+            while (const auto message = buffer.Take())
+                requests << ToRequest(*message).value();
+        }
+        QCOMPARE(requests.size(), 2);
+        QCOMPARE(requests.first().kind, Request::Write);
+        QCOMPARE(requests.first().object, Handle(3));
+        QCOMPARE(requests.first().member, request.member);
+        QCOMPARE(requests.first().arguments, request.arguments);
+        QVERIFY(!buffer.IsBroken());
+        buffer.Add("\xff\xff\xff\xff", 4);
+        QVERIFY(!buffer.Take());
+        QVERIFY(buffer.IsBroken());
+    }
+};
 
 int main(int argc, char** argv)
 {

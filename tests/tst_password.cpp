@@ -1,21 +1,14 @@
 // The password edit and its strength meter.
 
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <UI/FormInputs/CPasswordEdit.h>
 #include <UI/FormInputs/CPasswordStrength.h>
 
-#include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QImage>
-#include <QMenu>
-#include <QMimeData>
-#include <QPointer>
-#include <QScreen>
-#include <QTest>
-#include <QUrl>
+#include <QtTest>
+#include <QtWidgets>
 #include <memory>
 
 using namespace UICommonMdl;
@@ -62,196 +55,181 @@ class TestPassword : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void PastingByKeys_data();
-    void PastingByKeys();
-    void MenuOffersNoPaste();
-    void MenuLeavesTheClipboard_data();
-    void MenuLeavesTheClipboard();
-    void SheetLiesAtTheNestedPath();
-    void MeterShowsItsLevel_data();
-    void MeterShowsItsLevel();
-    void LevelsDiffer();
-    void MeterIsCentred();
-    void MeterFollowsTheSkin();
-};
-
-void TestPassword::cleanup()
-{
-    KvGUI::SetSkinVersion(QStringLiteral("Black"));
-    QGuiApplication::clipboard()->clear();
-}
-
-void TestPassword::PastingByKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<bool>("pastes");
-    const auto control = Qt::KeyboardModifiers(Qt::ControlModifier);
-    QTest::newRow("Ctrl+V") << int(Qt::Key_V) << control << false;
-    QTest::newRow("Shift+Insert") << int(Qt::Key_Insert) << Qt::KeyboardModifiers(Qt::ShiftModifier) << true;
-    QTest::newRow("V") << int(Qt::Key_V) << Qt::KeyboardModifiers() << false;
-}
-
-/// Catches a shortcut that gets through, and one that is swallowed too.
-void TestPassword::PastingByKeys()
-{
-    QFETCH(int, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(bool, pastes);
-    CPasswordEdit edit;
-    edit.show();
-    QGuiApplication::clipboard()->setText(Copied);
-    QTest::keyClick(&edit, static_cast<Qt::Key>(key), modifiers);
-    QCOMPARE(edit.text() == Copied, pastes);
-    QCOMPARE(QGuiApplication::clipboard()->text(), Copied);
-}
-
-/// Catches a password pasted by the menu, and a menu that lost its other entries.
-void TestPassword::MenuOffersNoPaste()
-{
-    CPasswordEdit edit;
-    edit.setText(QStringLiteral("abc"));
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&edit));
-    QGuiApplication::clipboard()->setText(Copied);
-    QPointer<QMenu> menu(OpenMenu(edit));
-    QVERIFY(menu);
-    QTest::keyClick(menu, Qt::Key_P);
-    QCOMPARE(edit.text(), QStringLiteral("abc"));
-    const QList<QAction*> actions = menu->actions();
-    QVERIFY(std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
-        return action->isEnabled() && action->text().startsWith(QLineEdit::tr("Select All"));
-    }));
-    menu->close();
-    QTRY_VERIFY(!menu);
-}
-
-void TestPassword::MenuLeavesTheClipboard_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::newRow("text") << QStringLiteral("text/plain");
-    QTest::newRow("rich text") << QStringLiteral("text/html");
-    QTest::newRow("files") << QStringLiteral("text/uri-list");
-    QTest::newRow("a program's own") << QStringLiteral("application/x-camera-list");
-    QTest::newRow("picture") << QStringLiteral("image/png");
-}
-
-/// Catches a menu that takes text, pictures or files from the user.
-void TestPassword::MenuLeavesTheClipboard()
-{
-    QFETCH(QString, format);
-    auto* content = new QMimeData;
-    if (format == QLatin1String("image/png")) {
-        QImage picture(3, 2, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        content->setImageData(picture);
-    } else {
-        content->setData(format, QByteArrayLiteral("file:///tmp/a\r\n"));
+    void cleanup()
+    {
+        KvGUI::SetSkinVersion(QStringLiteral("Black"));
+        QGuiApplication::clipboard()->clear();
     }
-    QClipboard* clipboard = QGuiApplication::clipboard();
-    clipboard->setMimeData(content);
-    CPasswordEdit edit;
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&edit));
-    const QByteArray before = clipboard->mimeData()->data(format);
-    QVERIFY(!before.isEmpty() || clipboard->mimeData()->hasImage());
-    const QPointer<QMenu> menu(OpenMenu(edit));
-    QVERIFY(menu);
-    QTest::keyClick(menu, Qt::Key_Escape);
-    QTRY_VERIFY(!menu);
-    QCOMPARE(clipboard->mimeData()->data(format), before);
-    if (format == QLatin1String("image/png"))
-        QCOMPARE(clipboard->image().size(), QSize(3, 2));
-}
 
-/// Catches a resource tree without the place at which the edit looks for its sheet, in either skin.
-void TestPassword::SheetLiesAtTheNestedPath()
-{
-    const QString place = QStringLiteral(":/Corvale/:/%1/:/Corvale/UICommonModule/%1/UICommonModule/"
-                                         "PasswordEdit/CPasswordEdit.qss");
-    CPasswordEdit edit;
-    QString before;
-    for (const QString& skin : {QStringLiteral("Black"), QStringLiteral("White")}) {
-        KvGUI::SetSkinVersion(skin);
-        QFile file(place.arg(skin));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(edit.styleSheet(), QString::fromLatin1(file.readAll()));
-        QVERIFY(edit.styleSheet() != before);
-        before = edit.styleSheet();
+    void PastingByKeys_data()
+    {
+        TestSupport::Columns<int, Qt::KeyboardModifiers, bool>("key", "modifiers", "pastes");
+        const auto control = Qt::KeyboardModifiers(Qt::ControlModifier);
+        QTest::newRow("Ctrl+V") << int(Qt::Key_V) << control << false;
+        QTest::newRow("Shift+Insert")
+            << int(Qt::Key_Insert) << Qt::KeyboardModifiers(Qt::ShiftModifier) << true;
+        QTest::newRow("V") << int(Qt::Key_V) << Qt::KeyboardModifiers() << false;
     }
-    KvGUI::SetSkinVersion(QStringLiteral("None"));
-    QCOMPARE(edit.styleSheet(), before);
-}
 
-void TestPassword::MeterShowsItsLevel_data()
-{
-    QTest::addColumn<int>("level");
-    QTest::addColumn<int>("like");
-    QTest::newRow("nothing") << 0 << 0;
-    QTest::newRow("negative") << -1 << 0;
-    QTest::newRow("beyond") << 7 << 3;
-    QTest::newRow("largest") << std::numeric_limits<int>::max() << 3;
-}
+    /// Catches a shortcut that gets through, and one that is swallowed too.
+    void PastingByKeys()
+    {
+        QFETCH(int, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        QFETCH(bool, pastes);
+        CPasswordEdit edit;
+        edit.show();
+        QGuiApplication::clipboard()->setText(Copied);
+        QTest::keyClick(&edit, static_cast<Qt::Key>(key), modifiers);
+        QCOMPARE(edit.text() == Copied, pastes);
+        QCOMPARE(QGuiApplication::clipboard()->text(), Copied);
+    }
 
-/// Catches a level outside of the pictures that draws the wrong one or is clamped when it is stored.
-void TestPassword::MeterShowsItsLevel()
-{
-    QFETCH(int, level);
-    QFETCH(int, like);
-    CPasswordStrength meter;
-    meter.resize(200, 20);
-    meter.SetStrength(like);
-    const QImage expected = Image(meter);
-    QCOMPARE(PaintedRows(expected).isEmpty(), like == 0);
-    meter.SetStrength(level);
-    QCOMPARE(Image(meter), expected);
-    QCOMPARE(meter.GetStrength(), level);
-}
+    /// Catches a password pasted by the menu, and a menu that lost its other entries.
+    void MenuOffersNoPaste()
+    {
+        CPasswordEdit edit;
+        edit.setText(QStringLiteral("abc"));
+        edit.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        QGuiApplication::clipboard()->setText(Copied);
+        QPointer<QMenu> menu(OpenMenu(edit));
+        QVERIFY(menu);
+        QTest::keyClick(menu, Qt::Key_P);
+        QCOMPARE(edit.text(), QStringLiteral("abc"));
+        const QList<QAction*> actions = menu->actions();
+        QVERIFY(std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
+            return action->isEnabled() && action->text().startsWith(QLineEdit::tr("Select All"));
+        }));
+        menu->close();
+        QTRY_VERIFY(!menu);
+    }
 
-/// Catches a picture used for two levels, and a meter on the screen that stands still.
-void TestPassword::LevelsDiffer()
-{
-    CPasswordStrength meter;
-    meter.resize(200, 20);
-    meter.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&meter));
-    QVector<QImage> seen;
-    for (int level = 0; level <= 3; ++level) {
+    void MenuLeavesTheClipboard_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::newRow("text") << QStringLiteral("text/plain");
+        QTest::newRow("rich text") << QStringLiteral("text/html");
+        QTest::newRow("files") << QStringLiteral("text/uri-list");
+        QTest::newRow("a program's own") << QStringLiteral("application/x-camera-list");
+        QTest::newRow("picture") << QStringLiteral("image/png");
+    }
+
+    /// Catches a menu that takes text, pictures or files from the user.
+    void MenuLeavesTheClipboard()
+    {
+        QFETCH(QString, format);
+        auto* content = new QMimeData;
+        if (format == QLatin1String("image/png")) {
+            QImage picture(3, 2, QImage::Format_RGB32);
+            picture.fill(Qt::red);
+            content->setImageData(picture);
+        } else {
+            content->setData(format, QByteArrayLiteral("file:///tmp/a\r\n"));
+        }
+        QClipboard* clipboard = QGuiApplication::clipboard();
+        clipboard->setMimeData(content);
+        CPasswordEdit edit;
+        edit.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        const QByteArray before = clipboard->mimeData()->data(format);
+        QVERIFY(!before.isEmpty() || clipboard->mimeData()->hasImage());
+        const QPointer<QMenu> menu(OpenMenu(edit));
+        QVERIFY(menu);
+        QTest::keyClick(menu, Qt::Key_Escape);
+        QTRY_VERIFY(!menu);
+        QCOMPARE(clipboard->mimeData()->data(format), before);
+        if (format == QLatin1String("image/png"))
+            QCOMPARE(clipboard->image().size(), QSize(3, 2));
+    }
+
+    /// Catches a resource tree without the place at which the edit looks for its sheet, in either skin.
+    void SheetLiesAtTheNestedPath()
+    {
+        const QString place = QStringLiteral(":/Corvale/:/%1/:/Corvale/UICommonModule/%1/UICommonModule/"
+                                             "PasswordEdit/CPasswordEdit.qss");
+        CPasswordEdit edit;
+        QString before;
+        for (const QString& skin : {QStringLiteral("Black"), QStringLiteral("White")}) {
+            KvGUI::SetSkinVersion(skin);
+            QFile file(place.arg(skin));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(edit.styleSheet(), QString::fromLatin1(file.readAll()));
+            QVERIFY(edit.styleSheet() != before);
+            before = edit.styleSheet();
+        }
+        KvGUI::SetSkinVersion(QStringLiteral("None"));
+        QCOMPARE(edit.styleSheet(), before);
+    }
+
+    void MeterShowsItsLevel_data()
+    {
+        TestSupport::Columns<int, int>("level", "like");
+        QTest::newRow("nothing") << 0 << 0;
+        QTest::newRow("negative") << -1 << 0;
+        QTest::newRow("beyond") << 7 << 3;
+        QTest::newRow("largest") << std::numeric_limits<int>::max() << 3;
+    }
+
+    /// Catches a level outside of the pictures that draws the wrong one or is clamped when it is stored.
+    void MeterShowsItsLevel()
+    {
+        QFETCH(int, level);
+        QFETCH(int, like);
+        CPasswordStrength meter;
+        meter.resize(200, 20);
+        meter.SetStrength(like);
+        const QImage expected = Image(meter);
+        QCOMPARE(PaintedRows(expected).isEmpty(), like == 0);
         meter.SetStrength(level);
-        QCoreApplication::processEvents();
-        const QImage image = meter.screen()->grabWindow(meter.winId()).toImage();
-        QVERIFY(!image.isNull());
-        QVERIFY(!seen.contains(image));
-        seen.append(image);
+        QCOMPARE(Image(meter), expected);
+        QCOMPARE(meter.GetStrength(), level);
     }
-}
 
-/// Catches pictures that lie at the top, or beyond a low meter.
-void TestPassword::MeterIsCentred()
-{
-    CPasswordStrength meter;
-    const int pictureHeight = meter.sizeHint().height();
-    QVERIFY(pictureHeight > 0);
-    meter.SetStrength(1);
-    meter.resize(200, pictureHeight + 10);
-    const QVector<int> rows = PaintedRows(Image(meter));
-    QCOMPARE(rows.first(), 5);
-    QCOMPARE(rows.size(), pictureHeight);
-}
+    /// Catches a picture used for two levels, and a meter on the screen that stands still.
+    void LevelsDiffer()
+    {
+        CPasswordStrength meter;
+        meter.resize(200, 20);
+        meter.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&meter));
+        QVector<QImage> seen;
+        for (int level = 0; level <= 3; ++level) {
+            meter.SetStrength(level);
+            QCoreApplication::processEvents();
+            const QImage image = meter.screen()->grabWindow(meter.winId()).toImage();
+            QVERIFY(!image.isNull());
+            QVERIFY(!seen.contains(image));
+            seen.append(image);
+        }
+    }
 
-/// Catches pictures of the skin before.
-void TestPassword::MeterFollowsTheSkin()
-{
-    CPasswordStrength meter;
-    meter.resize(200, 20);
-    meter.SetStrength(3);
-    const QImage dark = Image(meter);
-    KvGUI::SetSkinVersion(QStringLiteral("White"));
-    QVERIFY(Image(meter) != dark);
-    KvGUI::SetSkinVersion(QStringLiteral("None")); // has no pictures
-    QVERIFY(PaintedRows(Image(meter)).isEmpty());
-}
+    /// Catches pictures that lie at the top, or beyond a low meter.
+    void MeterIsCentred()
+    {
+        CPasswordStrength meter;
+        const int pictureHeight = meter.sizeHint().height();
+        QVERIFY(pictureHeight > 0);
+        meter.SetStrength(1);
+        meter.resize(200, pictureHeight + 10);
+        const QVector<int> rows = PaintedRows(Image(meter));
+        QCOMPARE(rows.first(), 5);
+        QCOMPARE(rows.size(), pictureHeight);
+    }
+
+    /// Catches pictures of the skin before.
+    void MeterFollowsTheSkin()
+    {
+        CPasswordStrength meter;
+        meter.resize(200, 20);
+        meter.SetStrength(3);
+        const QImage dark = Image(meter);
+        KvGUI::SetSkinVersion(QStringLiteral("White"));
+        QVERIFY(Image(meter) != dark);
+        KvGUI::SetSkinVersion(QStringLiteral("None")); // has no pictures
+        QVERIFY(PaintedRows(Image(meter)).isEmpty());
+    }
+};
 
 STRICT_X_TEST_MAIN(TestPassword)
 #include "tst_password.moc"

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <QtTest>
@@ -53,243 +54,225 @@ class TestPersonImage : public QObject
     Q_OBJECT
 
 private slots:
-    void ButtonsComeWithThePointer();
-    void ButtonsCanBePinned();
-    void OnlyButtonsInUseAreShown();
-    void Stack_data();
-    void Stack();
-    void LayoutFollowsTheSize();
-    void TinyPanels();
-    void Captions_data();
-    void Captions();
-    void PageTurns();
-    void ClicksAreReported_data();
-    void ClicksAreReported();
-    void SlotDeletesThePanel();
-    void ButtonsLeaveTheFocus();
-    void DisabledPanelKeepsItsButtons();
-};
-
-/// Catches buttons that cover the photo at once, or stay when the pointer goes.
-void TestPersonImage::ButtonsComeWithThePointer()
-{
-    WmPersonImage panel;
-    QCOMPARE(Shown(panel), QStringList());
-    Hover(panel, true);
-    QCOMPARE(Shown(panel).size(), 7);
-    Hover(panel, false);
-    QCOMPARE(Shown(panel), QStringList());
-}
-
-/// Catches pinned buttons that go with the pointer, and buttons that stay when they are no longer pinned.
-void TestPersonImage::ButtonsCanBePinned()
-{
-    WmPersonImage panel;
-    panel.SetPhotoBtnAlwaysShow(true);
-    Hover(panel, true);
-    Hover(panel, false);
-    QCOMPARE(Shown(panel).size(), 7);
-    panel.SetPhotoBtnVisible(false);
-    panel.SetPhotoBtnAlwaysShow(true); // nothing new: leaves what the client did
-    Hover(panel, true);
-    QCOMPARE(Shown(panel), QStringList());
-    panel.SetPhotoBtnAlwaysShow(false);
-    Hover(panel, true);
-    QCOMPARE(Shown(panel).size(), 7);
-}
-
-/// Catches a button that hovering brings back although it is switched off, and one that never comes back.
-void TestPersonImage::OnlyButtonsInUseAreShown()
-{
-    WmPersonImage panel;
-    Hover(panel, true);
-    panel.SetShowIDCardButton(false);
-    panel.SetShowAvatarOrFaceLabel(false, 1);
-    QVERIFY(!Shown(panel).contains(QStringLiteral("m_btnIDCard")));
-    Hover(panel, true);
-    QVERIFY(!Shown(panel).contains(QStringLiteral("m_btnIDCard")));
-    QVERIFY(!Shown(panel).contains(QStringLiteral("m_lbAvatarOrFace")));
-    panel.SetShowIDCardButton(true);
-    QVERIFY(!Shown(panel).contains(QStringLiteral("m_btnIDCard")));
-    Hover(panel, true);
-    QVERIFY(Shown(panel).contains(QStringLiteral("m_btnIDCard")));
-}
-
-void TestPersonImage::Stack_data()
-{
-    QTest::addColumn<QStringList>("inUse"); // from below
-    const QString upLoad = QStringLiteral("m_btnUpLoad");
-    const QString capture = QStringLiteral("m_btnCapture");
-    const QString visitor = QStringLiteral("m_btnVistorCapture");
-    const QString card = QStringLiteral("m_btnIDCard");
-    const QString remove = QStringLiteral("m_btnPhotoDelete");
-    QTest::newRow("all") << QStringList{remove, upLoad, capture, visitor, card};
-    QTest::newRow("delete and upload") << QStringList{remove, upLoad};
-    QTest::newRow("without delete") << QStringList{upLoad, card};
-    QTest::newRow("a gap") << QStringList{remove, capture, card};
-    QTest::newRow("none") << QStringList{};
-}
-
-/// Catches another order, room for buttons that are not in use, and buttons outside the panel.
-void TestPersonImage::Stack()
-{
-    QFETCH(QStringList, inUse);
-    WmPersonImage panel;
-    panel.resize(100, 120);
-    SwitchAll(panel, false);
-    for (const QString& name : inUse)
-        panel.findChild<QPushButton*>(name)->setEnabled(true);
-    panel.SetShowTurnPageButton(true);
-    panel.SetShowAvatarOrFaceLabel(true, 1);
-    Hover(panel, true);
-    for (int i = 0; i < inUse.size(); ++i)
-        QCOMPARE(panel.findChild<QPushButton*>(inUse.at(i))->geometry(), QRect(1, 100 - 20 * i, 98, 20));
-    QCOMPARE(Button(panel, "m_btnTurnPage")->geometry(), QRect(75, 0, 25, 20));
-    QCOMPARE(Caption(panel)->geometry(), QRect(1, 0, 98, 20));
-}
-
-/// Catches buttons that keep the place of the old size.
-void TestPersonImage::LayoutFollowsTheSize()
-{
-    WmPersonImage panel;
-    panel.show();
-    panel.resize(203, 151);
-    QTRY_COMPARE(Button(panel, "m_btnPhotoDelete")->geometry(), QRect(1, 131, 201, 20));
-    QCOMPARE(Button(panel, "m_btnTurnPage")->geometry(), QRect(152, 0, 50, 20));
-}
-
-/// Catches sizes below zero, of which Qt warns.
-void TestPersonImage::TinyPanels()
-{
-    WmPersonImage panel;
-    for (const QSize& size : {QSize(1, 1), QSize(0, 0), QSize(3, 5)}) {
-        panel.resize(size);
-        panel.SetButtonSize();
-        QVERIFY(Button(panel, "m_btnUpLoad")->width() >= 0);
+    /// Catches buttons that cover the photo at once, or stay when the pointer goes.
+    void ButtonsComeWithThePointer()
+    {
+        WmPersonImage panel;
+        QCOMPARE(Shown(panel), QStringList());
+        Hover(panel, true);
+        QCOMPARE(Shown(panel).size(), 7);
+        Hover(panel, false);
+        QCOMPARE(Shown(panel), QStringList());
     }
-}
 
-void TestPersonImage::Captions_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("avatar") << 1 << QStringLiteral("Avatar");
-    QTest::newRow("first face") << 2 << QStringLiteral("Face1");
-    QTest::newRow("second face") << 3 << QStringLiteral("Face2");
-    QTest::newRow("any other") << -7 << QStringLiteral("Face2");
-}
+    /// Catches pinned buttons that go with the pointer, and buttons that stay when they are no longer pinned.
+    void ButtonsCanBePinned()
+    {
+        WmPersonImage panel;
+        panel.SetPhotoBtnAlwaysShow(true);
+        Hover(panel, true);
+        Hover(panel, false);
+        QCOMPARE(Shown(panel).size(), 7);
+        panel.SetPhotoBtnVisible(false);
+        panel.SetPhotoBtnAlwaysShow(true); // nothing new: leaves what the client did
+        Hover(panel, true);
+        QCOMPARE(Shown(panel), QStringList());
+        panel.SetPhotoBtnAlwaysShow(false);
+        Hover(panel, true);
+        QCOMPARE(Shown(panel).size(), 7);
+    }
 
-/// Catches the type's number in place of the face's.
-void TestPersonImage::Captions()
-{
-    QFETCH(int, type);
-    QFETCH(QString, text);
-    WmPersonImage panel;
-    panel.SetShowAvatarOrFaceLabel(true, type);
-    QCOMPARE(Caption(panel)->text(), text);
-}
+    /// Catches a button that hovering brings back although it is switched off, and one that never comes back.
+    void OnlyButtonsInUseAreShown()
+    {
+        WmPersonImage panel;
+        Hover(panel, true);
+        panel.SetShowIDCardButton(false);
+        panel.SetShowAvatarOrFaceLabel(false, 1);
+        QVERIFY(!Shown(panel).contains(QStringLiteral("m_btnIDCard")));
+        Hover(panel, true);
+        QVERIFY(!Shown(panel).contains(QStringLiteral("m_btnIDCard")));
+        QVERIFY(!Shown(panel).contains(QStringLiteral("m_lbAvatarOrFace")));
+        panel.SetShowIDCardButton(true);
+        QVERIFY(!Shown(panel).contains(QStringLiteral("m_btnIDCard")));
+        Hover(panel, true);
+        QVERIFY(Shown(panel).contains(QStringLiteral("m_btnIDCard")));
+    }
 
-/// Catches a page button that offers the page which is shown, and a turn that leaves the buttons hidden.
-void TestPersonImage::PageTurns()
-{
-    WmPersonImage panel;
-    const QPushButton* turn = Button(panel, "m_btnTurnPage");
-    QCOMPARE(turn->text(), QStringLiteral("Next Picture"));
-    panel.RefreshUIButton();
-    QCOMPARE(turn->text(), QStringLiteral("Previous Picture"));
-    QCOMPARE(Shown(panel).size(), 7);
-    panel.RefreshUIButton();
-    QCOMPARE(turn->text(), QStringLiteral("Next Picture"));
-    panel.RefreshUIButton();
-    panel.ResetUI();
-    QCOMPARE(turn->text(), QStringLiteral("Next Picture"));
-    panel.RefreshUIButton();
-    QCOMPARE(turn->text(), QStringLiteral("Previous Picture"));
-}
+    void Stack_data()
+    {
+        QTest::addColumn<QStringList>("inUse"); // from below
+        const QString upLoad = QStringLiteral("m_btnUpLoad");
+        const QString capture = QStringLiteral("m_btnCapture");
+        const QString visitor = QStringLiteral("m_btnVistorCapture");
+        const QString card = QStringLiteral("m_btnIDCard");
+        const QString remove = QStringLiteral("m_btnPhotoDelete");
+        QTest::newRow("all") << QStringList{remove, upLoad, capture, visitor, card};
+        QTest::newRow("delete and upload") << QStringList{remove, upLoad};
+        QTest::newRow("without delete") << QStringList{upLoad, card};
+        QTest::newRow("a gap") << QStringList{remove, capture, card};
+        QTest::newRow("none") << QStringList{};
+    }
 
-void TestPersonImage::ClicksAreReported_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QByteArray>("signal");
-    const auto add = [](const char* button, const char* signal) {
-        QTest::newRow(button) << QString::fromLatin1(button) << QByteArray(signal);
-    };
-    add("m_btnUpLoad", SIGNAL(SignalClickUploadPicBtn()));
-    add("m_btnCapture", SIGNAL(SignalCameraBtnClick()));
-    add("m_btnVistorCapture", SIGNAL(SignalVistorSnapBtnClick()));
-    add("m_btnIDCard", SIGNAL(SignalIDCardBtnClick()));
-    add("m_btnPhotoDelete", SIGNAL(SignalDeleteBtnClick()));
-    add("m_btnTurnPage", SIGNAL(SignalTurnPageBtnClick()));
-}
+    /// Catches another order, room for buttons that are not in use, and buttons outside the panel.
+    void Stack()
+    {
+        QFETCH(QStringList, inUse);
+        WmPersonImage panel;
+        panel.resize(100, 120);
+        SwitchAll(panel, false);
+        for (const QString& name : inUse)
+            panel.findChild<QPushButton*>(name)->setEnabled(true);
+        panel.SetShowTurnPageButton(true);
+        panel.SetShowAvatarOrFaceLabel(true, 1);
+        Hover(panel, true);
+        for (int i = 0; i < inUse.size(); ++i)
+            QCOMPARE(panel.findChild<QPushButton*>(inUse.at(i))->geometry(), QRect(1, 100 - 20 * i, 98, 20));
+        QCOMPARE(Button(panel, "m_btnTurnPage")->geometry(), QRect(75, 0, 25, 20));
+        QCOMPARE(Caption(panel)->geometry(), QRect(1, 0, 98, 20));
+    }
 
-/// Catches crossed signals, and buttons that cannot be reached where they are shown: the caption's strip
-/// takes in the page button's place.
-void TestPersonImage::ClicksAreReported()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, signal);
-    WmPersonImage panel;
-    panel.resize(160, 200);
-    panel.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&panel));
-    Hover(panel, true);
-    QSignalSpy spy(&panel, signal.constData());
-    int all = 0;
-    for (const auto clicked :
-         {&WmPersonImage::SignalClickUploadPicBtn, &WmPersonImage::SignalCameraBtnClick,
-          &WmPersonImage::SignalVistorSnapBtnClick, &WmPersonImage::SignalIDCardBtnClick,
-          &WmPersonImage::SignalDeleteBtnClick, &WmPersonImage::SignalTurnPageBtnClick})
-        connect(&panel, clicked, this, [&all] { ++all; });
-    const QPoint middle = panel.findChild<QPushButton*>(button)->geometry().center();
-    QTest::mouseClick(panel.windowHandle(), Qt::LeftButton, Qt::NoModifier, middle);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(all, 1);
-}
+    /// Catches buttons that keep the place of the old size.
+    void LayoutFollowsTheSize()
+    {
+        WmPersonImage panel;
+        panel.show();
+        panel.resize(203, 151);
+        QTRY_COMPARE(Button(panel, "m_btnPhotoDelete")->geometry(), QRect(1, 131, 201, 20));
+        QCOMPARE(Button(panel, "m_btnTurnPage")->geometry(), QRect(152, 0, 50, 20));
+    }
 
-/// Catches any use of the panel after the slot in which the client deleted it.
-void TestPersonImage::SlotDeletesThePanel()
-{
-    auto* panel = new WmPersonImage;
-    const QPointer<WmPersonImage> guard(panel);
-    connect(panel, &WmPersonImage::SignalDeleteBtnClick, this, [=] { delete panel; });
-    panel->show();
-    QVERIFY(QTest::qWaitForWindowExposed(panel));
-    Hover(*panel, true);
-    QTest::mouseClick(Button(*panel, "m_btnPhotoDelete"), Qt::LeftButton);
-    QVERIFY(guard.isNull());
-}
+    /// Catches sizes below zero, of which Qt warns.
+    void TinyPanels()
+    {
+        WmPersonImage panel;
+        for (const QSize& size : {QSize(1, 1), QSize(0, 0), QSize(3, 5)}) {
+            panel.resize(size);
+            panel.SetButtonSize();
+            QVERIFY(Button(panel, "m_btnUpLoad")->width() >= 0);
+        }
+    }
 
-/// Catches a click on a button that takes the keyboard from the record's fields.
-void TestPersonImage::ButtonsLeaveTheFocus()
-{
-    QWidget record;
-    auto* layout = new QVBoxLayout(&record);
-    auto* name = new QLineEdit;
-    auto* panel = new WmPersonImage;
-    panel->setFixedSize(160, 200);
-    layout->addWidget(name);
-    layout->addWidget(panel);
-    record.show();
-    QVERIFY(QTest::qWaitForWindowActive(&record));
-    name->setFocus();
-    Hover(*panel, true);
-    QTest::mouseClick(Button(*panel, "m_btnUpLoad"), Qt::LeftButton);
-    QCOMPARE(QApplication::focusWidget(), name);
-}
+    void Captions_data()
+    {
+        TestSupport::Columns<int, QString>("type", "text");
+        QTest::newRow("avatar") << 1 << QStringLiteral("Avatar");
+        QTest::newRow("first face") << 2 << QStringLiteral("Face1");
+        QTest::newRow("second face") << 3 << QStringLiteral("Face2");
+        QTest::newRow("any other") << -7 << QStringLiteral("Face2");
+    }
 
-/// Catches a panel that forgets which buttons are in use while it is disabled.
-void TestPersonImage::DisabledPanelKeepsItsButtons()
-{
-    WmPersonImage panel;
-    panel.SetShowIDCardButton(false);
-    panel.setEnabled(false);
-    panel.resize(180, 240);
-    panel.SetButtonSize();
-    panel.setEnabled(true);
-    Hover(panel, true);
-    QCOMPARE(Shown(panel).size(), 6);
-    QCOMPARE(Button(panel, "m_btnPhotoDelete")->geometry(), QRect(1, 220, 178, 20));
-}
+    /// Catches the type's number in place of the face's.
+    void Captions()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, text);
+        WmPersonImage panel;
+        panel.SetShowAvatarOrFaceLabel(true, type);
+        QCOMPARE(Caption(panel)->text(), text);
+    }
+
+    /// Catches a page button that offers the page which is shown, and a turn that leaves the buttons hidden.
+    void PageTurns()
+    {
+        WmPersonImage panel;
+        const QPushButton* turn = Button(panel, "m_btnTurnPage");
+        QCOMPARE(turn->text(), QStringLiteral("Next Picture"));
+        panel.RefreshUIButton();
+        QCOMPARE(turn->text(), QStringLiteral("Previous Picture"));
+        QCOMPARE(Shown(panel).size(), 7);
+        panel.RefreshUIButton();
+        QCOMPARE(turn->text(), QStringLiteral("Next Picture"));
+        panel.RefreshUIButton();
+        panel.ResetUI();
+        QCOMPARE(turn->text(), QStringLiteral("Next Picture"));
+        panel.RefreshUIButton();
+        QCOMPARE(turn->text(), QStringLiteral("Previous Picture"));
+    }
+
+    void ClicksAreReported_data()
+    {
+        TestSupport::Columns<QString, QByteArray>("button", "signal");
+        const auto add = [](const char* button, const char* signal) {
+            QTest::newRow(button) << QString::fromLatin1(button) << QByteArray(signal);
+        };
+        add("m_btnUpLoad", SIGNAL(SignalClickUploadPicBtn()));
+        add("m_btnCapture", SIGNAL(SignalCameraBtnClick()));
+        add("m_btnVistorCapture", SIGNAL(SignalVistorSnapBtnClick()));
+        add("m_btnIDCard", SIGNAL(SignalIDCardBtnClick()));
+        add("m_btnPhotoDelete", SIGNAL(SignalDeleteBtnClick()));
+        add("m_btnTurnPage", SIGNAL(SignalTurnPageBtnClick()));
+    }
+
+    /// Catches crossed signals, and buttons that cannot be reached where they are shown: the caption's strip
+    /// takes in the page button's place.
+    void ClicksAreReported()
+    {
+        QFETCH(QString, button);
+        QFETCH(QByteArray, signal);
+        WmPersonImage panel;
+        panel.resize(160, 200);
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+        Hover(panel, true);
+        QSignalSpy spy(&panel, signal.constData());
+        int all = 0;
+        for (const auto clicked :
+             {&WmPersonImage::SignalClickUploadPicBtn, &WmPersonImage::SignalCameraBtnClick,
+              &WmPersonImage::SignalVistorSnapBtnClick, &WmPersonImage::SignalIDCardBtnClick,
+              &WmPersonImage::SignalDeleteBtnClick, &WmPersonImage::SignalTurnPageBtnClick})
+            connect(&panel, clicked, this, [&all] { ++all; });
+        const QPoint middle = panel.findChild<QPushButton*>(button)->geometry().center();
+        QTest::mouseClick(panel.windowHandle(), Qt::LeftButton, Qt::NoModifier, middle);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(all, 1);
+    }
+
+    /// Catches any use of the panel after the slot in which the client deleted it.
+    void SlotDeletesThePanel()
+    {
+        auto* panel = new WmPersonImage;
+        const QPointer<WmPersonImage> guard(panel);
+        connect(panel, &WmPersonImage::SignalDeleteBtnClick, this, [=] { delete panel; });
+        panel->show();
+        QVERIFY(QTest::qWaitForWindowExposed(panel));
+        Hover(*panel, true);
+        QTest::mouseClick(Button(*panel, "m_btnPhotoDelete"), Qt::LeftButton);
+        QVERIFY(guard.isNull());
+    }
+
+    /// Catches a click on a button that takes the keyboard from the record's fields.
+    void ButtonsLeaveTheFocus()
+    {
+        QWidget record;
+        auto* layout = new QVBoxLayout(&record);
+        auto* name = new QLineEdit;
+        auto* panel = new WmPersonImage;
+        panel->setFixedSize(160, 200);
+        layout->addWidget(name);
+        layout->addWidget(panel);
+        record.show();
+        QVERIFY(QTest::qWaitForWindowActive(&record));
+        name->setFocus();
+        Hover(*panel, true);
+        QTest::mouseClick(Button(*panel, "m_btnUpLoad"), Qt::LeftButton);
+        QCOMPARE(QApplication::focusWidget(), name);
+    }
+
+    /// Catches a panel that forgets which buttons are in use while it is disabled.
+    void DisabledPanelKeepsItsButtons()
+    {
+        WmPersonImage panel;
+        panel.SetShowIDCardButton(false);
+        panel.setEnabled(false);
+        panel.resize(180, 240);
+        panel.SetButtonSize();
+        panel.setEnabled(true);
+        Hover(panel, true);
+        QCOMPARE(Shown(panel).size(), 6);
+        QCOMPARE(Button(panel, "m_btnPhotoDelete")->geometry(), QRect(1, 220, 178, 20));
+    }
+};
 
 STRICT_TEST_MAIN(TestPersonImage)
 #include "tst_personimage.moc"

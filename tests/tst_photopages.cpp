@@ -1,5 +1,6 @@
 // The pages of the example client that crop photos, used as an operator would.
 
+#include "support/Columns.h"
 #include "support/CropCanvas.h"
 #include "support/StrictMain.h"
 
@@ -332,8 +333,7 @@ private slots:
 
     void CanvasKeepsThePicturesShape_data()
     {
-        QTest::addColumn<QSize>("picture");
-        QTest::addColumn<QSize>("canvas");
+        TestSupport::Columns<QSize, QSize>("picture", "canvas");
         QTest::newRow("wide") << QSize(1920, 1080) << QSize(960, 540);
         QTest::newRow("high") << QSize(1000, 2000) << QSize(320, 640);
         QTest::newRow("small") << QSize(30, 20) << QSize(960, 640);

@@ -1,5 +1,6 @@
 // QR codes, read by a real reader, and the dialog that shows them.
 
+#include "support/Columns.h"
 #include "support/Deletion.h"
 #include "support/QrReader.h"
 #include "support/StrictMain.h"
@@ -8,13 +9,8 @@
 #include <UI/Dialogs/CDisplayQRcodeDlg.h>
 #include <UI/Dialogs/QRCodePicture.h>
 
-#include <QApplication>
-#include <QLabel>
-#include <QPainter>
-#include <QPointer>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 
 using TestSupport::ReadQrCode;
 using UICommonMdl::CDisplayQRcodeDlg;
@@ -106,219 +102,204 @@ class tst_QrCode : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void versions_data();
-    void versions();
-    void texts_data();
-    void texts();
-    void formatIsNotMirrored();
-
-    void firstState();
-    void showsTheCode();
-    void codeIsReadFromTheDialog();
-    void keepsTheCode();
-    void asksForRenewalAgainAndAgain();
-    void newValueBeginsThePeriodAnew();
-    void slotMayDeleteTheDialog();
-};
-
-void tst_QrCode::versions_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::addColumn<int>("capacity");
-    int version = FirstVersion;
-    for (const int capacity : Capacities) {
-        QTest::addRow("version %d", version) << version << capacity;
-        ++version;
+    void versions_data()
+    {
+        TestSupport::Columns<int, int>("version", "capacity");
+        int version = FirstVersion;
+        for (const int capacity : Capacities) {
+            QTest::addRow("version %d", version) << version << capacity;
+            ++version;
+        }
     }
-}
 
-/// Catches a wrong bit of the modules, another level or mode, and a picture whose
-/// pixels are not those of their modules.
-void tst_QrCode::versions()
-{
-    QFETCH(int, version);
-    QFETCH(int, capacity);
-    const QString text = Letters(capacity);
-    const QImage modules = QRCodePicture::Modules(text);
-    const int side = 17 + 4 * version;
-    QCOMPARE(modules.size(), QSize(side, side));
-    QCOMPARE(ReadQrCode(OnPaper(Enlarged(modules))), text.toUtf8());
-    const QImage next = QRCodePicture::Modules(Letters(capacity + 1));
-    QCOMPARE(next.width(), version == 40 ? 0 : side + 4);
+    /// Catches a wrong bit of the modules, another level or mode, and a picture whose
+    /// pixels are not those of their modules.
+    void versions()
+    {
+        QFETCH(int, version);
+        QFETCH(int, capacity);
+        const QString text = Letters(capacity);
+        const QImage modules = QRCodePicture::Modules(text);
+        const int side = 17 + 4 * version;
+        QCOMPARE(modules.size(), QSize(side, side));
+        QCOMPARE(ReadQrCode(OnPaper(Enlarged(modules))), text.toUtf8());
+        const QImage next = QRCodePicture::Modules(Letters(capacity + 1));
+        QCOMPARE(next.width(), version == 40 ? 0 : side + 4);
 
-    const QImage picture = QRCodePicture::Scaled(text);
-    QCOMPARE(picture.size(), QSize(200, 200));
-    for (int y = 0; y < 200; ++y) {
-        for (int x = 0; x < 200; ++x)
-            QVERIFY(ModulesAt(modules, x, y).contains(picture.pixel(x, y)));
+        const QImage picture = QRCodePicture::Scaled(text);
+        QCOMPARE(picture.size(), QSize(200, 200));
+        for (int y = 0; y < 200; ++y) {
+            for (int x = 0; x < 200; ++x)
+                QVERIFY(ModulesAt(modules, x, y).contains(picture.pixel(x, y)));
+        }
+        if (version <= LastReadableVersion)
+            QCOMPARE(ReadQrCode(OnPaper(picture)), text.toUtf8());
     }
-    if (version <= LastReadableVersion)
-        QCOMPARE(ReadQrCode(OnPaper(picture)), text.toUtf8());
-}
 
-void tst_QrCode::texts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("side");
-    QTest::addColumn<QByteArray>("read");
-    const auto row = [](const char* name, const QString& text, int side) {
-        QTest::newRow(name) << text << side << text.toUtf8();
-    };
-    row("one byte", QStringLiteral("a"), 25);
-    row("capitals stay capitals", QStringLiteral("Ab:aB"), 25);
-    row("two bytes a character", QString(7, QChar(0x00E9)), 25);
-    row("one byte too many", QString(7, QChar(0x00E9)) + QLatin1Char('a'), 29);
-    row("three bytes a character", QStringLiteral("\u914D\u5BF9\u624B\u673A"), 25);
-    row("four bytes a character", QStringLiteral("\U0001F4F7\U0001F512"), 25);
-    // Digits take less room than their bytes.
-    row("3000 digits", QString(3000, QLatin1Char('4')), 177);
-    QTest::newRow("null character ends the text")
-        << QStringLiteral("ab\0cd").left(5) << 25 << QByteArray("ab");
-    QTest::newRow("half a surrogate pair") << QString(QChar(0xD83D)) << 25 << QByteArray("?");
-    QTest::newRow("empty") << QString() << 0 << QByteArray();
-    QTest::newRow("only a null character") << QString(QChar(0)) << 0 << QByteArray();
-}
-
-/// Catches another encoding than UTF-8, lengths counted in characters, and a crash where there is no code.
-void tst_QrCode::texts()
-{
-    QFETCH(QString, text);
-    QFETCH(int, side);
-    const QImage modules = QRCodePicture::Modules(text);
-    QCOMPARE(modules.width(), side);
-    QCOMPARE(QRCodePicture::Scaled(text).isNull(), side == 0);
-    if (side > 0)
-        QTEST(ReadQrCode(OnPaper(Enlarged(modules))), "read");
-}
-
-/// Catches rows taken for columns: readers read mirrored codes too, not all of them.
-void tst_QrCode::formatIsNotMirrored()
-{
-    const QImage modules = QRCodePicture::Modules(Letters(14));
-    // The format's 15 bits around the upper left finder, from the left to the top; row and column 6 are left
-    // out. Mirrored they would come in the reverse order.
-    int format = 0;
-    const auto add = [&](int x, int y) { format = format << 1 | modules.pixelIndex(x, y); };
-    for (const int x : {0, 1, 2, 3, 4, 5, 7, 8})
-        add(x, 8);
-    for (const int y : {7, 5, 4, 3, 2, 1, 0})
-        add(8, y);
-    format ^= 0x5412; // the mask of every format
-    QCOMPARE(format >> 13, 2); // level H
-    int rest = format;
-    for (int bit = 14; bit >= 10; --bit) {
-        if (rest >> bit & 1)
-            rest ^= 0x537 << (bit - 10); // the generator of its check bits
+    void texts_data()
+    {
+        TestSupport::Columns<QString, int, QByteArray>("text", "side", "read");
+        const auto row = [](const char* name, const QString& text, int side) {
+            QTest::newRow(name) << text << side << text.toUtf8();
+        };
+        row("one byte", QStringLiteral("a"), 25);
+        row("capitals stay capitals", QStringLiteral("Ab:aB"), 25);
+        row("two bytes a character", QString(7, QChar(0x00E9)), 25);
+        row("one byte too many", QString(7, QChar(0x00E9)) + QLatin1Char('a'), 29);
+        row("three bytes a character", QStringLiteral("\u914D\u5BF9\u624B\u673A"), 25);
+        row("four bytes a character", QStringLiteral("\U0001F4F7\U0001F512"), 25);
+        // Digits take less room than their bytes.
+        row("3000 digits", QString(3000, QLatin1Char('4')), 177);
+        QTest::newRow("null character ends the text")
+            << QStringLiteral("ab\0cd").left(5) << 25 << QByteArray("ab");
+        QTest::newRow("half a surrogate pair") << QString(QChar(0xD83D)) << 25 << QByteArray("?");
+        QTest::newRow("empty") << QString() << 0 << QByteArray();
+        QTest::newRow("only a null character") << QString(QChar(0)) << 0 << QByteArray();
     }
-    QCOMPARE(rest, 0);
-}
 
-/// Catches a dialog that runs before it shows anything, or comes in another form.
-void tst_QrCode::firstState()
-{
-    const Fixture f;
-    QCOMPARE(f.dialog->size(), QSize(400, 300));
-    QCOMPARE(f.dialog->windowTitle(), QStringLiteral("Display QRcode"));
-    QVERIFY(f.Picture().isNull());
-    QVERIFY(!f.Timer()->isActive());
-    QCOMPARE(f.Timer()->interval(), 120000);
-    QVERIFY(!f.Timer()->isSingleShot());
-    Show(*f.dialog);
-    QCOMPARE(f.Label()->size(), QSize(200, 200));
-    QCOMPARE(f.Label()->parentWidget()->objectName(), QStringLiteral("wgtBk"));
-}
+    /// Catches another encoding than UTF-8, lengths counted in characters, and a crash where there is no
+    /// code.
+    void texts()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, side);
+        const QImage modules = QRCodePicture::Modules(text);
+        QCOMPARE(modules.width(), side);
+        QCOMPARE(QRCodePicture::Scaled(text).isNull(), side == 0);
+        if (side > 0)
+            QTEST(ReadQrCode(OnPaper(Enlarged(modules))), "read");
+    }
 
-/// Catches a picture of another text, and one that is scaled again.
-void tst_QrCode::showsTheCode()
-{
-    const Fixture f;
-    for (const QString& token : {Token, OtherToken}) {
-        f.dialog->SetQRCodeValue(token, Device);
-        QCOMPARE(f.Picture().size(), QSize(200, 200));
-        QCOMPARE(ReadQrCode(OnPaper(f.Picture())), token.toUtf8());
+    /// Catches rows taken for columns: readers read mirrored codes too, not all of them.
+    void formatIsNotMirrored()
+    {
+        const QImage modules = QRCodePicture::Modules(Letters(14));
+        // The format's 15 bits around the upper left finder, from the left to the top; row and column 6 are
+        // left out. Mirrored they would come in the reverse order.
+        int format = 0;
+        const auto add = [&](int x, int y) { format = format << 1 | modules.pixelIndex(x, y); };
+        for (const int x : {0, 1, 2, 3, 4, 5, 7, 8})
+            add(x, 8);
+        for (const int y : {7, 5, 4, 3, 2, 1, 0})
+            add(8, y);
+        format ^= 0x5412; // the mask of every format
+        QCOMPARE(format >> 13, 2); // level H
+        int rest = format;
+        for (int bit = 14; bit >= 10; --bit) {
+            if (rest >> bit & 1)
+                rest ^= 0x537 << (bit - 10); // the generator of its check bits
+        }
+        QCOMPARE(rest, 0);
+    }
+
+    /// Catches a dialog that runs before it shows anything, or comes in another form.
+    void firstState()
+    {
+        const Fixture f;
+        QCOMPARE(f.dialog->size(), QSize(400, 300));
+        QCOMPARE(f.dialog->windowTitle(), QStringLiteral("Display QRcode"));
+        QVERIFY(f.Picture().isNull());
+        QVERIFY(!f.Timer()->isActive());
+        QCOMPARE(f.Timer()->interval(), 120000);
+        QVERIFY(!f.Timer()->isSingleShot());
+        Show(*f.dialog);
+        QCOMPARE(f.Label()->size(), QSize(200, 200));
+        QCOMPARE(f.Label()->parentWidget()->objectName(), QStringLiteral("wgtBk"));
+    }
+
+    /// Catches a picture of another text, and one that is scaled again.
+    void showsTheCode()
+    {
+        const Fixture f;
+        for (const QString& token : {Token, OtherToken}) {
+            f.dialog->SetQRCodeValue(token, Device);
+            QCOMPARE(f.Picture().size(), QSize(200, 200));
+            QCOMPARE(ReadQrCode(OnPaper(f.Picture())), token.toUtf8());
+            QVERIFY(f.Timer()->isActive());
+        }
+    }
+
+    /// Catches a dialog without the light margin that readers need, above all in the dark skin, also when a
+    /// client's own sheet colours its dialogs.
+    void codeIsReadFromTheDialog()
+    {
+        QWidget window;
+        window.setStyleSheet(QStringLiteral("QDialog, QWidget { background-color: #17181b; }"));
+        CDisplayQRcodeDlg dialog(&window);
+        dialog.SetQRCodeValue(Token, Device);
+        Show(dialog);
+        const QPoint corner
+            = dialog.findChild<QLabel*>(QStringLiteral("m_labQRcode"))->mapTo(&dialog, {0, 0});
+        const int margin = 4 * 8; // four modules on each side
+        for (const char* skin : {"White", "Black"}) {
+            KvGUI::SetSkinVersion(QString::fromLatin1(skin));
+            const QImage picture = dialog.grab().toImage();
+            QCOMPARE(ReadQrCode(picture), Token.toUtf8());
+            for (const QPoint& at :
+                 {QPoint(-margin, 100), QPoint(199 + margin, 100), QPoint(100, 199 + margin),
+                  QPoint(100, -margin)})
+                QCOMPARE(picture.pixelColor(corner + at), QColor(Qt::white));
+        }
+    }
+
+    /// Catches a code that disappears when there is no new one, a renewal for ever after the client has
+    /// stopped, and one that ends where it could mend a failed encoding.
+    void keepsTheCode()
+    {
+        const Fixture f;
+        f.dialog->SetQRCodeValue(Token, Device);
+        const QImage picture = f.Picture();
+        f.dialog->SetQRCodeValue(Letters(1274), Device);
+        QCOMPARE(f.Picture(), picture);
         QVERIFY(f.Timer()->isActive());
+        f.dialog->SetQRCodeValue(QString(), Device);
+        QCOMPARE(f.Picture(), picture);
+        QVERIFY(!f.Timer()->isActive());
+        f.dialog->SetQRCodeValue(Letters(1273), Device);
+        QVERIFY(f.Picture() != picture);
     }
-}
 
-/// Catches a dialog without the light margin that readers need, above all in the dark skin, also when a
-/// client's own sheet colours its dialogs.
-void tst_QrCode::codeIsReadFromTheDialog()
-{
-    QWidget window;
-    window.setStyleSheet(QStringLiteral("QDialog, QWidget { background-color: #17181b; }"));
-    CDisplayQRcodeDlg dialog(&window);
-    dialog.SetQRCodeValue(Token, Device);
-    Show(dialog);
-    const QPoint corner = dialog.findChild<QLabel*>(QStringLiteral("m_labQRcode"))->mapTo(&dialog, {0, 0});
-    const int margin = 4 * 8; // four modules on each side
-    for (const char* skin : {"White", "Black"}) {
-        KvGUI::SetSkinVersion(QString::fromLatin1(skin));
-        const QImage picture = dialog.grab().toImage();
-        QCOMPARE(ReadQrCode(picture), Token.toUtf8());
-        for (const QPoint& at :
-             {QPoint(-margin, 100), QPoint(199 + margin, 100), QPoint(100, 199 + margin),
-              QPoint(100, -margin)})
-            QCOMPARE(picture.pixelColor(corner + at), QColor(Qt::white));
+    /// Catches a request that comes once only, with an init value of before, or not by the slot's name.
+    void asksForRenewalAgainAndAgain()
+    {
+        const Fixture f;
+        QSignalSpy asked(f.dialog, &CDisplayQRcodeDlg::SignalRefreshTimeout);
+        for (const int bad : {0, -1})
+            f.dialog->SetRefreshInterval(bad);
+        QCOMPARE(f.dialog->RefreshInterval(), 120000);
+        f.dialog->SetRefreshInterval(5);
+        f.dialog->SetQRCodeValue(Token, QStringLiteral("before"));
+        f.dialog->SetQRCodeValue(Token, Device);
+        QTRY_VERIFY(asked.count() >= 3);
+        for (const QVariantList& arguments : asked)
+            QCOMPARE(arguments, QVariantList{Device});
+        f.dialog->SetQRCodeValue(QString(), OtherToken); // no more
+        asked.clear();
+        QVERIFY(QMetaObject::invokeMethod(f.dialog, "OnRefreshTimeout"));
+        QCOMPARE(asked, (QList<QVariantList>{{OtherToken}}));
     }
-}
 
-/// Catches a code that disappears when there is no new one, a renewal for ever after the client has stopped,
-/// and one that ends where it could mend a failed encoding.
-void tst_QrCode::keepsTheCode()
-{
-    const Fixture f;
-    f.dialog->SetQRCodeValue(Token, Device);
-    const QImage picture = f.Picture();
-    f.dialog->SetQRCodeValue(Letters(1274), Device);
-    QCOMPARE(f.Picture(), picture);
-    QVERIFY(f.Timer()->isActive());
-    f.dialog->SetQRCodeValue(QString(), Device);
-    QCOMPARE(f.Picture(), picture);
-    QVERIFY(!f.Timer()->isActive());
-    f.dialog->SetQRCodeValue(Letters(1273), Device);
-    QVERIFY(f.Picture() != picture);
-}
+    /// Catches a renewal that comes too early for the new code.
+    void newValueBeginsThePeriodAnew()
+    {
+        const Fixture f;
+        f.dialog->SetQRCodeValue(Token, Device);
+        QTRY_VERIFY(f.Timer()->remainingTime() <= 119950);
+        f.dialog->SetQRCodeValue(OtherToken, Device);
+        QVERIFY(f.Timer()->remainingTime() > 119950);
+    }
 
-/// Catches a request that comes once only, with an init value of before, or not by the slot's name.
-void tst_QrCode::asksForRenewalAgainAndAgain()
-{
-    const Fixture f;
-    QSignalSpy asked(f.dialog, &CDisplayQRcodeDlg::SignalRefreshTimeout);
-    for (const int bad : {0, -1})
-        f.dialog->SetRefreshInterval(bad);
-    QCOMPARE(f.dialog->RefreshInterval(), 120000);
-    f.dialog->SetRefreshInterval(5);
-    f.dialog->SetQRCodeValue(Token, QStringLiteral("before"));
-    f.dialog->SetQRCodeValue(Token, Device);
-    QTRY_VERIFY(asked.count() >= 3);
-    for (const QVariantList& arguments : asked)
-        QCOMPARE(arguments, QVariantList{Device});
-    f.dialog->SetQRCodeValue(QString(), OtherToken); // no more
-    asked.clear();
-    QVERIFY(QMetaObject::invokeMethod(f.dialog, "OnRefreshTimeout"));
-    QCOMPARE(asked, (QList<QVariantList>{{OtherToken}}));
-}
-
-/// Catches a renewal that comes too early for the new code.
-void tst_QrCode::newValueBeginsThePeriodAnew()
-{
-    const Fixture f;
-    f.dialog->SetQRCodeValue(Token, Device);
-    QTRY_VERIFY(f.Timer()->remainingTime() <= 119950);
-    f.dialog->SetQRCodeValue(OtherToken, Device);
-    QVERIFY(f.Timer()->remainingTime() > 119950);
-}
-
-/// Catches a dialog that goes on after its client deleted it.
-void tst_QrCode::slotMayDeleteTheDialog()
-{
-    const Fixture f;
-    TestSupport::SpoilFreedMemory();
-    TestSupport::DeleteAt(f.dialog.data(), &CDisplayQRcodeDlg::SignalRefreshTimeout);
-    f.dialog->SetRefreshInterval(5);
-    f.dialog->SetQRCodeValue(Token, Device);
-    QTRY_VERIFY(f.dialog.isNull());
-}
+    /// Catches a dialog that goes on after its client deleted it.
+    void slotMayDeleteTheDialog()
+    {
+        const Fixture f;
+        TestSupport::SpoilFreedMemory();
+        TestSupport::DeleteAt(f.dialog.data(), &CDisplayQRcodeDlg::SignalRefreshTimeout);
+        f.dialog->SetRefreshInterval(5);
+        f.dialog->SetQRCodeValue(Token, Device);
+        QTRY_VERIFY(f.dialog.isNull());
+    }
+};
 
 STRICT_TEST_MAIN(tst_QrCode)
 #include "tst_qrcode.moc"

@@ -11,11 +11,8 @@
 #include <UI/FormInputs/QIpPartLineEdit.h>
 #include <UI/TVWall/KvTVWallOperateWnd.h>
 
-#include <QApplication>
-#include <QLabel>
-#include <QStyle>
-#include <QTest>
-#include <QToolButton>
+#include <QtTest>
+#include <QtWidgets>
 #include <functional>
 
 using namespace UICommonMdl;

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 #include "support/VirtualDisplay.h"
 
@@ -7,11 +8,8 @@
 #include <gallery/Map/MapPage.h>
 #include <gallery/Map/MapRules.h>
 
-#include <QApplication>
-#include <QLabel>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <unistd.h>
 
 Q_DECLARE_METATYPE(OperatorClient::WallLayout)
@@ -105,193 +103,176 @@ class tst_sitemap : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void FreeQuarters_data();
-    void FreeQuarters();
-    void ScriptForMap_data();
-    void ScriptForMap();
-    void ClickOpensWindow();
-    void SelectionIsHighlighted();
-    void MapFollowsSize();
-    void MapFollowsSkin();
-    void StrangeCalls();
-    void NoEngine();
+    void initTestCase()
+    {
+        if (geteuid() == 0)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("without its sandbox")));
+        Client client;
+        QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
+    }
+
+    void FreeQuarters_data()
+    {
+        TestSupport::Columns<WallLayout, int, QPointF>("wall", "screen", "corner");
+        const WindowLayout full = Window(0, 0, 1, 1, 1);
+        const WindowLayout first = Window(0, 0, 0.5, 0.5, 2);
+        QTest::newRow("no screen") << WallLayout() << -1 << QPointF(0, 0);
+        QTest::newRow("empty screen") << Wall({{}}) << 0 << QPointF(0, 0);
+        QTest::newRow("beside another") << Wall({{first}}) << 0 << QPointF(0.5, 0);
+        QTest::newRow("a window over two quarters")
+            << Wall({{Window(0.2, 0.1, 0.8, 0.4, 1)}}) << 0 << QPointF(0, 0.5);
+        QTest::newRow("an edge that was rounded")
+            << Wall({{Window(0, 0, 0.5004, 0.5004, 1)}}) << 0 << QPointF(0.5, 0);
+        QTest::newRow("the next screen") << Wall({{full}, {first}}) << 1 << QPointF(0.5, 0);
+        QTest::newRow("all taken") << Wall({{full}, {full}}) << -1 << QPointF(0, 0);
+    }
+
+    // Catches a window that opens over another although there is room.
+    void FreeQuarters()
+    {
+        QFETCH(WallLayout, wall);
+        QFETCH(int, screen);
+        QFETCH(QPointF, corner);
+        const FreeQuarter quarter = FirstFreeQuarter(wall);
+        QCOMPARE(quarter.screen, screen);
+        if (screen >= 0)
+            QCOMPARE(QPointF(quarter.rect.dLeft, quarter.rect.dTop), corner);
+    }
+
+    void ScriptForMap_data()
+    {
+        TestSupport::Columns<WallLayout, int, QList<int>, QString>("wall", "screen", "selected", "script");
+        WindowLayout photo = Window(0, 0, 1, 1, 1);
+        photo.source = SourceSpec::Photo(QStringLiteral("/a.png"));
+        const WallLayout wall = Wall({{Window(0, 0, 1, 1, 3), photo}, {Window(0, 0, 1, 1, 5)}});
+        using L = QList<int>;
+        QTest::newRow("empty wall") << WallLayout() << -1 << L() << QStringLiteral("showWall([], [])");
+        QTest::newRow("nothing selected") << wall << 0 << L() << QStringLiteral("showWall([3,5], [])");
+        QTest::newRow("a camera") << wall << 1 << L{0} << QStringLiteral("showWall([3,5], [5])");
+        QTest::newRow("camera and photo") << wall << 0 << L{0, 1} << QStringLiteral("showWall([3,5], [3])");
+        QTest::newRow("no screen") << wall << -1 << L{0} << QStringLiteral("showWall([3,5], [])");
+    }
+
+    // Catches a photo that is taken for a camera, and a selection of another screen.
+    void ScriptForMap()
+    {
+        QFETCH(WallLayout, wall);
+        QFETCH(int, screen);
+        QFETCH(QList<int>, selected);
+        QString script = WallScript(wall, screen, selected);
+        QTEST(script.replace(QLatin1String("],["), QLatin1String("], [")), "script");
+    }
+
+    // Catches a click that opens nothing, another camera, or a second window of a camera that is there.
+    void ClickOpensWindow()
+    {
+        Client client;
+        QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
+        const auto place = [&](int camera) { return PlaceOfCamera(client.page.Cameras()->Layout(), camera); };
+        QCOMPARE(place(7).screen, -1);
+        client.Click(7);
+        QTRY_VERIFY_WITH_TIMEOUT(place(7).screen >= 0, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(7), QStringLiteral("camera shown selected"), Patience);
+        const int windows = client.page.Cameras()->Wall()->GetWindowCount(0);
+
+        client.Click(1);
+        QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(1), QStringLiteral("camera shown selected"), Patience);
+        QCOMPARE(client.ClassesOf(7), QStringLiteral("camera shown"));
+        QCOMPARE(client.page.Cameras()->Wall()->GetWindowCount(0), windows);
+    }
+
+    // Catches a map that does not follow what the operator selects and closes on the wall, and names under
+    // what a camera beside them sees.
+    void SelectionIsHighlighted()
+    {
+        Client client;
+        QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
+        const QString painted = QStringLiteral(
+            "[...document.querySelectorAll('.view, .name')].map(e => e.classList[0]).join()");
+        QVERIFY(
+            client.Value(painted).lastIndexOf(QLatin1String("view"))
+            < client.Value(painted).indexOf(QLatin1String("name")));
+        QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(3), QStringLiteral("camera shown"), Patience);
+        CameraWall* cameras = client.page.Cameras();
+        const WallPlace place = PlaceOfCamera(cameras->Layout(), 3);
+        KvGUI::StructScaleRect window;
+        QVERIFY(cameras->Wall()->GetWindowScale(place.screen, place.window, window));
+        // The middle of the window; the first screen is the upper half of the wall.
+        const QPoint at(
+            int(cameras->Wall()->width() * (window.dLeft + window.dRight) / 2),
+            int(cameras->Wall()->height() * (window.dTop + window.dBottom) / 4));
+        QWidget* target = cameras->Wall()->childAt(at);
+        QVERIFY(target);
+        QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, target->mapFrom(cameras->Wall(), at));
+        QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(3), QStringLiteral("camera shown selected"), Patience);
+        cameras->CloseWindow(place.screen, place.window);
+        QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(3), QStringLiteral("camera"), Patience);
+    }
+
+    // Catches a map that is cut off or stays small in another area, and marks that grow with it.
+    void MapFollowsSize()
+    {
+        Client client;
+        QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
+        const QString spread
+            = QStringLiteral("Math.round(document.querySelector('#camera6 .dot').getBoundingClientRect().x"
+                             " - document.querySelector('#camera7 .dot').getBoundingClientRect().x)");
+        const QString mark = QStringLiteral(
+            "Math.round(document.querySelector('#camera6 .dot').getBoundingClientRect().width)");
+        const int before = client.Value(spread).toInt();
+        const QString size = client.Value(mark);
+        client.page.resize(2 * client.page.width(), 2 * client.page.height());
+        QTRY_VERIFY_WITH_TIMEOUT(client.Value(spread).toInt() > 3 * before / 2, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(client.Value(mark), size, Patience);
+    }
+
+    // Catches a map that keeps the colours of the skin before.
+    void MapFollowsSkin()
+    {
+        Client client;
+        QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
+        const QString colour = QStringLiteral("getComputedStyle(document.querySelector('.ground')).fill");
+        QTRY_COMPARE_WITH_TIMEOUT(client.Value(colour), QStringLiteral("rgb(32, 35, 40)"), Patience);
+        KvGUI::SetSkinVersion(QStringLiteral("White"));
+        const QString white = client.Value(colour);
+        KvGUI::SetSkinVersion(QStringLiteral("Black"));
+        QCOMPARE(white, QStringLiteral("rgb(236, 238, 241)"));
+    }
+
+    // Catches calls with nonsense that open windows.
+    void StrangeCalls()
+    {
+        Client client;
+        const int windows = client.page.Cameras()->Wall()->GetWindowCount(0);
+        for (const char* camera : {"", "0", "-1", "13", "1e3", "99999999999", "seven"})
+            client.page.Map()->CallBack("openCamera", camera);
+        client.page.Map()->CallBack("openWindow", "7");
+        QCOMPARE(client.page.Cameras()->Wall()->GetWindowCount(0), windows);
+    }
+
+    // Catches a page that stays empty without a word, and a wall that stops with the map.
+    void NoEngine()
+    {
+        Automation::AutomationRegistry::SetControlFactory(
+            [](QWidget*) { return std::unique_ptr<Automation::HostedControl>(); });
+        Client client;
+        Automation::AutomationRegistry::SetControlFactory({});
+        QVERIFY(!client.page.Map()->isVisible());
+        auto* title = client.page.findChild<QLabel*>(QStringLiteral("pageTitle"));
+        QVERIFY(title && title->isVisible());
+        QVERIFY(title->text().contains(QStringLiteral("cannot be shown")));
+        client.page.Map()->CallBack("openCamera", "7");
+        QCOMPARE(PlaceOfCamera(client.page.Cameras()->Layout(), 7).screen, 0);
+
+        // A map that has stopped can be loaded again.
+        client.page.Map()->CallBack("webTerminated", "killed");
+        auto* again = client.page.findChild<QPushButton*>(QStringLiteral("loadMapAgain"));
+        QVERIFY(again && again->isVisible());
+        QTest::mouseClick(again, Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
+        QVERIFY(client.page.Map()->isVisible());
+    }
 };
-
-void tst_sitemap::initTestCase()
-{
-    if (geteuid() == 0)
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("without its sandbox")));
-    Client client;
-    QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
-}
-
-void tst_sitemap::FreeQuarters_data()
-{
-    QTest::addColumn<WallLayout>("wall");
-    QTest::addColumn<int>("screen");
-    QTest::addColumn<QPointF>("corner");
-    const WindowLayout full = Window(0, 0, 1, 1, 1);
-    const WindowLayout first = Window(0, 0, 0.5, 0.5, 2);
-    QTest::newRow("no screen") << WallLayout() << -1 << QPointF(0, 0);
-    QTest::newRow("empty screen") << Wall({{}}) << 0 << QPointF(0, 0);
-    QTest::newRow("beside another") << Wall({{first}}) << 0 << QPointF(0.5, 0);
-    QTest::newRow("a window over two quarters")
-        << Wall({{Window(0.2, 0.1, 0.8, 0.4, 1)}}) << 0 << QPointF(0, 0.5);
-    QTest::newRow("an edge that was rounded")
-        << Wall({{Window(0, 0, 0.5004, 0.5004, 1)}}) << 0 << QPointF(0.5, 0);
-    QTest::newRow("the next screen") << Wall({{full}, {first}}) << 1 << QPointF(0.5, 0);
-    QTest::newRow("all taken") << Wall({{full}, {full}}) << -1 << QPointF(0, 0);
-}
-
-// Catches a window that opens over another although there is room.
-void tst_sitemap::FreeQuarters()
-{
-    QFETCH(WallLayout, wall);
-    QFETCH(int, screen);
-    QFETCH(QPointF, corner);
-    const FreeQuarter quarter = FirstFreeQuarter(wall);
-    QCOMPARE(quarter.screen, screen);
-    if (screen >= 0)
-        QCOMPARE(QPointF(quarter.rect.dLeft, quarter.rect.dTop), corner);
-}
-
-void tst_sitemap::ScriptForMap_data()
-{
-    QTest::addColumn<WallLayout>("wall");
-    QTest::addColumn<int>("screen");
-    QTest::addColumn<QList<int>>("selected");
-    QTest::addColumn<QString>("script");
-    WindowLayout photo = Window(0, 0, 1, 1, 1);
-    photo.source = SourceSpec::Photo(QStringLiteral("/a.png"));
-    const WallLayout wall = Wall({{Window(0, 0, 1, 1, 3), photo}, {Window(0, 0, 1, 1, 5)}});
-    using L = QList<int>;
-    QTest::newRow("empty wall") << WallLayout() << -1 << L() << QStringLiteral("showWall([], [])");
-    QTest::newRow("nothing selected") << wall << 0 << L() << QStringLiteral("showWall([3,5], [])");
-    QTest::newRow("a camera") << wall << 1 << L{0} << QStringLiteral("showWall([3,5], [5])");
-    QTest::newRow("camera and photo") << wall << 0 << L{0, 1} << QStringLiteral("showWall([3,5], [3])");
-    QTest::newRow("no screen") << wall << -1 << L{0} << QStringLiteral("showWall([3,5], [])");
-}
-
-// Catches a photo that is taken for a camera, and a selection of another screen.
-void tst_sitemap::ScriptForMap()
-{
-    QFETCH(WallLayout, wall);
-    QFETCH(int, screen);
-    QFETCH(QList<int>, selected);
-    QString script = WallScript(wall, screen, selected);
-    QTEST(script.replace(QLatin1String("],["), QLatin1String("], [")), "script");
-}
-
-// Catches a click that opens nothing, another camera, or a second window of a camera that is there.
-void tst_sitemap::ClickOpensWindow()
-{
-    Client client;
-    QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
-    const auto place = [&](int camera) { return PlaceOfCamera(client.page.Cameras()->Layout(), camera); };
-    QCOMPARE(place(7).screen, -1);
-    client.Click(7);
-    QTRY_VERIFY_WITH_TIMEOUT(place(7).screen >= 0, Patience);
-    QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(7), QStringLiteral("camera shown selected"), Patience);
-    const int windows = client.page.Cameras()->Wall()->GetWindowCount(0);
-
-    client.Click(1);
-    QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(1), QStringLiteral("camera shown selected"), Patience);
-    QCOMPARE(client.ClassesOf(7), QStringLiteral("camera shown"));
-    QCOMPARE(client.page.Cameras()->Wall()->GetWindowCount(0), windows);
-}
-
-// Catches a map that does not follow what the operator selects and closes on the wall, and names under what
-// a camera beside them sees.
-void tst_sitemap::SelectionIsHighlighted()
-{
-    Client client;
-    QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
-    const QString painted
-        = QStringLiteral("[...document.querySelectorAll('.view, .name')].map(e => e.classList[0]).join()");
-    QVERIFY(
-        client.Value(painted).lastIndexOf(QLatin1String("view"))
-        < client.Value(painted).indexOf(QLatin1String("name")));
-    QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(3), QStringLiteral("camera shown"), Patience);
-    CameraWall* cameras = client.page.Cameras();
-    const WallPlace place = PlaceOfCamera(cameras->Layout(), 3);
-    KvGUI::StructScaleRect window;
-    QVERIFY(cameras->Wall()->GetWindowScale(place.screen, place.window, window));
-    // The middle of the window; the first screen is the upper half of the wall.
-    const QPoint at(
-        int(cameras->Wall()->width() * (window.dLeft + window.dRight) / 2),
-        int(cameras->Wall()->height() * (window.dTop + window.dBottom) / 4));
-    QWidget* target = cameras->Wall()->childAt(at);
-    QVERIFY(target);
-    QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, target->mapFrom(cameras->Wall(), at));
-    QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(3), QStringLiteral("camera shown selected"), Patience);
-    cameras->CloseWindow(place.screen, place.window);
-    QTRY_COMPARE_WITH_TIMEOUT(client.ClassesOf(3), QStringLiteral("camera"), Patience);
-}
-
-// Catches a map that is cut off or stays small in another area, and marks that grow with it.
-void tst_sitemap::MapFollowsSize()
-{
-    Client client;
-    QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
-    const QString spread
-        = QStringLiteral("Math.round(document.querySelector('#camera6 .dot').getBoundingClientRect().x"
-                         " - document.querySelector('#camera7 .dot').getBoundingClientRect().x)");
-    const QString mark
-        = QStringLiteral("Math.round(document.querySelector('#camera6 .dot').getBoundingClientRect().width)");
-    const int before = client.Value(spread).toInt();
-    const QString size = client.Value(mark);
-    client.page.resize(2 * client.page.width(), 2 * client.page.height());
-    QTRY_VERIFY_WITH_TIMEOUT(client.Value(spread).toInt() > 3 * before / 2, Patience);
-    QTRY_COMPARE_WITH_TIMEOUT(client.Value(mark), size, Patience);
-}
-
-// Catches a map that keeps the colours of the skin before.
-void tst_sitemap::MapFollowsSkin()
-{
-    Client client;
-    QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
-    const QString colour = QStringLiteral("getComputedStyle(document.querySelector('.ground')).fill");
-    QTRY_COMPARE_WITH_TIMEOUT(client.Value(colour), QStringLiteral("rgb(32, 35, 40)"), Patience);
-    KvGUI::SetSkinVersion(QStringLiteral("White"));
-    const QString white = client.Value(colour);
-    KvGUI::SetSkinVersion(QStringLiteral("Black"));
-    QCOMPARE(white, QStringLiteral("rgb(236, 238, 241)"));
-}
-
-// Catches calls with nonsense that open windows.
-void tst_sitemap::StrangeCalls()
-{
-    Client client;
-    const int windows = client.page.Cameras()->Wall()->GetWindowCount(0);
-    for (const char* camera : {"", "0", "-1", "13", "1e3", "99999999999", "seven"})
-        client.page.Map()->CallBack("openCamera", camera);
-    client.page.Map()->CallBack("openWindow", "7");
-    QCOMPARE(client.page.Cameras()->Wall()->GetWindowCount(0), windows);
-}
-
-// Catches a page that stays empty without a word, and a wall that stops with the map.
-void tst_sitemap::NoEngine()
-{
-    Automation::AutomationRegistry::SetControlFactory(
-        [](QWidget*) { return std::unique_ptr<Automation::HostedControl>(); });
-    Client client;
-    Automation::AutomationRegistry::SetControlFactory({});
-    QVERIFY(!client.page.Map()->isVisible());
-    auto* title = client.page.findChild<QLabel*>(QStringLiteral("pageTitle"));
-    QVERIFY(title && title->isVisible());
-    QVERIFY(title->text().contains(QStringLiteral("cannot be shown")));
-    client.page.Map()->CallBack("openCamera", "7");
-    QCOMPARE(PlaceOfCamera(client.page.Cameras()->Layout(), 7).screen, 0);
-
-    // A map that has stopped can be loaded again.
-    client.page.Map()->CallBack("webTerminated", "killed");
-    auto* again = client.page.findChild<QPushButton*>(QStringLiteral("loadMapAgain"));
-    QVERIFY(again && again->isVisible());
-    QTest::mouseClick(again, Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
-    QVERIFY(client.page.Map()->isVisible());
-}
 
 int main(int argc, char** argv)
 {

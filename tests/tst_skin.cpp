@@ -85,320 +85,297 @@ class TestSkin : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void SkinPaths();
-    void SkinPathsOfNestedModules();
-    void NamesAreNoPlaceMarks();
-    void SheetIsNamedByTheClass();
-    void ModuleNamesTheFolder();
-    void MissingSheetLeavesTheStyle();
-    void NullWidgetIsIgnored();
-    void SkinChangeRestyles();
-    void SheetMissingInTheNewSkinLeavesTheOld();
-    void SheetOfTheBaseClassStaysThat();
-    void SheetFoundLaterWins();
-    void EqualSheetIsNotSetAgain();
-    void LastCallCounts();
-    void DeadWidgetsAreForgotten();
-    void RestylingSurvivesDeletions();
-    void SheetsOnDisk();
-    void SheetsOnDiskBelongToNoSkin();
-    void SheetsAreReadOnce();
-    void WholeFilesAreReadAsLatin1();
-    void CurrentPath();
-    void JoinedPaths();
-};
-
-void TestSkin::init()
-{
-    KvGUI::SetAppName(kApp);
-    KvGUI::SetSkinVersion(kDay);
-    KvGUI::KvDir::SetCurrentPath(QString());
-}
-
-/// Catches path parts in the wrong order.
-void TestSkin::SkinPaths()
-{
-    const QString file = "a.png"_s;
-    const QString module = "UICommonModule"_s;
-    KvGUI::SetAppName("App"_s);
-    KvGUI::SetSkinVersion("Skin2"_s);
-    const QString path = ":/App/UICommonModule/Skin2/UICommonModule/a.png"_s;
-    QCOMPARE(CommonFun::GetSkinPath(module, file), path);
-    QCOMPARE(XCM::GetSkinPath(module, file), path);
-    KvGUI::KvDir::SetCurrentPath("/opt/client"_s);
-    QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx(file)), "/opt/client/Skin/a.png"_s);
-}
-
-/// Catches the first part of a module path in place of the whole, or the other way round.
-void TestSkin::SkinPathsOfNestedModules()
-{
-    const QString nested = "Client/Maps"_s;
-    const QString file = "a.png"_s;
-    QCOMPARE(CommonFun::GetSkinPath(nested, file), ":/Test %2/Client/Maps/Day/Client/Maps/a.png"_s);
-    QCOMPARE(XCM::GetSkinPath(nested, file), ":/Test %2/Client/Day/Client/Maps/a.png"_s);
-    QCOMPARE(XCM::GetSkinPath("/a"_s, file), ":/Test %2//Day//a/a.png"_s);
-}
-
-/// Catches place marks filled one after the other: a name with "%1" would be filled as well.
-void TestSkin::NamesAreNoPlaceMarks()
-{
-    KvGUI::SetAppName("%5%1"_s);
-    KvGUI::SetSkinVersion("100%3"_s);
-    const QString path = ":/%5%1/M%4/100%3/M%4/%2.png"_s;
-    QCOMPARE(CommonFun::GetSkinPath("M%4"_s, "%2.png"_s), path);
-    QCOMPARE(XCM::GetSkinPath("M%4"_s, "%2.png"_s), path);
-    KvGUI::KvDir::SetCurrentPath("/opt/%2"_s);
-    QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx("%1"_s)), "/opt/%2/Skin/%1"_s);
-}
-
-/// Catches a namespace left in the file name, a sheet read as Latin-1, and a wrong folder.
-void TestSkin::SheetIsNamedByTheClass()
-{
-    const SampleWidget widget;
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-    QVERIFY(widget.styleSheet().contains(QChar(0x65E5)));
-}
-
-/// Catches the whole module path where its first part belongs.
-void TestSkin::ModuleNamesTheFolder()
-{
-    QWidget widget;
-    CommonFun::SetStyleSheet(&widget, kForms, kSample, "Client/Maps"_s);
-    QCOMPARE(widget.styleSheet(), SheetOf("client.css"));
-}
-
-/// Catches a missing or empty sheet that clears the style.
-void TestSkin::MissingSheetLeavesTheStyle()
-{
-    QWidget widget;
-    const QString own = "color: blue"_s;
-    widget.setStyleSheet(own);
-    CommonFun::SetStyleSheet(&widget, kForms, QString(), QString());
-    CommonFun::SetStyleSheet(&widget, kForms, "Empty.css"_s, QString());
-    CommonFun::SetStyleSheet(&widget, "nowhere"_s, kSample, QString());
-    CommonFun::SetStyleSheetEx(&widget, kSample, kForms);
-    QCOMPARE(widget.styleSheet(), own);
-}
-
-/// Catches a crash without a widget.
-void TestSkin::NullWidgetIsIgnored()
-{
-    CommonFun::SetStyleSheet(nullptr, kForms, QString(), QString());
-    CommonFun::SetStyleSheetEx(nullptr, kSample, kForms);
-    KvGUI::SetSkinVersion(kNight);
-}
-
-/// Catches widgets that keep the old skin, also when the skin goes to and fro.
-void TestSkin::SkinChangeRestyles()
-{
-    const SampleWidget first;
-    const SampleWidget second;
-    for (const char* skin : {"Night", "Day", "Night"}) {
-        KvGUI::SetSkinVersion(QString::fromLatin1(skin));
-        const QString sheet = SheetOf(skin == QByteArray("Day") ? "day.css" : "night.css");
-        QCOMPARE(first.styleSheet(), sheet);
-        QCOMPARE(second.styleSheet(), sheet);
+    void init()
+    {
+        KvGUI::SetAppName(kApp);
+        KvGUI::SetSkinVersion(kDay);
+        KvGUI::KvDir::SetCurrentPath(QString());
     }
-}
 
-/// Catches a widget that loses its style, or does not find it again, when one skin lacks its sheet.
-void TestSkin::SheetMissingInTheNewSkinLeavesTheOld()
-{
-    QWidget widget;
-    CommonFun::SetStyleSheet(&widget, kForms, "OnlyDay.css"_s, QString());
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-    KvGUI::SetAppName("Another application"_s);
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-    widget.setStyleSheet(QString());
-    KvGUI::SetSkinVersion(kDay);
-    KvGUI::SetAppName(kApp);
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-}
-
-/// Catches a class name that is asked for again when the skin changes: the object is a subclass by then.
-void TestSkin::SheetOfTheBaseClassStaysThat()
-{
-    const DerivedWidget widget(false);
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget.styleSheet(), SheetOf("night.css"));
-}
-
-/// Catches a subclass without a sheet of its own that no longer follows the skin, and one that does not
-/// get its own sheet where there is one.
-void TestSkin::SheetFoundLaterWins()
-{
-    const DerivedWidget widget(true);
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget.styleSheet(), SheetOf("derived.css"));
-    KvGUI::SetSkinVersion(kDay); // which has the base class's only
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-}
-
-/// Catches widgets that are polished again for a sheet that both skins share.
-void TestSkin::EqualSheetIsNotSetAgain()
-{
-    SampleWidget widget;
-    CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
-    widget.ensurePolished();
-    widget.m_styleChanges = 0;
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
-    QCOMPARE(widget.m_styleChanges, 0);
-    CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
-    QVERIFY(widget.m_styleChanges > 0);
-}
-
-/// Catches a widget that is noted twice: the earlier call would come back with the skin.
-void TestSkin::LastCallCounts()
-{
-    SampleWidget widget;
-    CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
-    CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
-    KvGUI::SetSkinVersion(kDay);
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-}
-
-/// Catches notes of dead widgets that are kept: the next widget at the same place would be styled.
-void TestSkin::DeadWidgetsAreForgotten()
-{
-    alignas(QWidget) unsigned char place[sizeof(QWidget)];
-    auto* widget = new (place) QWidget;
-    CommonFun::SetStyleSheet(widget, kForms, kSample, QString());
-    widget->disconnect(); // by the client, who thinks of connections of its own
-    widget->~QWidget();
-    widget = new (place) QWidget;
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget->styleSheet(), QString());
-    CommonFun::SetStyleSheet(widget, kForms, kSample, QString());
-    KvGUI::SetSkinVersion(kDay);
-    QCOMPARE(widget->styleSheet(), SheetOf("day.css"));
-    widget->~QWidget();
-}
-
-/// Catches a walk over the widgets that touches one which the client deleted on the way.
-void TestSkin::RestylingSurvivesDeletions()
-{
-    std::array<std::unique_ptr<SampleWidget>, 20> widgets;
-    for (auto& widget : widgets)
-        widget = std::make_unique<SampleWidget>();
-    for (auto& widget : widgets) {
-        widget->ensurePolished();
-        auto* victim = new SampleWidget;
-        victim->ensurePolished();
-        widget->m_victim = victim;
-        victim->m_victim = new SampleWidget;
+    /// Catches path parts in the wrong order.
+    void SkinPaths()
+    {
+        const QString file = "a.png"_s;
+        const QString module = "UICommonModule"_s;
+        KvGUI::SetAppName("App"_s);
+        KvGUI::SetSkinVersion("Skin2"_s);
+        const QString path = ":/App/UICommonModule/Skin2/UICommonModule/a.png"_s;
+        QCOMPARE(CommonFun::GetSkinPath(module, file), path);
+        QCOMPARE(XCM::GetSkinPath(module, file), path);
+        KvGUI::KvDir::SetCurrentPath("/opt/client"_s);
+        QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx(file)), "/opt/client/Skin/a.png"_s);
     }
-    KvGUI::SetSkinVersion(kNight);
-    for (const auto& widget : widgets) {
-        QCOMPARE(widget->styleSheet(), SheetOf("night.css"));
-        QVERIFY(widget->m_victim.isNull());
+
+    /// Catches the first part of a module path in place of the whole, or the other way round.
+    void SkinPathsOfNestedModules()
+    {
+        const QString nested = "Client/Maps"_s;
+        const QString file = "a.png"_s;
+        QCOMPARE(CommonFun::GetSkinPath(nested, file), ":/Test %2/Client/Maps/Day/Client/Maps/a.png"_s);
+        QCOMPARE(XCM::GetSkinPath(nested, file), ":/Test %2/Client/Day/Client/Maps/a.png"_s);
+        QCOMPARE(XCM::GetSkinPath("/a"_s, file), ":/Test %2//Day//a/a.png"_s);
     }
-}
 
-/// Catches a sheet on disk that is looked for in the skin.
-void TestSkin::SheetsOnDisk()
-{
-    QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath("Skin/forms"_s));
-    Write(folder.filePath("Skin/forms/disk.css"_s), "QWidget { color: \"\xE6\x97\xA5\" }");
-    KvGUI::KvDir::SetCurrentPath(folder.path());
-    QWidget widget;
-    CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
-    QCOMPARE(widget.styleSheet(), "QWidget { color: \"\u65E5\" }"_s);
-}
+    /// Catches place marks filled one after the other: a name with "%1" would be filled as well.
+    void NamesAreNoPlaceMarks()
+    {
+        KvGUI::SetAppName("%5%1"_s);
+        KvGUI::SetSkinVersion("100%3"_s);
+        const QString path = ":/%5%1/M%4/100%3/M%4/%2.png"_s;
+        QCOMPARE(CommonFun::GetSkinPath("M%4"_s, "%2.png"_s), path);
+        QCOMPARE(XCM::GetSkinPath("M%4"_s, "%2.png"_s), path);
+        KvGUI::KvDir::SetCurrentPath("/opt/%2"_s);
+        QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx("%1"_s)), "/opt/%2/Skin/%1"_s);
+    }
 
-/// Catches a skin change that takes a client's own sheet away.
-void TestSkin::SheetsOnDiskBelongToNoSkin()
-{
-    QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
-    Write(folder.filePath("Skin/own.css"_s), "QWidget { color: blue }");
-    KvGUI::KvDir::SetCurrentPath(folder.path());
-    SampleWidget widget;
-    CommonFun::SetStyleSheetEx(&widget, "own.css"_s, QString());
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(widget.styleSheet(), "QWidget { color: blue }"_s);
-    CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
-    KvGUI::SetSkinVersion(kDay);
-    QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-}
+    /// Catches a namespace left in the file name, a sheet read as Latin-1, and a wrong folder.
+    void SheetIsNamedByTheClass()
+    {
+        const SampleWidget widget;
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+        QVERIFY(widget.styleSheet().contains(QChar(0x65E5)));
+    }
 
-/// Catches a sheet that is read for each widget, one that is kept for ever, and one that comes late.
-void TestSkin::SheetsAreReadOnce()
-{
-    QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
-    KvGUI::KvDir::SetCurrentPath(folder.path());
-    const QString path = folder.filePath("Skin/a.css"_s);
-    const auto styled = [] {
+    /// Catches the whole module path where its first part belongs.
+    void ModuleNamesTheFolder()
+    {
         QWidget widget;
-        CommonFun::SetStyleSheetEx(&widget, "a.css"_s, QString());
-        return widget.styleSheet();
-    };
-    QCOMPARE(styled(), QString());
-    Write(path, "QWidget { margin: 1px }");
-    QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
-    Write(path, "QWidget { margin: 2px }");
-    QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
-    KvGUI::SetSkinVersion(kNight);
-    QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
-    QFile::remove(path);
-    QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
-}
-
-/// Catches bytes that are decoded as UTF-8 or end at a zero, and an output that a failure clears.
-void TestSkin::WholeFilesAreReadAsLatin1()
-{
-    QTemporaryDir folder;
-    const QString path = folder.filePath("a.css"_s);
-    Write(path, QByteArray("\xE6\x97\xA5\0z", 5));
-    for (const auto load : {&CommonFun::loadStyleSheet, &XCM::loadStyleSheet}) {
-        QString out = "before"_s;
-        QVERIFY(!load(folder.filePath("b.css"_s), out));
-        QVERIFY(!load(QString(), out));
-        QCOMPARE(out, "before"_s);
-        QVERIFY(load(path, out));
-        QCOMPARE(out, QString::fromLatin1("\xE6\x97\xA5\0z", 5));
+        CommonFun::SetStyleSheet(&widget, kForms, kSample, "Client/Maps"_s);
+        QCOMPARE(widget.styleSheet(), SheetOf("client.css"));
     }
-}
 
-/// Catches a path without its "/" or with two: files are named by appending to it.
-void TestSkin::CurrentPath()
-{
-    const auto set = [](const QString& path) {
-        KvGUI::KvDir::SetCurrentPath(path);
-        return KvGUI::KvDir::GetCurrentPath();
-    };
-    for (const char* path : {"/opt/client", "/opt/client/", "/opt//client///"})
-        QCOMPARE(set(QLatin1String(path)), "/opt/client/"_s);
-    QCOMPARE(set("/"_s), "/"_s);
-    QCOMPARE(set("x/.."_s), QDir::currentPath() + QLatin1Char('/'));
-    QCOMPARE(set(QString()), QCoreApplication::applicationDirPath() + QLatin1Char('/'));
-}
+    /// Catches a missing or empty sheet that clears the style.
+    void MissingSheetLeavesTheStyle()
+    {
+        QWidget widget;
+        const QString own = "color: blue"_s;
+        widget.setStyleSheet(own);
+        CommonFun::SetStyleSheet(&widget, kForms, QString(), QString());
+        CommonFun::SetStyleSheet(&widget, kForms, "Empty.css"_s, QString());
+        CommonFun::SetStyleSheet(&widget, "nowhere"_s, kSample, QString());
+        CommonFun::SetStyleSheetEx(&widget, kSample, kForms);
+        QCOMPARE(widget.styleSheet(), own);
+    }
 
-/// Catches joins with no or two slashes (a resource is not found then), and a missing file that cannot be
-/// told from an empty one.
-void TestSkin::JoinedPaths()
-{
-    const auto read = KvGUI::KvFile::ReadAll;
-    const QByteArray night("QWidget { color: #d0e0f0; }\n");
-    const QString folder = QStringLiteral(SKIN_SOURCES);
-    QCOMPARE(read("night.css"_s, folder), night);
-    QCOMPARE(read("night.css"_s, folder + "//"_s), night);
-    QCOMPARE(read("/night.css"_s, folder), night);
-    QCOMPARE(read("/night.css"_s, folder + "/"_s), night);
-    QCOMPARE(read(folder + "/night.css"_s, QString()), night);
-    QVERIFY(read("none.css"_s, folder).isNull());
-    QVERIFY(read(QString(), folder).isNull());
-    const QByteArray empty = read("empty.css"_s, folder);
-    QVERIFY(empty.isEmpty() && !empty.isNull());
-}
+    /// Catches a crash without a widget.
+    void NullWidgetIsIgnored()
+    {
+        CommonFun::SetStyleSheet(nullptr, kForms, QString(), QString());
+        CommonFun::SetStyleSheetEx(nullptr, kSample, kForms);
+        KvGUI::SetSkinVersion(kNight);
+    }
+
+    /// Catches widgets that keep the old skin, also when the skin goes to and fro.
+    void SkinChangeRestyles()
+    {
+        const SampleWidget first;
+        const SampleWidget second;
+        for (const char* skin : {"Night", "Day", "Night"}) {
+            KvGUI::SetSkinVersion(QString::fromLatin1(skin));
+            const QString sheet = SheetOf(skin == QByteArray("Day") ? "day.css" : "night.css");
+            QCOMPARE(first.styleSheet(), sheet);
+            QCOMPARE(second.styleSheet(), sheet);
+        }
+    }
+
+    /// Catches a widget that loses its style, or does not find it again, when one skin lacks its sheet.
+    void SheetMissingInTheNewSkinLeavesTheOld()
+    {
+        QWidget widget;
+        CommonFun::SetStyleSheet(&widget, kForms, "OnlyDay.css"_s, QString());
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+        KvGUI::SetAppName("Another application"_s);
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+        widget.setStyleSheet(QString());
+        KvGUI::SetSkinVersion(kDay);
+        KvGUI::SetAppName(kApp);
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    }
+
+    /// Catches a class name that is asked for again when the skin changes: the object is a subclass by then.
+    void SheetOfTheBaseClassStaysThat()
+    {
+        const DerivedWidget widget(false);
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(widget.styleSheet(), SheetOf("night.css"));
+    }
+
+    /// Catches a subclass without a sheet of its own that no longer follows the skin, and one that does not
+    /// get its own sheet where there is one.
+    void SheetFoundLaterWins()
+    {
+        const DerivedWidget widget(true);
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(widget.styleSheet(), SheetOf("derived.css"));
+        KvGUI::SetSkinVersion(kDay); // which has the base class's only
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    }
+
+    /// Catches widgets that are polished again for a sheet that both skins share.
+    void EqualSheetIsNotSetAgain()
+    {
+        SampleWidget widget;
+        CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
+        widget.ensurePolished();
+        widget.m_styleChanges = 0;
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
+        QCOMPARE(widget.m_styleChanges, 0);
+        CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
+        QVERIFY(widget.m_styleChanges > 0);
+    }
+
+    /// Catches a widget that is noted twice: the earlier call would come back with the skin.
+    void LastCallCounts()
+    {
+        SampleWidget widget;
+        CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
+        CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
+        KvGUI::SetSkinVersion(kDay);
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    }
+
+    /// Catches notes of dead widgets that are kept: the next widget at the same place would be styled.
+    void DeadWidgetsAreForgotten()
+    {
+        alignas(QWidget) unsigned char place[sizeof(QWidget)];
+        auto* widget = new (place) QWidget;
+        CommonFun::SetStyleSheet(widget, kForms, kSample, QString());
+        widget->disconnect(); // by the client, who thinks of connections of its own
+        widget->~QWidget();
+        widget = new (place) QWidget;
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(widget->styleSheet(), QString());
+        CommonFun::SetStyleSheet(widget, kForms, kSample, QString());
+        KvGUI::SetSkinVersion(kDay);
+        QCOMPARE(widget->styleSheet(), SheetOf("day.css"));
+        widget->~QWidget();
+    }
+
+    /// Catches a walk over the widgets that touches one which the client deleted on the way.
+    void RestylingSurvivesDeletions()
+    {
+        std::array<std::unique_ptr<SampleWidget>, 20> widgets;
+        for (auto& widget : widgets)
+            widget = std::make_unique<SampleWidget>();
+        for (auto& widget : widgets) {
+            widget->ensurePolished();
+            auto* victim = new SampleWidget;
+            victim->ensurePolished();
+            widget->m_victim = victim;
+            victim->m_victim = new SampleWidget;
+        }
+        KvGUI::SetSkinVersion(kNight);
+        for (const auto& widget : widgets) {
+            QCOMPARE(widget->styleSheet(), SheetOf("night.css"));
+            QVERIFY(widget->m_victim.isNull());
+        }
+    }
+
+    /// Catches a sheet on disk that is looked for in the skin.
+    void SheetsOnDisk()
+    {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath("Skin/forms"_s));
+        Write(folder.filePath("Skin/forms/disk.css"_s), "QWidget { color: \"\xE6\x97\xA5\" }");
+        KvGUI::KvDir::SetCurrentPath(folder.path());
+        QWidget widget;
+        CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
+        QCOMPARE(widget.styleSheet(), "QWidget { color: \"\u65E5\" }"_s);
+    }
+
+    /// Catches a skin change that takes a client's own sheet away.
+    void SheetsOnDiskBelongToNoSkin()
+    {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
+        Write(folder.filePath("Skin/own.css"_s), "QWidget { color: blue }");
+        KvGUI::KvDir::SetCurrentPath(folder.path());
+        SampleWidget widget;
+        CommonFun::SetStyleSheetEx(&widget, "own.css"_s, QString());
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(widget.styleSheet(), "QWidget { color: blue }"_s);
+        CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
+        KvGUI::SetSkinVersion(kDay);
+        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+    }
+
+    /// Catches a sheet that is read for each widget, one that is kept for ever, and one that comes late.
+    void SheetsAreReadOnce()
+    {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
+        KvGUI::KvDir::SetCurrentPath(folder.path());
+        const QString path = folder.filePath("Skin/a.css"_s);
+        const auto styled = [] {
+            QWidget widget;
+            CommonFun::SetStyleSheetEx(&widget, "a.css"_s, QString());
+            return widget.styleSheet();
+        };
+        QCOMPARE(styled(), QString());
+        Write(path, "QWidget { margin: 1px }");
+        QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
+        Write(path, "QWidget { margin: 2px }");
+        QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
+        KvGUI::SetSkinVersion(kNight);
+        QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
+        QFile::remove(path);
+        QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
+    }
+
+    /// Catches bytes that are decoded as UTF-8 or end at a zero, and an output that a failure clears.
+    void WholeFilesAreReadAsLatin1()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath("a.css"_s);
+        Write(path, QByteArray("\xE6\x97\xA5\0z", 5));
+        for (const auto load : {&CommonFun::loadStyleSheet, &XCM::loadStyleSheet}) {
+            QString out = "before"_s;
+            QVERIFY(!load(folder.filePath("b.css"_s), out));
+            QVERIFY(!load(QString(), out));
+            QCOMPARE(out, "before"_s);
+            QVERIFY(load(path, out));
+            QCOMPARE(out, QString::fromLatin1("\xE6\x97\xA5\0z", 5));
+        }
+    }
+
+    /// Catches a path without its "/" or with two: files are named by appending to it.
+    void CurrentPath()
+    {
+        const auto set = [](const QString& path) {
+            KvGUI::KvDir::SetCurrentPath(path);
+            return KvGUI::KvDir::GetCurrentPath();
+        };
+        for (const char* path : {"/opt/client", "/opt/client/", "/opt//client///"})
+            QCOMPARE(set(QLatin1String(path)), "/opt/client/"_s);
+        QCOMPARE(set("/"_s), "/"_s);
+        QCOMPARE(set("x/.."_s), QDir::currentPath() + QLatin1Char('/'));
+        QCOMPARE(set(QString()), QCoreApplication::applicationDirPath() + QLatin1Char('/'));
+    }
+
+    /// Catches joins with no or two slashes (a resource is not found then), and a missing file that cannot be
+    /// told from an empty one.
+    void JoinedPaths()
+    {
+        const auto read = KvGUI::KvFile::ReadAll;
+        const QByteArray night("QWidget { color: #d0e0f0; }\n");
+        const QString folder = QStringLiteral(SKIN_SOURCES);
+        QCOMPARE(read("night.css"_s, folder), night);
+        QCOMPARE(read("night.css"_s, folder + "//"_s), night);
+        QCOMPARE(read("/night.css"_s, folder), night);
+        QCOMPARE(read("/night.css"_s, folder + "/"_s), night);
+        QCOMPARE(read(folder + "/night.css"_s, QString()), night);
+        QVERIFY(read("none.css"_s, folder).isNull());
+        QVERIFY(read(QString(), folder).isNull());
+        const QByteArray empty = read("empty.css"_s, folder);
+        QVERIFY(empty.isEmpty() && !empty.isNull());
+    }
+};
 
 STRICT_TEST_MAIN(TestSkin)
 #include "tst_skin.moc"

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/LocaleCodec.h"
 #include "support/StrictMain.h"
 
@@ -66,416 +67,378 @@ class TestStrings : public QObject
     Q_OBJECT
 
 private slots:
-    void ByteBudgets_data();
-    void ByteBudgets();
-    void ByteBudgetEqualsDropping_data();
-    void ByteBudgetEqualsDropping();
-    void ByteBudgetOfLongTexts_data();
-    void ByteBudgetOfLongTexts();
-    void ByteBudgetsFollowTheirEncoding();
-    void Elides_data();
-    void Elides();
-    void ElidesAnything();
-    void ToolTipKeepsItsLook();
-    void WhatATextSays_data();
-    void WhatATextSays();
-    void DeviceIds_data();
-    void DeviceIds();
-    void IpAddressIsBounded_data();
-    void IpAddressIsBounded();
-    void PatchedPaths_data();
-    void PatchedPaths();
-    void Ha1();
-    void Extracts_data();
-    void Extracts();
-    void RecordKeysDiffer();
+    void ByteBudgets_data()
+    {
+        TestSupport::Columns<QString, int, QString>("text", "maxBytes", "cut");
+        const QString han = QStringLiteral("ab\u4E2D");
+        const QString face = QStringLiteral("ab\U0001F600");
+        QTest::newRow("does not fit") << han << 4 << QStringLiteral("ab");
+        QTest::newRow("just fits") << han << 5 << han;
+        QTest::newRow("budget 0") << han << 0 << QString();
+        QTest::newRow("negative budget") << han << -3 << QString();
+        QTest::newRow("largest budget") << han << INT_MAX << han;
+        QTest::newRow("pair just fits") << face << 6 << face;
+        QTest::newRow("pair goes whole") << face << 5 << QStringLiteral("ab");
+        // Half of the pair would be one "?" and would fit.
+        QTest::newRow("pair torn by the count of units") << face << 3 << QStringLiteral("ab");
+        QTest::newRow("nothing fits") << QStringLiteral("\u4E2D") << 2 << QString();
+        QTest::newRow("empty") << QString() << 10 << QString();
+    }
+
+    /// Catches a budget that counts characters, is off by one, or tears a character.
+    void ByteBudgets()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, maxBytes);
+        QFETCH(QString, cut);
+        QCOMPARE(CommonFun::GetUtf8ValidByteLenString(text, maxBytes), cut);
+        QCOMPARE(QCommon::GetValidByteLenString(text, maxBytes), cut);
+    }
+
+    void ByteBudgetEqualsDropping_data()
+    {
+        QTest::addColumn<QByteArray>("codec");
+        for (const char* codec :
+             {"UTF-8", "GBK", "GB18030", "Big5-HKSCS", "Shift_JIS", "ISO-8859-1", "ISO-2022-JP", "UTF-16",
+              "UTF-7", "TSCII"})
+            QTest::newRow(codec) << QByteArray(codec);
+    }
+
+    /// Catches every way in which counting in blocks can differ from encoding the whole again and again:
+    /// shift states, byte order marks, composed characters and pairs at the edge of a block.
+    void ByteBudgetEqualsDropping()
+    {
+        QFETCH(QByteArray, codec);
+        const LocaleCodec locale(codec);
+        QVERIFY2(locale.IsKnown(), "this Qt does not have the codec");
+        std::mt19937 random(905);
+        for (int round = 0; round < 2000; ++round) {
+            const QString text = RandomText(random, static_cast<int>(random() % 100));
+            const int maxBytes = static_cast<int>(random() % 256);
+            const int block = 2 + static_cast<int>(random() % (round % 2 == 0 ? 7 : 60));
+            for (const TextEncoding encoding : {TextEncoding::Utf8, TextEncoding::Local8Bit}) {
+                const QString expected = CutByDropping(text, maxBytes, encoding);
+                const QString cut = CutToByteBudget(text, maxBytes, encoding, block);
+                const QByteArray units(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+                const QByteArray failure = units.toHex(' ') + " to " + QByteArray::number(maxBytes)
+                    + " bytes: " + QByteArray::number(cut.size()) + " units for "
+                    + QByteArray::number(expected.size());
+                QVERIFY2(cut == expected, failure.constData());
+            }
+        }
+    }
+
+    void ByteBudgetOfLongTexts_data()
+    {
+        TestSupport::Columns<QByteArray, QString, int>("codec", "unit", "bytes");
+        const QString han = QStringLiteral("\u4E2D");
+        const QString face = QStringLiteral("\U0001F600");
+        QTest::newRow("UTF-8, ASCII") << QByteArray("UTF-8") << QStringLiteral("a") << 1;
+        QTest::newRow("UTF-8, Han") << QByteArray("UTF-8") << han << 3;
+        QTest::newRow("UTF-8, pairs") << QByteArray("UTF-8") << face << 4;
+        QTest::newRow("GBK, Han") << QByteArray("GBK") << han << 2;
+        QTest::newRow("GB18030, pairs") << QByteArray("GB18030") << face << 4;
+    }
+
+    /// Catches a cut that takes quadratic time: it would not come back before the test's time limit.
+    void ByteBudgetOfLongTexts()
+    {
+        QFETCH(QByteArray, codec);
+        QFETCH(QString, unit);
+        QFETCH(int, bytes);
+        const LocaleCodec locale(codec);
+        QVERIFY(locale.IsKnown());
+        const int count = 1000000 / bytes;
+        const QString text = unit.repeated(count);
+        const int full = count * bytes;
+        for (const int budget : {bytes, 1000, full / 2, full - 1, full}) {
+            const QString cut = CommonFun::GetLocal8BitValidByteLenString(text, budget);
+            QCOMPARE(cut.size(), budget / bytes * unit.size());
+            QVERIFY(text.startsWith(cut));
+        }
+    }
+
+    /// Catches a UTF-8 budget that follows the process codec, or a local one that does not.
+    void ByteBudgetsFollowTheirEncoding()
+    {
+        const LocaleCodec locale("GBK");
+        QVERIFY(locale.IsKnown());
+        const QString text = QStringLiteral("\u4E2D\u6587\u4E2D");
+        QCOMPARE(CommonFun::GetUtf8ValidByteLenString(text, 6), text.left(2));
+        QCOMPARE(QCommon::GetValidByteLenString(text, 6), text.left(2));
+        QCOMPARE(CommonFun::GetLocal8BitValidByteLenString(text, 6), text);
+        QCOMPARE(QCommon::GetValidByteLenStringEx(text, 5), text.left(2));
+    }
+
+    void Elides_data()
+    {
+        TestSupport::Columns<bool, int, int, int, int>("middle", "characters", "pixels", "before", "after");
+        // The room beside "..." is so many widths of the character and so many pixels.
+        QTest::newRow("nothing but dots") << true << 0 << 0 << 0 << 0;
+        QTest::newRow("less than the dots") << true << -1 << 0 << 0 << 0;
+        QTest::newRow("half ends on a character") << true << 6 << 2 << 2 << 4;
+        QTest::newRow("half ends behind a character") << true << 6 << 4 << 3 << 3;
+        QTest::newRow("the one character tried stays counted") << true << 2 << 2 << 0 << 1;
+        QTest::newRow("at the end, less than the dots") << false << -1 << 0 << 0 << 0;
+        QTest::newRow("at the end, one character") << false << 1 << 2 << 1 << 0;
+        QTest::newRow("at the end, ends on a character") << false << 3 << 1 << 2 << 0;
+        QTest::newRow("at the end, ends behind a character") << false << 3 << 2 << 3 << 0;
+    }
+
+    /// Catches a side that is one character too long or short, and the width of a left part that is left out
+    /// but given to the right.
+    void Elides()
+    {
+        QFETCH(bool, middle);
+        QFETCH(int, characters);
+        QFETCH(int, pixels);
+        const QFontMetrics metrics(QApplication::font());
+        const int unit = metrics.horizontalAdvance(QStringLiteral("x"));
+        QVERIFY2(unit > 4, "the font is too small for the cases");
+        const int width = metrics.horizontalAdvance(QStringLiteral("...")) + characters * unit + pixels;
+        const auto elide = middle ? &QCommon::GetSuitableText : &QCommon::GetSuitableTextEx;
+        QString out;
+        elide(metrics, width, QString(50, QLatin1Char('x')), out);
+        const int dots = out.indexOf(QStringLiteral("..."));
+        QTEST(dots, "before");
+        QTEST(out.size() - dots - 3, "after");
+    }
+
+    /// Catches a crash or an endless walk on widths and texts that no layout has, a text that fits but is
+    /// changed, and a result that overwrites its own source.
+    void ElidesAnything()
+    {
+        const QFontMetrics metrics(QApplication::font());
+        std::mt19937 random(11);
+        QString out;
+        for (const int width : {INT_MIN, -1, 0, 1, 20, 50, 100}) {
+            for (int size = 0; size < 20; ++size) {
+                const QString text = RandomText(random, size);
+                const bool fits = metrics.horizontalAdvance(text) <= width;
+                QCommon::GetSuitableText(metrics, width, text, out);
+                QVERIFY(fits ? out == text : out.contains(QStringLiteral("...")));
+                QCommon::GetSuitableTextEx(metrics, width, text, out);
+                QVERIFY(fits ? out == text : out.endsWith(QStringLiteral("...")));
+            }
+        }
+        QString text(50, QLatin1Char('x'));
+        QCommon::GetSuitableText(metrics, 100, text, out);
+        QCommon::GetSuitableText(metrics, 100, text, text);
+        QCOMPARE(text, out);
+        QCommon::GetSuitableText(metrics, INT_MAX, text, out);
+        QCOMPARE(out, text);
+    }
+
+    /// Catches a colour or size that is lost with the next tool tip.
+    void ToolTipKeepsItsLook()
+    {
+        QString text = QStringLiteral("Camera 1");
+        QColor colour(200, 40, 10);
+        // The offscreen platform's, about any window that is raised.
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
+        QCommon::ShowToolTip(QPoint(20, 20), text, colour);
+        QCOMPARE(QToolTip::text(), text);
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            QCOMPARE(QToolTip::palette().color(group, QPalette::ToolTipText), colour);
+        QCOMPARE(QToolTip::font().pointSize(), 11);
+        QToolTip::hideText();
+    }
+
+    void WhatATextSays_data()
+    {
+        TestSupport::Columns<Reading, QString, QVariant>("read", "text", "said");
+        const auto row = [](const Reading& read, const char* name, const QString& text,
+                            const QVariant& said) { QTest::newRow(name) << read << text << said; };
+        const Reading blank = [](const QString& text) { return CommonFun::IsQStrEmpty(text); };
+        row(blank, "blank: empty", QString(), true);
+        row(blank, "blank: all three", QStringLiteral(" \u3000\uFFFD "), true);
+        row(blank, "blank: tab", QStringLiteral(" \t"), false);
+        row(blank, "blank: newline", QStringLiteral("\n"), false);
+        row(blank, "blank: no-break space", QStringLiteral("\u00A0"), false);
+        row(blank, "blank: brackets", QStringLiteral("[ ]"), false);
+        row(blank, "blank: text between", QStringLiteral("  a "), false);
+
+        const Reading rect = [](const QString& text) { return QCommon::StringToRect(text); };
+        row(rect, "rectangle: blanks around", QStringLiteral(" 10,20,110,70 "), QRect(10, 20, 100, 50));
+        row(rect, "rectangle: negative", QStringLiteral("-5,-6,5,6"), QRect(-5, -6, 10, 12));
+        row(rect, "rectangle: backwards", QStringLiteral("10,10,0,0"), QRect(10, 10, -10, -10));
+        row(rect, "rectangle: unreadable part", QStringLiteral("a,2,3,4"), QRect(0, 2, 3, 2));
+        row(rect, "rectangle: empty parts", QStringLiteral(",,,"), QRect(0, 0, 0, 0));
+        row(rect, "rectangle: too few", QStringLiteral("1,2,3"), QRect(0, 0, 0, 0));
+        row(rect, "rectangle: too many", QStringLiteral("1,2,3,4,"), QRect(0, 0, 0, 0));
+        row(rect, "rectangle: empty", QString(), QRect(0, 0, 0, 0));
+        row(rect, "rectangle: number too large", QStringLiteral("1,2,99999999999,4"), QRect(1, 2, -1, 2));
+        row(rect, "rectangle: wider than an int", QStringLiteral("-2000000000,0,2000000000,1"),
+            QRect(-2000000000, 0, INT_MAX, 1));
+
+        const Reading size = [](const QString& text) { return QCommon::StringToSize(text); };
+        row(size, "size: blanks inside", QStringLiteral(" 640 , 480"), QSize(640, 480));
+        row(size, "size: one", QStringLiteral("640"), QSize(0, 0));
+        row(size, "size: three", QStringLiteral("640,480,1"), QSize(0, 0));
+        row(size, "size: empty", QString(), QSize(0, 0));
+
+        const Reading colour = [](const QString& text) { return QCommon::StringToColor(text); };
+        row(colour, "colour: good", QStringLiteral("1,2,3"), QColor(1, 2, 3, 255));
+        row(colour, "colour: with alpha", QStringLiteral("1,2,3,4"), QColor());
+        row(colour, "colour: out of range", QStringLiteral("256,0,0"), QColor());
+        row(colour, "colour: negative", QStringLiteral("0,-1,0"), QColor());
+        row(colour, "colour: empty", QString(), QColor());
+
+        const Reading digits = [](const QString& text) { return QCommon::isDigitStr(text); };
+        row(digits, "digits: empty", QString(), 0);
+        row(digits, "digits: all", QStringLiteral("0123456789"), 0);
+        row(digits, "digits: letter behind", QStringLiteral("12a"), -1);
+        row(digits, "digits: sign", QStringLiteral("-1"), -1);
+        row(digits, "digits: other scripts", QStringLiteral("\u0661\uFF11"), -1);
+        row(digits, "digits: zero character", QString(QChar(0)), -1);
+
+        const Reading ascii
+            = [](const QString& text) { return QCommon::GetAsciiCharNum(text.toStdString()); };
+        row(ascii, "ASCII: negative bytes", QStringLiteral("a\u4E2D\u007F\u0080"), 2);
+        row(ascii, "ASCII: up to a zero byte", QStringLiteral("ab\0cd").left(5), 2);
+        row(ascii, "ASCII: empty", QString(), 0);
+
+        const Reading webSkin = [](const QString& text) { return QCommon::HostToWebSkinName(text); };
+        row(webSkin, "web skin: any case", QStringLiteral("white"), QStringLiteral("light"));
+        row(webSkin, "web skin: a part", QStringLiteral("White2"), QStringLiteral("black"));
+        row(webSkin, "web skin: empty", QString(), QStringLiteral("black"));
+    }
+
+    /// Catches: for blanks, a trim in their place and brackets that count; for rectangles, sizes and colours,
+    /// the third and fourth number taken for a size, forgiven counts, an overflow and a warning; for digits,
+    /// other scripts and signs; for ASCII, bytes counted as unsigned or behind a zero; for skins, a part for
+    /// the whole.
+    void WhatATextSays()
+    {
+        QFETCH(Reading, read);
+        QFETCH(QString, text);
+        QTEST(read(text), "said");
+    }
+
+    void DeviceIds_data()
+    {
+        TestSupport::Columns<QByteArray, int, QByteArray>("channel", "result", "device");
+        const QByteArray longest(47, 'd');
+        QTest::newRow("good") << QByteArray("A1B2$1$0$5") << 0 << QByteArray("A1B2");
+        QTest::newRow("more fields") << QByteArray("A$B$1$0$5") << 0 << QByteArray("A$B");
+        QTest::newRow("two fields") << QByteArray("A1B2$1$0") << 0 << QByteArray("A1B2");
+        QTest::newRow("one field") << QByteArray("A1B2$1") << -1 << QByteArray("A1B2$1");
+        QTest::newRow("no field") << QByteArray("A1B2") << -1 << QByteArray("A1B2");
+        QTest::newRow("empty") << QByteArray("") << -1 << QByteArray("");
+        QTest::newRow("nothing before") << QByteArray("$1$0$5") << 0 << QByteArray("");
+        QTest::newRow("longest") << longest + "$1$0$5" << 0 << longest;
+        QTest::newRow("too long") << longest + "d$1$0$5" << -1 << longest + "d$1$0$5";
+    }
+
+    /// Catches a third field that must be there, a device id cut off at its limit, and a failure that leaves
+    /// the output as it was.
+    void DeviceIds()
+    {
+        QFETCH(QByteArray, channel);
+        QFETCH(int, result);
+        QFETCH(QByteArray, device);
+        std::string out = "before";
+        QCOMPARE(QCommon::GetDevIdByChnlId(channel.toStdString(), out), result);
+        QCOMPARE(QByteArray::fromStdString(out), device);
+    }
+
+    void IpAddressIsBounded_data()
+    {
+        TestSupport::Columns<int, QByteArray>("size", "buffer");
+        QTest::newRow("room to spare") << 18 << QByteArray("10.0.168.192\0xxxxx", 18);
+        QTest::newRow("just fits") << 13 << QByteArray("10.0.168.192\0xxxxx", 18);
+        QTest::newRow("cut") << 6 << QByteArray("10.0.\0xxxxxxxxxxxx", 18);
+        QTest::newRow("one byte") << 1 << QByteArray("\0xxxxxxxxxxxxxxxxx", 18);
+        QTest::newRow("none") << 0 << QByteArray(18, 'x');
+        QTest::newRow("negative") << -1 << QByteArray(18, 'x');
+    }
+
+    /// Catches the bytes in the wrong order, a write past the length and a missing terminator.
+    void IpAddressIsBounded()
+    {
+        QFETCH(int, size);
+        QFETCH(QByteArray, buffer);
+        QByteArray out(18, 'x');
+        const unsigned int ip = 10U | 0U << 8 | 168U << 16 | 192U << 24;
+        QCommon::ConvertToIPStr(ip, out.data(), size);
+        QCOMPARE(out, buffer);
+        QCommon::ConvertToIPStr(ip, nullptr, 16);
+    }
+
+    void PatchedPaths_data()
+    {
+        TestSupport::Columns<QString, QString, QString>("folder", "file", "path");
+        const QString file = QStringLiteral("b.ini");
+        QTest::newRow("added") << QStringLiteral("C:/a") << file << QStringLiteral("C:/a/b.ini");
+        QTest::newRow("there") << QStringLiteral("C:/a/") << file << QStringLiteral("C:/a/b.ini");
+        QTest::newRow("no folder") << QString() << file << file;
+        QTest::newRow("back-slash") << QStringLiteral("C:\\") << file << QStringLiteral("C:\\/b.ini");
+        QTest::newRow("place marks") << QStringLiteral("50%2%1") << file << QStringLiteral("50%2%1/b.ini");
+        QTest::newRow("no file") << QStringLiteral("C:/a") << QString() << QStringLiteral("C:/a/");
+    }
+
+    /// Catches a folder whose name is taken for a format.
+    void PatchedPaths()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, file);
+        QFETCH(QString, path);
+        QCOMPARE(QCommon::PatchPath(folder, file), path);
+    }
+
+    /// Catches wrong separators, digits or texts cut short (the first value is that of RFC 2617, 3.5), and a
+    /// part of the digits in a buffer that has no room for all.
+    void Ha1()
+    {
+        QByteArray out(34, '\0');
+        QCommon::GenerateHA1(out.data(), 33, "Mufasa", "testrealm@host.com", "Circle Of Life");
+        QCOMPARE(out, QByteArray("939e7578ed9e3c518a452acee763bce9") + QByteArray(2, '\0'));
+        const QByteArray longName(5000, 'n');
+        QCommon::GenerateHA1(out.data(), 32, longName.constData(), "%s%n", nullptr);
+        QCOMPARE(
+            out.left(32), QCryptographicHash::hash(longName + ":%s%n:", QCryptographicHash::Md5).toHex());
+
+        QByteArray small(40, 'x');
+        QCommon::GenerateHA1(small.data(), 31, "a", "b", "c");
+        QCommon::GenerateHA1(small.data(), -1, "a", "b", "c");
+        QCommon::GenerateHA1(nullptr, 40, "a", "b", "c");
+        QCOMPARE(small, QByteArray(40, 'x'));
+        QCommon::GenerateHA1(small.data(), 32, "a", "b", "c");
+        QCOMPARE(small.mid(32), QByteArray(8, 'x'));
+    }
+
+    void Extracts_data()
+    {
+        TestSupport::Columns<int, int, int>("base", "n", "result");
+        QTest::newRow("exact power") << 10 << 1000 << 3;
+        QTest::newRow("just below") << 10 << 999 << 2;
+        QTest::newRow("below the base") << 10 << 9 << 0;
+        QTest::newRow("zero") << 10 << 0 << 0;
+        QTest::newRow("base 0") << 0 << 5 << 0;
+        QTest::newRow("negative base") << -2 << 5 << 0;
+        QTest::newRow("negative number") << 2 << -8 << 0;
+        QTest::newRow("base 1") << 1 << 5 << 0;
+        QTest::newRow("largest") << 2 << INT_MAX << 30;
+        QTest::newRow("largest base") << INT_MAX << INT_MAX << 1;
+    }
+
+    /// Catches a loop without end for base 1, and an overflow for the largest number.
+    void Extracts()
+    {
+        QFETCH(int, base);
+        QFETCH(int, n);
+        QFETCH(int, result);
+        QCOMPARE(QCommon::GetExtract(base, n), result);
+    }
+
+    /// Catches numbers cut to 32 bits, and keys that repeat.
+    void RecordKeysDiffer()
+    {
+        const QString first = QCommon::CreateRecordMapKey(LLONG_MIN, LLONG_MAX);
+        QCOMPARE(first, QStringLiteral("-9223372036854775808_9223372036854775807_1"));
+        QVERIFY(QCommon::CreateRecordMapKey(LLONG_MIN, LLONG_MAX).endsWith(QStringLiteral("_2")));
+    }
 };
-
-void TestStrings::ByteBudgets_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("maxBytes");
-    QTest::addColumn<QString>("cut");
-    const QString han = QStringLiteral("ab\u4E2D");
-    const QString face = QStringLiteral("ab\U0001F600");
-    QTest::newRow("does not fit") << han << 4 << QStringLiteral("ab");
-    QTest::newRow("just fits") << han << 5 << han;
-    QTest::newRow("budget 0") << han << 0 << QString();
-    QTest::newRow("negative budget") << han << -3 << QString();
-    QTest::newRow("largest budget") << han << INT_MAX << han;
-    QTest::newRow("pair just fits") << face << 6 << face;
-    QTest::newRow("pair goes whole") << face << 5 << QStringLiteral("ab");
-    // Half of the pair would be one "?" and would fit.
-    QTest::newRow("pair torn by the count of units") << face << 3 << QStringLiteral("ab");
-    QTest::newRow("nothing fits") << QStringLiteral("\u4E2D") << 2 << QString();
-    QTest::newRow("empty") << QString() << 10 << QString();
-}
-
-/// Catches a budget that counts characters, is off by one, or tears a character.
-void TestStrings::ByteBudgets()
-{
-    QFETCH(QString, text);
-    QFETCH(int, maxBytes);
-    QFETCH(QString, cut);
-    QCOMPARE(CommonFun::GetUtf8ValidByteLenString(text, maxBytes), cut);
-    QCOMPARE(QCommon::GetValidByteLenString(text, maxBytes), cut);
-}
-
-void TestStrings::ByteBudgetEqualsDropping_data()
-{
-    QTest::addColumn<QByteArray>("codec");
-    for (const char* codec :
-         {"UTF-8", "GBK", "GB18030", "Big5-HKSCS", "Shift_JIS", "ISO-8859-1", "ISO-2022-JP", "UTF-16",
-          "UTF-7", "TSCII"})
-        QTest::newRow(codec) << QByteArray(codec);
-}
-
-/// Catches every way in which counting in blocks can differ from encoding the whole again and again:
-/// shift states, byte order marks, composed characters and pairs at the edge of a block.
-void TestStrings::ByteBudgetEqualsDropping()
-{
-    QFETCH(QByteArray, codec);
-    const LocaleCodec locale(codec);
-    QVERIFY2(locale.IsKnown(), "this Qt does not have the codec");
-    std::mt19937 random(905);
-    for (int round = 0; round < 2000; ++round) {
-        const QString text = RandomText(random, static_cast<int>(random() % 100));
-        const int maxBytes = static_cast<int>(random() % 256);
-        const int block = 2 + static_cast<int>(random() % (round % 2 == 0 ? 7 : 60));
-        for (const TextEncoding encoding : {TextEncoding::Utf8, TextEncoding::Local8Bit}) {
-            const QString expected = CutByDropping(text, maxBytes, encoding);
-            const QString cut = CutToByteBudget(text, maxBytes, encoding, block);
-            const QByteArray units(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
-            const QByteArray failure = units.toHex(' ') + " to " + QByteArray::number(maxBytes) + " bytes: "
-                + QByteArray::number(cut.size()) + " units for " + QByteArray::number(expected.size());
-            QVERIFY2(cut == expected, failure.constData());
-        }
-    }
-}
-
-void TestStrings::ByteBudgetOfLongTexts_data()
-{
-    QTest::addColumn<QByteArray>("codec");
-    QTest::addColumn<QString>("unit");
-    QTest::addColumn<int>("bytes");
-    const QString han = QStringLiteral("\u4E2D");
-    const QString face = QStringLiteral("\U0001F600");
-    QTest::newRow("UTF-8, ASCII") << QByteArray("UTF-8") << QStringLiteral("a") << 1;
-    QTest::newRow("UTF-8, Han") << QByteArray("UTF-8") << han << 3;
-    QTest::newRow("UTF-8, pairs") << QByteArray("UTF-8") << face << 4;
-    QTest::newRow("GBK, Han") << QByteArray("GBK") << han << 2;
-    QTest::newRow("GB18030, pairs") << QByteArray("GB18030") << face << 4;
-}
-
-/// Catches a cut that takes quadratic time: it would not come back before the test's time limit.
-void TestStrings::ByteBudgetOfLongTexts()
-{
-    QFETCH(QByteArray, codec);
-    QFETCH(QString, unit);
-    QFETCH(int, bytes);
-    const LocaleCodec locale(codec);
-    QVERIFY(locale.IsKnown());
-    const int count = 1000000 / bytes;
-    const QString text = unit.repeated(count);
-    const int full = count * bytes;
-    for (const int budget : {bytes, 1000, full / 2, full - 1, full}) {
-        const QString cut = CommonFun::GetLocal8BitValidByteLenString(text, budget);
-        QCOMPARE(cut.size(), budget / bytes * unit.size());
-        QVERIFY(text.startsWith(cut));
-    }
-}
-
-/// Catches a UTF-8 budget that follows the process codec, or a local one that does not.
-void TestStrings::ByteBudgetsFollowTheirEncoding()
-{
-    const LocaleCodec locale("GBK");
-    QVERIFY(locale.IsKnown());
-    const QString text = QStringLiteral("\u4E2D\u6587\u4E2D");
-    QCOMPARE(CommonFun::GetUtf8ValidByteLenString(text, 6), text.left(2));
-    QCOMPARE(QCommon::GetValidByteLenString(text, 6), text.left(2));
-    QCOMPARE(CommonFun::GetLocal8BitValidByteLenString(text, 6), text);
-    QCOMPARE(QCommon::GetValidByteLenStringEx(text, 5), text.left(2));
-}
-
-void TestStrings::Elides_data()
-{
-    QTest::addColumn<bool>("middle");
-    QTest::addColumn<int>("characters");
-    QTest::addColumn<int>("pixels");
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
-    // The room beside "..." is so many widths of the character and so many pixels.
-    QTest::newRow("nothing but dots") << true << 0 << 0 << 0 << 0;
-    QTest::newRow("less than the dots") << true << -1 << 0 << 0 << 0;
-    QTest::newRow("half ends on a character") << true << 6 << 2 << 2 << 4;
-    QTest::newRow("half ends behind a character") << true << 6 << 4 << 3 << 3;
-    QTest::newRow("the one character tried stays counted") << true << 2 << 2 << 0 << 1;
-    QTest::newRow("at the end, less than the dots") << false << -1 << 0 << 0 << 0;
-    QTest::newRow("at the end, one character") << false << 1 << 2 << 1 << 0;
-    QTest::newRow("at the end, ends on a character") << false << 3 << 1 << 2 << 0;
-    QTest::newRow("at the end, ends behind a character") << false << 3 << 2 << 3 << 0;
-}
-
-/// Catches a side that is one character too long or short, and the width of a left part that is left out
-/// but given to the right.
-void TestStrings::Elides()
-{
-    QFETCH(bool, middle);
-    QFETCH(int, characters);
-    QFETCH(int, pixels);
-    const QFontMetrics metrics(QApplication::font());
-    const int unit = metrics.horizontalAdvance(QStringLiteral("x"));
-    QVERIFY2(unit > 4, "the font is too small for the cases");
-    const int width = metrics.horizontalAdvance(QStringLiteral("...")) + characters * unit + pixels;
-    const auto elide = middle ? &QCommon::GetSuitableText : &QCommon::GetSuitableTextEx;
-    QString out;
-    elide(metrics, width, QString(50, QLatin1Char('x')), out);
-    const int dots = out.indexOf(QStringLiteral("..."));
-    QTEST(dots, "before");
-    QTEST(out.size() - dots - 3, "after");
-}
-
-/// Catches a crash or an endless walk on widths and texts that no layout has, a text that fits but is
-/// changed, and a result that overwrites its own source.
-void TestStrings::ElidesAnything()
-{
-    const QFontMetrics metrics(QApplication::font());
-    std::mt19937 random(11);
-    QString out;
-    for (const int width : {INT_MIN, -1, 0, 1, 20, 50, 100}) {
-        for (int size = 0; size < 20; ++size) {
-            const QString text = RandomText(random, size);
-            const bool fits = metrics.horizontalAdvance(text) <= width;
-            QCommon::GetSuitableText(metrics, width, text, out);
-            QVERIFY(fits ? out == text : out.contains(QStringLiteral("...")));
-            QCommon::GetSuitableTextEx(metrics, width, text, out);
-            QVERIFY(fits ? out == text : out.endsWith(QStringLiteral("...")));
-        }
-    }
-    QString text(50, QLatin1Char('x'));
-    QCommon::GetSuitableText(metrics, 100, text, out);
-    QCommon::GetSuitableText(metrics, 100, text, text);
-    QCOMPARE(text, out);
-    QCommon::GetSuitableText(metrics, INT_MAX, text, out);
-    QCOMPARE(out, text);
-}
-
-/// Catches a colour or size that is lost with the next tool tip.
-void TestStrings::ToolTipKeepsItsLook()
-{
-    QString text = QStringLiteral("Camera 1");
-    QColor colour(200, 40, 10);
-    // The offscreen platform's, about any window that is raised.
-    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
-    QCommon::ShowToolTip(QPoint(20, 20), text, colour);
-    QCOMPARE(QToolTip::text(), text);
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        QCOMPARE(QToolTip::palette().color(group, QPalette::ToolTipText), colour);
-    QCOMPARE(QToolTip::font().pointSize(), 11);
-    QToolTip::hideText();
-}
-
-void TestStrings::WhatATextSays_data()
-{
-    QTest::addColumn<Reading>("read");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVariant>("said");
-    const auto row = [](const Reading& read, const char* name, const QString& text, const QVariant& said) {
-        QTest::newRow(name) << read << text << said;
-    };
-    const Reading blank = [](const QString& text) { return CommonFun::IsQStrEmpty(text); };
-    row(blank, "blank: empty", QString(), true);
-    row(blank, "blank: all three", QStringLiteral(" \u3000\uFFFD "), true);
-    row(blank, "blank: tab", QStringLiteral(" \t"), false);
-    row(blank, "blank: newline", QStringLiteral("\n"), false);
-    row(blank, "blank: no-break space", QStringLiteral("\u00A0"), false);
-    row(blank, "blank: brackets", QStringLiteral("[ ]"), false);
-    row(blank, "blank: text between", QStringLiteral("  a "), false);
-
-    const Reading rect = [](const QString& text) { return QCommon::StringToRect(text); };
-    row(rect, "rectangle: blanks around", QStringLiteral(" 10,20,110,70 "), QRect(10, 20, 100, 50));
-    row(rect, "rectangle: negative", QStringLiteral("-5,-6,5,6"), QRect(-5, -6, 10, 12));
-    row(rect, "rectangle: backwards", QStringLiteral("10,10,0,0"), QRect(10, 10, -10, -10));
-    row(rect, "rectangle: unreadable part", QStringLiteral("a,2,3,4"), QRect(0, 2, 3, 2));
-    row(rect, "rectangle: empty parts", QStringLiteral(",,,"), QRect(0, 0, 0, 0));
-    row(rect, "rectangle: too few", QStringLiteral("1,2,3"), QRect(0, 0, 0, 0));
-    row(rect, "rectangle: too many", QStringLiteral("1,2,3,4,"), QRect(0, 0, 0, 0));
-    row(rect, "rectangle: empty", QString(), QRect(0, 0, 0, 0));
-    row(rect, "rectangle: number too large", QStringLiteral("1,2,99999999999,4"), QRect(1, 2, -1, 2));
-    row(rect, "rectangle: wider than an int", QStringLiteral("-2000000000,0,2000000000,1"),
-        QRect(-2000000000, 0, INT_MAX, 1));
-
-    const Reading size = [](const QString& text) { return QCommon::StringToSize(text); };
-    row(size, "size: blanks inside", QStringLiteral(" 640 , 480"), QSize(640, 480));
-    row(size, "size: one", QStringLiteral("640"), QSize(0, 0));
-    row(size, "size: three", QStringLiteral("640,480,1"), QSize(0, 0));
-    row(size, "size: empty", QString(), QSize(0, 0));
-
-    const Reading colour = [](const QString& text) { return QCommon::StringToColor(text); };
-    row(colour, "colour: good", QStringLiteral("1,2,3"), QColor(1, 2, 3, 255));
-    row(colour, "colour: with alpha", QStringLiteral("1,2,3,4"), QColor());
-    row(colour, "colour: out of range", QStringLiteral("256,0,0"), QColor());
-    row(colour, "colour: negative", QStringLiteral("0,-1,0"), QColor());
-    row(colour, "colour: empty", QString(), QColor());
-
-    const Reading digits = [](const QString& text) { return QCommon::isDigitStr(text); };
-    row(digits, "digits: empty", QString(), 0);
-    row(digits, "digits: all", QStringLiteral("0123456789"), 0);
-    row(digits, "digits: letter behind", QStringLiteral("12a"), -1);
-    row(digits, "digits: sign", QStringLiteral("-1"), -1);
-    row(digits, "digits: other scripts", QStringLiteral("\u0661\uFF11"), -1);
-    row(digits, "digits: zero character", QString(QChar(0)), -1);
-
-    const Reading ascii = [](const QString& text) { return QCommon::GetAsciiCharNum(text.toStdString()); };
-    row(ascii, "ASCII: negative bytes", QStringLiteral("a\u4E2D\u007F\u0080"), 2);
-    row(ascii, "ASCII: up to a zero byte", QStringLiteral("ab\0cd").left(5), 2);
-    row(ascii, "ASCII: empty", QString(), 0);
-
-    const Reading webSkin = [](const QString& text) { return QCommon::HostToWebSkinName(text); };
-    row(webSkin, "web skin: any case", QStringLiteral("white"), QStringLiteral("light"));
-    row(webSkin, "web skin: a part", QStringLiteral("White2"), QStringLiteral("black"));
-    row(webSkin, "web skin: empty", QString(), QStringLiteral("black"));
-}
-
-/// Catches: for blanks, a trim in their place and brackets that count; for rectangles, sizes and colours, the
-/// third and fourth number taken for a size, forgiven counts, an overflow and a warning; for digits, other
-/// scripts and signs; for ASCII, bytes counted as unsigned or behind a zero; for skins, a part for the whole.
-void TestStrings::WhatATextSays()
-{
-    QFETCH(Reading, read);
-    QFETCH(QString, text);
-    QTEST(read(text), "said");
-}
-
-void TestStrings::DeviceIds_data()
-{
-    QTest::addColumn<QByteArray>("channel");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QByteArray>("device");
-    const QByteArray longest(47, 'd');
-    QTest::newRow("good") << QByteArray("A1B2$1$0$5") << 0 << QByteArray("A1B2");
-    QTest::newRow("more fields") << QByteArray("A$B$1$0$5") << 0 << QByteArray("A$B");
-    QTest::newRow("two fields") << QByteArray("A1B2$1$0") << 0 << QByteArray("A1B2");
-    QTest::newRow("one field") << QByteArray("A1B2$1") << -1 << QByteArray("A1B2$1");
-    QTest::newRow("no field") << QByteArray("A1B2") << -1 << QByteArray("A1B2");
-    QTest::newRow("empty") << QByteArray("") << -1 << QByteArray("");
-    QTest::newRow("nothing before") << QByteArray("$1$0$5") << 0 << QByteArray("");
-    QTest::newRow("longest") << longest + "$1$0$5" << 0 << longest;
-    QTest::newRow("too long") << longest + "d$1$0$5" << -1 << longest + "d$1$0$5";
-}
-
-/// Catches a third field that must be there, a device id cut off at its limit, and a failure that leaves
-/// the output as it was.
-void TestStrings::DeviceIds()
-{
-    QFETCH(QByteArray, channel);
-    QFETCH(int, result);
-    QFETCH(QByteArray, device);
-    std::string out = "before";
-    QCOMPARE(QCommon::GetDevIdByChnlId(channel.toStdString(), out), result);
-    QCOMPARE(QByteArray::fromStdString(out), device);
-}
-
-void TestStrings::IpAddressIsBounded_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::addColumn<QByteArray>("buffer");
-    QTest::newRow("room to spare") << 18 << QByteArray("10.0.168.192\0xxxxx", 18);
-    QTest::newRow("just fits") << 13 << QByteArray("10.0.168.192\0xxxxx", 18);
-    QTest::newRow("cut") << 6 << QByteArray("10.0.\0xxxxxxxxxxxx", 18);
-    QTest::newRow("one byte") << 1 << QByteArray("\0xxxxxxxxxxxxxxxxx", 18);
-    QTest::newRow("none") << 0 << QByteArray(18, 'x');
-    QTest::newRow("negative") << -1 << QByteArray(18, 'x');
-}
-
-/// Catches the bytes in the wrong order, a write past the length and a missing terminator.
-void TestStrings::IpAddressIsBounded()
-{
-    QFETCH(int, size);
-    QFETCH(QByteArray, buffer);
-    QByteArray out(18, 'x');
-    const unsigned int ip = 10U | 0U << 8 | 168U << 16 | 192U << 24;
-    QCommon::ConvertToIPStr(ip, out.data(), size);
-    QCOMPARE(out, buffer);
-    QCommon::ConvertToIPStr(ip, nullptr, 16);
-}
-
-void TestStrings::PatchedPaths_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("path");
-    const QString file = QStringLiteral("b.ini");
-    QTest::newRow("added") << QStringLiteral("C:/a") << file << QStringLiteral("C:/a/b.ini");
-    QTest::newRow("there") << QStringLiteral("C:/a/") << file << QStringLiteral("C:/a/b.ini");
-    QTest::newRow("no folder") << QString() << file << file;
-    QTest::newRow("back-slash") << QStringLiteral("C:\\") << file << QStringLiteral("C:\\/b.ini");
-    QTest::newRow("place marks") << QStringLiteral("50%2%1") << file << QStringLiteral("50%2%1/b.ini");
-    QTest::newRow("no file") << QStringLiteral("C:/a") << QString() << QStringLiteral("C:/a/");
-}
-
-/// Catches a folder whose name is taken for a format.
-void TestStrings::PatchedPaths()
-{
-    QFETCH(QString, folder);
-    QFETCH(QString, file);
-    QFETCH(QString, path);
-    QCOMPARE(QCommon::PatchPath(folder, file), path);
-}
-
-/// Catches wrong separators, digits or texts cut short (the first value is that of RFC 2617, 3.5), and a part
-/// of the digits in a buffer that has no room for all.
-void TestStrings::Ha1()
-{
-    QByteArray out(34, '\0');
-    QCommon::GenerateHA1(out.data(), 33, "Mufasa", "testrealm@host.com", "Circle Of Life");
-    QCOMPARE(out, QByteArray("939e7578ed9e3c518a452acee763bce9") + QByteArray(2, '\0'));
-    const QByteArray longName(5000, 'n');
-    QCommon::GenerateHA1(out.data(), 32, longName.constData(), "%s%n", nullptr);
-    QCOMPARE(out.left(32), QCryptographicHash::hash(longName + ":%s%n:", QCryptographicHash::Md5).toHex());
-
-    QByteArray small(40, 'x');
-    QCommon::GenerateHA1(small.data(), 31, "a", "b", "c");
-    QCommon::GenerateHA1(small.data(), -1, "a", "b", "c");
-    QCommon::GenerateHA1(nullptr, 40, "a", "b", "c");
-    QCOMPARE(small, QByteArray(40, 'x'));
-    QCommon::GenerateHA1(small.data(), 32, "a", "b", "c");
-    QCOMPARE(small.mid(32), QByteArray(8, 'x'));
-}
-
-void TestStrings::Extracts_data()
-{
-    QTest::addColumn<int>("base");
-    QTest::addColumn<int>("n");
-    QTest::addColumn<int>("result");
-    QTest::newRow("exact power") << 10 << 1000 << 3;
-    QTest::newRow("just below") << 10 << 999 << 2;
-    QTest::newRow("below the base") << 10 << 9 << 0;
-    QTest::newRow("zero") << 10 << 0 << 0;
-    QTest::newRow("base 0") << 0 << 5 << 0;
-    QTest::newRow("negative base") << -2 << 5 << 0;
-    QTest::newRow("negative number") << 2 << -8 << 0;
-    QTest::newRow("base 1") << 1 << 5 << 0;
-    QTest::newRow("largest") << 2 << INT_MAX << 30;
-    QTest::newRow("largest base") << INT_MAX << INT_MAX << 1;
-}
-
-/// Catches a loop without end for base 1, and an overflow for the largest number.
-void TestStrings::Extracts()
-{
-    QFETCH(int, base);
-    QFETCH(int, n);
-    QFETCH(int, result);
-    QCOMPARE(QCommon::GetExtract(base, n), result);
-}
-
-/// Catches numbers cut to 32 bits, and keys that repeat.
-void TestStrings::RecordKeysDiffer()
-{
-    const QString first = QCommon::CreateRecordMapKey(LLONG_MIN, LLONG_MAX);
-    QCOMPARE(first, QStringLiteral("-9223372036854775808_9223372036854775807_1"));
-    QVERIFY(QCommon::CreateRecordMapKey(LLONG_MIN, LLONG_MAX).endsWith(QStringLiteral("_2")));
-}
 
 STRICT_TEST_MAIN(TestStrings)
 #include "tst_strings.moc"

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/CropCanvas.h"
 #include "support/ShownTexts.h"
 #include "support/StrictMain.h"
@@ -25,14 +26,8 @@
 #include <UI/Spreadsheet/AxExcelFunction.h>
 #include <UI/TVWall/KvTVWallOperateWnd.h>
 
-#include <QAction>
-#include <QApplication>
-#include <QGridLayout>
-#include <QLabel>
-#include <QLibraryInfo>
-#include <QTest>
-#include <QTimer>
-#include <QTranslator>
+#include <QtTest>
+#include <QtWidgets>
 #include <functional>
 
 using namespace UICommonMdl;
@@ -129,196 +124,186 @@ class TestTranslations : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void LanguagesAreChosenByName_data();
-    void LanguagesAreChosenByName();
-    void EveryWidgetFollowsAndComesBack();
-    void TextsOfTheClientStay_data();
-    void TextsOfTheClientStay();
-    void OpenDialogFollows();
-    void OpenSearchMenuFollows();
-    void NewestTextOfAPropertyCounts();
-    void MessagesAreInTheLanguageOfTheirMoment();
-};
+    void cleanup() { Switch(English); }
 
-void TestTranslations::cleanup() { Switch(English); }
-
-void TestTranslations::LanguagesAreChosenByName_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("known");
-    QTest::addColumn<QString>("language");
-    const auto row = [](const char* name, bool known, const QString& language) {
-        QTest::newRow(name) << QString::fromLatin1(name) << known << language;
-    };
-    row("zh_CN", true, Chinese);
-    row("zh-CN", true, Chinese);
-    row("zh", true, Chinese);
-    row("en", true, English);
-    row("en_GB", true, English);
-    // The present language, which the test has set to Chinese, stays.
-    row("zh_TW", false, Chinese);
-    row("de", false, Chinese);
-    row("", false, Chinese);
-    row("C", false, Chinese);
-    row("no language", false, Chinese);
-}
-
-// Catches a name of the desktop's settings that is not understood, and one that switches texts off.
-void TestTranslations::LanguagesAreChosenByName()
-{
-    QFETCH(QString, name);
-    QCOMPARE(KvGUI::GetLanguages(), QStringList({English, Chinese}));
-    Switch(Chinese);
-    QTEST(KvGUI::SetLanguage(name), "known");
-    QTEST(KvGUI::GetLanguage(), "language");
-}
-
-// Catches a text that stays in the former language, one that does not come back, and a button that keeps
-// the width of its former text.
-void TestTranslations::EveryWidgetFollowsAndComesBack()
-{
-    TestSupport::AnnounceCropCanvases(2);
-    AllWidgets all;
-    const QMap<QString, QString> english = ShownTexts(all);
-    QVERIFY(english.values().contains(QStringLiteral("Overview of the wall")));
-    QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
-
-    Switch(Chinese);
-    const QMap<QString, QString> chinese = ShownTexts(all);
-    const QSet<QString> sources = SourceTexts(QStringLiteral(LIBRARY_TEXTS));
-    QVERIFY(sources.size() > 50);
-    for (auto text = chinese.begin(); text != chinese.end(); ++text)
-        QVERIFY2(!sources.contains(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
-    for (const char* wanted :
-         {"窗口 1", "窗口 2  Siren 7", "人脸1", "上一张", "关闭声音", "IP 地址，第 4 段"})
-        QVERIFY2(chinese.values().contains(QString::fromUtf8(wanted)), wanted);
-    QCOMPARE(
-        chinese.values().count(QStringLiteral("Siren 7")), english.values().count(QStringLiteral("Siren 7")));
-    QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
-
-    Switch(English);
-    const QMap<QString, QString> back = ShownTexts(all);
-    for (auto text = back.begin(); text != back.end(); ++text)
-        QVERIFY2(!HasChinese(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
-    QCOMPARE(ChangedTexts(english, back).join(QLatin1Char('\n')), QString());
-    QCOMPARE(back.size(), english.size());
-    QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
-}
-
-void TestTranslations::TextsOfTheClientStay_data()
-{
-    QTest::addColumn<std::function<void(AllWidgets&)>>("set");
-    const auto row
-        = [](const char* name, const std::function<void(AllWidgets&)>& set) { QTest::newRow(name) << set; };
-    row("name of a volume button",
-        [](auto& all) { all.template findChild<KvVolumeButton*>()->setAccessibleName(OwnText); });
-    row("name of a meter",
-        [](auto& all) { all.template findChild<CPasswordStrength*>()->setAccessibleName(OwnText); });
-    row("name of a canvas",
-        [](auto& all) { all.template findChild<CCutDetailPhoto*>()->setAccessibleName(OwnText); });
-    row("name of a calendar", [](auto& all) {
-        all.template findChild<KvGUI::KvCalendarEx*>(QString(), Qt::FindDirectChildrenOnly)
-            ->setAccessibleName(OwnText);
-    });
-    row("title of a dialog with its own",
-        [](auto& all) { all.template findChild<CDisplayQRcodeDlg*>()->SetTitle(OwnText); });
-    row("title of a floating dialog",
-        [](auto& all) { all.template findChild<CFloatDialog*>()->SetTitle(OwnText); });
-    row("standard button", [](auto& all) {
-        all.template findChild<CCutPhotoDlg*>()->SetButtonText(QDialogButtonBox::Ok, OwnText);
-    });
-    row("button of the group dialog", [](auto& all) {
-        all.template findChild<WmAddGroup*>()->SetButtonText(QDialogButtonBox::Cancel, OwnText);
-    });
-    row("tool tip", [](auto& all) { all.template findChild<WmPersonImage*>()->setToolTip(OwnText); });
-}
-
-// Catches a change of the language that overwrites what the client has set.
-void TestTranslations::TextsOfTheClientStay()
-{
-    QFETCH(std::function<void(AllWidgets&)>, set);
-    TestSupport::AnnounceCropCanvases(2);
-    AllWidgets all;
-    const int before = ShownTexts(all).values().count(OwnText);
-    set(all);
-    const int own = ShownTexts(all).values().count(OwnText);
-    QVERIFY(own > before);
-    for (const QString& language : {Chinese, English}) {
-        Switch(language);
-        QCOMPARE(ShownTexts(all).values().count(OwnText), own);
+    void LanguagesAreChosenByName_data()
+    {
+        TestSupport::Columns<QString, bool, QString>("name", "known", "language");
+        const auto row = [](const char* name, bool known, const QString& language) {
+            QTest::newRow(name) << QString::fromLatin1(name) << known << language;
+        };
+        row("zh_CN", true, Chinese);
+        row("zh-CN", true, Chinese);
+        row("zh", true, Chinese);
+        row("en", true, English);
+        row("en_GB", true, English);
+        // The present language, which the test has set to Chinese, stays.
+        row("zh_TW", false, Chinese);
+        row("de", false, Chinese);
+        row("", false, Chinese);
+        row("C", false, Chinese);
+        row("no language", false, Chinese);
     }
-}
 
-// Catches a modal dialog that keeps its language, or the width of its row of buttons, until it is closed.
-void TestTranslations::OpenDialogFollows()
-{
-    WmAddGroup dialog;
-    QTimer::singleShot(0, &dialog, [&] {
-        auto* save = dialog.GetButton(QDialogButtonBox::Ok);
-        QCOMPARE(save->text(), QStringLiteral("Save"));
+    // Catches a name of the desktop's settings that is not understood, and one that switches texts off.
+    void LanguagesAreChosenByName()
+    {
+        QFETCH(QString, name);
+        QCOMPARE(KvGUI::GetLanguages(), QStringList({English, Chinese}));
         Switch(Chinese);
-        QCOMPARE(save->text(), QStringLiteral("保存"));
-        QVERIFY(ShownTexts(dialog).values().contains(QStringLiteral("名称：")));
-        QTRY_COMPARE(ClippedTexts(dialog).join(QLatin1Char('\n')), QString());
-        dialog.reject();
-    });
-    dialog.exec();
-    QCOMPARE(KvGUI::GetLanguage(), Chinese);
-}
+        QTEST(KvGUI::SetLanguage(name), "known");
+        QTEST(KvGUI::GetLanguage(), "language");
+    }
 
-// Catches a menu that was open when the language changed.
-void TestTranslations::OpenSearchMenuFollows()
-{
-    TestSupport::AnnounceCropCanvases();
-    CCutPhotoWithZoom canvas;
-    canvas.resize(400, 300);
-    canvas.SetSrcImage(QImage(400, 300, QImage::Format_RGB32));
-    canvas.show();
-    QStringList texts;
-    QTimer::singleShot(0, &canvas, [&] {
+    // Catches a text that stays in the former language, one that does not come back, and a button that keeps
+    // the width of its former text.
+    void EveryWidgetFollowsAndComesBack()
+    {
+        TestSupport::AnnounceCropCanvases(2);
+        AllWidgets all;
+        const QMap<QString, QString> english = ShownTexts(all);
+        QVERIFY(english.values().contains(QStringLiteral("Overview of the wall")));
+        QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
+
         Switch(Chinese);
-        QWidget* menu = QApplication::activePopupWidget();
-        for (const QAction* action : menu ? menu->actions() : QList<QAction*>())
-            texts << action->text();
-        if (menu)
-            menu->close();
-    });
-    QTest::mouseClick(&canvas, Qt::RightButton, Qt::NoModifier, QPoint(200, 150));
-    QVERIFY(texts.contains(QStringLiteral("人脸搜图")));
-    QVERIFY(texts.contains(QStringLiteral("取消")));
-}
+        const QMap<QString, QString> chinese = ShownTexts(all);
+        const QSet<QString> sources = SourceTexts(QStringLiteral(LIBRARY_TEXTS));
+        QVERIFY(sources.size() > 50);
+        for (auto text = chinese.begin(); text != chinese.end(); ++text)
+            QVERIFY2(!sources.contains(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
+        for (const char* wanted :
+             {"窗口 1", "窗口 2  Siren 7", "人脸1", "上一张", "关闭声音", "IP 地址，第 4 段"})
+            QVERIFY2(chinese.values().contains(QString::fromUtf8(wanted)), wanted);
+        QCOMPARE(
+            chinese.values().count(QStringLiteral("Siren 7")),
+            english.values().count(QStringLiteral("Siren 7")));
+        QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
 
-// Catches two texts of one property that overwrite one another at each change of the language.
-void TestTranslations::NewestTextOfAPropertyCounts()
-{
-    QLabel label;
-    new KvTranslatedText(&label, "text", [] { return QStringLiteral("former"); });
-    int volume = 1;
-    auto* text = new KvTranslatedText(&label, "text", [&volume] { return QString::number(volume); });
-    QCOMPARE(label.findChildren<KvTranslatedText*>().size(), 1);
-    volume = 2;
-    text->Refresh();
-    QCOMPARE(label.text(), QStringLiteral("2"));
-    label.setText(OwnText);
-    Switch(Chinese);
-    text->Refresh();
-    QCOMPARE(label.text(), OwnText);
-}
+        Switch(English);
+        const QMap<QString, QString> back = ShownTexts(all);
+        for (auto text = back.begin(); text != back.end(); ++text)
+            QVERIFY2(!HasChinese(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
+        QCOMPARE(ChangedTexts(english, back).join(QLatin1Char('\n')), QString());
+        QCOMPARE(back.size(), english.size());
+        QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
+    }
 
-// Catches a message that is fetched from a copy of the sources' language.
-void TestTranslations::MessagesAreInTheLanguageOfTheirMoment()
-{
-    // Not the real application, which takes seconds to start.
-    Automation::AutomationRegistry::SetObjectFactory(
-        QStringLiteral("Excel.Application"), [] { return std::unique_ptr<Automation::AutomationObject>(); });
-    AxExcelFunction excel;
-    QVERIFY(!excel.OpenExcel(QStringLiteral("/no such folder/list.xlsx"), false));
-    const QString english = excel.GetErrorMsg();
-    Switch(Chinese);
-    QVERIFY(!HasChinese(english));
-    QVERIFY(HasChinese(excel.GetErrorMsg()));
-}
+    void TextsOfTheClientStay_data()
+    {
+        QTest::addColumn<std::function<void(AllWidgets&)>>("set");
+        const auto row = [](const char* name, const std::function<void(AllWidgets&)>& set) {
+            QTest::newRow(name) << set;
+        };
+        row("name of a volume button",
+            [](auto& all) { all.template findChild<KvVolumeButton*>()->setAccessibleName(OwnText); });
+        row("name of a meter",
+            [](auto& all) { all.template findChild<CPasswordStrength*>()->setAccessibleName(OwnText); });
+        row("name of a canvas",
+            [](auto& all) { all.template findChild<CCutDetailPhoto*>()->setAccessibleName(OwnText); });
+        row("name of a calendar", [](auto& all) {
+            all.template findChild<KvGUI::KvCalendarEx*>(QString(), Qt::FindDirectChildrenOnly)
+                ->setAccessibleName(OwnText);
+        });
+        row("title of a dialog with its own",
+            [](auto& all) { all.template findChild<CDisplayQRcodeDlg*>()->SetTitle(OwnText); });
+        row("title of a floating dialog",
+            [](auto& all) { all.template findChild<CFloatDialog*>()->SetTitle(OwnText); });
+        row("standard button", [](auto& all) {
+            all.template findChild<CCutPhotoDlg*>()->SetButtonText(QDialogButtonBox::Ok, OwnText);
+        });
+        row("button of the group dialog", [](auto& all) {
+            all.template findChild<WmAddGroup*>()->SetButtonText(QDialogButtonBox::Cancel, OwnText);
+        });
+        row("tool tip", [](auto& all) { all.template findChild<WmPersonImage*>()->setToolTip(OwnText); });
+    }
+
+    // Catches a change of the language that overwrites what the client has set.
+    void TextsOfTheClientStay()
+    {
+        QFETCH(std::function<void(AllWidgets&)>, set);
+        TestSupport::AnnounceCropCanvases(2);
+        AllWidgets all;
+        const int before = ShownTexts(all).values().count(OwnText);
+        set(all);
+        const int own = ShownTexts(all).values().count(OwnText);
+        QVERIFY(own > before);
+        for (const QString& language : {Chinese, English}) {
+            Switch(language);
+            QCOMPARE(ShownTexts(all).values().count(OwnText), own);
+        }
+    }
+
+    // Catches a modal dialog that keeps its language, or the width of its row of buttons, until it is closed.
+    void OpenDialogFollows()
+    {
+        WmAddGroup dialog;
+        QTimer::singleShot(0, &dialog, [&] {
+            auto* save = dialog.GetButton(QDialogButtonBox::Ok);
+            QCOMPARE(save->text(), QStringLiteral("Save"));
+            Switch(Chinese);
+            QCOMPARE(save->text(), QStringLiteral("保存"));
+            QVERIFY(ShownTexts(dialog).values().contains(QStringLiteral("名称：")));
+            QTRY_COMPARE(ClippedTexts(dialog).join(QLatin1Char('\n')), QString());
+            dialog.reject();
+        });
+        dialog.exec();
+        QCOMPARE(KvGUI::GetLanguage(), Chinese);
+    }
+
+    // Catches a menu that was open when the language changed.
+    void OpenSearchMenuFollows()
+    {
+        TestSupport::AnnounceCropCanvases();
+        CCutPhotoWithZoom canvas;
+        canvas.resize(400, 300);
+        canvas.SetSrcImage(QImage(400, 300, QImage::Format_RGB32));
+        canvas.show();
+        QStringList texts;
+        QTimer::singleShot(0, &canvas, [&] {
+            Switch(Chinese);
+            QWidget* menu = QApplication::activePopupWidget();
+            for (const QAction* action : menu ? menu->actions() : QList<QAction*>())
+                texts << action->text();
+            if (menu)
+                menu->close();
+        });
+        QTest::mouseClick(&canvas, Qt::RightButton, Qt::NoModifier, QPoint(200, 150));
+        QVERIFY(texts.contains(QStringLiteral("人脸搜图")));
+        QVERIFY(texts.contains(QStringLiteral("取消")));
+    }
+
+    // Catches two texts of one property that overwrite one another at each change of the language.
+    void NewestTextOfAPropertyCounts()
+    {
+        QLabel label;
+        new KvTranslatedText(&label, "text", [] { return QStringLiteral("former"); });
+        int volume = 1;
+        auto* text = new KvTranslatedText(&label, "text", [&volume] { return QString::number(volume); });
+        QCOMPARE(label.findChildren<KvTranslatedText*>().size(), 1);
+        volume = 2;
+        text->Refresh();
+        QCOMPARE(label.text(), QStringLiteral("2"));
+        label.setText(OwnText);
+        Switch(Chinese);
+        text->Refresh();
+        QCOMPARE(label.text(), OwnText);
+    }
+
+    // Catches a message that is fetched from a copy of the sources' language.
+    void MessagesAreInTheLanguageOfTheirMoment()
+    {
+        // Not the real application, which takes seconds to start.
+        Automation::AutomationRegistry::SetObjectFactory(QStringLiteral("Excel.Application"), [] {
+            return std::unique_ptr<Automation::AutomationObject>();
+        });
+        AxExcelFunction excel;
+        QVERIFY(!excel.OpenExcel(QStringLiteral("/no such folder/list.xlsx"), false));
+        const QString english = excel.GetErrorMsg();
+        Switch(Chinese);
+        QVERIFY(!HasChinese(english));
+        QVERIFY(HasChinese(excel.GetErrorMsg()));
+    }
+};
 
 STRICT_TEST_MAIN(TestTranslations)
 

@@ -2,6 +2,7 @@
 // test runs once for each family; where the families differ, the difference stands in the test.
 
 #include "support/AtEvent.h"
+#include "support/Columns.h"
 #include "support/ScaleRects.h"
 #include "support/StrictMain.h"
 #include "support/WallDefaults.h"
@@ -10,16 +11,8 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <UI/TVWall/KvTVWallOperateWnd.h>
 
-#include <QApplication>
-#include <QGraphicsItem>
-#include <QGraphicsView>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPushButton>
-#include <QRubberBand>
-#include <QSignalSpy>
-#include <QTest>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 #include <functional>
 #include <limits>
 #include <memory>
@@ -132,598 +125,6 @@ KvGUI::StructOSDInfo Overlay(bool roll)
 
 const QPoint OnOverlay(502, 460);
 
-} // namespace
-
-class tst_Walls : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase_data();
-    void initTestCase();
-
-    void wrongIndicesGiveTheirDefaults_data();
-    void wrongIndicesGiveTheirDefaults();
-    void screensNeedAGrid();
-    void indicesShift();
-    void windowsFollowTheirScreen();
-    void precisionDecidesAboutChange();
-    void aWindowsOwnRectangleMayBePassed();
-    void zValuesStackWindows();
-
-    void buttonsPlaceTheWindow();
-    void settingEndsTheMaximisedState();
-    void doubleClick();
-    void buttonsReport();
-    void volumeButtonFollowsItsState();
-
-    void clickInMode_data();
-    void clickInMode();
-    void pressOnEmptyPart();
-    void selectionByCall();
-    void bandSelects();
-    void areaIsDrawn_data();
-    void areaIsDrawn();
-
-    void windowIsDragged_data();
-    void windowIsDragged();
-    void dragMovesPixelsOnly();
-
-    void wheelKeepsThePointUnderTheCursor();
-    void eventsAreReported();
-    void overlaysAreShown();
-    void selectionIsSeen();
-    void skinChangeRestyles();
-
-    void slotsMayDeleteAnything_data();
-    void slotsMayDeleteAnything();
-    void videosMayChangeTheWall_data();
-    void videosMayChangeTheWall();
-    void lostFocusMayChangeTheWall_data();
-    void lostFocusMayChangeTheWall();
-};
-
-void tst_Walls::initTestCase_data()
-{
-    QTest::addColumn<int>("family");
-    QTest::newRow("normal") << int(Wall::NormalMode);
-    QTest::newRow("display") << int(Wall::DisplayMode);
-}
-
-void tst_Walls::initTestCase()
-{
-    qRegisterMetaType<KvGUI::StructScaleRect>("KvGUI::StructScaleRect");
-    qRegisterMetaType<QEvent*>("QEvent*");
-}
-
-void tst_Walls::wrongIndicesGiveTheirDefaults_data()
-{
-    QTest::addColumn<int>("screen");
-    QTest::addColumn<int>("window");
-    QTest::newRow("negative screen") << -1 << 0;
-    QTest::newRow("screen count") << 1 << 0;
-    QTest::newRow("negative window") << 0 << -1;
-    QTest::newRow("window count") << 0 << 1;
-    QTest::newRow("largest") << std::numeric_limits<int>::max() << std::numeric_limits<int>::max();
-}
-
-// Catches range tests that are off by one, among them a DeleteWindow that takes the count for an index.
-void tst_Walls::wrongIndicesGiveTheirDefaults()
-{
-    QFETCH(int, screen);
-    QFETCH(int, window);
-    const Fixture f;
-    f.wall->OpenWindow(0, LeftUpper, 1);
-    TestSupport::CompareWindowDefaults(*f.wall, screen, window);
-    QCOMPARE(f.wall->GetWindowCount(0), 1);
-    QCOMPARE(f.wall->GetWindowUserData(0, 0), QVariant(1));
-    if (screen == 0)
-        return;
-    TestSupport::CompareScreenDefaults(*f.wall, screen);
-    QCOMPARE(f.wall->GetMaxWindowZValue(screen), 1);
-}
-
-void tst_Walls::screensNeedAGrid()
-{
-    QFETCH_GLOBAL(int, family);
-    const auto announce = [family](const char* counts) {
-        const char* name = family == Wall::DisplayMode ? "KvTVWallDisplayWnd" : "KvTVWallNormalWnd";
-        const QString text = QStringLiteral("---KvGUI--- %1::AddScreen: %2");
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(text.arg(QLatin1String(name), QLatin1String(counts))));
-    };
-    Wall wall;
-    wall.SetShowMode(family);
-    announce("iRows = 0, iCols = 0");
-    QCOMPARE(wall.AddScreen(Whole, QVariant()), -1);
-    wall.SetTVWallGridCount(3, 0);
-    announce("iRows = 3, iCols = 0");
-    QCOMPARE(wall.AddScreen(Whole, QIcon(), QString(), QVariant()), -1);
-    QCOMPARE(wall.GetScreenCount(), 0);
-    wall.SetTVWallGridCount(3, 1);
-    QCOMPARE(wall.AddScreen(Whole, 5), 0);
-    QVERIFY(!wall.GetScreenUserData(0).isValid()); // the short form drops it
-    QCOMPARE(wall.AddScreen(Whole, QIcon(), QString(), 5), 1);
-    QCOMPARE(wall.GetScreenUserData(1), QVariant(5));
-    QVERIFY(wall.DeleteAllScreen());
-    QVERIFY(wall.DeleteAllScreen());
-    QCOMPARE(wall.GetScreenCount(), 0);
-}
-
-void tst_Walls::indicesShift()
-{
-    const Fixture f;
-    for (int w = 0; w < 3; ++w)
-        QCOMPARE(f.wall->OpenWindow(0, LeftUpper, 10 + w), w);
-    QVERIFY(f.wall->DeleteWindow(0, 0));
-    QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(12));
-    f.wall->SetWindowUserData(0, 1, 22);
-    QCOMPARE(f.wall->GetWindowUserData(0, 0), QVariant(11));
-    QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(22));
-    QCOMPARE(f.wall->GetAllWindowIndexs(0), (QList<int>{0, 1}));
-    QCOMPARE(f.wall->OpenWindow(0, LeftUpper, QVariant()), 2);
-    f.wall->DeleteAllWindows();
-    QCOMPARE(f.wall->GetWindowCount(0), 0);
-    QCOMPARE(f.wall->GetMaxWindowZValue(0), 0);
-}
-
-// Catches pixels that are computed back into the rectangle.
-void tst_Walls::windowsFollowTheirScreen()
-{
-    const Rect scale{0.3333, 0.25, 0.6667, 0.75, true};
-    const Fixture f({scale});
-    QCOMPARE(f.Pixels(0), QRect(333, 150, 333, 300));
-    f.wall->resize(7, 5);
-    f.wall->resize(2000, 1200);
-    QCOMPARE(f.Pixels(0), QRect(667, 300, 667, 600));
-    QCOMPARE(f.Scale(0), scale);
-}
-
-void tst_Walls::precisionDecidesAboutChange()
-{
-    const Rect start{0.5, 0.5, 0.9, 0.9, true};
-    const Fixture f({start});
-    const double p = f.wall->GetWindowScalePrecision();
-    QVERIFY(f.wall->SetWindowScale(0, 0, {0.5 + p, 0.5 - p, 0.9 + p, 0.9 - p, true}));
-    QCOMPARE(f.changed.count(), 0);
-    QCOMPARE(f.Scale(0), start);
-    const Rect other{0.5, 0.5, 0.9, 0.9 + p + 0.0001, false};
-    QVERIFY(f.wall->SetWindowScale(0, 0, other));
-    QCOMPARE(f.changed.count(), 1);
-    QCOMPARE(f.changed.at(0).mid(0, 2), (QVariantList{0, 0}));
-    QCOMPARE(f.changed.at(0).at(2).value<Rect>(), other);
-}
-
-// Catches the current rectangle overwriting the one it is compared with, through a shared reference.
-void tst_Walls::aWindowsOwnRectangleMayBePassed()
-{
-    Fixture f({LeftUpper});
-    f.Press(0, "Max");
-    Rect rect = f.Scale(0);
-    connect(f.wall, &Wall::SignalWindowGeoChanged, f.wall, [&](int, int, const auto& changed) {
-        rect = Whole;
-        f.wall->SetWindowScale(0, 0, changed); // of the running emission
-    });
-    rect.dLeft = 0.3;
-    f.wall->SetWindowScale(0, 0, rect);
-    QCOMPARE(f.Scale(0), (Rect{0.3, 0.0, 1.0, 1.0, true}));
-}
-
-// Catches values that are stored and not seen: the click reaches the highest window.
-void tst_Walls::zValuesStackWindows()
-{
-    Fixture f({LeftUpper, {0.2, 0.2, 0.5, 0.6, true}, RightUpper});
-    const QPoint overlap(300, 200);
-    f.wall->SetWindowSelectionMode(Wall::SingleSelection);
-    for (int w = 0; w < 3; ++w)
-        f.wall->SetWindowZValue(0, w, w + 1, true);
-    f.mouse.Click(overlap);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{1});
-    f.wall->SetWindowZValue(0, 0, 7, true);
-    f.mouse.Click(overlap);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
-    QCOMPARE(f.wall->GetMaxWindowZValue(0), 7);
-}
-
-// Catches buttons that restore another rectangle, or that do not tell what they will do next.
-void tst_Walls::buttonsPlaceTheWindow()
-{
-    const Rect start{0.26, 0.1, 0.74, 0.6, true};
-    Fixture f({Fixed});
-    f.Press(0, "Max");
-    QCOMPARE(f.Scale(0), Whole); // editable now
-    QCOMPARE(f.Pixels(0), QRect(0, 0, 1000, 600));
-    QVERIFY(f.Button(0, "Max").isNull());
-    f.Press(0, "Restore");
-    QCOMPARE(f.Scale(0), Fixed);
-    f.wall->SetWindowScale(0, 0, start);
-    f.Press(0, "SelfAdaption");
-    QCOMPARE(f.Scale(0), Whole);
-    QVERIFY(f.Button(0, "SelfAdaption").isNull());
-    f.Press(0, "Max"); // restores what is snapped, too
-    QCOMPARE(f.Scale(0), start);
-    f.Press(0, "SelfAdaption");
-    f.Press(0, "Restore");
-    QCOMPARE(f.Scale(0), start);
-}
-
-void tst_Walls::settingEndsTheMaximisedState()
-{
-    Fixture f({LeftUpper});
-    f.Press(0, "Max");
-    bool endedInSlot = false;
-    connect(f.wall, &Wall::SignalWindowGeoChanged, f.wall, [&] {
-        endedInSlot = !f.Button(0, "Max").isNull(); // before the slot is called
-    });
-    f.wall->SetWindowScale(0, 0, RightUpper);
-    QVERIFY(endedInSlot);
-    f.Press(0, "Max");
-    f.Press(0, "Restore");
-    QCOMPARE(f.Scale(0), RightUpper);
-}
-
-// Catches a double-click whose two clicks report selections of their own.
-void tst_Walls::doubleClick()
-{
-    for (const bool editable : {true, false}) {
-        Fixture f({editable ? LeftUpper : Fixed});
-        const QSignalSpy doubleClicked(f.wall.data(), &Wall::SignalWindowDoubleClicked);
-        f.mouse.DoubleClick(f.OnVideo(0));
-        QCOMPARE(f.Scale(0), editable ? Whole : Fixed);
-        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
-        QCOMPARE(f.selected.count(), editable ? 1 : 0);
-        QCOMPARE(doubleClicked.count(), !editable && f.display ? 1 : 0);
-        QCOMPARE(f.screenSelected.count(), 1);
-    }
-}
-
-// Catches indices fixed at opening, and buttons of windows that are not editable.
-void tst_Walls::buttonsReport()
-{
-    Fixture f({Fixed, Fixed, RightUpper});
-    f.wall->DeleteWindow(0, 0);
-    const QSignalSpy close(f.wall.data(), &Wall::SignalWindowCloseBtnClicked);
-    const QSignalSpy volume(f.wall.data(), &Wall::SignalWindowVolumeBtnClicked);
-    for (const int window : {0, 1}) {
-        f.Press(window, "Close");
-        f.Press(window, "Open Volume");
-    }
-    for (const QSignalSpy* reported : {&close, &volume}) {
-        QCOMPARE(reported->count(), 1);
-        QCOMPARE(reported->at(0), (QVariantList{0, 1}));
-    }
-    QCOMPARE(f.wall->GetWindowCount(0), 2); // closing is the client's decision
-}
-
-void tst_Walls::volumeButtonFollowsItsState()
-{
-    const Fixture f({LeftUpper});
-    const QRect place = QRect(QPoint(), QSize(18, 18)).translated(f.Button(0, "Open Volume") - QPoint(9, 9));
-    const QImage off = f.wall->grab(place).toImage();
-    QVERIFY(f.wall->SetWindowVolumeBtn(0, 0, true));
-    QVERIFY(!f.Button(0, "Close Volume").isNull());
-    QVERIFY(f.wall->GetWindowVolumeBtnStatus(0, 0));
-    QVERIFY(f.wall->grab(place).toImage() != off); // another image
-    f.wall->SetWindowVolumeBtn(0, 0, false);
-    QVERIFY(f.wall->grab(place).toImage() == off);
-    f.wall->SetAudioBtnVisible(false);
-    QCOMPARE(f.Button(0, "Open Volume").isNull(), !f.display);
-}
-
-void tst_Walls::clickInMode_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<bool>("selectedBefore"); // the clicked window; the other one always is
-    QTest::addColumn<QList<int>>("selectedAfter");
-    using L = QList<int>;
-    QTest::newRow("0 left") << 0 << Qt::LeftButton << false << L{1};
-    QTest::newRow("1 left") << 1 << Qt::LeftButton << false << L{0};
-    QTest::newRow("1 right on unselected") << 1 << Qt::RightButton << false << L{0};
-    QTest::newRow("1 middle") << 1 << Qt::MiddleButton << false << L{1};
-    QTest::newRow("2 left") << 2 << Qt::LeftButton << false << L{0, 1};
-    QTest::newRow("2 left on selected") << 2 << Qt::LeftButton << true << L{1};
-    QTest::newRow("2 right on selected") << 2 << Qt::RightButton << true << L{0, 1};
-}
-
-// Catches a routine that runs twice a click and takes back what it did, signals without a change, and a drag
-// that selects.
-void tst_Walls::clickInMode()
-{
-    QFETCH(int, mode);
-    QFETCH(Qt::MouseButton, button);
-    QFETCH(bool, selectedBefore);
-    QFETCH(QList<int>, selectedAfter);
-    Fixture f({LeftUpper, RightUpper});
-    f.SelectScreen();
-    f.wall->SetWindowSelectionMode(Wall::SelectionMode(mode)); // 1 deselects all
-    f.wall->SetSelectedWindowIndexs(0, 1, true);
-    if (selectedBefore)
-        f.mouse.Click(f.OnVideo(0));
-    const QList<int> before = f.wall->GetSelectedWindowIndexs();
-    f.selected.clear();
-    f.screenSelected.clear();
-    f.mouse.Drag(f.OnVideo(0), f.OnVideo(0) + QPoint(1, 0));
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), before);
-    f.mouse.Click(f.OnVideo(0), button);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), selectedAfter);
-    QCOMPARE(f.selected.count(), before == selectedAfter ? 0 : 1);
-    QCOMPARE(f.clicked.count(), 0);
-    QCOMPARE(f.screenSelected.count(), 0); // it was selected
-    if (mode == 1 && button == Qt::LeftButton) { // again: no change left
-        f.mouse.Click(f.OnVideo(0), button);
-        QCOMPARE(f.selected.count(), 1);
-        QCOMPARE(f.clicked.count(), f.display ? 1 : 0);
-    }
-}
-
-void tst_Walls::pressOnEmptyPart()
-{
-    Fixture f({LeftUpper});
-    f.wall->AddScreen({0.5, 0.5, 1.0, 1.0}, QVariant());
-    f.wall->OpenWindow(1, LeftUpper, QVariant());
-    f.wall->SetSelectedWindowIndexs(0, 0, true);
-    f.wall->SetSelectedWindowIndexs(1, 0, true);
-    f.mouse.Click({5, 5});
-    f.mouse.Click({5, 5}, Qt::RightButton);
-    QCOMPARE(f.screenSelected.count(), 2); // each time
-    QCOMPARE(f.wall->GetSelectedScreenIndex(), 0);
-    QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
-    f.wall->SetWindowSelectionMode(Wall::MultiSelection);
-    f.mouse.Click({700, 310}); // the other screen, beside its window
-    QCOMPARE(f.wall->GetSelectedScreenIndex(), 1);
-    QCOMPARE(f.wall->GetUnSelectedWindowIndexs(), QList<int>{0}); // deselected with the screen's own loss
-    QCOMPARE(f.screenSelected.count(), 3);
-}
-
-void tst_Walls::selectionByCall()
-{
-    Fixture f({LeftUpper, LeftUpper, LeftUpper});
-    QVERIFY(f.wall->GetUnSelectedWindowIndexs().isEmpty()); // no screen is selected
-    f.SelectScreen();
-    f.wall->SetSelectedWindowIndexs(0, 0, true);
-    f.wall->SetSelectedWindowIndexs(0, 2, true);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{2});
-    QCOMPARE(f.wall->GetUnSelectedWindowIndexs(), (QList<int>{0, 1}));
-    f.wall->SetSelectedWindowIndexs(0, 0, false);
-    QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
-    f.wall->SetSelectedWindowIndexs(0, 0, true);
-    f.wall->SetWindowSelectionMode(Wall::MultiSelection);
-    QCOMPARE(f.wall->GetSelectedWindowIndexs().size(), 1);
-    f.wall->SetWindowSelectionMode(Wall::SingleSelection);
-    QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
-    QCOMPARE(f.selected.count(), 0);
-}
-
-void tst_Walls::bandSelects()
-{
-    Fixture f({LeftUpper, RightUpper, {0.1, 0.7, 0.4, 0.9, true}});
-    f.wall->SetWindowSelectionMode(Wall::MultiSelection);
-    f.mouse.Drag({950, 350}, {350, 250}); // backwards over the two upper windows
-    QCOMPARE(f.wall->GetSelectedWindowIndexs(), (QList<int>{0, 1}));
-    f.mouse.Drag({950, 350}, {960, 400}); // over nothing
-    QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
-    QCOMPARE(f.selected.count(), 1);
-    QCOMPARE(f.drawn.count(), 0);
-    const auto bands = f.wall->findChildren<QRubberBand*>();
-    QVERIFY(std::none_of(bands.begin(), bands.end(), [](auto* band) { return band->isVisible(); }));
-}
-
-void tst_Walls::areaIsDrawn_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<Rect>("area"); // empty: none
-    QTest::newRow("mode 0") << 0 << QPoint(600, 500) << Rect{0.5, 0.6, 0.6, 500 / 600.0, true};
-    QTest::newRow("mode 1, up and left") << 1 << QPoint(400, 300) << Rect{0.4, 0.5, 0.5, 0.6, true};
-    QTest::newRow("too flat") << 0 << QPoint(600, 362) << Rect();
-    QTest::newRow("band mode") << 2 << QPoint(600, 500) << Rect();
-    QTest::newRow("cut at the edge") << 0 << QPoint(5000, 5000) << Rect{0.5, 0.6, 0.999, 599 / 600.0, true};
-}
-
-// Catches areas of another button or mode, and one that Escape does not give up.
-void tst_Walls::areaIsDrawn()
-{
-    QFETCH(int, mode);
-    QFETCH(QPoint, to);
-    QFETCH(Rect, area);
-    Fixture f;
-    f.wall->SetWindowSelectionMode(Wall::SelectionMode(mode));
-    const QPoint from(500, 360);
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
-        f.mouse.Press(from, button);
-        f.mouse.Move(to);
-        f.mouse.Release(to, button);
-    }
-    f.mouse.Press(from);
-    f.mouse.Move(to);
-    QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape);
-    f.mouse.Release(to);
-    QCOMPARE(f.drawn.count(), area.bEditable ? 1 : 0);
-    if (area.bEditable)
-        QCOMPARE(f.drawn.at(0).at(1).value<Rect>(), area);
-}
-
-void tst_Walls::windowIsDragged_data()
-{
-    QTest::addColumn<Rect>("start");
-    QTest::addColumn<QPoint>("grip"); // in the window
-    QTest::addColumn<QPoint>("way");
-    QTest::addColumn<bool>("toCells"); // by the Shift key, or by the screen
-    QTest::addColumn<Rect>("end");
-    const QPoint title(40, 12);
-    QTest::newRow("by its title") << LeftUpper << title << QPoint(50, 30) << false
-                                  << Rect{0.15, 0.15, 0.45, 0.55, true};
-    QTest::newRow("not out of the screen")
-        << LeftUpper << title << QPoint(5000, 5000) << false << Rect{0.7, 0.6, 1.0, 1.0, true};
-    QTest::newRow("by its corner") << LeftUpper << QPoint(298, 238) << QPoint(-100, -60) << false
-                                   << Rect{0.1, 0.1, 0.3, 0.4, true};
-    QTest::newRow("a fixed one") << Fixed << title << QPoint(50, 30) << false << Fixed;
-    QTest::newRow("no way at all") << LeftUpper << title << QPoint(0, 0) << false << LeftUpper;
-    QTest::newRow("to cells") << Rect{0.01, 0.01, 0.4, 0.4, true} << title << QPoint(530, 20) << true
-                              << Rect{0.5, 0.0, 1.0, 0.5, true};
-}
-
-void tst_Walls::windowIsDragged()
-{
-    QFETCH(Rect, start);
-    QFETCH(QPoint, grip);
-    QFETCH(QPoint, way);
-    QFETCH(bool, toCells);
-    QFETCH(Rect, end);
-    for (const bool byKey : {true, false}) {
-        Fixture f({start});
-        const QPoint from = f.Pixels(0).topLeft() + grip;
-        const bool shift = toCells && (byKey || f.display); // which knows no bound screens
-        f.wall->SetScreenFreeMode(0, shift || !toCells);
-        f.mouse.Drag(from, from + way, shift ? Qt::ShiftModifier : Qt::NoModifier);
-        QCOMPARE(f.Scale(0), end);
-        QCOMPARE(f.changed.count(), start == end ? 0 : 1);
-    }
-}
-
-// Catches a rectangle set before the release, and a drag that outlives Escape or the wall's hiding.
-void tst_Walls::dragMovesPixelsOnly()
-{
-    Fixture f({LeftUpper});
-    const QRect start(100, 60, 300, 240);
-    const QPoint press = f.OnTitle(0);
-    for (const bool byKey : {true, false}) {
-        f.mouse.Press(press);
-        f.mouse.Move(press + QPoint(50, 30));
-        QCOMPARE(f.Pixels(0), start.translated(50, 30));
-        QCOMPARE(f.Scale(0), LeftUpper);
-        if (byKey) {
-            QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape);
-        } else {
-            f.client.hide();
-            f.client.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&f.client));
-        }
-        f.mouse.Move(press + QPoint(90, 90));
-        QCOMPARE(f.Pixels(0), start);
-        f.mouse.Release(press + QPoint(90, 90));
-        QCOMPARE(f.Pixels(0), start);
-    }
-    QCOMPARE(f.changed.count(), 0);
-}
-
-// Catches a zoom about another point, and areas drawn on a zoomed wall as if it were not.
-void tst_Walls::wheelKeepsThePointUnderTheCursor()
-{
-    const Rect quarter{0.0, 0.0, 0.5, 0.5, true};
-    Fixture f({quarter});
-    const QPoint cursor(300, 200); // over the window
-    const auto within = [&] {
-        const QRect window = f.Pixels(0);
-        const QPointF point = cursor - window.topLeft();
-        return QPointF(point.x() / window.width(), point.y() / window.height());
-    };
-    const QPointF before = within();
-    for (const int angle : {120, 120, 120, -120})
-        f.mouse.Wheel(cursor, angle);
-    QVERIFY(f.Pixels(0).width() > 1000);
-    QVERIFY((within() - before).manhattanLength() < 0.01);
-    QCOMPARE(f.Scale(0), quarter);
-    f.wall->DeleteWindow(0, 0);
-    f.mouse.Drag({100, 100}, {400, 300});
-    QCOMPARE(f.drawn.count(), 1);
-    f.wall->OpenWindow(0, f.drawn.at(0).at(1).value<Rect>(), QVariant());
-    QVERIFY((f.Pixels(0).topLeft() - QPoint(100, 100)).manhattanLength() < 4);
-    QVERIFY((f.Pixels(0).bottomRight() - QPoint(400, 300)).manhattanLength() < 4);
-    for (int i = 0; i < 5; ++i)
-        f.mouse.Wheel(cursor, -120);
-    f.wall->RecoverEagleEye();
-    f.wall->OpenWindow(0, LeftUpper, QVariant());
-    QCOMPARE(f.Pixels(1), QRect(100, 60, 300, 240)); // the whole wall again
-}
-
-// Catches events that are reported twice, not at all, or for the screen below the window.
-void tst_Walls::eventsAreReported()
-{
-    Fixture f({LeftUpper});
-    QList<QEvent::Type> onScreen;
-    QList<QEvent::Type> onWindow;
-    connect(f.wall, &Wall::SignalScreenEvent, f.wall, [&](int, QEvent* event) {
-        onScreen << event->type();
-        if (event->type() == QEvent::DragEnter)
-            event->accept();
-    });
-    connect(f.wall, &Wall::SignalWindowEvent, f.wall, [&](int, int, QEvent* event) {
-        onWindow << event->type();
-        if (event->type() == QEvent::DragEnter)
-            event->accept();
-    });
-    const QSignalSpy menu(f.wall.data(), &Wall::SignalScreenRightClick);
-    for (const QPoint& at : {OnEmpty, f.OnVideo(0)}) {
-        f.mouse.Click(at, Qt::RightButton);
-        QCOMPARE(menu.count(), f.display ? 1 : 0); // a window's menu is not the screen's
-    }
-    QTest::keyClick(f.client.windowHandle(), Qt::Key_A);
-    f.mouse.Wheel(f.OnVideo(0), 120);
-    const QMimeData data;
-    for (const QPoint& at : {OnEmpty, f.OnVideo(0)}) {
-        QVERIFY(f.mouse.DragEnter(at, data));
-        f.mouse.Drop(at, data);
-    }
-    for (const QEvent::Type type :
-         {QEvent::ContextMenu, QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::KeyPress,
-          QEvent::KeyRelease, QEvent::Wheel, QEvent::DragEnter, QEvent::Drop})
-        QCOMPARE(onWindow.count(type), 1);
-    for (const QEvent::Type type : {QEvent::DragEnter, QEvent::Drop})
-        QCOMPARE(onScreen.count(type), 1);
-}
-
-// Catches overlays below a window, clicks that fall through them, and overlays that stay.
-void tst_Walls::overlaysAreShown()
-{
-    Fixture f({Whole});
-    for (const bool roll : {false, true}) {
-        std::vector<KvGUI::StructOSDInfo> infos(3, Overlay(roll));
-        QVERIFY(f.wall->SetScreenOSDInfo(0, infos));
-        f.wall->SetWindowZValue(0, 0, 9, true);
-        QCOMPARE(f.PixelAt(OnOverlay), qRgb(0, 120, 0));
-        const QSignalSpy pressed(f.wall.data(), &Wall::SignalWindowEvent);
-        const QSignalSpy label(f.wall.data(), &Wall::SignalLabelEvent);
-        f.mouse.Click(OnOverlay);
-        QCOMPARE(f.screenSelected.count() + pressed.count(), 0);
-        QCOMPARE(label.count(), f.display ? 2 : 0);
-        infos.clear();
-        f.wall->SetScreenOSDInfo(0, infos);
-        QVERIFY(f.PixelAt(OnOverlay) != qRgb(0, 120, 0));
-    }
-}
-
-void tst_Walls::selectionIsSeen()
-{
-    Fixture f({LeftUpper});
-    const QRgb screenFrame = qRgb(219, 221, 225);
-    QVERIFY(f.PixelAt({0, 300}) != screenFrame);
-    f.SelectScreen();
-    for (const QPoint& edge : {QPoint(0, 300), QPoint(999, 300), QPoint(300, 0), QPoint(300, 599)})
-        QCOMPARE(f.PixelAt(edge), screenFrame);
-    QCOMPARE(f.PixelAt({450, 30}), qRgb(33, 34, 37));
-    const QPoint onFrame = f.Pixels(0).bottomLeft() + QPoint(150, 0);
-    const QRgb unselected = f.PixelAt(onFrame);
-    f.wall->SetSelectedWindowIndexs(0, 0, true);
-    QVERIFY(f.PixelAt(onFrame) != unselected);
-    f.wall->SetSelectedWindowIndexs(0, 0, false);
-    QCOMPARE(f.PixelAt(onFrame), unselected);
-}
-
-void tst_Walls::skinChangeRestyles()
-{
-    Fixture f({LeftUpper});
-    const QPoint onTitle = f.Pixels(0).topLeft() + QPoint(150, 14);
-    QVERIFY(qGray(f.PixelAt(onTitle)) < 90);
-    KvGUI::SetSkinVersion(QStringLiteral("White"));
-    const QRgb white = f.PixelAt(onTitle);
-    KvGUI::SetSkinVersion(QStringLiteral("Black"));
-    QVERIFY(qGray(white) > 180);
-    QVERIFY(qGray(f.PixelAt(onTitle)) < 90);
-}
-
-namespace {
-
 struct Action
 {
     const char* name;
@@ -827,99 +228,643 @@ void DeleteLater()
 
 } // namespace
 
-void tst_Walls::slotsMayDeleteAnything_data()
+class tst_Walls : public QObject
 {
-    QTest::addColumn<int>("change");
-    QTest::addColumn<int>("occasion");
-    QFETCH_GLOBAL(int, family);
-    const int occasions = Occasions.size() - (family == Wall::DisplayMode ? 0 : DisplayOccasions);
-    for (int c = FirstOfWindows; c < Changes.size(); ++c) {
-        for (int o = 0; c != FirstThatAdds && o < occasions; ++o)
-            QTest::addRow("%s in %s", Changes.at(c).name, Occasions.at(o).name) << c << o;
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data()
+    {
+        QTest::addColumn<int>("family");
+        QTest::newRow("normal") << int(Wall::NormalMode);
+        QTest::newRow("display") << int(Wall::DisplayMode);
     }
-}
 
-// Catches any use of a window, screen or wall after its signal, and a wall that is gone before Qt has done
-// with the widget under the mouse; meant to be run under a sanitizer as well.
-void tst_Walls::slotsMayDeleteAnything()
-{
-    QFETCH(int, change);
-    QFETCH(int, occasion);
-    Fixture f({LeftUpper, RightUpper});
-    f.wall->SetWindowSelectionMode(Wall::MultiSelection);
-    int emissions = 0;
-    ConnectAll(f.wall, [&] {
-        ++emissions;
-        if (f.wall)
-            Changes.at(change).act(f);
-    });
-    Occasions.at(occasion).act(f);
-    DeleteLater();
-    QVERIFY(emissions > 0);
-    if (change > FirstOfWalls)
-        QVERIFY(!f.wall && f.client.findChildren<QWidget*>().isEmpty());
-    else if (change >= FirstOfScreens)
-        QCOMPARE(f.wall->GetScreenCount(), 0);
-}
-
-void tst_Walls::videosMayChangeTheWall_data()
-{
-    QTest::addColumn<int>("change");
-    QTest::addColumn<bool>("byWheel");
-    for (int c = 0; c < FirstOfWalls; ++c) {
-        QTest::addRow("%s at a resize", Changes.at(c).name) << c << false;
-        QTest::addRow("%s at a wheel", Changes.at(c).name) << c << true;
+    void initTestCase()
+    {
+        qRegisterMetaType<KvGUI::StructScaleRect>("KvGUI::StructScaleRect");
+        qRegisterMetaType<QEvent*>("QEvent*");
     }
-}
 
-// Catches lists of screens and windows that are walked while a video that gets another size changes them, and
-// windows forgotten in it; meant to be run under a sanitizer as well.
-void tst_Walls::videosMayChangeTheWall()
-{
-    QFETCH(int, change);
-    QFETCH(bool, byWheel);
-    Fixture f({LeftUpper, LeftUpper, LeftUpper});
-    f.wall->AddScreen({0.5, 0.5, 1.0, 1.0}, QVariant());
-    f.wall->OpenWindow(1, LeftUpper, QVariant());
-    f.wall->GetWindowWidget(0, 2);
-    const TestSupport::AtEvent atResize(
-        f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&] { Changes.at(change).act(f); });
-    byWheel ? f.mouse.Wheel({0, 0}, 120) : f.wall->resize(1500, 900);
-    DeleteLater();
-    QVERIFY(atResize.HasActed());
-    for (int w = 0; w < f.wall->GetWindowCount(0); ++w) {
-        if (f.wall->GetWindowWidget(0, w) != nullptr)
-            QCOMPARE(f.Pixels(w), QRect(150, 90, 450, 360));
+    void wrongIndicesGiveTheirDefaults_data()
+    {
+        TestSupport::Columns<int, int>("screen", "window");
+        QTest::newRow("negative screen") << -1 << 0;
+        QTest::newRow("screen count") << 1 << 0;
+        QTest::newRow("negative window") << 0 << -1;
+        QTest::newRow("window count") << 0 << 1;
+        QTest::newRow("largest") << std::numeric_limits<int>::max() << std::numeric_limits<int>::max();
     }
-}
 
-void tst_Walls::lostFocusMayChangeTheWall_data()
-{
-    QTest::addColumn<int>("occasion");
-    QTest::addColumn<int>("change");
-    for (int o = 0; o < FirstThatAdds; ++o) {
-        for (int c = 0; c < FirstThatAdds; ++c)
-            QTest::addRow("%s as %s", Changes.at(c).name, Changes.at(o).name) << o << c;
+    // Catches range tests that are off by one, among them a DeleteWindow that takes the count for an index.
+    void wrongIndicesGiveTheirDefaults()
+    {
+        QFETCH(int, screen);
+        QFETCH(int, window);
+        const Fixture f;
+        f.wall->OpenWindow(0, LeftUpper, 1);
+        TestSupport::CompareWindowDefaults(*f.wall, screen, window);
+        QCOMPARE(f.wall->GetWindowCount(0), 1);
+        QCOMPARE(f.wall->GetWindowUserData(0, 0), QVariant(1));
+        if (screen == 0)
+            return;
+        TestSupport::CompareScreenDefaults(*f.wall, screen);
+        QCOMPARE(f.wall->GetMaxWindowZValue(screen), 1);
     }
-}
 
-// Catches a deletion that goes on with what was deleted by the focus that it moves.
-void tst_Walls::lostFocusMayChangeTheWall()
-{
-    QFETCH(int, occasion);
-    QFETCH(int, change);
-    Fixture f({LeftUpper, RightUpper});
-    auto* edit = new QLineEdit(f.wall->GetWindowWidget(0, 0));
-    edit->show();
-    QApplication::setActiveWindow(&f.client);
-    f.mouse.Click(f.Pixels(0).topLeft() + QPoint(10, 36));
-    QVERIFY(edit->hasFocus());
-    const TestSupport::AtEvent atLoss(edit, QEvent::FocusOut, [&] { Changes.at(change).act(f); });
-    Changes.at(occasion).act(f);
-    QVERIFY(atLoss.HasActed());
-    DeleteLater();
-    QVERIFY(f.wall->findChild<QLineEdit*>() == nullptr);
-}
+    void screensNeedAGrid()
+    {
+        QFETCH_GLOBAL(int, family);
+        const auto announce = [family](const char* counts) {
+            const char* name = family == Wall::DisplayMode ? "KvTVWallDisplayWnd" : "KvTVWallNormalWnd";
+            const QString text = QStringLiteral("---KvGUI--- %1::AddScreen: %2");
+            QTest::ignoreMessage(
+                QtWarningMsg, qPrintable(text.arg(QLatin1String(name), QLatin1String(counts))));
+        };
+        Wall wall;
+        wall.SetShowMode(family);
+        announce("iRows = 0, iCols = 0");
+        QCOMPARE(wall.AddScreen(Whole, QVariant()), -1);
+        wall.SetTVWallGridCount(3, 0);
+        announce("iRows = 3, iCols = 0");
+        QCOMPARE(wall.AddScreen(Whole, QIcon(), QString(), QVariant()), -1);
+        QCOMPARE(wall.GetScreenCount(), 0);
+        wall.SetTVWallGridCount(3, 1);
+        QCOMPARE(wall.AddScreen(Whole, 5), 0);
+        QVERIFY(!wall.GetScreenUserData(0).isValid()); // the short form drops it
+        QCOMPARE(wall.AddScreen(Whole, QIcon(), QString(), 5), 1);
+        QCOMPARE(wall.GetScreenUserData(1), QVariant(5));
+        QVERIFY(wall.DeleteAllScreen());
+        QVERIFY(wall.DeleteAllScreen());
+        QCOMPARE(wall.GetScreenCount(), 0);
+    }
+
+    void indicesShift()
+    {
+        const Fixture f;
+        for (int w = 0; w < 3; ++w)
+            QCOMPARE(f.wall->OpenWindow(0, LeftUpper, 10 + w), w);
+        QVERIFY(f.wall->DeleteWindow(0, 0));
+        QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(12));
+        f.wall->SetWindowUserData(0, 1, 22);
+        QCOMPARE(f.wall->GetWindowUserData(0, 0), QVariant(11));
+        QCOMPARE(f.wall->GetWindowUserData(0, 1), QVariant(22));
+        QCOMPARE(f.wall->GetAllWindowIndexs(0), (QList<int>{0, 1}));
+        QCOMPARE(f.wall->OpenWindow(0, LeftUpper, QVariant()), 2);
+        f.wall->DeleteAllWindows();
+        QCOMPARE(f.wall->GetWindowCount(0), 0);
+        QCOMPARE(f.wall->GetMaxWindowZValue(0), 0);
+    }
+
+    // Catches pixels that are computed back into the rectangle.
+    void windowsFollowTheirScreen()
+    {
+        const Rect scale{0.3333, 0.25, 0.6667, 0.75, true};
+        const Fixture f({scale});
+        QCOMPARE(f.Pixels(0), QRect(333, 150, 333, 300));
+        f.wall->resize(7, 5);
+        f.wall->resize(2000, 1200);
+        QCOMPARE(f.Pixels(0), QRect(667, 300, 667, 600));
+        QCOMPARE(f.Scale(0), scale);
+    }
+
+    void precisionDecidesAboutChange()
+    {
+        const Rect start{0.5, 0.5, 0.9, 0.9, true};
+        const Fixture f({start});
+        const double p = f.wall->GetWindowScalePrecision();
+        QVERIFY(f.wall->SetWindowScale(0, 0, {0.5 + p, 0.5 - p, 0.9 + p, 0.9 - p, true}));
+        QCOMPARE(f.changed.count(), 0);
+        QCOMPARE(f.Scale(0), start);
+        const Rect other{0.5, 0.5, 0.9, 0.9 + p + 0.0001, false};
+        QVERIFY(f.wall->SetWindowScale(0, 0, other));
+        QCOMPARE(f.changed.count(), 1);
+        QCOMPARE(f.changed.at(0).mid(0, 2), (QVariantList{0, 0}));
+        QCOMPARE(f.changed.at(0).at(2).value<Rect>(), other);
+    }
+
+    // Catches the current rectangle overwriting the one it is compared with, through a shared reference.
+    void aWindowsOwnRectangleMayBePassed()
+    {
+        Fixture f({LeftUpper});
+        f.Press(0, "Max");
+        Rect rect = f.Scale(0);
+        connect(f.wall, &Wall::SignalWindowGeoChanged, f.wall, [&](int, int, const auto& changed) {
+            rect = Whole;
+            f.wall->SetWindowScale(0, 0, changed); // of the running emission
+        });
+        rect.dLeft = 0.3;
+        f.wall->SetWindowScale(0, 0, rect);
+        QCOMPARE(f.Scale(0), (Rect{0.3, 0.0, 1.0, 1.0, true}));
+    }
+
+    // Catches values that are stored and not seen: the click reaches the highest window.
+    void zValuesStackWindows()
+    {
+        Fixture f({LeftUpper, {0.2, 0.2, 0.5, 0.6, true}, RightUpper});
+        const QPoint overlap(300, 200);
+        f.wall->SetWindowSelectionMode(Wall::SingleSelection);
+        for (int w = 0; w < 3; ++w)
+            f.wall->SetWindowZValue(0, w, w + 1, true);
+        f.mouse.Click(overlap);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{1});
+        f.wall->SetWindowZValue(0, 0, 7, true);
+        f.mouse.Click(overlap);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
+        QCOMPARE(f.wall->GetMaxWindowZValue(0), 7);
+    }
+
+    // Catches buttons that restore another rectangle, or that do not tell what they will do next.
+    void buttonsPlaceTheWindow()
+    {
+        const Rect start{0.26, 0.1, 0.74, 0.6, true};
+        Fixture f({Fixed});
+        f.Press(0, "Max");
+        QCOMPARE(f.Scale(0), Whole); // editable now
+        QCOMPARE(f.Pixels(0), QRect(0, 0, 1000, 600));
+        QVERIFY(f.Button(0, "Max").isNull());
+        f.Press(0, "Restore");
+        QCOMPARE(f.Scale(0), Fixed);
+        f.wall->SetWindowScale(0, 0, start);
+        f.Press(0, "SelfAdaption");
+        QCOMPARE(f.Scale(0), Whole);
+        QVERIFY(f.Button(0, "SelfAdaption").isNull());
+        f.Press(0, "Max"); // restores what is snapped, too
+        QCOMPARE(f.Scale(0), start);
+        f.Press(0, "SelfAdaption");
+        f.Press(0, "Restore");
+        QCOMPARE(f.Scale(0), start);
+    }
+
+    void settingEndsTheMaximisedState()
+    {
+        Fixture f({LeftUpper});
+        f.Press(0, "Max");
+        bool endedInSlot = false;
+        connect(f.wall, &Wall::SignalWindowGeoChanged, f.wall, [&] {
+            endedInSlot = !f.Button(0, "Max").isNull(); // before the slot is called
+        });
+        f.wall->SetWindowScale(0, 0, RightUpper);
+        QVERIFY(endedInSlot);
+        f.Press(0, "Max");
+        f.Press(0, "Restore");
+        QCOMPARE(f.Scale(0), RightUpper);
+    }
+
+    // Catches a double-click whose two clicks report selections of their own.
+    void doubleClick()
+    {
+        for (const bool editable : {true, false}) {
+            Fixture f({editable ? LeftUpper : Fixed});
+            const QSignalSpy doubleClicked(f.wall.data(), &Wall::SignalWindowDoubleClicked);
+            f.mouse.DoubleClick(f.OnVideo(0));
+            QCOMPARE(f.Scale(0), editable ? Whole : Fixed);
+            QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
+            QCOMPARE(f.selected.count(), editable ? 1 : 0);
+            QCOMPARE(doubleClicked.count(), !editable && f.display ? 1 : 0);
+            QCOMPARE(f.screenSelected.count(), 1);
+        }
+    }
+
+    // Catches indices fixed at opening, and buttons of windows that are not editable.
+    void buttonsReport()
+    {
+        Fixture f({Fixed, Fixed, RightUpper});
+        f.wall->DeleteWindow(0, 0);
+        const QSignalSpy close(f.wall.data(), &Wall::SignalWindowCloseBtnClicked);
+        const QSignalSpy volume(f.wall.data(), &Wall::SignalWindowVolumeBtnClicked);
+        for (const int window : {0, 1}) {
+            f.Press(window, "Close");
+            f.Press(window, "Open Volume");
+        }
+        for (const QSignalSpy* reported : {&close, &volume}) {
+            QCOMPARE(reported->count(), 1);
+            QCOMPARE(reported->at(0), (QVariantList{0, 1}));
+        }
+        QCOMPARE(f.wall->GetWindowCount(0), 2); // closing is the client's decision
+    }
+
+    void volumeButtonFollowsItsState()
+    {
+        const Fixture f({LeftUpper});
+        const QRect place
+            = QRect(QPoint(), QSize(18, 18)).translated(f.Button(0, "Open Volume") - QPoint(9, 9));
+        const QImage off = f.wall->grab(place).toImage();
+        QVERIFY(f.wall->SetWindowVolumeBtn(0, 0, true));
+        QVERIFY(!f.Button(0, "Close Volume").isNull());
+        QVERIFY(f.wall->GetWindowVolumeBtnStatus(0, 0));
+        QVERIFY(f.wall->grab(place).toImage() != off); // another image
+        f.wall->SetWindowVolumeBtn(0, 0, false);
+        QVERIFY(f.wall->grab(place).toImage() == off);
+        f.wall->SetAudioBtnVisible(false);
+        QCOMPARE(f.Button(0, "Open Volume").isNull(), !f.display);
+    }
+
+    void clickInMode_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<Qt::MouseButton>("button");
+        QTest::addColumn<bool>("selectedBefore"); // the clicked window; the other one always is
+        QTest::addColumn<QList<int>>("selectedAfter");
+        using L = QList<int>;
+        QTest::newRow("0 left") << 0 << Qt::LeftButton << false << L{1};
+        QTest::newRow("1 left") << 1 << Qt::LeftButton << false << L{0};
+        QTest::newRow("1 right on unselected") << 1 << Qt::RightButton << false << L{0};
+        QTest::newRow("1 middle") << 1 << Qt::MiddleButton << false << L{1};
+        QTest::newRow("2 left") << 2 << Qt::LeftButton << false << L{0, 1};
+        QTest::newRow("2 left on selected") << 2 << Qt::LeftButton << true << L{1};
+        QTest::newRow("2 right on selected") << 2 << Qt::RightButton << true << L{0, 1};
+    }
+
+    // Catches a routine that runs twice a click and takes back what it did, signals without a change, and a
+    // drag that selects.
+    void clickInMode()
+    {
+        QFETCH(int, mode);
+        QFETCH(Qt::MouseButton, button);
+        QFETCH(bool, selectedBefore);
+        QFETCH(QList<int>, selectedAfter);
+        Fixture f({LeftUpper, RightUpper});
+        f.SelectScreen();
+        f.wall->SetWindowSelectionMode(Wall::SelectionMode(mode)); // 1 deselects all
+        f.wall->SetSelectedWindowIndexs(0, 1, true);
+        if (selectedBefore)
+            f.mouse.Click(f.OnVideo(0));
+        const QList<int> before = f.wall->GetSelectedWindowIndexs();
+        f.selected.clear();
+        f.screenSelected.clear();
+        f.mouse.Drag(f.OnVideo(0), f.OnVideo(0) + QPoint(1, 0));
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), before);
+        f.mouse.Click(f.OnVideo(0), button);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), selectedAfter);
+        QCOMPARE(f.selected.count(), before == selectedAfter ? 0 : 1);
+        QCOMPARE(f.clicked.count(), 0);
+        QCOMPARE(f.screenSelected.count(), 0); // it was selected
+        if (mode == 1 && button == Qt::LeftButton) { // again: no change left
+            f.mouse.Click(f.OnVideo(0), button);
+            QCOMPARE(f.selected.count(), 1);
+            QCOMPARE(f.clicked.count(), f.display ? 1 : 0);
+        }
+    }
+
+    void pressOnEmptyPart()
+    {
+        Fixture f({LeftUpper});
+        f.wall->AddScreen({0.5, 0.5, 1.0, 1.0}, QVariant());
+        f.wall->OpenWindow(1, LeftUpper, QVariant());
+        f.wall->SetSelectedWindowIndexs(0, 0, true);
+        f.wall->SetSelectedWindowIndexs(1, 0, true);
+        f.mouse.Click({5, 5});
+        f.mouse.Click({5, 5}, Qt::RightButton);
+        QCOMPARE(f.screenSelected.count(), 2); // each time
+        QCOMPARE(f.wall->GetSelectedScreenIndex(), 0);
+        QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
+        f.wall->SetWindowSelectionMode(Wall::MultiSelection);
+        f.mouse.Click({700, 310}); // the other screen, beside its window
+        QCOMPARE(f.wall->GetSelectedScreenIndex(), 1);
+        QCOMPARE(f.wall->GetUnSelectedWindowIndexs(), QList<int>{0}); // deselected with the screen's own loss
+        QCOMPARE(f.screenSelected.count(), 3);
+    }
+
+    void selectionByCall()
+    {
+        Fixture f({LeftUpper, LeftUpper, LeftUpper});
+        QVERIFY(f.wall->GetUnSelectedWindowIndexs().isEmpty()); // no screen is selected
+        f.SelectScreen();
+        f.wall->SetSelectedWindowIndexs(0, 0, true);
+        f.wall->SetSelectedWindowIndexs(0, 2, true);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{2});
+        QCOMPARE(f.wall->GetUnSelectedWindowIndexs(), (QList<int>{0, 1}));
+        f.wall->SetSelectedWindowIndexs(0, 0, false);
+        QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
+        f.wall->SetSelectedWindowIndexs(0, 0, true);
+        f.wall->SetWindowSelectionMode(Wall::MultiSelection);
+        QCOMPARE(f.wall->GetSelectedWindowIndexs().size(), 1);
+        f.wall->SetWindowSelectionMode(Wall::SingleSelection);
+        QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
+        QCOMPARE(f.selected.count(), 0);
+    }
+
+    void bandSelects()
+    {
+        Fixture f({LeftUpper, RightUpper, {0.1, 0.7, 0.4, 0.9, true}});
+        f.wall->SetWindowSelectionMode(Wall::MultiSelection);
+        f.mouse.Drag({950, 350}, {350, 250}); // backwards over the two upper windows
+        QCOMPARE(f.wall->GetSelectedWindowIndexs(), (QList<int>{0, 1}));
+        f.mouse.Drag({950, 350}, {960, 400}); // over nothing
+        QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
+        QCOMPARE(f.selected.count(), 1);
+        QCOMPARE(f.drawn.count(), 0);
+        const auto bands = f.wall->findChildren<QRubberBand*>();
+        QVERIFY(std::none_of(bands.begin(), bands.end(), [](auto* band) { return band->isVisible(); }));
+    }
+
+    void areaIsDrawn_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QPoint>("to");
+        QTest::addColumn<Rect>("area"); // empty: none
+        QTest::newRow("mode 0") << 0 << QPoint(600, 500) << Rect{0.5, 0.6, 0.6, 500 / 600.0, true};
+        QTest::newRow("mode 1, up and left") << 1 << QPoint(400, 300) << Rect{0.4, 0.5, 0.5, 0.6, true};
+        QTest::newRow("too flat") << 0 << QPoint(600, 362) << Rect();
+        QTest::newRow("band mode") << 2 << QPoint(600, 500) << Rect();
+        QTest::newRow("cut at the edge")
+            << 0 << QPoint(5000, 5000) << Rect{0.5, 0.6, 0.999, 599 / 600.0, true};
+    }
+
+    // Catches areas of another button or mode, and one that Escape does not give up.
+    void areaIsDrawn()
+    {
+        QFETCH(int, mode);
+        QFETCH(QPoint, to);
+        QFETCH(Rect, area);
+        Fixture f;
+        f.wall->SetWindowSelectionMode(Wall::SelectionMode(mode));
+        const QPoint from(500, 360);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+            f.mouse.Press(from, button);
+            f.mouse.Move(to);
+            f.mouse.Release(to, button);
+        }
+        f.mouse.Press(from);
+        f.mouse.Move(to);
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape);
+        f.mouse.Release(to);
+        QCOMPARE(f.drawn.count(), area.bEditable ? 1 : 0);
+        if (area.bEditable)
+            QCOMPARE(f.drawn.at(0).at(1).value<Rect>(), area);
+    }
+
+    void windowIsDragged_data()
+    {
+        QTest::addColumn<Rect>("start");
+        QTest::addColumn<QPoint>("grip"); // in the window
+        QTest::addColumn<QPoint>("way");
+        QTest::addColumn<bool>("toCells"); // by the Shift key, or by the screen
+        QTest::addColumn<Rect>("end");
+        const QPoint title(40, 12);
+        QTest::newRow("by its title")
+            << LeftUpper << title << QPoint(50, 30) << false << Rect{0.15, 0.15, 0.45, 0.55, true};
+        QTest::newRow("not out of the screen")
+            << LeftUpper << title << QPoint(5000, 5000) << false << Rect{0.7, 0.6, 1.0, 1.0, true};
+        QTest::newRow("by its corner")
+            << LeftUpper << QPoint(298, 238) << QPoint(-100, -60) << false << Rect{0.1, 0.1, 0.3, 0.4, true};
+        QTest::newRow("a fixed one") << Fixed << title << QPoint(50, 30) << false << Fixed;
+        QTest::newRow("no way at all") << LeftUpper << title << QPoint(0, 0) << false << LeftUpper;
+        QTest::newRow("to cells") << Rect{0.01, 0.01, 0.4, 0.4, true} << title << QPoint(530, 20) << true
+                                  << Rect{0.5, 0.0, 1.0, 0.5, true};
+    }
+
+    void windowIsDragged()
+    {
+        QFETCH(Rect, start);
+        QFETCH(QPoint, grip);
+        QFETCH(QPoint, way);
+        QFETCH(bool, toCells);
+        QFETCH(Rect, end);
+        for (const bool byKey : {true, false}) {
+            Fixture f({start});
+            const QPoint from = f.Pixels(0).topLeft() + grip;
+            const bool shift = toCells && (byKey || f.display); // which knows no bound screens
+            f.wall->SetScreenFreeMode(0, shift || !toCells);
+            f.mouse.Drag(from, from + way, shift ? Qt::ShiftModifier : Qt::NoModifier);
+            QCOMPARE(f.Scale(0), end);
+            QCOMPARE(f.changed.count(), start == end ? 0 : 1);
+        }
+    }
+
+    // Catches a rectangle set before the release, and a drag that outlives Escape or the wall's hiding.
+    void dragMovesPixelsOnly()
+    {
+        Fixture f({LeftUpper});
+        const QRect start(100, 60, 300, 240);
+        const QPoint press = f.OnTitle(0);
+        for (const bool byKey : {true, false}) {
+            f.mouse.Press(press);
+            f.mouse.Move(press + QPoint(50, 30));
+            QCOMPARE(f.Pixels(0), start.translated(50, 30));
+            QCOMPARE(f.Scale(0), LeftUpper);
+            if (byKey) {
+                QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape);
+            } else {
+                f.client.hide();
+                f.client.show();
+                QVERIFY(QTest::qWaitForWindowExposed(&f.client));
+            }
+            f.mouse.Move(press + QPoint(90, 90));
+            QCOMPARE(f.Pixels(0), start);
+            f.mouse.Release(press + QPoint(90, 90));
+            QCOMPARE(f.Pixels(0), start);
+        }
+        QCOMPARE(f.changed.count(), 0);
+    }
+
+    // Catches a zoom about another point, and areas drawn on a zoomed wall as if it were not.
+    void wheelKeepsThePointUnderTheCursor()
+    {
+        const Rect quarter{0.0, 0.0, 0.5, 0.5, true};
+        Fixture f({quarter});
+        const QPoint cursor(300, 200); // over the window
+        const auto within = [&] {
+            const QRect window = f.Pixels(0);
+            const QPointF point = cursor - window.topLeft();
+            return QPointF(point.x() / window.width(), point.y() / window.height());
+        };
+        const QPointF before = within();
+        for (const int angle : {120, 120, 120, -120})
+            f.mouse.Wheel(cursor, angle);
+        QVERIFY(f.Pixels(0).width() > 1000);
+        QVERIFY((within() - before).manhattanLength() < 0.01);
+        QCOMPARE(f.Scale(0), quarter);
+        f.wall->DeleteWindow(0, 0);
+        f.mouse.Drag({100, 100}, {400, 300});
+        QCOMPARE(f.drawn.count(), 1);
+        f.wall->OpenWindow(0, f.drawn.at(0).at(1).value<Rect>(), QVariant());
+        QVERIFY((f.Pixels(0).topLeft() - QPoint(100, 100)).manhattanLength() < 4);
+        QVERIFY((f.Pixels(0).bottomRight() - QPoint(400, 300)).manhattanLength() < 4);
+        for (int i = 0; i < 5; ++i)
+            f.mouse.Wheel(cursor, -120);
+        f.wall->RecoverEagleEye();
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+        QCOMPARE(f.Pixels(1), QRect(100, 60, 300, 240)); // the whole wall again
+    }
+
+    // Catches events that are reported twice, not at all, or for the screen below the window.
+    void eventsAreReported()
+    {
+        Fixture f({LeftUpper});
+        QList<QEvent::Type> onScreen;
+        QList<QEvent::Type> onWindow;
+        connect(f.wall, &Wall::SignalScreenEvent, f.wall, [&](int, QEvent* event) {
+            onScreen << event->type();
+            if (event->type() == QEvent::DragEnter)
+                event->accept();
+        });
+        connect(f.wall, &Wall::SignalWindowEvent, f.wall, [&](int, int, QEvent* event) {
+            onWindow << event->type();
+            if (event->type() == QEvent::DragEnter)
+                event->accept();
+        });
+        const QSignalSpy menu(f.wall.data(), &Wall::SignalScreenRightClick);
+        for (const QPoint& at : {OnEmpty, f.OnVideo(0)}) {
+            f.mouse.Click(at, Qt::RightButton);
+            QCOMPARE(menu.count(), f.display ? 1 : 0); // a window's menu is not the screen's
+        }
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_A);
+        f.mouse.Wheel(f.OnVideo(0), 120);
+        const QMimeData data;
+        for (const QPoint& at : {OnEmpty, f.OnVideo(0)}) {
+            QVERIFY(f.mouse.DragEnter(at, data));
+            f.mouse.Drop(at, data);
+        }
+        for (const QEvent::Type type :
+             {QEvent::ContextMenu, QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::KeyPress,
+              QEvent::KeyRelease, QEvent::Wheel, QEvent::DragEnter, QEvent::Drop})
+            QCOMPARE(onWindow.count(type), 1);
+        for (const QEvent::Type type : {QEvent::DragEnter, QEvent::Drop})
+            QCOMPARE(onScreen.count(type), 1);
+    }
+
+    // Catches overlays below a window, clicks that fall through them, and overlays that stay.
+    void overlaysAreShown()
+    {
+        Fixture f({Whole});
+        for (const bool roll : {false, true}) {
+            std::vector<KvGUI::StructOSDInfo> infos(3, Overlay(roll));
+            QVERIFY(f.wall->SetScreenOSDInfo(0, infos));
+            f.wall->SetWindowZValue(0, 0, 9, true);
+            QCOMPARE(f.PixelAt(OnOverlay), qRgb(0, 120, 0));
+            const QSignalSpy pressed(f.wall.data(), &Wall::SignalWindowEvent);
+            const QSignalSpy label(f.wall.data(), &Wall::SignalLabelEvent);
+            f.mouse.Click(OnOverlay);
+            QCOMPARE(f.screenSelected.count() + pressed.count(), 0);
+            QCOMPARE(label.count(), f.display ? 2 : 0);
+            infos.clear();
+            f.wall->SetScreenOSDInfo(0, infos);
+            QVERIFY(f.PixelAt(OnOverlay) != qRgb(0, 120, 0));
+        }
+    }
+
+    void selectionIsSeen()
+    {
+        Fixture f({LeftUpper});
+        const QRgb screenFrame = qRgb(219, 221, 225);
+        QVERIFY(f.PixelAt({0, 300}) != screenFrame);
+        f.SelectScreen();
+        for (const QPoint& edge : {QPoint(0, 300), QPoint(999, 300), QPoint(300, 0), QPoint(300, 599)})
+            QCOMPARE(f.PixelAt(edge), screenFrame);
+        QCOMPARE(f.PixelAt({450, 30}), qRgb(33, 34, 37));
+        const QPoint onFrame = f.Pixels(0).bottomLeft() + QPoint(150, 0);
+        const QRgb unselected = f.PixelAt(onFrame);
+        f.wall->SetSelectedWindowIndexs(0, 0, true);
+        QVERIFY(f.PixelAt(onFrame) != unselected);
+        f.wall->SetSelectedWindowIndexs(0, 0, false);
+        QCOMPARE(f.PixelAt(onFrame), unselected);
+    }
+
+    void skinChangeRestyles()
+    {
+        Fixture f({LeftUpper});
+        const QPoint onTitle = f.Pixels(0).topLeft() + QPoint(150, 14);
+        QVERIFY(qGray(f.PixelAt(onTitle)) < 90);
+        KvGUI::SetSkinVersion(QStringLiteral("White"));
+        const QRgb white = f.PixelAt(onTitle);
+        KvGUI::SetSkinVersion(QStringLiteral("Black"));
+        QVERIFY(qGray(white) > 180);
+        QVERIFY(qGray(f.PixelAt(onTitle)) < 90);
+    }
+
+    void slotsMayDeleteAnything_data()
+    {
+        TestSupport::Columns<int, int>("change", "occasion");
+        QFETCH_GLOBAL(int, family);
+        const int occasions = Occasions.size() - (family == Wall::DisplayMode ? 0 : DisplayOccasions);
+        for (int c = FirstOfWindows; c < Changes.size(); ++c) {
+            for (int o = 0; c != FirstThatAdds && o < occasions; ++o)
+                QTest::addRow("%s in %s", Changes.at(c).name, Occasions.at(o).name) << c << o;
+        }
+    }
+
+    // Catches any use of a window, screen or wall after its signal, and a wall that is gone before Qt has
+    // done with the widget under the mouse; meant to be run under a sanitizer as well.
+    void slotsMayDeleteAnything()
+    {
+        QFETCH(int, change);
+        QFETCH(int, occasion);
+        Fixture f({LeftUpper, RightUpper});
+        f.wall->SetWindowSelectionMode(Wall::MultiSelection);
+        int emissions = 0;
+        ConnectAll(f.wall, [&] {
+            ++emissions;
+            if (f.wall)
+                Changes.at(change).act(f);
+        });
+        Occasions.at(occasion).act(f);
+        DeleteLater();
+        QVERIFY(emissions > 0);
+        if (change > FirstOfWalls)
+            QVERIFY(!f.wall && f.client.findChildren<QWidget*>().isEmpty());
+        else if (change >= FirstOfScreens)
+            QCOMPARE(f.wall->GetScreenCount(), 0);
+    }
+
+    void videosMayChangeTheWall_data()
+    {
+        TestSupport::Columns<int, bool>("change", "byWheel");
+        for (int c = 0; c < FirstOfWalls; ++c) {
+            QTest::addRow("%s at a resize", Changes.at(c).name) << c << false;
+            QTest::addRow("%s at a wheel", Changes.at(c).name) << c << true;
+        }
+    }
+
+    // Catches lists of screens and windows that are walked while a video that gets another size changes them,
+    // and windows forgotten in it; meant to be run under a sanitizer as well.
+    void videosMayChangeTheWall()
+    {
+        QFETCH(int, change);
+        QFETCH(bool, byWheel);
+        Fixture f({LeftUpper, LeftUpper, LeftUpper});
+        f.wall->AddScreen({0.5, 0.5, 1.0, 1.0}, QVariant());
+        f.wall->OpenWindow(1, LeftUpper, QVariant());
+        f.wall->GetWindowWidget(0, 2);
+        const TestSupport::AtEvent atResize(
+            f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&] { Changes.at(change).act(f); });
+        byWheel ? f.mouse.Wheel({0, 0}, 120) : f.wall->resize(1500, 900);
+        DeleteLater();
+        QVERIFY(atResize.HasActed());
+        for (int w = 0; w < f.wall->GetWindowCount(0); ++w) {
+            if (f.wall->GetWindowWidget(0, w) != nullptr)
+                QCOMPARE(f.Pixels(w), QRect(150, 90, 450, 360));
+        }
+    }
+
+    void lostFocusMayChangeTheWall_data()
+    {
+        TestSupport::Columns<int, int>("occasion", "change");
+        for (int o = 0; o < FirstThatAdds; ++o) {
+            for (int c = 0; c < FirstThatAdds; ++c)
+                QTest::addRow("%s as %s", Changes.at(c).name, Changes.at(o).name) << o << c;
+        }
+    }
+
+    // Catches a deletion that goes on with what was deleted by the focus that it moves.
+    void lostFocusMayChangeTheWall()
+    {
+        QFETCH(int, occasion);
+        QFETCH(int, change);
+        Fixture f({LeftUpper, RightUpper});
+        auto* edit = new QLineEdit(f.wall->GetWindowWidget(0, 0));
+        edit->show();
+        QApplication::setActiveWindow(&f.client);
+        f.mouse.Click(f.Pixels(0).topLeft() + QPoint(10, 36));
+        QVERIFY(edit->hasFocus());
+        const TestSupport::AtEvent atLoss(edit, QEvent::FocusOut, [&] { Changes.at(change).act(f); });
+        Changes.at(occasion).act(f);
+        QVERIFY(atLoss.HasActed());
+        DeleteLater();
+        QVERIFY(f.wall->findChild<QLineEdit*>() == nullptr);
+    }
+};
 
 STRICT_TEST_MAIN(tst_Walls)
 #include "tst_walls.moc"

@@ -1,13 +1,11 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <Platform/Automation/WebEngine/Allowances.h>
 #include <Platform/Automation/WebEngine/PageBridge.h>
 
-#include <QApplication>
-#include <QEventLoop>
-#include <QPointer>
-#include <QTest>
-#include <QUrl>
+#include <QtTest>
+#include <QtWidgets>
 #include <memory>
 
 using WebEngine::Allowances;
@@ -18,121 +16,114 @@ class tst_webbridge : public QObject
     Q_OBJECT
 
 private slots:
-    void MayGoTo_data();
-    void MayGoTo();
-    void OneCallATurn();
-    void CallsDuringACall();
-    void TooManyCalls();
-    void SlotDeletesBridge();
-};
+    void MayGoTo_data()
+    {
+        TestSupport::Columns<QString, QStringList, bool>("url", "words", "allowed");
+        const QStringList none;
+        for (const char* usual :
+             {"http://a/", "https://a/", "HTTPS://a/", "file:///a", "data:text/html,a", "qrc:/a",
+              "about:blank", "about:srcdoc"})
+            QTest::newRow(usual) << QString::fromLatin1(usual) << none << true;
+        for (const char* other :
+             {"ftp://a/", "about:config", "chrome://gpu", "view-source:http://a/", "javascript:alert(1)",
+              "blob:http://a/1", "mailto:a@b", "httpx://a", "", "//a/b"})
+            QTest::newRow(*other ? other : "empty") << QString::fromLatin1(other) << none << false;
+        const QStringList words{
+            QStringLiteral("scheme:FTP"), QStringLiteral("downloads"), QStringLiteral("scheme:"),
+            QStringLiteral("something else")};
+        QTest::newRow("allowed") << QStringLiteral("ftp://a/") << words << true;
+        QTest::newRow("not the one allowed") << QStringLiteral("mailto:a@b") << words << false;
+        QTest::newRow("another word") << QStringLiteral("downloads:x") << words << false;
+    }
 
-void tst_webbridge::MayGoTo_data()
-{
-    QTest::addColumn<QString>("url");
-    QTest::addColumn<QStringList>("words");
-    QTest::addColumn<bool>("allowed");
-    const QStringList none;
-    for (const char* usual :
-         {"http://a/", "https://a/", "HTTPS://a/", "file:///a", "data:text/html,a", "qrc:/a", "about:blank",
-          "about:srcdoc"})
-        QTest::newRow(usual) << QString::fromLatin1(usual) << none << true;
-    for (const char* other :
-         {"ftp://a/", "about:config", "chrome://gpu", "view-source:http://a/", "javascript:alert(1)",
-          "blob:http://a/1", "mailto:a@b", "httpx://a", "", "//a/b"})
-        QTest::newRow(*other ? other : "empty") << QString::fromLatin1(other) << none << false;
-    const QStringList words{
-        QStringLiteral("scheme:FTP"), QStringLiteral("downloads"), QStringLiteral("scheme:"),
-        QStringLiteral("something else")};
-    QTest::newRow("allowed") << QStringLiteral("ftp://a/") << words << true;
-    QTest::newRow("not the one allowed") << QStringLiteral("mailto:a@b") << words << false;
-    QTest::newRow("another word") << QStringLiteral("downloads:x") << words << false;
-}
+    // Catches a scheme that passes for a likeness, and one that the application cannot allow.
+    void MayGoTo()
+    {
+        QFETCH(QString, url);
+        QFETCH(QStringList, words);
+        QFETCH(bool, allowed);
+        QCOMPARE(Allowances::FromWords(words).MayGoTo(QUrl(url)), allowed);
+    }
 
-// Catches a scheme that passes for a likeness, and one that the application cannot allow.
-void tst_webbridge::MayGoTo()
-{
-    QFETCH(QString, url);
-    QFETCH(QStringList, words);
-    QFETCH(bool, allowed);
-    QCOMPARE(Allowances::FromWords(words).MayGoTo(QUrl(url)), allowed);
-}
-
-// Catches calls that are passed on in one go, so that nothing else gets a turn, and reports that overtake.
-void tst_webbridge::OneCallATurn()
-{
-    PageBridge bridge;
-    QStringList seen;
-    connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) {
-        seen << name;
-        QTimer::singleShot(0, this, [&] { seen << QStringLiteral("turn"); });
-    });
-    int taken = 0;
-    connect(&bridge, &PageBridge::SignalTaken, this, [&](int count) { taken += count; });
-    bridge.Call(QStringLiteral("a"), QString());
-    bridge.Call(QStringLiteral("b"), QString());
-    bridge.Report(QStringLiteral("c"), QString());
-    QVERIFY(seen.isEmpty());
-    QTRY_COMPARE(seen.size(), 6);
-    const QString turn = QStringLiteral("turn");
-    QCOMPARE(
-        seen, QStringList({QStringLiteral("a"), turn, QStringLiteral("b"), turn, QStringLiteral("c"), turn}));
-    // The page is not told of the provider's own report.
-    QCOMPARE(taken, 2);
-}
-
-// Catches a call that comes in the middle of another one, when a slot runs a dialog.
-void tst_webbridge::CallsDuringACall()
-{
-    PageBridge bridge;
-    QStringList seen;
-    connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) {
-        seen << name + QLatin1Char('(');
-        bridge.Call(QStringLiteral("inner"), QString());
-        if (seen.size() > 2)
-            return;
-        QEventLoop dialog;
-        QTimer::singleShot(20, &dialog, &QEventLoop::quit);
-        dialog.exec();
-        seen << QStringLiteral(")");
-    });
-    bridge.Call(QStringLiteral("outer"), QString());
-    QTRY_VERIFY(seen.size() >= 3);
-    QCOMPARE(
-        seen.mid(0, 3),
-        QStringList({QStringLiteral("outer("), QStringLiteral(")"), QStringLiteral("inner(")}));
-}
-
-// Catches a render process that has been taken over and fills the client's memory.
-void tst_webbridge::TooManyCalls()
-{
-    PageBridge bridge;
-    int calls = 0;
-    connect(&bridge, &PageBridge::SignalCalled, this, [&] { ++calls; });
-    for (int i = 0; i < 100000; ++i)
+    // Catches calls that are passed on in one go, so that nothing else gets a turn, and reports that
+    // overtake.
+    void OneCallATurn()
+    {
+        PageBridge bridge;
+        QStringList seen;
+        connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) {
+            seen << name;
+            QTimer::singleShot(0, this, [&] { seen << QStringLiteral("turn"); });
+        });
+        int taken = 0;
+        connect(&bridge, &PageBridge::SignalTaken, this, [&](int count) { taken += count; });
         bridge.Call(QStringLiteral("a"), QString());
-    bridge.Report(QStringLiteral("last"), QString());
-    QString last;
-    connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) { last = name; });
-    QTRY_COMPARE(last, QStringLiteral("last"));
-    QVERIFY(calls >= 8 && calls < 1000);
-}
+        bridge.Call(QStringLiteral("b"), QString());
+        bridge.Report(QStringLiteral("c"), QString());
+        QVERIFY(seen.isEmpty());
+        QTRY_COMPARE(seen.size(), 6);
+        const QString turn = QStringLiteral("turn");
+        QCOMPARE(
+            seen,
+            QStringList({QStringLiteral("a"), turn, QStringLiteral("b"), turn, QStringLiteral("c"), turn}));
+        // The page is not told of the provider's own report.
+        QCOMPARE(taken, 2);
+    }
 
-// Catches a bridge that goes on after a slot of the client deleted it, and calls that come nevertheless.
-void tst_webbridge::SlotDeletesBridge()
-{
-    auto bridge = std::make_unique<PageBridge>();
-    const QPointer<PageBridge> alive(bridge.get());
-    int calls = 0;
-    connect(bridge.get(), &PageBridge::SignalCalled, this, [&] {
-        ++calls;
-        bridge.reset();
-    });
-    bridge->Call(QStringLiteral("initComplete"), QString());
-    bridge->Call(QStringLiteral("b"), QString());
-    QTRY_VERIFY(!alive);
-    QCoreApplication::processEvents();
-    QCOMPARE(calls, 1);
-}
+    // Catches a call that comes in the middle of another one, when a slot runs a dialog.
+    void CallsDuringACall()
+    {
+        PageBridge bridge;
+        QStringList seen;
+        connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) {
+            seen << name + QLatin1Char('(');
+            bridge.Call(QStringLiteral("inner"), QString());
+            if (seen.size() > 2)
+                return;
+            QEventLoop dialog;
+            QTimer::singleShot(20, &dialog, &QEventLoop::quit);
+            dialog.exec();
+            seen << QStringLiteral(")");
+        });
+        bridge.Call(QStringLiteral("outer"), QString());
+        QTRY_VERIFY(seen.size() >= 3);
+        QCOMPARE(
+            seen.mid(0, 3),
+            QStringList({QStringLiteral("outer("), QStringLiteral(")"), QStringLiteral("inner(")}));
+    }
+
+    // Catches a render process that has been taken over and fills the client's memory.
+    void TooManyCalls()
+    {
+        PageBridge bridge;
+        int calls = 0;
+        connect(&bridge, &PageBridge::SignalCalled, this, [&] { ++calls; });
+        for (int i = 0; i < 100000; ++i)
+            bridge.Call(QStringLiteral("a"), QString());
+        bridge.Report(QStringLiteral("last"), QString());
+        QString last;
+        connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) { last = name; });
+        QTRY_COMPARE(last, QStringLiteral("last"));
+        QVERIFY(calls >= 8 && calls < 1000);
+    }
+
+    // Catches a bridge that goes on after a slot of the client deleted it, and calls that come nevertheless.
+    void SlotDeletesBridge()
+    {
+        auto bridge = std::make_unique<PageBridge>();
+        const QPointer<PageBridge> alive(bridge.get());
+        int calls = 0;
+        connect(bridge.get(), &PageBridge::SignalCalled, this, [&] {
+            ++calls;
+            bridge.reset();
+        });
+        bridge->Call(QStringLiteral("initComplete"), QString());
+        bridge->Call(QStringLiteral("b"), QString());
+        QTRY_VERIFY(!alive);
+        QCoreApplication::processEvents();
+        QCOMPARE(calls, 1);
+    }
+};
 
 STRICT_TEST_MAIN(tst_webbridge)
 
