@@ -581,19 +581,6 @@ private slots:
         QTRY_COMPARE(Messages().at(0)->pos(), before + QPoint(200, 150));
     }
 
-    /// Catches messages that stay for ever, and objects that stay behind.
-    void MessagesGoInTime()
-    {
-        Window window;
-        KvMessageNotify::Instance()->SetDisplayTime(30);
-        Notify("Saved", &window);
-        const QPointer<NotificationPopup> message(Messages().at(0));
-        QTRY_VERIFY(message.isNull());
-        KvMessageNotify::Instance()->SetDisplayTime(-5);
-        Notify("Saved again", &window);
-        QTRY_COMPARE(Messages().size(), 0);
-    }
-
     /// Catches a message that goes while it is read.
     void PointerKeepsAMessage()
     {

@@ -321,7 +321,7 @@ private slots:
         }
     }
 
-    // Catches another order, a missing icon or another look of the menu.
+    // Catches another order, a missing icon or icons of another size.
     void TheMenuOffersSearchesInOrder()
     {
         const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
@@ -339,12 +339,7 @@ private slots:
                    QStringLiteral("-"), QStringLiteral("Human Body Image Search"), QStringLiteral("Cancel")};
             QCOMPARE(texts, expected);
             QCOMPARE(menu->objectName(), QStringLiteral("mainMenu"));
-            QVERIFY(menu->width() >= 220);
             QCOMPARE(menu->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, menu), 20);
-            QCOMPARE(
-                menu->styleSheet(),
-                QStringLiteral("QMenu::item:hover{background-color:#29465a;color:#bbbbbb}"
-                               "QMenu::item:selected{background-color:#29465a;color:#bbbbbb}"));
         });
         Press(*canvas, {100, 100}, Qt::RightButton);
         QCOMPARE(menus, 1);

@@ -171,21 +171,6 @@ private slots:
         QCOMPARE(groups->currentText(), QStringLiteral("Gates"));
     }
 
-    /// Catches a field that a screen reader cannot name.
-    void EveryFieldHasAName()
-    {
-        Client client;
-        int fields = 0;
-        for (QWidget* widget : client.page->findChildren<QWidget*>()) {
-            if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
-                continue;
-            ++fields;
-            const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), widget->metaObject()->className());
-        }
-        QVERIFY(fields >= 18);
-    }
-
     /// Catches a folder field that keeps the file by which the folder was chosen.
     void FolderComesFromAFile()
     {

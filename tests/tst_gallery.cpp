@@ -415,24 +415,6 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(client.SavedWindows(0), 3, 5 * AfterSaving);
     }
 
-    // Catches two windows that sound at once, and a button that cannot be switched off again.
-    void OneWindowSounds()
-    {
-        Client client(m_strLayout);
-        const auto press = [&](int screen, int window) {
-            const bool on = client.Wall()->GetWindowVolumeBtnStatus(screen, window);
-            const char* name = on ? "pWindowVolumeOnBtn" : "pWindowVolumeOffBtn";
-            QTest::mouseClick(client.Button(screen, window, name), Qt::LeftButton);
-        };
-        press(0, 1);
-        QVERIFY(client.Wall()->GetWindowVolumeBtnStatus(0, 1));
-        press(1, 0);
-        QVERIFY(!client.Wall()->GetWindowVolumeBtnStatus(0, 1));
-        QVERIFY(client.Wall()->GetWindowVolumeBtnStatus(1, 0));
-        press(1, 0);
-        QVERIFY(!client.Wall()->GetWindowVolumeBtnStatus(1, 0));
-    }
-
     // Catches stacking commands that only change numbers, or stack the wrong way round.
     void RaiseAndLower()
     {

@@ -72,30 +72,20 @@ private slots:
         }
     }
 
-    /// Catches a default that escapes the joining of lists.
-    void DefaultListIsJoined()
+    /// Catches a default that escapes the joining of lists, a joining that also turns other values into
+    /// texts, and a missing value that comes back as something valid.
+    void DefaultsAndOtherTypes()
     {
-        const QStringList list{QStringLiteral("a"), QStringLiteral("b")};
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, list), QVariant(QStringLiteral("a,b")));
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QStringList()), QVariant(QString()));
-    }
-
-    /// Catches a joining that also turns other values into texts.
-    void OtherTypesAreNotJoined()
-    {
-        const QVariantList list{1, 2};
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, list), QVariant(list));
         CIniFile file(Path());
-        file.WriteValue(kSection, kKey, QByteArray("\0\x01\xFF", 3));
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 0).toByteArray(), QByteArray("\0\x01\xFF", 3));
-    }
-
-    /// Catches a missing value that comes back as something valid.
-    void MissingValues()
-    {
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 42), QVariant(42));
+        const QStringList list{QStringLiteral("a"), QStringLiteral("b")};
+        QCOMPARE(file.ReadValue(kSection, kKey, list), QVariant(QStringLiteral("a,b")));
+        QCOMPARE(file.ReadValue(kSection, kKey, QStringList()), QVariant(QString()));
+        QCOMPARE(file.ReadValue(kSection, kKey, QVariantList{1, 2}), QVariant(QVariantList{1, 2}));
+        QCOMPARE(file.ReadValue(kSection, kKey, 42), QVariant(42));
         QVERIFY(!QIniFile(Path()).ReadValue(kSection, kKey).isValid());
         QVERIFY(!QFile::exists(Path()));
+        file.WriteValue(kSection, kKey, QByteArray("\0\x01\xFF", 3));
+        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 0).toByteArray(), QByteArray("\0\x01\xFF", 3));
     }
 
     /// Catches escapes in place of UTF-8, and a file of another hand that is read as Latin-1.

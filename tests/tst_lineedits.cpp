@@ -48,33 +48,23 @@ class TestLineEdits : public QObject
 private slots:
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
-    /// Catches an asterisk that keeps the height of the edit's birth.
-    void AsteriskFollowsTheHeight()
+    /// Catches a mark that keeps the height of the edit's birth, and a text that begins under it.
+    void MarksFollowTheHeight()
     {
-        CRequiredEdit edit;
-        const auto* symbol = edit.findChild<QLabel*>(QStringLiteral("CRequiredEdit--m_pSymbolRequired"));
-        edit.show();
-        for (const int height : {60, 34}) {
-            edit.resize(200, height);
-            QCOMPARE(symbol->height(), height);
-            QCOMPARE(symbol->pos(), QPoint(5, 0));
+        CRequiredEdit required;
+        KvLineEditEx marked;
+        for (QLineEdit* edit : {static_cast<QLineEdit*>(&required), static_cast<QLineEdit*>(&marked)}) {
+            const auto* mark = edit->findChild<QLabel*>();
+            edit->show();
+            for (const int height : {60, 34}) {
+                edit->resize(200, height);
+                QCOMPARE(mark->height(), height);
+                QCOMPARE(mark->pos(), QPoint(5, 0));
+            }
         }
-        QVERIFY(symbol->width() >= 10);
-        QCOMPARE(edit.textMargins(), QMargins(10, 0, 0, 0));
-    }
-
-    /// The same for the other marked edit.
-    void MarkerFollowsTheHeight()
-    {
-        KvLineEditEx edit;
-        const auto* marker = edit.findChild<QLabel*>();
-        edit.show();
-        for (const int height : {60, 34}) {
-            edit.resize(200, height);
-            QCOMPARE(marker->height(), height);
-            QCOMPARE(marker->pos(), QPoint(5, 0));
-        }
-        QCOMPARE(edit.textMargins(), QMargins(15, 0, 0, 0));
+        QVERIFY(required.findChild<QLabel*>()->width() >= 10);
+        QCOMPARE(required.textMargins(), QMargins(10, 0, 0, 0));
+        QCOMPARE(marked.textMargins(), QMargins(15, 0, 0, 0));
     }
 
     /// Catches a mark that keeps clicks from the edit below it.

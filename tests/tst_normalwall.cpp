@@ -302,23 +302,6 @@ private Q_SLOTS:
         QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
     }
 
-    // Catches a zoom step that goes on with its own size after a video has shown the whole wall again.
-    void videoEndsTheZoom()
-    {
-        Fixture f;
-        f.wall->AddScreen(Whole, QVariant());
-        f.wall->OpenWindow(0, LeftUpper, QVariant());
-        f.wall->OpenWindow(1, LeftUpper, QVariant());
-        const QWidget* last = f.wall->GetWindowWidget(1, 0);
-        const TestSupport::AtEvent atResize(
-            f.wall->GetWindowWidget(0, 0), QEvent::Resize, [&f] { f.wall->RecoverEagleEye(); });
-        f.mouse.Wheel({0, 0}, 120);
-        QVERIFY(atResize.HasActed());
-        QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
-        QCOMPARE(last->size(), QSize(296, 216));
-        QVERIFY(f.Overview() == nullptr);
-    }
-
     // Catches a list of windows that is walked while a video in another colour changes it; meant to be run
     // under a sanitizer as well.
     void videoOpensWindowsInANewLook()

@@ -253,20 +253,6 @@ private Q_SLOTS:
         QCOMPARE(z.Geometry(), QRect(0, 0, 800, 600));
     }
 
-    void wheelAtTheLimits()
-    {
-        Zoomable z;
-        z.mouse.Wheel({700, 500}, -120);
-        QCOMPARE(z.Geometry(), QRect(0, 0, 800, 600));
-        for (int i = 0; i < 10; ++i)
-            z.mouse.Wheel({799, 300}, 120);
-        QCOMPARE(z.Geometry().size(), QSize(8000, 6000));
-        QVERIFY(z.Geometry().contains(z.wall.rect()));
-        for (int i = 0; i < 10; ++i)
-            z.mouse.Wheel({0, 0}, -120);
-        QCOMPARE(z.Geometry(), QRect(0, 0, 800, 600));
-    }
-
     void zoomSurvivesAResize()
     {
         Zoomable z;

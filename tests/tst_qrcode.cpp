@@ -192,21 +192,6 @@ private Q_SLOTS:
         QCOMPARE(rest, 0);
     }
 
-    /// Catches a dialog that runs before it shows anything, or comes in another form.
-    void firstState()
-    {
-        const Fixture f;
-        QCOMPARE(f.dialog->size(), QSize(400, 300));
-        QCOMPARE(f.dialog->windowTitle(), QStringLiteral("Display QRcode"));
-        QVERIFY(f.Picture().isNull());
-        QVERIFY(!f.Timer()->isActive());
-        QCOMPARE(f.Timer()->interval(), 120000);
-        QVERIFY(!f.Timer()->isSingleShot());
-        Show(*f.dialog);
-        QCOMPARE(f.Label()->size(), QSize(200, 200));
-        QCOMPARE(f.Label()->parentWidget()->objectName(), QStringLiteral("wgtBk"));
-    }
-
     /// Catches a picture of another text, and one that is scaled again.
     void showsTheCode()
     {

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 #include "support/Text.h"
 
@@ -92,48 +93,41 @@ private slots:
         KvGUI::KvDir::SetCurrentPath(QString());
     }
 
-    /// Catches path parts in the wrong order.
+    void SkinPaths_data()
+    {
+        Columns<QString, QString, QString, QString, QString>(
+            "application", "skin", "module", "whole", "first");
+        QTest::newRow("plain") << "App"_s
+                               << "Skin2"_s
+                               << "Common"_s
+                               << ":/App/Common/Skin2/Common/%2.png"_s
+                               << ":/App/Common/Skin2/Common/%2.png"_s;
+        QTest::newRow("nested") << kApp << kDay << "Client/Maps"_s
+                                << ":/Test %2/Client/Maps/Day/Client/Maps/%2.png"_s
+                                << ":/Test %2/Client/Day/Client/Maps/%2.png"_s;
+        QTest::newRow("slash first") << kApp << kDay << "/a"_s
+                                     << ":/Test %2//a/Day//a/%2.png"_s
+                                     << ":/Test %2//Day//a/%2.png"_s;
+        QTest::newRow("place marks") << "%5%1"_s
+                                     << "100%3"_s
+                                     << "M%4"_s
+                                     << ":/%5%1/M%4/100%3/M%4/%2.png"_s
+                                     << ":/%5%1/M%4/100%3/M%4/%2.png"_s;
+    }
+
+    /// Catches path parts in the wrong order, the first part of a module path in place of the whole or the
+    /// other way round, and place marks filled one after the other: a name with "%1" would be filled as well.
     void SkinPaths()
     {
-        const QString file = "a.png"_s;
-        const QString module = "UICommonModule"_s;
-        KvGUI::SetAppName("App"_s);
-        KvGUI::SetSkinVersion("Skin2"_s);
-        const QString path = ":/App/UICommonModule/Skin2/UICommonModule/a.png"_s;
-        QCOMPARE(CommonFun::GetSkinPath(module, file), path);
-        QCOMPARE(XCM::GetSkinPath(module, file), path);
-        KvGUI::KvDir::SetCurrentPath("/opt/client"_s);
-        QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx(file)), "/opt/client/Skin/a.png"_s);
-    }
-
-    /// Catches the first part of a module path in place of the whole, or the other way round.
-    void SkinPathsOfNestedModules()
-    {
-        const QString nested = "Client/Maps"_s;
-        const QString file = "a.png"_s;
-        QCOMPARE(CommonFun::GetSkinPath(nested, file), ":/Test %2/Client/Maps/Day/Client/Maps/a.png"_s);
-        QCOMPARE(XCM::GetSkinPath(nested, file), ":/Test %2/Client/Day/Client/Maps/a.png"_s);
-        QCOMPARE(XCM::GetSkinPath("/a"_s, file), ":/Test %2//Day//a/a.png"_s);
-    }
-
-    /// Catches place marks filled one after the other: a name with "%1" would be filled as well.
-    void NamesAreNoPlaceMarks()
-    {
-        KvGUI::SetAppName("%5%1"_s);
-        KvGUI::SetSkinVersion("100%3"_s);
-        const QString path = ":/%5%1/M%4/100%3/M%4/%2.png"_s;
-        QCOMPARE(CommonFun::GetSkinPath("M%4"_s, "%2.png"_s), path);
-        QCOMPARE(XCM::GetSkinPath("M%4"_s, "%2.png"_s), path);
+        QFETCH(QString, application);
+        QFETCH(QString, skin);
+        QFETCH(QString, module);
+        KvGUI::SetAppName(application);
+        KvGUI::SetSkinVersion(skin);
+        QTEST(CommonFun::GetSkinPath(module, "%2.png"_s), "whole");
+        QTEST(XCM::GetSkinPath(module, "%2.png"_s), "first");
         KvGUI::KvDir::SetCurrentPath("/opt/%2"_s);
         QCOMPARE(QDir::cleanPath(CommonFun::GetSkinPathEx("%1"_s)), "/opt/%2/Skin/%1"_s);
-    }
-
-    /// Catches a namespace left in the file name, a sheet read as Latin-1, and a wrong folder.
-    void SheetIsNamedByTheClass()
-    {
-        const SampleWidget widget;
-        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-        QVERIFY(widget.styleSheet().contains(QChar(0x65E5)));
     }
 
     /// Catches the whole module path where its first part belongs.

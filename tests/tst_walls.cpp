@@ -358,22 +358,6 @@ private Q_SLOTS:
         QCOMPARE(f.Scale(0), (Rect{0.3, 0.0, 1.0, 1.0, true}));
     }
 
-    // Catches values that are stored and not seen: the click reaches the highest window.
-    void zValuesStackWindows()
-    {
-        Fixture f({LeftUpper, {0.2, 0.2, 0.5, 0.6, true}, RightUpper});
-        const QPoint overlap(300, 200);
-        f.wall->SetWindowSelectionMode(Wall::SingleSelection);
-        for (int w = 0; w < 3; ++w)
-            f.wall->SetWindowZValue(0, w, w + 1, true);
-        f.mouse.Click(overlap);
-        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{1});
-        f.wall->SetWindowZValue(0, 0, 7, true);
-        f.mouse.Click(overlap);
-        QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
-        QCOMPARE(f.wall->GetMaxWindowZValue(0), 7);
-    }
-
     // Catches buttons that restore another rectangle, or that do not tell what they will do next.
     void buttonsPlaceTheWindow()
     {
@@ -394,21 +378,6 @@ private Q_SLOTS:
         f.Press(0, "SelfAdaption");
         f.Press(0, "Restore");
         QCOMPARE(f.Scale(0), start);
-    }
-
-    void settingEndsTheMaximisedState()
-    {
-        Fixture f({LeftUpper});
-        f.Press(0, "Max");
-        bool endedInSlot = false;
-        connect(f.wall, &Wall::SignalWindowGeoChanged, f.wall, [&] {
-            endedInSlot = !f.Button(0, "Max").isNull(); // before the slot is called
-        });
-        f.wall->SetWindowScale(0, 0, RightUpper);
-        QVERIFY(endedInSlot);
-        f.Press(0, "Max");
-        f.Press(0, "Restore");
-        QCOMPARE(f.Scale(0), RightUpper);
     }
 
     // Catches a double-click whose two clicks report selections of their own.
