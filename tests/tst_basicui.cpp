@@ -152,6 +152,12 @@ private slots:
         QMouseEvent move(QEvent::MouseMove, to, bar->mapToGlobal(to), Qt::NoButton, held, Qt::NoModifier);
         QApplication::sendEvent(bar, &move);
         QTEST(dialog.pos() - before, "moved");
+        const QPoint there = dialog.pos();
+        QTest::mouseRelease(bar, pressed, Qt::NoModifier, to);
+        const QPoint further = bar->mapToGlobal(to) + QPoint(40, 40);
+        QMouseEvent late(QEvent::MouseMove, to, further, Qt::NoButton, held, Qt::NoModifier);
+        QApplication::sendEvent(bar, &late);
+        QCOMPARE(dialog.pos(), there);
     }
 
     /// Catches a long title that makes the dialog wider, and one that stays short when there is room again.

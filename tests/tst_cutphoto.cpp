@@ -633,6 +633,9 @@ private slots:
         canvas->SetSrcImage(PlacePicture(Source));
         canvas->SetPicMaxSize(150, 150);
         QCOMPARE(canvas->ChanageImageByAspectRatio(PlacePicture(Source)).size(), QSize(100, 75));
+        const auto plain = MakeCanvas<CCutDetailPhoto>();
+        plain->SetPicMaxSize(150, 150);
+        QCOMPARE(plain->ChanageImageByAspectRatio(PlacePicture(Source)).size(), QSize(100, 75));
         canvas->SetKeepAspectRatio(true);
         canvas->SetImageMaxCapacity(2000);
         QVERIFY(canvas->IsCutPhotoVaildWithNotify());

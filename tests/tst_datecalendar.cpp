@@ -93,11 +93,13 @@ struct Hand
             + View(1)->Days()->Month().toString(format);
     }
 
-    bool IsInRange(const QDate& day) const
+    /// What a screen reader is told of the day.
+    QString Told(const QDate& day) const
     {
-        const QModelIndex index = ViewOf(day)->Days()->IndexOf(day);
-        return index.data(Qt::AccessibleTextRole).toString().contains(QStringLiteral("range"));
+        return ViewOf(day)->Days()->IndexOf(day).data(Qt::AccessibleTextRole).toString();
     }
+
+    bool IsInRange(const QDate& day) const { return Told(day).contains(QStringLiteral("range")); }
 
     QWidget* calendar;
 };
@@ -300,6 +302,8 @@ private slots:
         QCOMPARE(band, view->property("rangeColor").value<QColor>());
         form.hand.Key(Qt::Key_Escape);
         QVERIFY(form.hand.IsInRange(QDate(2024, 1, 6)));
+        QVERIFY(form.hand.Told(January5).endsWith(QStringLiteral("start of the range")));
+        QVERIFY(form.hand.Told(February1).endsWith(QStringLiteral("end of the range")));
     }
 
     /// Catches a day too many or too few, and a click on a day out of reach that counts.
@@ -377,6 +381,7 @@ private slots:
         QVERIFY(!Range(*form.calendar).start.isValid());
         const QDate today = QDate::currentDate();
         QCOMPARE(form.hand.View(1)->Days()->Month(), MonthOf(today));
+        QVERIFY(form.hand.Told(today).endsWith(QStringLiteral("today")));
         form.hand.Click(MonthOf(today));
         QVERIFY(!Range(*form.calendar).start.isValid()); // this was a first click
         form.hand.Click(MonthOf(today));
@@ -554,6 +559,9 @@ private slots:
             const QModelIndex index = days->IndexOf(January5); // a Friday
             QCOMPARE(header(index.column()), locale.standaloneDayName(Qt::Friday, QLocale::ShortFormat));
             QCOMPARE(header(0), locale.standaloneDayName(locale.firstDayOfWeek(), QLocale::ShortFormat));
+            QCOMPARE(
+                days->headerData(index.column(), Qt::Horizontal, Qt::AccessibleTextRole).toString(),
+                locale.standaloneDayName(Qt::Friday, QLocale::LongFormat));
             QCOMPARE(index.data().toString(), locale.toString(5));
             QVERIFY(title->text().contains(locale.standaloneMonthName(1)));
             QCOMPARE(title->text().at(0).isDigit(), locale.language() == QLocale::Chinese);
@@ -680,6 +688,10 @@ private slots:
         QCOMPARE(form.button->text(), QStringLiteral("2024/01/20-2024/02/01"));
         QCOMPARE(Range(*form.button).start, At(January20, 0));
         QVERIFY(form.Calendar()->isVisible());
+        for (const bool times : {false, true}) {
+            form.button->SetTimeEditVisible(times);
+            QCOMPARE(form.Calendar()->findChild<QTimeEdit*>()->isVisible(), times);
+        }
         form.button->SetSelDate(At(February1, 8), At(January5, 9));
         QCOMPARE(form.button->text(), QStringLiteral("2024/01/05-2024/02/01"));
         form.button->SetRestrcitDateRange(3);

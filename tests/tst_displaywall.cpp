@@ -196,6 +196,18 @@ private Q_SLOTS:
         QCOMPARE(f.PixelAt({300, 300}), f.wall->WindowColor().rgb());
     }
 
+    // Catches a text that is not seen, and updates that are not held.
+    void videoIsSetByCall()
+    {
+        const Fixture f({LeftUpper});
+        const QWidget* video = f.wall->GetWindowWidget(0, 0);
+        const QImage without = f.wall->grab().toImage();
+        QVERIFY(f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("Connecting")));
+        QVERIFY(f.wall->grab().toImage() != without);
+        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, false));
+        QVERIFY(!video->updatesEnabled());
+    }
+
     // Catches the conduct of MDI windows: closing by key or call while the list still holds the window,
     // raising on click and activation, and window states.
     void nothingOfTheBaseClassActs()

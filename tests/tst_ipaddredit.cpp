@@ -200,8 +200,8 @@ private slots:
         QCOMPARE(form.address->text(), QStringLiteral("10.0.0.254"));
     }
 
-    /// Catches the window system's other clipboard, which has a way of its own into the edit.
-    void PastingByTheMiddleButton()
+    /// Catches the window system's other clipboard and what is dropped, which have ways of their own.
+    void PastingByTheMouse()
     {
         Form form;
         QVERIFY(QGuiApplication::clipboard()->supportsSelection());
@@ -209,6 +209,15 @@ private slots:
         QTest::mouseClick(form.Octet(2), Qt::MiddleButton);
         QCOMPARE(form.address->text(), QStringLiteral("10.0.0.254"));
         QGuiApplication::clipboard()->clear(QClipboard::Selection);
+        for (const char* text : {"router", "172.16.0.1"}) {
+            QMimeData data;
+            data.setText(QString::fromLatin1(text));
+            QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(form.Octet(1), &enter);
+            QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(form.Octet(1), &drop);
+        }
+        QCOMPARE(form.address->text(), QStringLiteral("172.16.0.1"));
     }
 
     void SettingText_data()

@@ -221,7 +221,7 @@ private slots:
     {
         const KvGUI::KvPushButton plain(QStringLiteral("Plain"));
         const KvImpPushButton important(QStringLiteral("Save"));
-        const WmNoImpPushButton other(QIcon(), QStringLiteral("Cancel"));
+        const WmNoImpPushButton other(QStringLiteral("Cancel"));
         QCOMPARE(important.text(), QStringLiteral("Save"));
         QCOMPARE(other.text(), QStringLiteral("Cancel"));
         QVERIFY(important.styleSheet() != plain.styleSheet());

@@ -393,6 +393,21 @@ private Q_SLOTS:
         QCOMPARE(shapeAt({20, 580}), Qt::ArrowCursor);
     }
 
+    // Catches a frame that moves the window, and one normalised on its way or told in pixels.
+    void positioningFrame()
+    {
+        Fixture f({{0.1, 0.1, 0.9, 0.9, true}});
+        const QSignalSpy site(f.wall, &Wall::SignalWindow3DSite);
+        f.wall->SetSelectedScreenIndex(0);
+        f.wall->SetPtzFrameSelectedEnable(true);
+        f.mouse.Drag({500, 300}, {250, 150});
+        QCOMPARE(site, (QList<QVariantList>{{0, 4096, 4096, 2048, 2048}}));
+        QCOMPARE(f.Scale(0), (Rect{0.1, 0.1, 0.9, 0.9, true}));
+        f.wall->SetPtzFrameSelectedEnable(false);
+        f.mouse.Drag({500, 300}, {250, 150});
+        QCOMPARE(site.count(), 1);
+    }
+
     // Catches windows and buttons that only a mouse can reach, and a focus that never leaves the wall.
     void keyboard()
     {

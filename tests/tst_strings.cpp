@@ -5,6 +5,7 @@
 #include <Common/ByteBudget.h>
 #include <Common/CommonFun.h>
 #include <Common/QCommon.h>
+#include <QScreen>
 #include <QToolTip>
 #include <QtTest>
 #include <algorithm>
@@ -242,6 +243,12 @@ private slots:
             QCOMPARE(QToolTip::palette().color(group, QPalette::ToolTipText), colour);
         QCOMPARE(QToolTip::font().pointSize(), 11);
         QToolTip::hideText();
+    }
+
+    /// Catches a ratio that is not the screen's.
+    void RatioIsTheScreens()
+    {
+        QCOMPARE(QCommon::DevicePixelRatio(), QGuiApplication::primaryScreen()->devicePixelRatio());
     }
 
     void WhatATextSays_data()

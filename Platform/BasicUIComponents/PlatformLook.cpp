@@ -60,8 +60,3 @@ QPalette SkinPalette()
     const QString folder = SkinResourcePath(LibraryModule(), LibraryModule(), SubDir());
     return PaletteFromText(StyleSheetText(QStringLiteral("Palette.txt"), folder), QApplication::palette());
 }
-
-QString PlatformPicture(const QString& fileName)
-{
-    return SkinResourcePath(LibraryModule(), LibraryModule(), SubDir() + QLatin1Char('/') + fileName);
-}

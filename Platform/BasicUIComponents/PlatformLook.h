@@ -23,6 +23,3 @@ QPalette SkinPalette();
 
 /// @p base with the colours that the lines of @p text name.
 QPalette PaletteFromText(const QString& text, QPalette base);
-
-/// The resource path of the picture @p fileName in the skin's folder of this folder's widgets.
-QString PlatformPicture(const QString& fileName);

@@ -54,11 +54,10 @@ void KvLineEditWithDirButton::SetSaveFile(QString caption, QString directory, QS
 }
 
 void KvLineEditWithDirButton::SetSelectDirectory(
-    QString caption, QString directory, QFileDialog::Option option)
+    QString caption, QString directory, QFileDialog::Option /*option*/)
 {
     m_strCaption = std::move(caption);
     m_strDirectory = WithoutZeros(std::move(directory));
-    m_option = option;
 }
 
 void KvLineEditWithDirButton::resizeEvent(QResizeEvent* event)
@@ -91,18 +90,7 @@ QFileDialog* KvLineEditWithDirButton::MakeDialog()
 {
     auto* dialog = new QFileDialog(this, m_strCaption, m_strDirectory, m_strFilter);
     dialog->setSupportedSchemes({QStringLiteral("file")});
-    switch (m_iDialogMode) {
-    case SaveFile:
-        dialog->setAcceptMode(QFileDialog::AcceptSave);
-        break;
-    case SelectDirectory:
-        dialog->setFileMode(QFileDialog::Directory);
-        dialog->setOptions(m_option);
-        break;
-    default:
-        dialog->setFileMode(QFileDialog::ExistingFile);
-        break;
-    }
+    dialog->setFileMode(QFileDialog::ExistingFile);
     return dialog;
 }
 

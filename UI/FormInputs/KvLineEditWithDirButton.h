@@ -29,7 +29,10 @@ public:
     /// Stores the same as SetOpenFile().
     void SetSaveFile(QString caption, QString directory, QString filter);
 
-    /// Stores the dialog's caption, the folder it begins with, and an option for a folder dialog.
+    /// Stores the dialog's caption and the folder that it begins with.
+    /// @param caption of the dialog
+    /// @param directory that the dialog begins with; a file in it is preselected
+    /// @param option for a folder dialog; without effect on the one for a file
     void SetSelectDirectory(QString caption, QString directory, QFileDialog::Option option);
 
 protected:
@@ -40,22 +43,13 @@ private slots:
     void onDirButtonClicked();
 
 private:
-    enum DialogMode
-    {
-        OpenFile = 0,
-        SaveFile = 1,
-        SelectDirectory = 2
-    };
-
     void PlaceButton();
     QFileDialog* MakeDialog();
     QString AskForPath();
 
-    int m_iDialogMode = OpenFile;
     QString m_strCaption;
     QString m_strFilter;
     QString m_strDirectory;
-    QFileDialog::Option m_option = QFileDialog::ShowDirsOnly;
     QToolButton* m_btnDir;
 };
 
