@@ -1,5 +1,7 @@
 #include "JpegSamples.h"
 
+#include "JpegVectors.h"
+
 #include <algorithm>
 
 namespace UICommonMdl {
@@ -31,11 +33,35 @@ void FillRow(JpegPlane& plane, int y, int width)
 }
 
 /// Means of 2 x 2 samples; halves are rounded down and up in turns.
+JPEG_WIDE_VECTORS
 void HalveRows(const quint8* upper, const quint8* lower, int width, quint8* half)
 {
     for (int x = 0; x < width; ++x, upper += 2, lower += 2) {
         const int sum = upper[0] + upper[1] + lower[0] + lower[1];
         half[x] = static_cast<quint8>((sum + 1 + x % 2) >> 2);
+    }
+}
+
+/// Luminance and chrominances of a row; the three do not overlap.
+JPEG_WIDE_VECTORS
+void ConvertRow(
+    const QRgb* pixels, int width, quint8* __restrict luminance, quint8* __restrict blueness,
+    quint8* __restrict redness)
+{
+    for (int x = 0; x < width; ++x) {
+        // Factors and colours of 16 bits, some doubled for it, are multiplied eight or sixteen at a time.
+        const auto red = static_cast<qint16>(qRed(pixels[x]));
+        const auto green = static_cast<qint16>(qGreen(pixels[x]));
+        const auto blue = static_cast<qint16>(qBlue(pixels[x]));
+        const auto red2 = static_cast<qint16>(2 * red);
+        const auto green2 = static_cast<qint16>(2 * green);
+        const auto blue2 = static_cast<qint16>(2 * blue);
+        const int y = 19595 * red + 19235 * green2 + 7471 * blue + Half;
+        const int cb = 16384 * blue2 - 11059 * red - 21709 * green + ChromaOffset;
+        const int cr = 16384 * red2 - 27439 * green - 5329 * blue + ChromaOffset;
+        luminance[x] = static_cast<quint8>(y >> ColorBits);
+        blueness[x] = static_cast<quint8>(cb >> ColorBits);
+        redness[x] = static_cast<quint8>(cr >> ColorBits);
     }
 }
 
@@ -93,21 +119,7 @@ void JpegSamples::ConvertColored(int row, int bandRow)
     quint8* const blueness = m_blueness.Row(bandRow);
     quint8* const redness = m_redness.Row(bandRow);
     const int width = m_image.width();
-    for (int x = 0; x < width; ++x) {
-        // Factors and colours of 16 bits, some doubled for it, are multiplied eight at a time.
-        const auto red = static_cast<qint16>(qRed(pixels[x]));
-        const auto green = static_cast<qint16>(qGreen(pixels[x]));
-        const auto blue = static_cast<qint16>(qBlue(pixels[x]));
-        const auto red2 = static_cast<qint16>(2 * red);
-        const auto green2 = static_cast<qint16>(2 * green);
-        const auto blue2 = static_cast<qint16>(2 * blue);
-        const int y = 19595 * red + 19235 * green2 + 7471 * blue + Half;
-        const int cb = 16384 * blue2 - 11059 * red - 21709 * green + ChromaOffset;
-        const int cr = 16384 * red2 - 27439 * green - 5329 * blue + ChromaOffset;
-        luminance[x] = static_cast<quint8>(y >> ColorBits);
-        blueness[x] = static_cast<quint8>(cb >> ColorBits);
-        redness[x] = static_cast<quint8>(cr >> ColorBits);
-    }
+    ConvertRow(pixels, width, luminance, blueness, redness);
     for (JpegPlane* plane : {&m_luminance, &m_blueness, &m_redness})
         FillRow(*plane, bandRow, width);
 }

@@ -1,5 +1,7 @@
 #include "JpegTransform.h"
 
+#include "JpegVectors.h"
+
 namespace UICommonMdl {
 
 namespace {
@@ -82,6 +84,7 @@ Matrix Transposed(const Matrix& matrix)
 
 const std::array<quint8, JpegBlockSize> JpegZigzag = MakeZigzag();
 
+JPEG_WIDE_VECTORS
 JpegCoefficients JpegTransform(const quint8* samples, int stride)
 {
     Matrix columns; // rows first: a lane is a row of samples
