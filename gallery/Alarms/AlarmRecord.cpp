@@ -70,6 +70,18 @@ QDateTime TimeOf(const QVariant& cell)
                                              : QDateTime::fromString(cell.toString().trimmed(), TimeFormat);
 }
 
+/// The columns' titles, a list for each language of the client.
+QVector<QStringList> TitlesInEachLanguage()
+{
+    QVector<QStringList> titles(Language::Names().size());
+    for (const char* title : ColumnTitles) {
+        const QStringList translations = Language::InEach("OperatorClient::AlarmRecord", title);
+        for (int language = 0; language < titles.size(); ++language)
+            titles[language] << translations.at(language);
+    }
+    return titles;
+}
+
 } // namespace
 
 QStringList AlarmRecord::Columns()
@@ -82,12 +94,7 @@ QStringList AlarmRecord::Columns()
 
 bool AlarmRecord::AreColumns(const QStringList& texts)
 {
-    QVector<QStringList> titles(Language::Names().size());
-    for (const char* title : ColumnTitles) {
-        const QStringList translations = Language::InEach("OperatorClient::AlarmRecord", title);
-        for (int language = 0; language < titles.size(); ++language)
-            titles[language] << translations.at(language);
-    }
+    static const QVector<QStringList> titles = TitlesInEachLanguage(); // which reads files
     return std::any_of(titles.begin(), titles.end(), [&](const QStringList& columns) {
         return texts.mid(0, columns.size()) == columns;
     });
