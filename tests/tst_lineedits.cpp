@@ -3,6 +3,7 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
 
+#include <Platform/BasicUIComponents/KvSkin.h>
 #include <UI/FormInputs/CRequiredEdit.h>
 #include <UI/FormInputs/KvImpPushButton.h>
 #include <UI/FormInputs/KvLineEditEx.h>
@@ -11,6 +12,8 @@
 
 #include <QtTest>
 #include <QtWidgets>
+#include <algorithm>
+#include <cmath>
 #include <functional>
 
 using namespace UICommonMdl;
@@ -38,6 +41,24 @@ struct DialogAnswer
     QTimer timer;
     int shown = 0;
 };
+
+double Linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(const QColor& colour)
+{
+    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF())
+        + 0.0722 * Linear(colour.blueF());
+}
+
+/// Contrast ratio of two colours, 1 to 21.
+double Contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
 
 } // namespace
 
@@ -227,6 +248,44 @@ private slots:
         QVERIFY(important.styleSheet() != plain.styleSheet());
         QVERIFY(other.styleSheet() != plain.styleSheet());
         QVERIFY(important.styleSheet() != other.styleSheet());
+    }
+
+    void EmptyFieldDoesNotLookFilled_data()
+    {
+        const QString black = QStringLiteral("Black");
+        const QString white = QStringLiteral("White");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("then");
+        QTest::newRow("in the dark skin") << black << black;
+        QTest::newRow("after a change to the light skin") << black << white;
+        QTest::newRow("after a change to the dark skin") << white << black;
+    }
+
+    /// Catches a placeholder as strong as typed text, one in the colour of the skin before, one stronger than
+    /// the text of a disabled field, and one that cannot be read; also in a subclass, which has its own
+    /// sheet.
+    void EmptyFieldDoesNotLookFilled()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, then);
+        KvGUI::SetSkinVersion(first);
+        KvGUI::KvLineEdit plain;
+        KvLineEditWithDirButton path;
+        QLineEdit* const edits[] = {&plain, &path};
+        for (QLineEdit* edit : edits)
+            edit->show();
+        KvGUI::SetSkinVersion(then);
+        for (const QLineEdit* edit : edits) {
+            const QPalette colours = edit->palette();
+            const auto contrast = [&](QPalette::ColorRole role) {
+                return Contrast(colours.color(role), colours.color(QPalette::Base));
+            };
+            QVERIFY(contrast(QPalette::PlaceholderText) >= 4.5);
+            QVERIFY(contrast(QPalette::PlaceholderText) < contrast(QPalette::Text) / 1.5);
+            QCOMPARE(
+                colours.color(QPalette::Disabled, QPalette::PlaceholderText),
+                colours.color(QPalette::Disabled, QPalette::Text));
+        }
     }
 };
 

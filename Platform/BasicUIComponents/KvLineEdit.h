@@ -5,7 +5,7 @@
 
 namespace KvGUI {
 
-/// A line edit in the library's look, which follows the skin.
+/// A line edit in the library's look, which follows the skin. Its placeholder text is dimmer than typed text.
 ///
 /// A subclass may give itself another sheet with CommonFun::SetStyleSheet; where the skin has none for
 /// it, this class's look stays.
@@ -16,6 +16,9 @@ class UICOMPONENTS_EXPORT KvLineEdit : public QLineEdit
 public:
     explicit KvLineEdit(QWidget* parent = nullptr);
     explicit KvLineEdit(const QString& text, QWidget* parent = nullptr);
+
+protected:
+    bool event(QEvent* event) override;
 };
 
 } // namespace KvGUI
