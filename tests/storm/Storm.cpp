@@ -578,6 +578,9 @@ void Storm::SetProperty()
     const QMetaObject* owner = property.enclosingMetaObject();
     if (owner == &QFrame::staticMetaObject || owner == &QDialog::staticMetaObject)
         return;
+    // A line edit goes on typing into the mask that it had before it emitted inputRejected().
+    if (m_slotDepth > 0 && qstrcmp(property.name(), "inputMask") == 0)
+        return;
     const QMetaEnum keys = property.enumerator();
     const QVariant value = property.isEnumType()
         ? QVariant(keys.value(m_dice.Below(keys.keyCount())))
