@@ -123,6 +123,8 @@ private slots:
         CCutPhotoDlg plain;
         const auto check = [&](auto& tested) {
             tested.SetPhotoResolution(canvas.width(), canvas.height());
+            tested.SetDlgTitle(QStringLiteral("Crop"));
+            QCOMPARE(tested.windowTitle(), QStringLiteral("Crop"));
             QCOMPARE(tested.size(), dialog);
             auto* container = tested.template findChild<QWidget*>(QStringLiteral("canvasContainer"));
             QCOMPARE(container->size(), canvas);

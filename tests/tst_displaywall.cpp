@@ -160,6 +160,7 @@ private Q_SLOTS:
         QCOMPARE(f.wall->GetMaxWindowZValue(0), 5);
         QCOMPARE(Stacking(f), (QList<int>{0, 2, 3, 1}));
         // Of the two windows with 5 only the later one takes part; the lowest of the list is left in place.
+        f.wall->SetSelectedScreenIndex(0); // whose frame stays above
         f.wall->SetWindowZValue(0, 0, 5, true);
         QCOMPARE(f.wall->GetWindowZValue(0, 1), 4);
         QCOMPARE(Stacking(f), (QList<int>{2, 3, 1, 0}));
