@@ -10,6 +10,7 @@
 #include <gallery/Alarms/AlarmImport.h>
 #include <gallery/Alarms/AlarmTable.h>
 #include <gallery/FollowLanguage.h>
+#include <gallery/StartLabel.h>
 
 #include <QApplication>
 #include <QDir>
@@ -64,7 +65,7 @@ AlarmPage::AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent)
     m_pShown->setSourceModel(m_pAlarms);
     m_pShown->setFilterKeyColumn(-1); // all of them
     m_pShown->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    auto* title = FollowLanguage(new QLabel(this), "text", [this] { return AlarmPage::Title(); });
+    auto* title = FollowLanguage(new StartLabel(this), "text", [this] { return AlarmPage::Title(); });
     title->setObjectName(QStringLiteral("pageTitle"));
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(24, 20, 24, 12);

@@ -17,6 +17,7 @@
 #include <UI/FormInputs/WmNoImpPushButton.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/Forms/PasswordRating.h>
+#include <gallery/StartLabel.h>
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -92,10 +93,10 @@ QString StrengthName(int level)
 DevicePage::DevicePage(QWidget* parent)
     : Page(parent)
 {
-    auto* title = FollowLanguage(new QLabel(this), "text", [] { return tr("Device and account"); });
+    auto* title = FollowLanguage(new StartLabel(this), "text", [] { return tr("Device and account"); });
     title->setObjectName(QStringLiteral("pageTitle"));
     auto* hint = FollowLanguage(
-        new QLabel(this), "text", [] { return tr("Fields with an asterisk must be filled in."); });
+        new StartLabel(this), "text", [] { return tr("Fields with an asterisk must be filled in."); });
     hint->setObjectName(QStringLiteral("hint"));
     auto* left = new QVBoxLayout;
     left->setSpacing(16);

@@ -3,6 +3,7 @@
 #include <UI/Dialogs/CDisplayQRcodeDlg.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/Pairing/PairingToken.h>
+#include <gallery/StartLabel.h>
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -34,10 +35,10 @@ PairingPage::PairingPage(QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(24, 20, 24, 20);
     all->setSpacing(12);
-    auto* title = FollowLanguage(new QLabel(this), "text", [] { return tr("Pair a phone"); });
+    auto* title = FollowLanguage(new StartLabel(this), "text", [] { return tr("Pair a phone"); });
     title->setObjectName(QStringLiteral("pageTitle"));
     all->addWidget(title);
-    auto* hint = FollowLanguage(new QLabel(this), "text", [] {
+    auto* hint = FollowLanguage(new StartLabel(this), "text", [] {
         return tr("The phone scans a token that is good for a short time. While the code is shown, a new "
                   "one is issued at the end of each period.");
     });
@@ -45,9 +46,11 @@ PairingPage::PairingPage(QWidget* parent)
     hint->setWordWrap(true);
     all->addWidget(hint);
     AddInputs();
+    auto* issued = FollowLanguage(new StartLabel(this), "text", [] { return tr("Issued tokens"); });
+    issued->setObjectName(QStringLiteral("hint"));
+    all->addWidget(issued);
     m_pIssued->setReadOnly(true);
     FollowLanguage(m_pIssued, "accessibleName", [] { return tr("Issued tokens"); });
-    FollowLanguage(m_pIssued, "placeholderText", [] { return tr("Issued tokens"); });
     all->addWidget(m_pIssued, 1);
 
     connect(m_pDialog, &UICommonMdl::CDisplayQRcodeDlg::SignalRefreshTimeout, this, &PairingPage::Issue);

@@ -6,6 +6,7 @@
 #include <gallery/OperatorHand.h>
 #include <gallery/Photo/PhotoView.h>
 #include <gallery/Photo/Visitors.h>
+#include <gallery/StartLabel.h>
 #include <gallery/StoredText.h>
 
 #include <QApplication>
@@ -105,9 +106,9 @@ QWidget* PhotoPage::BuildPhotoSide()
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
-    auto* title = FollowLanguage(new QLabel(side), "text", [this] { return PhotoPage::Title(); });
+    auto* title = FollowLanguage(new StartLabel(side), "text", [this] { return PhotoPage::Title(); });
     title->setObjectName(QStringLiteral("pageTitle"));
-    m_pPhotoText = new QLabel(side);
+    m_pPhotoText = new StartLabel(side);
     m_pPhotoText->setObjectName(QStringLiteral("hint"));
     m_pPhotoText->setTextFormat(Qt::PlainText); // a file may have any name, of any length
     m_pPhotoText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

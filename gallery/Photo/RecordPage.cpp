@@ -11,6 +11,7 @@
 #include <gallery/FollowLanguage.h>
 #include <gallery/Photo/Visitors.h>
 #include <gallery/Pictures/PictureFit.h>
+#include <gallery/StartLabel.h>
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -81,9 +82,9 @@ RecordPage::RecordPage(const QString& folder, QWidget* parent)
     : Page(parent)
     , m_file(folder)
 {
-    auto* title = FollowLanguage(new QLabel(this), "text", [this] { return RecordPage::Title(); });
+    auto* title = FollowLanguage(new StartLabel(this), "text", [this] { return RecordPage::Title(); });
     title->setObjectName(QStringLiteral("pageTitle"));
-    auto* hint = FollowLanguage(new QLabel(this), "text", [] {
+    auto* hint = FollowLanguage(new StartLabel(this), "text", [] {
         return tr("Point at the picture for its buttons, or use the menu below it. "
                   "Pictures are cropped and kept below 100 kB.");
     });

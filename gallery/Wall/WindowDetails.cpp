@@ -1,6 +1,7 @@
 #include <gallery/Wall/WindowDetails.h>
 
 #include <gallery/FollowLanguage.h>
+#include <gallery/StartLabel.h>
 
 #include <UI/Dialogs/KvVolumeButton.h>
 
@@ -24,7 +25,7 @@ QString Pair(double one, double other)
 
 WindowDetails::WindowDetails(QWidget* parent)
     : QWidget(parent)
-    , m_pHeading(new QLabel(this))
+    , m_pHeading(new StartLabel(this))
     , m_pFacts(new QWidget(this))
 {
     m_pHeading->setObjectName(QStringLiteral("detailsHeading"));
