@@ -5,6 +5,7 @@
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <gallery/Alarms/AlarmPage.h>
 #include <gallery/Forms/DevicePage.h>
+#include <gallery/LastFolders.h>
 #include <gallery/Map/MapPage.h>
 #include <gallery/Pairing/PairingPage.h>
 #include <gallery/Photo/PhotoPage.h>
@@ -104,6 +105,7 @@ Client::Client(const ClientOptions& options)
         font.setPixelSize(FontOfPictures);
         QApplication::setFont(font);
     }
+    LastFolders::Remember(SettingsFile());
     m_language.Set(FirstLanguage());
     m_pWindow = std::make_unique<MainWindow>();
     m_pWindow->ShowLanguage(m_language.Name());
@@ -117,6 +119,7 @@ Client::~Client()
     m_pWindow->removeEventFilter(this);
     if (m_saveSoon.isActive())
         Save();
+    LastFolders::Remember({});
 }
 
 /// Pictures for a page of a document do not depend on the desktop.

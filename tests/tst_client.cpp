@@ -5,6 +5,7 @@
 
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/Client.h>
+#include <gallery/LastFolders.h>
 
 #include <QAccessible>
 #include <QAction>
@@ -275,6 +276,26 @@ private slots:
         }
         Client client(Options());
         QCOMPARE(client.Window().CurrentPage()->Name(), QStringLiteral("photo"));
+    }
+
+    // Catches file dialogs that start anew in the folder of the program after each start, one that takes the
+    // folder of another kind of file, and one that is sent to a folder that is gone.
+    void FoldersOfFileDialogsAreRemembered()
+    {
+        QTemporaryDir photos;
+        QTemporaryDir books;
+        {
+            const Client client(Options());
+            LastFolders::Note(FileUse::Photo, photos.filePath(QStringLiteral("a.png")));
+            LastFolders::Note(FileUse::Workbook, books.filePath(QStringLiteral("\u62a5\u8b66.csv")));
+            LastFolders::Note(FileUse::Photo, QString()); // cancelled
+        }
+        QCOMPARE(LastFolders::Of(FileUse::Photo), QString());
+        const Client again(Options());
+        QVERIFY(books.remove());
+        QCOMPARE(LastFolders::Of(FileUse::Photo), photos.path());
+        QCOMPARE(LastFolders::Of(FileUse::Cut), QString());
+        QCOMPARE(LastFolders::Of(FileUse::Workbook, photos.path()), photos.path());
     }
 
     void BrokenSettings_data()

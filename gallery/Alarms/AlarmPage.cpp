@@ -10,6 +10,7 @@
 #include <gallery/Alarms/AlarmImport.h>
 #include <gallery/Alarms/AlarmTable.h>
 #include <gallery/FollowLanguage.h>
+#include <gallery/LastFolders.h>
 #include <gallery/StartLabel.h>
 
 #include <QApplication>
@@ -52,7 +53,11 @@ QString WithSuffix(const QString& path, const QString& filter)
     return QFileInfo(path).suffix().isEmpty() ? path + suffix.captured(1) : path;
 }
 
-QString DocumentsFolder() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
+QString WorkbookFolder()
+{
+    return LastFolders::Of(
+        FileUse::Workbook, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
 
 } // namespace
 
@@ -197,9 +202,10 @@ void AlarmPage::AskForExport()
         return Tell(tr("No spreadsheet application was found."));
     QString filter;
     const QString path = QFileDialog::getSaveFileName(
-        this, tr("Export the alarms"), QDir(DocumentsFolder()).filePath(tr("Alarms")), filters, &filter);
+        this, tr("Export the alarms"), QDir(WorkbookFolder()).filePath(tr("Alarms")), filters, &filter);
     if (path.isEmpty())
         return;
+    LastFolders::Note(FileUse::Workbook, path);
     const QString target = WithSuffix(path, filter);
     // The dialog has asked about the typed name only.
     if (target == path || !QFileInfo::exists(target) || MayReplace(target))
@@ -254,7 +260,8 @@ void AlarmPage::CancelExport()
 void AlarmPage::AskForImport()
 {
     const QString path = QFileDialog::getOpenFileName(
-        this, tr("Import alarms"), DocumentsFolder(), tr("Workbooks (*.xlsx *.xls *.csv)"));
+        this, tr("Import alarms"), WorkbookFolder(), tr("Workbooks (*.xlsx *.xls *.csv)"));
+    LastFolders::Note(FileUse::Workbook, path);
     if (!path.isEmpty())
         Import(path);
 }

@@ -6,6 +6,7 @@
 #include <UI/CutPhoto/CCutPhotoDlgWithZoom.h>
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
 #include <gallery/FollowLanguage.h>
+#include <gallery/LastFolders.h>
 
 #include <QBuffer>
 #include <QFileDialog>
@@ -169,16 +170,19 @@ QImage PhotoCrop::Read(const QString& path, QWidget* parent)
 
 QString PhotoCrop::AskForFile(QWidget* parent)
 {
-    auto* dialog = new QFileDialog(parent, tr("Open a photo"), QString(), PictureFilter());
+    auto* dialog
+        = new QFileDialog(parent, tr("Open a photo"), LastFolders::Of(FileUse::Photo), PictureFilter());
     dialog->setFileMode(QFileDialog::ExistingFile);
-    return ChosenFile(dialog);
+    const QString path = ChosenFile(dialog);
+    LastFolders::Note(FileUse::Photo, path);
+    return path;
 }
 
 QString PhotoCrop::AskAndSave(const PhotoCut& cut, QWidget* parent)
 {
     // Not the dialog's static function, which would overwrite a file that it has not asked about: the one
     // with the suffix that the operator left out.
-    auto* dialog = new QFileDialog(parent, tr("Save the cut"));
+    auto* dialog = new QFileDialog(parent, tr("Save the cut"), LastFolders::Of(FileUse::Cut));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilter(tr("JPEG pictures (*.jpg *.jpeg)"));
     dialog->setDefaultSuffix(QStringLiteral("jpg"));
@@ -186,6 +190,7 @@ QString PhotoCrop::AskAndSave(const PhotoCut& cut, QWidget* parent)
     const QString path = ChosenFile(dialog);
     if (path.isEmpty())
         return {};
+    LastFolders::Note(FileUse::Cut, path);
     const bool saved = Save(cut, path);
     const QString name = QFileInfo(path).fileName();
     Tell(saved ? tr("Saved as \"%1\".").arg(name) : tr("\"%1\" cannot be written.").arg(name), parent);

@@ -3,6 +3,7 @@
 #include <Platform/BasicUIComponents/KvCheckBox.h>
 #include <Platform/BasicUIComponents/KvPushButton.h>
 #include <gallery/FollowLanguage.h>
+#include <gallery/LastFolders.h>
 #include <gallery/OperatorHand.h>
 #include <gallery/Photo/PhotoView.h>
 #include <gallery/Photo/Visitors.h>
@@ -132,7 +133,10 @@ QWidget* PhotoPage::BuildPhotoSide()
     column->addWidget(m_pView, 1);
     connect(open, &QPushButton::clicked, this, &PhotoPage::AskForFile);
     connect(drawn, &QPushButton::clicked, this, &PhotoPage::ShowDrawn);
-    connect(m_pView, &PhotoView::SignalFileDropped, this, &PhotoPage::OpenFile);
+    connect(m_pView, &PhotoView::SignalFileDropped, this, [this](const QString& path) {
+        LastFolders::Note(FileUse::Photo, path);
+        OpenFile(path);
+    });
     connect(m_pView, &PhotoView::SignalPictureDropped, this, [this](const QImage& picture) {
         if (!picture.isNull())
             ShowPhoto({tr("Dropped picture"), QString(), picture});

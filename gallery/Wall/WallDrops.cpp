@@ -1,5 +1,6 @@
 #include <gallery/Wall/WallDrops.h>
 
+#include <gallery/LastFolders.h>
 #include <gallery/Wall/CameraWall.h>
 #include <gallery/Wall/WallRules.h>
 
@@ -38,7 +39,11 @@ const QDropEvent* TakenDrop(QEvent& event, SourceSpec& source)
     if (!FirstSource(*drag.mimeData(), source))
         return nullptr;
     drag.acceptProposedAction();
-    return event.type() == QEvent::Drop ? &drag : nullptr;
+    if (event.type() != QEvent::Drop)
+        return nullptr;
+    LastFolders::Note(
+        source.kind == SourceSpec::Kind::Video ? FileUse::WallVideo : FileUse::WallPicture, source.path);
+    return &drag;
 }
 
 } // namespace

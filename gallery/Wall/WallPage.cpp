@@ -1,3 +1,4 @@
+#include <gallery/LastFolders.h>
 #include <gallery/Wall/WallPage.h>
 
 #include <UI/Dialogs/KvVolumeButton.h>
@@ -226,7 +227,9 @@ void WallPage::ShowMenu(int screen)
 
 void WallPage::OpenFile(const QString& title, const QString& filter, bool video)
 {
-    const QString path = QFileDialog::getOpenFileName(this, title, QString(), filter);
+    const FileUse use = video ? FileUse::WallVideo : FileUse::WallPicture;
+    const QString path = QFileDialog::getOpenFileName(this, title, LastFolders::Of(use), filter);
+    LastFolders::Note(use, path);
     if (path.isEmpty())
         return;
     const SourceSpec source = video ? SourceSpec::Video(path) : SourceSpec::Photo(path);
