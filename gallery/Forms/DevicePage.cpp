@@ -189,7 +189,7 @@ QWidget* DevicePage::StrengthRow(QWidget* parent)
     layout->setSpacing(12);
     m_pStrength = new UICommonMdl::CPasswordStrength(row);
     m_pStrength->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    m_pStrengthText = new QLabel(row);
+    m_pStrengthText = new StartLabel(row);
     m_pStrengthText->setObjectName(QStringLiteral("hint"));
     layout->addWidget(m_pStrength);
     layout->addWidget(m_pStrengthText, 1);
