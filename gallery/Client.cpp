@@ -22,7 +22,7 @@ namespace OperatorClient {
 namespace {
 
 // Screenshots show this moment, so that two runs give the same pictures.
-const QDateTime PictureMoment(QDate(2026, 3, 14), QTime(10, 24, 36));
+QDateTime PictureMoment() { return {QDate(2026, 3, 14), QTime(10, 24, 36)}; }
 
 constexpr int SampleAlarmCount = 20000;
 constexpr int SaveDelay = 300; // milliseconds after the last change
@@ -91,16 +91,17 @@ Client::Client(const ClientOptions& options)
     : m_options(options)
     , m_stored(SettingsFile(), QStringLiteral("Client"), QStringLiteral("State"))
 {
-    for (const QString& text : m_stored.Read()) {
+    const QStringList stored = m_stored.Read();
+    for (const QString& text : stored) {
         if (!text.isEmpty()) {
             m_state = ClientState::FromText(text);
             break;
         }
     }
     const QString skin = m_options.skin.isEmpty() ? m_state.skin : m_options.skin;
-    KvGUI::SetSkinVersion(SkinNames().contains(skin) ? skin : SkinNames().first());
+    KvGUI::SetSkinVersion(SkinNames().contains(skin) ? skin : SkinNames().constFirst());
     if (!m_options.screenshotFolder.isEmpty()) {
-        m_clock.Freeze(PictureMoment);
+        m_clock.Freeze(PictureMoment());
         QFont font = QApplication::font();
         font.setPixelSize(FontOfPictures);
         QApplication::setFont(font);
@@ -125,10 +126,10 @@ Client::~Client()
 /// Pictures for a page of a document do not depend on the desktop.
 QString Client::FirstLanguage() const
 {
-    const QString wanted = m_options.language.isEmpty() ? m_state.language : m_options.language;
+    QString wanted = m_options.language.isEmpty() ? m_state.language : m_options.language;
     if (Language::Names().contains(wanted))
         return wanted;
-    return m_options.screenshotFolder.isEmpty() ? Language::OfDesktop() : Language::Names().first();
+    return m_options.screenshotFolder.isEmpty() ? Language::OfDesktop() : Language::Names().constFirst();
 }
 
 QString Client::SettingsFile() const

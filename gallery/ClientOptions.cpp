@@ -80,7 +80,8 @@ bool ParseOptions(const QStringList& arguments, ClientOptions& options, QString&
     // The command line is in order; this answers --help, --help-all and --version.
     parser.process(arguments);
     if (!parser.positionalArguments().isEmpty()) {
-        error = Translated("What does \"%1\" mean? See --help.").arg(parser.positionalArguments().first());
+        error
+            = Translated("What does \"%1\" mean? See --help.").arg(parser.positionalArguments().constFirst());
         return false;
     }
     const QString skin = QStringLiteral("skin");

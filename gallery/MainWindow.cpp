@@ -61,8 +61,8 @@ QAction* MainWindow::AddKey(const QKeySequence& key)
 
 void MainWindow::AddKeys()
 {
-    m_pNext = AddKey(QKeySequence(Qt::CTRL | Qt::Key_PageDown));
-    m_pPrevious = AddKey(QKeySequence(Qt::CTRL | Qt::Key_PageUp));
+    m_pNext = AddKey(QKeySequence(Qt::CTRL + Qt::Key_PageDown));
+    m_pPrevious = AddKey(QKeySequence(Qt::CTRL + Qt::Key_PageUp));
     m_pSwitchArea = AddKey(QKeySequence(Qt::Key_F6));
     m_pKeys = AddKey(QKeySequence(Qt::Key_F1));
     connect(m_pNext, &QAction::triggered, this, [this] { Step(1); });

@@ -52,7 +52,7 @@ SideBar::SideBar(QWidget* parent)
     m_pFoot->setSpacing(2);
     all->addLayout(m_pFoot);
 
-    m_pSkin->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
+    m_pSkin->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
     addAction(m_pSkin);
     ShowTexts();
     AddFootButton(m_pSkin, QString());

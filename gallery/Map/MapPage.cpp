@@ -94,8 +94,9 @@ MapPage::MapPage(SourcePool& pool, FrameClock& clock, const QString& mapFile, QW
     m_wallChanged.setSingleShot(true);
     m_wallChanged.setInterval(0);
     connect(&m_wallChanged, &QTimer::timeout, this, &MapPage::SendWall);
-    for (const auto change : {&CameraWall::SignalChanged, &CameraWall::SignalSelectionChanged})
-        connect(m_pCameras, change, &m_wallChanged, QOverload<>::of(&QTimer::start));
+    const auto start = QOverload<>::of(&QTimer::start);
+    connect(m_pCameras, &CameraWall::SignalChanged, &m_wallChanged, start);
+    connect(m_pCameras, &CameraWall::SignalSelectionChanged, &m_wallChanged, start);
     connect(m_pCameras, &CameraWall::SignalReport, this, &Page::SignalReport);
     connect(
         KvGUI::KvSkinNotifier::Instance(), &KvGUI::KvSkinNotifier::SignalSkinChanged, this,

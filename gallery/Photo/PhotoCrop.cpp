@@ -130,7 +130,7 @@ QString ChosenFile(const QPointer<QFileDialog>& dialog)
     const bool chosen = dialog->exec() == QDialog::Accepted;
     if (dialog.isNull())
         return {};
-    const QString path = chosen ? dialog->selectedFiles().value(0) : QString();
+    QString path = chosen ? dialog->selectedFiles().value(0) : QString();
     delete dialog;
     return path;
 }

@@ -127,7 +127,7 @@ QWidget* RecordPage::BuildPhoto()
     AddPictureAction([] { return tr("&Read an ID card"); }, &RecordPage::ReadCard);
     m_pMenu->addSeparator();
     AddPictureAction([] { return tr("&Delete the picture\u2026"); }, &RecordPage::DeletePicture);
-    m_pDelete = m_pMenu->actions().last();
+    m_pDelete = m_pMenu->actions().constLast();
     m_pTurn = m_pMenu->addAction(QString(), this, &RecordPage::TurnPage);
     m_pMenuButton = FollowLanguage(new KvGUI::KvPushButton(side), "text", [] { return tr("&Picture"); });
     m_pMenuButton->setMenu(m_pMenu);
@@ -329,7 +329,7 @@ QVector<Page::Picture> RecordPage::Pictures()
          [this] {
              ShowVisitor(2);
              m_pMenu->popup(m_pMenuButton->mapToGlobal(m_pMenuButton->rect().bottomLeft()));
-             m_pMenu->setActiveAction(m_pMenu->actions().first());
+             m_pMenu->setActiveAction(m_pMenu->actions().constFirst());
          },
          [this] { m_pMenu->close(); }},
         {QStringLiteral("delete"),

@@ -11,6 +11,7 @@
 #include <gallery/Wall/WallSound.h>
 #include <gallery/Wall/WallTexts.h>
 
+#include <QEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 

@@ -5,6 +5,8 @@
 #include <gallery/Wall/WallSound.h>
 #include <gallery/Wall/WindowDetails.h>
 
+#include <QEvent>
+
 namespace OperatorClient {
 
 namespace {
