@@ -8,7 +8,8 @@ WallLayoutFile::WallLayoutFile(const QString& path)
 
 std::optional<WallLayout> WallLayoutFile::Read() const
 {
-    for (const QString& text : m_text.Read()) {
+    const QStringList stored = m_text.Read();
+    for (const QString& text : stored) {
         if (auto layout = WallLayout::FromText(text))
             return layout;
     }

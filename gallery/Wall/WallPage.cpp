@@ -25,7 +25,8 @@ constexpr int SaveDelay = 300; // milliseconds after the last change
 QString PictureFilter()
 {
     QStringList patterns;
-    for (const QByteArray& format : QImageReader::supportedImageFormats())
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    for (const QByteArray& format : formats)
         patterns << QStringLiteral("*.") + QString::fromLatin1(format);
     return WallPage::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
 }
