@@ -173,7 +173,7 @@ QString PhotoCrop::AskForFile(QWidget* parent)
     auto* dialog
         = new QFileDialog(parent, tr("Open a photo"), LastFolders::Of(FileUse::Photo), PictureFilter());
     dialog->setFileMode(QFileDialog::ExistingFile);
-    const QString path = ChosenFile(dialog);
+    QString path = ChosenFile(dialog);
     LastFolders::Note(FileUse::Photo, path);
     return path;
 }
