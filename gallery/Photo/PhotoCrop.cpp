@@ -7,6 +7,7 @@
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/LastFolders.h>
+#include <gallery/Pictures/StillPicture.h>
 
 #include <QBuffer>
 #include <QFileDialog>
@@ -115,14 +116,7 @@ bool HasPicture(const QDialog& dialog)
     return canvas != nullptr && canvas->GetCutPhoto().bHasImage;
 }
 
-QString PictureFilter()
-{
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray& format : formats)
-        patterns << QStringLiteral("*.") + QString::fromLatin1(format);
-    return PhotoCrop::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
-}
+QString PictureFilter() { return PhotoCrop::tr("Pictures (%1)").arg(StillPicture::FilePatterns()); }
 
 /// Runs the dialog and deletes it, unless its parent takes it along. @return empty when nothing was chosen
 QString ChosenFile(const QPointer<QFileDialog>& dialog)

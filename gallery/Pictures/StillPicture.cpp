@@ -38,6 +38,15 @@ StillPicture::StillPicture(const QString& path)
     , m_image(ReadPicture(path, m_strError))
 { }
 
+QString StillPicture::FilePatterns()
+{
+    QStringList patterns;
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    for (const QByteArray& format : formats)
+        patterns << QStringLiteral("*.") + QString::fromLatin1(format);
+    return patterns.join(QLatin1Char(' '));
+}
+
 QString StillPicture::Title() const { return QFileInfo(m_strPath).fileName(); }
 
 qint64 StillPicture::FrameNumber(const QDateTime& now) const

@@ -12,6 +12,9 @@ class StillPicture : public FrameSource
 public:
     explicit StillPicture(const QString& path);
 
+    /// Of the files that can be read, for a file dialog: "*.bmp *.gif ...".
+    static QString FilePatterns();
+
     QString Title() const override;
     qint64 FrameNumber(const QDateTime& now) const override;
     bool IsStill() const override { return true; }

@@ -3,6 +3,7 @@
 
 #include <UI/Dialogs/KvVolumeButton.h>
 #include <gallery/OperatorHand.h>
+#include <gallery/Pictures/StillPicture.h>
 #include <gallery/Wall/ScreenMenu.h>
 #include <gallery/Wall/ScreenNotes.h>
 #include <gallery/Wall/WallSound.h>
@@ -10,7 +11,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
-#include <QImageReader>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -22,14 +22,7 @@ using Command = WallToolBar::Command;
 
 constexpr int SaveDelay = 300; // milliseconds after the last change
 
-QString PictureFilter()
-{
-    QStringList patterns;
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const QByteArray& format : formats)
-        patterns << QStringLiteral("*.") + QString::fromLatin1(format);
-    return WallPage::tr("Pictures (%1)").arg(patterns.join(QLatin1Char(' ')));
-}
+QString PictureFilter() { return WallPage::tr("Pictures (%1)").arg(StillPicture::FilePatterns()); }
 
 QString VideoFilter()
 {
