@@ -2,44 +2,21 @@
 // against an event loop without a widget.
 
 #include "Ratio.h"
+#include "WakeUps.h"
 #include "Walls.h"
 
 #include <UI/TVWall/KvTVWallDisplayWnd.h>
 #include <UI/TVWall/KvTVWallNormalWnd.h>
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QTimer>
 
 namespace {
 
 using namespace Walls;
 
-constexpr int Watched = 2000; // milliseconds
-constexpr int Settling = 300; // until what a change has brought with it is done
-
-void RunEvents(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-/// The one that ends the watching is among them.
-int WakeUps()
-{
-    RunEvents(Settling);
-    int count = 0;
-    const auto counting = QObject::connect(
-        QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, [&count] { ++count; });
-    RunEvents(Watched);
-    QObject::disconnect(counting);
-    return count;
-}
-
 void PrintWakeUps(const QByteArray& name, int alone)
 {
-    Ratio::PrintRatio(("wake-ups/" + name).constData(), WakeUps(), alone, "wake-ups");
+    Ratio::PrintRatio(("wake-ups/" + name).constData(), WakeUps::Count(), alone, "wake-ups");
 }
 
 KvGUI::StructOSDInfo Rolling()
@@ -82,7 +59,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const int alone = WakeUps();
+    const int alone = WakeUps::Count();
     PrintWall<UICommonMdl::KvTVWallDisplayWnd>("", alone);
     PrintWall<UICommonMdl::KvTVWallNormalWnd>("normal-", alone);
     return 0;

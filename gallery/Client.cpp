@@ -58,32 +58,51 @@ Page* NewPhotoPage(const PageNeeds& needs)
     return page;
 }
 
-struct PageEntry
+Page* NewRecordPage(const PageNeeds& needs) { return new RecordPage(needs.recordFolder); }
+
+Page* NewPairingPage(const PageNeeds& needs)
+{
+    Q_UNUSED(needs)
+    return new PairingPage;
+}
+
+Page* NewAlarmPage(const PageNeeds& needs)
+{
+    return new AlarmPage(SampleAlarms(SampleAlarmCount, needs.clock.Now()));
+}
+
+Page* NewDevicePage(const PageNeeds& needs)
+{
+    Q_UNUSED(needs)
+    return new DevicePage;
+}
+
+struct Registered
 {
     const char* name;
-    Page* (*create)(const PageNeeds& needs);
+    QString (*title)();
+    Page* (*make)(const PageNeeds& needs);
 };
 
-const PageEntry Entries[] = {
-    {"wall", NewWallPage},
-    {"map", NewMapPage},
-    {"photo", NewPhotoPage},
-    {"record", [](const PageNeeds& needs) -> Page* { return new RecordPage(needs.recordFolder); }},
-    {"pairing", [](const PageNeeds&) -> Page* { return new PairingPage; }},
-    {"alarms",
-     [](const PageNeeds& needs) -> Page* {
-         return new AlarmPage(SampleAlarms(SampleAlarmCount, needs.clock.Now()));
-     }},
-    {"device", [](const PageNeeds&) -> Page* { return new DevicePage; }},
+// clang-format off
+const Registered Registry[] = {
+    {"wall", WallPage::Title, NewWallPage},
+    {"map", MapPage::Title, NewMapPage},
+    {"photo", PhotoPage::Title, NewPhotoPage},
+    {"record", RecordPage::Title, NewRecordPage},
+    {"pairing", PairingPage::Title, NewPairingPage},
+    {"alarms", AlarmPage::Title, NewAlarmPage},
+    {"device", DevicePage::Title, NewDevicePage},
 };
+// clang-format on
 
 } // namespace
 
 QStringList PageNames()
 {
     QStringList names;
-    for (const PageEntry& entry : Entries)
-        names << QString::fromLatin1(entry.name);
+    for (const Registered& page : Registry)
+        names << QString::fromLatin1(page.name);
     return names;
 }
 
@@ -111,7 +130,8 @@ Client::Client(const ClientOptions& options)
     m_pWindow = std::make_unique<MainWindow>();
     m_pWindow->ShowLanguage(m_language.Name());
     AddPages();
-    m_pWindow->ShowPage(m_options.page.isEmpty() ? m_state.page : m_options.page);
+    if (!m_pWindow->ShowPage(m_options.page.isEmpty() ? m_state.page : m_options.page))
+        m_pWindow->ShowPage(0);
     Remember();
 }
 
@@ -146,8 +166,9 @@ void Client::AddPages()
     const PageNeeds needs{
         m_pool, m_clock, m_options, SettingsFile(),
         pictures ? m_pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder()};
-    for (const PageEntry& entry : Entries)
-        m_pWindow->AddPage(entry.create(needs));
+    for (const Registered& page : Registry)
+        m_pWindow->AddPage(
+            {QString::fromLatin1(page.name), page.title, [make = page.make, needs] { return make(needs); }});
 }
 
 /// From now on, what the operator changes is what the next start shows.

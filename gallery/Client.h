@@ -15,7 +15,7 @@
 
 namespace OperatorClient {
 
-/// The names of all pages, in the order of the side bar: Page::Name() of each.
+/// The names of all pages, in the order of the side bar.
 QStringList PageNames();
 
 /// The whole client: its settings, and its window with all pages.

@@ -10,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <algorithm>
 
 namespace OperatorClient {
 
@@ -71,54 +70,66 @@ void MainWindow::AddKeys()
     connect(m_pKeys, &QAction::triggered, this, &MainWindow::ShowKeys);
 }
 
-void MainWindow::AddPage(Page* page)
+void MainWindow::AddPage(const PageEntry& entry)
 {
-    const int index = m_pPages->addWidget(page);
-    m_pSideBar->AddPage(page->Name(), page->Title());
-    connect(page, &Page::SignalReport, this, [this](const QString& text) { statusBar()->showMessage(text); });
+    const int index = m_places.size();
     QAction* key = AddKey(SideBar::Shortcut(index));
-    key->setText(page->Title());
-    m_pageKeys.append(key);
+    m_places.append({entry, key});
+    m_pSideBar->AddPage(entry.name, entry.title());
+    key->setText(entry.title());
     connect(key, &QAction::triggered, this, [this, index] { ShowPage(index); });
-    if (m_pSideBar->CurrentPage() < 0)
-        ShowPage(0);
 }
 
-QVector<Page*> MainWindow::Pages() const
+QStringList MainWindow::PageNames() const
 {
-    QVector<Page*> pages;
-    for (int i = 0; i < m_pPages->count(); ++i)
-        pages.append(qobject_cast<Page*>(m_pPages->widget(i)));
-    return pages;
+    QStringList names;
+    for (const Place& place : m_places)
+        names << place.entry.name;
+    return names;
 }
 
 Page* MainWindow::CurrentPage() const { return qobject_cast<Page*>(m_pPages->currentWidget()); }
 
-void MainWindow::ShowPage(int index) { m_pSideBar->SetCurrentPage(index); }
+QString MainWindow::CurrentPageName() const { return PageNames().value(m_pSideBar->CurrentPage()); }
+
+void MainWindow::ShowPage(int index)
+{
+    if (index >= 0 && index < m_places.size())
+        m_pSideBar->SetCurrentPage(index);
+}
 
 bool MainWindow::ShowPage(const QString& name)
 {
-    const QVector<Page*> pages = Pages();
-    const auto named
-        = std::find_if(pages.begin(), pages.end(), [&](const Page* page) { return page->Name() == name; });
-    if (named == pages.end())
-        return false;
-    ShowPage(int(named - pages.begin()));
-    return true;
+    const int index = PageNames().indexOf(name);
+    ShowPage(index);
+    return index >= 0;
+}
+
+Page* MainWindow::PageAt(int index)
+{
+    Place& place = m_places[index];
+    if (place.page == nullptr) {
+        place.page = place.entry.make();
+        m_pPages->addWidget(place.page);
+        connect(place.page, &Page::SignalReport, this, [this](const QString& text) {
+            statusBar()->showMessage(text);
+        });
+    }
+    return place.page;
 }
 
 void MainWindow::OnPageChosen(int index)
 {
-    m_pPages->setCurrentIndex(index);
+    m_pPages->setCurrentWidget(PageAt(index));
     m_pLeft.clear();
-    if (const Page* page = CurrentPage())
-        Q_EMIT SignalPageShown(page->Name());
+    Q_EMIT SignalPageShown(CurrentPageName());
 }
 
 void MainWindow::Step(int pages)
 {
-    const int count = m_pPages->count();
-    ShowPage((m_pPages->currentIndex() + pages + count) % count);
+    const int count = m_places.size();
+    if (count > 0)
+        ShowPage((m_pSideBar->CurrentPage() + pages + count) % count);
 }
 
 /// The page gets the focus where it was left, else at its first widget.
@@ -159,10 +170,10 @@ void MainWindow::ShowTexts()
     m_pKeys->setText(tr("Keys"));
     m_pKeys->setToolTip(
         tr("Show what the keyboard can do (%1)").arg(m_pKeys->shortcut().toString(QKeySequence::NativeText)));
-    const QVector<Page*> pages = Pages();
-    for (int i = 0; i < pages.size(); ++i) {
-        m_pSideBar->SetTitle(i, pages.at(i)->Title());
-        m_pageKeys.at(i)->setText(pages.at(i)->Title());
+    for (int i = 0; i < m_places.size(); ++i) {
+        const QString title = m_places.at(i).entry.title();
+        m_pSideBar->SetTitle(i, title);
+        m_places.at(i).key->setText(title);
     }
 }
 

@@ -27,8 +27,6 @@ public:
 
     using QWidget::QWidget;
 
-    virtual QString Title() const = 0; ///< in the list of pages
-    virtual QString Name() const = 0; ///< of its screenshots: lower-case letters and "-"
     /// At least one; without suffix the page as it opens.
     virtual QVector<Picture> Pictures()
     {

@@ -97,17 +97,17 @@ bool SavePicture(MainWindow& window, const QString& path)
     return false;
 }
 
-QString FileName(const Page& page, const Page::Picture& picture)
+QString FileName(const QString& page, const Page::Picture& picture)
 {
-    const QString name = page.Name() + QLatin1Char('-') + KvGUI::GetSkinVersion().toLower();
+    const QString name = page + QLatin1Char('-') + KvGUI::GetSkinVersion().toLower();
     const QString suffix = picture.suffix.isEmpty() ? QString() : QLatin1Char('-') + picture.suffix;
     return name + suffix + QLatin1String(".png");
 }
 
-bool SavePage(MainWindow& window, Page& page, const SourcePool& pool, const QDir& folder)
+bool SaveCurrentPage(MainWindow& window, const SourcePool& pool, const QDir& folder)
 {
     bool saved = true;
-    const QVector<Page::Picture> pictures = page.Pictures();
+    const QVector<Page::Picture> pictures = window.CurrentPage()->Pictures();
     for (const Page::Picture& picture : pictures) {
         bool done = false;
         QElapsedTimer there;
@@ -121,7 +121,8 @@ bool SavePage(MainWindow& window, Page& page, const SourcePool& pool, const QDir
             look.stop();
             WaitForVideos(pool);
             window.statusBar()->clearMessage();
-            saved = SavePicture(window, folder.filePath(FileName(page, picture))) && saved;
+            saved
+                = SavePicture(window, folder.filePath(FileName(window.CurrentPageName(), picture))) && saved;
             picture.leave();
             done = true;
         });
@@ -142,15 +143,11 @@ bool SaveScreenshots(MainWindow& window, const SourcePool& pool, const QString& 
     window.show();
     const QDir target(folder);
     bool saved = target.mkpath(QStringLiteral("."));
-    const QVector<Page*> pages = window.Pages();
+    const QStringList pages = page.isEmpty() ? window.PageNames() : QStringList{page};
     for (const QString& skin : {QStringLiteral("Black"), QStringLiteral("White")}) {
         KvGUI::SetSkinVersion(skin);
-        for (int i = 0; i < pages.size(); ++i) {
-            if (!page.isEmpty() && pages.at(i)->Name() != page)
-                continue;
-            window.ShowPage(i);
-            saved = SavePage(window, *pages.at(i), pool, target) && saved;
-        }
+        for (const QString& name : pages)
+            saved = window.ShowPage(name) && SaveCurrentPage(window, pool, target) && saved;
     }
     return saved;
 }

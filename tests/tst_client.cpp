@@ -228,7 +228,7 @@ private slots:
             Client again(Options());
             again.Window().setMinimumSize(1, 1);
             again.Show();
-            QCOMPARE(again.Window().CurrentPage()->Name(), page);
+            QCOMPARE(again.Window().CurrentPageName(), page);
             QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("White"));
             QCOMPARE(again.Window().geometry(), place);
             again.Window().showMaximized();
@@ -261,12 +261,12 @@ private slots:
         {
             Client client(options);
             QCOMPARE(client.Window().windowTitle(), QStringLiteral("Operator client"));
-            QCOMPARE(client.Window().CurrentPage()->Name(), options.page);
+            QCOMPARE(client.Window().CurrentPageName(), options.page);
             QCOMPARE(KvGUI::GetSkinVersion(), options.skin);
         }
         {
             Client client(Options());
-            QCOMPARE(client.Window().CurrentPage()->Name(), QStringLiteral("alarms"));
+            QCOMPARE(client.Window().CurrentPageName(), QStringLiteral("alarms"));
             QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("White"));
             QVERIFY(client.Window().windowTitle() != QLatin1String("Operator client"));
         }
@@ -275,7 +275,7 @@ private slots:
             client.Window().ShowPage(QStringLiteral("photo"));
         }
         Client client(Options());
-        QCOMPARE(client.Window().CurrentPage()->Name(), QStringLiteral("photo"));
+        QCOMPARE(client.Window().CurrentPageName(), QStringLiteral("photo"));
     }
 
     // Catches file dialogs that start anew in the folder of the program after each start, one that takes the
@@ -326,7 +326,7 @@ private slots:
         Client client(Options());
         client.Show();
         QVERIFY(QTest::qWaitForWindowExposed(&client.Window()));
-        QCOMPARE(client.Window().CurrentPage()->Name(), PageNames().first());
+        QCOMPARE(client.Window().CurrentPageName(), PageNames().first());
         QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("Black"));
         QVERIFY(client.Window().geometry().intersects(QGuiApplication::primaryScreen()->availableGeometry()));
         client.Window().ShowPage(QStringLiteral("device")); // is saved, or not, in silence
@@ -361,6 +361,37 @@ private slots:
         QTEST(PlaceOnScreens(wanted, screens), "placed");
     }
 
+    // Catches a start that makes pages nobody sees, a page that is made anew at each visit, and one made late
+    // that has missed a change of the skin.
+    void PagesAreMadeWhenFirstShown()
+    {
+        const QStringList stills{
+            QStringLiteral("photo"), QStringLiteral("record"), QStringLiteral("pairing"),
+            QStringLiteral("device")};
+        Client early(Options());
+        Client late(Options());
+        for (Client* client : {&early, &late}) {
+            client->Show();
+            client->Window().resize(1280, 800); // no page needs more
+        }
+        const auto made = [](Client& client) { return client.Window().findChildren<Page*>().size(); };
+        QCOMPARE(made(early), 1);
+        for (const QString& page : stills)
+            early.Window().ShowPage(page);
+        KvGUI::SetSkinVersion(QStringLiteral("White"));
+        QCoreApplication::processEvents();
+        for (const QString& page : stills) {
+            const auto picture = [&](Client& client) {
+                client.Window().ShowPage(page);
+                client.Window().findChild<QListWidget*>(QStringLiteral("pageList"))->setFocus();
+                return client.Window().CurrentPage()->grab().toImage();
+            };
+            QVERIFY2(picture(early) == picture(late), qPrintable(page));
+        }
+        QCOMPARE(made(early), 1 + stills.size());
+        QCOMPARE(made(late), 1 + stills.size());
+    }
+
     // Catches keys that choose the wrong page or none, and a page that cannot be left or entered by F6.
     void KeysChoosePagesAndAreas()
     {
@@ -368,7 +399,7 @@ private slots:
         MainWindow& window = client.Window();
         client.Show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        const auto page = [&] { return PageNames().indexOf(window.CurrentPage()->Name()); };
+        const auto page = [&] { return PageNames().indexOf(window.CurrentPageName()); };
         QTest::keyClick(&window, Qt::Key_7, Qt::AltModifier);
         QCOMPARE(page(), 6);
         QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
@@ -398,11 +429,11 @@ private slots:
         WidgetWatch watch;
         Client client(Options());
         client.Show();
-        for (Page* page : client.Window().Pages()) {
-            client.Window().ShowPage(page->Name());
-            if (page->Name() == QLatin1String("map"))
+        for (const QString& page : PageNames()) {
+            client.Window().ShowPage(page);
+            if (page == QLatin1String("map"))
                 continue; // waits for an engine, which the offscreen display has not
-            const QVector<Page::Picture> pictures = page->Pictures();
+            const QVector<Page::Picture> pictures = client.Window().CurrentPage()->Pictures();
             for (const Page::Picture& picture : pictures)
                 Visit(picture);
         }
@@ -467,12 +498,13 @@ private slots:
         options.language = language;
         Client client(options);
         client.Show();
-        const QSize least = client.Window().minimumSizeHint();
-        QString hints = QStringLiteral("%1 x %2: ").arg(least.width()).arg(least.height());
-        for (const Page* page : client.Window().Pages()) {
-            const QSize hint = page->minimumSizeHint();
-            hints += QStringLiteral("%1 %2 x %3, ").arg(page->Name()).arg(hint.width()).arg(hint.height());
+        QString hints;
+        for (const QString& page : PageNames()) {
+            QVERIFY(client.Window().ShowPage(page));
+            const QSize hint = client.Window().CurrentPage()->minimumSizeHint();
+            hints += QStringLiteral("%1 %2 x %3, ").arg(page).arg(hint.width()).arg(hint.height());
         }
+        const QSize least = client.Window().minimumSizeHint();
         QVERIFY2(
             least.width() <= SmallDisplay.width() && least.height() <= SmallDisplay.height(),
             qPrintable(hints));

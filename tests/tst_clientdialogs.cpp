@@ -53,8 +53,9 @@ struct Client
     {
         page = new WallPage(
             pool, clock, WallLayoutFile(folder.filePath(QStringLiteral("l.ini"))), FirstWall(), {});
-        window.AddPage(page);
-        window.AddPage(new PairingPage);
+        window.AddPage({QStringLiteral("wall"), WallPage::Title, [this] { return page; }});
+        window.AddPage({QStringLiteral("pairing"), PairingPage::Title, [] { return new PairingPage; }});
+        window.ShowPage(0);
         window.show();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -274,7 +275,7 @@ void tst_ClientDialogs::pairingIssuesTokens()
 {
     Client client;
     client.window.ShowPage(1);
-    auto* page = client.window.Pages().at(1);
+    auto* page = client.window.CurrentPage();
     auto* dialog = page->findChild<UICommonMdl::CDisplayQRcodeDlg*>();
     auto* issued = page->findChild<QPlainTextEdit*>();
     page->findChild<QLineEdit*>()->setText(QStringLiteral("Gate"));
@@ -299,7 +300,7 @@ void tst_ClientDialogs::pairingEndsWithTheDialog()
 {
     Client client;
     client.window.ShowPage(1);
-    auto* page = client.window.Pages().at(1);
+    auto* page = client.window.CurrentPage();
     auto* dialog = page->findChild<UICommonMdl::CDisplayQRcodeDlg*>();
     QTest::keyClick(page->findChild<QLineEdit*>(), Qt::Key_Return);
     QVERIFY(QTest::qWaitForWindowExposed(dialog));

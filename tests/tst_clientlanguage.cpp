@@ -38,24 +38,35 @@ struct Client
     {
         clock.Freeze(QDateTime(QDate(2026, 3, 14), QTime(10, 24, 36)));
         const WallLayoutFile file(folder.filePath(QStringLiteral("layout.ini")));
-        window.AddPage(new WallPage(pool, clock, file, FirstWall(), {}, &window));
-        window.AddPage(new MapPage(pool, clock, QStringLiteral("/no map"), &window));
-        window.AddPage(new PhotoPage(QString(), &window));
-        window.AddPage(new RecordPage(folder.filePath(QStringLiteral("person")), &window));
-        window.AddPage(new PairingPage(&window));
-        window.AddPage(new AlarmPage(SampleAlarms(SampleCount, clock.Now()), &window));
-        window.AddPage(new DevicePage(&window));
+        Add(WallPage::Title, [this, file] { return new WallPage(pool, clock, file, FirstWall(), {}); });
+        Add(MapPage::Title, [this] { return new MapPage(pool, clock, QStringLiteral("/no map")); });
+        Add(PhotoPage::Title, [] { return new PhotoPage(QString()); });
+        Add(RecordPage::Title, [this] { return new RecordPage(folder.filePath(QStringLiteral("person"))); });
+        Add(PairingPage::Title, [] { return new PairingPage; });
+        Add(AlarmPage::Title, [this] { return new AlarmPage(SampleAlarms(SampleCount, clock.Now())); });
+        Add(DevicePage::Title, [] { return new DevicePage; });
         window.show();
-        for (int page = window.Pages().size() - 1; page >= 0; --page) {
-            window.ShowPage(page); // lays it out
+    }
+
+    void Add(QString (*title)(), const std::function<Page*()>& make)
+    {
+        window.AddPage({QString::number(window.PageNames().size()), title, make});
+    }
+
+    /// Lays all of them out. @return the texts that they show
+    QMap<QString, QString> ShowPages()
+    {
+        for (int page = window.PageNames().size() - 1; page >= 0; --page) {
+            window.ShowPage(page);
             QCoreApplication::processEvents();
         }
+        return ShownTexts(window);
     }
 
     QStringList Clipped()
     {
         QStringList clipped;
-        for (int page = 0; page < window.Pages().size(); ++page) {
+        for (int page = 0; page < window.PageNames().size(); ++page) {
             window.ShowPage(page);
             QCoreApplication::processEvents();
             clipped << ClippedTexts(window);
@@ -79,12 +90,13 @@ private slots:
         QApplication::setFont(font);
     }
 
-    // Catches a text of any page that stays in the former language, or does not come back.
+    // Catches a text of any page that stays in the former language, or does not come back, and a page made
+    // after the change that differs from one that saw it.
     void EveryPageFollowsAndComesBack()
     {
         Language language;
         Client client;
-        const QMap<QString, QString> english = ShownTexts(client.window);
+        const QMap<QString, QString> english = client.ShowPages();
         QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
 
         QVERIFY(language.Set(Chinese));
@@ -101,6 +113,8 @@ private slots:
         for (const QString& text : wanted)
             QVERIFY2(chinese.values().contains(text), qPrintable(text));
         QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
+        Client late;
+        QCOMPARE(ChangedTexts(chinese, late.ShowPages()).join(QLatin1Char('\n')), QString());
 
         QVERIFY(language.Set(English));
         QCoreApplication::processEvents();

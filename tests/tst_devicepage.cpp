@@ -28,7 +28,8 @@ struct Client
 {
     Client()
     {
-        window.AddPage(page);
+        window.AddPage({QStringLiteral("device"), DevicePage::Title, [this] { return page; }});
+        window.ShowPage(0);
         window.show();
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));

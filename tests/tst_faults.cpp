@@ -215,15 +215,6 @@ int ShowWall(QApplication& application, const QString& folder)
     return application.exec();
 }
 
-/// A page without anything.
-class EmptyPage : public Page
-{
-public:
-    using Page::Page;
-    QString Title() const override { return Name(); }
-    QString Name() const override { return QStringLiteral("empty"); }
-};
-
 } // namespace
 
 class TestFaults : public QObject
@@ -360,7 +351,7 @@ void TestFaults::ScreenshotsOnAFullDisk()
 {
     const SourcePool pool;
     MainWindow window;
-    window.AddPage(new EmptyPage);
+    window.AddPage({QStringLiteral("empty"), [] { return QString(); }, [] { return new Page; }});
     bool saved = true;
     {
         const auto full = FullDisk(200);

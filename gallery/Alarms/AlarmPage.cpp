@@ -70,7 +70,7 @@ AlarmPage::AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent)
     m_pShown->setSourceModel(m_pAlarms);
     m_pShown->setFilterKeyColumn(-1); // all of them
     m_pShown->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    auto* title = FollowLanguage(new StartLabel(this), "text", [this] { return AlarmPage::Title(); });
+    auto* title = FollowLanguage(new StartLabel(this), "text", &AlarmPage::Title);
     title->setObjectName(QStringLiteral("pageTitle"));
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(24, 20, 24, 12);
@@ -83,9 +83,7 @@ AlarmPage::AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent)
     ShowCount();
 }
 
-QString AlarmPage::Title() const { return tr("Alarms"); }
-
-QString AlarmPage::Name() const { return QStringLiteral("alarms"); }
+QString AlarmPage::Title() { return tr("Alarms"); }
 
 QHBoxLayout* AlarmPage::BuildTools()
 {

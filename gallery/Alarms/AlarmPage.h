@@ -29,8 +29,7 @@ class AlarmPage : public Page
 public:
     explicit AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent = nullptr);
 
-    QString Title() const override;
-    QString Name() const override;
+    static QString Title(); ///< in the list of pages
     QVector<Picture> Pictures() override;
 
     /// Exports the rows that the filter shows. SignalDone follows, unless it is cancelled.

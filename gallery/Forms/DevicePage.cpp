@@ -123,9 +123,7 @@ DevicePage::DevicePage(QWidget* parent)
     Clear();
 }
 
-QString DevicePage::Title() const { return tr("Device form"); }
-
-QString DevicePage::Name() const { return QStringLiteral("device"); }
+QString DevicePage::Title() { return tr("Device form"); }
 
 QWidget* DevicePage::BuildDevice()
 {

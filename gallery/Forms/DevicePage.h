@@ -29,8 +29,7 @@ class DevicePage : public Page
 public:
     explicit DevicePage(QWidget* parent = nullptr);
 
-    QString Title() const override;
-    QString Name() const override;
+    static QString Title(); ///< in the list of pages
     QVector<Picture> Pictures() override;
 
     /// Checks the form and reports the device. Otherwise the first wrong field gets the focus and tells why.

@@ -105,9 +105,7 @@ MapPage::MapPage(SourcePool& pool, FrameClock& clock, const QString& mapFile, QW
     connect(m_pMap, &CActiveXLinkWebCtrl::sgnMainCall, this, &MapPage::OnCall);
 }
 
-QString MapPage::Title() const { return tr("Site map"); }
-
-QString MapPage::Name() const { return QStringLiteral("map"); }
+QString MapPage::Title() { return tr("Site map"); }
 
 QWidget* MapPage::NewFaultPanel()
 {

@@ -26,8 +26,7 @@ public:
     /// @param mapFile the plan, an HTML file; it is loaded when the page is shown first
     MapPage(SourcePool& pool, FrameClock& clock, const QString& mapFile, QWidget* parent = nullptr);
 
-    QString Title() const override;
-    QString Name() const override;
+    static QString Title(); ///< in the list of pages
     QVector<Picture> Pictures() override;
 
     CameraWall* Cameras() const { return m_pCameras; }

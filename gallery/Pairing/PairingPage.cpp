@@ -82,9 +82,7 @@ void PairingPage::AddInputs()
     connect(m_pPhone, &QLineEdit::returnPressed, this, &PairingPage::ShowCode);
 }
 
-QString PairingPage::Title() const { return tr("Phone pairing"); }
-
-QString PairingPage::Name() const { return QStringLiteral("pairing"); }
+QString PairingPage::Title() { return tr("Phone pairing"); }
 
 void PairingPage::OnLanguageChanged()
 {

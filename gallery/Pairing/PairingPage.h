@@ -21,8 +21,7 @@ class PairingPage : public Page
 public:
     explicit PairingPage(QWidget* parent = nullptr);
 
-    QString Title() const override;
-    QString Name() const override;
+    static QString Title(); ///< in the list of pages
     QVector<Picture> Pictures() override;
 
 protected:

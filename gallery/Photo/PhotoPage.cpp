@@ -97,9 +97,7 @@ PhotoPage::PhotoPage(const QString& file, QWidget* parent)
         OpenFile(file);
 }
 
-QString PhotoPage::Title() const { return tr("Photo cropping"); }
-
-QString PhotoPage::Name() const { return QStringLiteral("photo"); }
+QString PhotoPage::Title() { return tr("Photo cropping"); }
 
 QWidget* PhotoPage::BuildPhotoSide()
 {
@@ -107,7 +105,7 @@ QWidget* PhotoPage::BuildPhotoSide()
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
-    auto* title = FollowLanguage(new StartLabel(side), "text", [this] { return PhotoPage::Title(); });
+    auto* title = FollowLanguage(new StartLabel(side), "text", &PhotoPage::Title);
     title->setObjectName(QStringLiteral("pageTitle"));
     m_pPhotoText = new StartLabel(side);
     m_pPhotoText->setObjectName(QStringLiteral("hint"));

@@ -26,8 +26,7 @@ public:
     /// @param file the photo to begin with; empty for a drawn one
     explicit PhotoPage(const QString& file, QWidget* parent = nullptr);
 
-    QString Title() const override;
-    QString Name() const override;
+    static QString Title(); ///< in the list of pages
     QVector<Picture> Pictures() override;
 
     /// Takes the limits that were stored in this settings file, and stores there each change of them.

@@ -82,7 +82,7 @@ RecordPage::RecordPage(const QString& folder, QWidget* parent)
     : Page(parent)
     , m_file(folder)
 {
-    auto* title = FollowLanguage(new StartLabel(this), "text", [this] { return RecordPage::Title(); });
+    auto* title = FollowLanguage(new StartLabel(this), "text", &RecordPage::Title);
     title->setObjectName(QStringLiteral("pageTitle"));
     auto* hint = FollowLanguage(new StartLabel(this), "text", [] {
         return tr("Point at the picture for its buttons, or use the menu below it. "
@@ -107,9 +107,7 @@ RecordPage::RecordPage(const QString& folder, QWidget* parent)
     ResetRecord();
 }
 
-QString RecordPage::Title() const { return tr("Person record"); }
-
-QString RecordPage::Name() const { return QStringLiteral("record"); }
+QString RecordPage::Title() { return tr("Person record"); }
 
 QWidget* RecordPage::BuildPhoto()
 {

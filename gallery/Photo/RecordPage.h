@@ -28,8 +28,7 @@ public:
     /// @param folder where the record is kept
     explicit RecordPage(const QString& folder, QWidget* parent = nullptr);
 
-    QString Title() const override;
-    QString Name() const override;
+    static QString Title(); ///< in the list of pages
     QVector<Picture> Pictures() override;
 
     const PersonRecord& Record() const { return m_record; }

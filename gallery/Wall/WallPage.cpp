@@ -93,9 +93,7 @@ WallPage::~WallPage()
         Save();
 }
 
-QString WallPage::Title() const { return tr("Video wall"); }
-
-QString WallPage::Name() const { return QStringLiteral("wall"); }
+QString WallPage::Title() { return tr("Video wall"); }
 
 void WallPage::On(Command command, const std::function<void(bool)>& act)
 {

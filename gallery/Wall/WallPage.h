@@ -21,8 +21,7 @@ public:
         const QVector<SourceSpec>& files, QWidget* parent = nullptr);
     ~WallPage() override;
 
-    QString Title() const override;
-    QString Name() const override;
+    static QString Title(); ///< in the list of pages
     QVector<Picture> Pictures() override;
 
     CameraWall* Cameras() const { return m_pCameras; }
