@@ -1,5 +1,6 @@
 #include "JpegSamples.h"
 
+#include "JpegTransform.h"
 #include "JpegVectors.h"
 
 #include <algorithm>
@@ -13,9 +14,11 @@ constexpr int ColorBits = 16;
 constexpr int Half = 1 << (ColorBits - 1);
 constexpr int ChromaOffset = (128 << ColorBits) + Half - 1;
 
+/// Columns of whole transforms, of the halved chrominances too.
 int BandColumns(int width)
 {
-    return (width + JpegSamples::BandRows - 1) / JpegSamples::BandRows * JpegSamples::BandRows;
+    constexpr int Whole = 2 * JpegLanes * 8;
+    return (width + Whole - 1) / Whole * Whole;
 }
 
 /// Formats of which the encoder takes red, green and blue as they stand in memory.

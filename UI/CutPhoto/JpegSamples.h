@@ -6,7 +6,7 @@
 
 namespace UICommonMdl {
 
-/// A band of samples, as wide as whole blocks.
+/// A band of samples, as wide as the blocks of whole transforms.
 class JpegPlane
 {
 public:
@@ -24,7 +24,7 @@ private:
 };
 
 /// A picture's samples as a JPEG encoder has them, a band of 16 rows at a time: converted to luminance and,
-/// when coloured, two chrominances of half the size, with the edges repeated up to whole blocks.
+/// when coloured, two chrominances of half the size, with the edges repeated up to whole transforms.
 class JpegSamples
 {
 public:
