@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScreen>
+#include <QStyle>
 
 namespace OperatorClient {
 
@@ -228,10 +229,13 @@ void Client::Show()
     const QList<QScreen*> all = QGuiApplication::screens(); // the primary one first
     for (const QScreen* screen : all)
         screens.append(screen->availableGeometry());
-    const QRect remembered = m_state.window;
-    const QRect wanted
-        = remembered.isEmpty() ? QRect(screens.value(0).topLeft(), m_pWindow->size()) : remembered;
-    m_pWindow->setGeometry(PlaceOnScreens(wanted, screens));
+    const int titleBar = m_pWindow->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect wanted = m_state.window.isEmpty() ? QRect(QPoint(), m_pWindow->size()) : m_state.window;
+    const QRect placed = PlaceOnScreens(wanted, screens, titleBar);
+    if (m_state.window.isEmpty())
+        m_pWindow->resize(placed.size()); // where, the window manager knows best
+    else
+        m_pWindow->setGeometry(placed);
     if (m_state.maximized)
         m_pWindow->showMaximized();
     else

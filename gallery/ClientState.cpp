@@ -55,17 +55,17 @@ ClientState ClientState::FromText(const QString& text)
     return result;
 }
 
-QRect PlaceOnScreens(const QRect& wanted, const QVector<QRect>& screens)
+QRect PlaceOnScreens(const QRect& wanted, const QVector<QRect>& screens, int titleBar)
 {
     QRegion hidden(wanted);
     for (const QRect& screen : screens)
         hidden -= screen;
     if (screens.isEmpty() || hidden.isEmpty())
         return wanted;
-    const QRect screen
-        = *std::max_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
-              return Pixels(a & wanted) < Pixels(b & wanted);
-          });
+    QRect screen = *std::max_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
+        return Pixels(a & wanted) < Pixels(b & wanted);
+    });
+    screen.setTop(screen.top() + titleBar);
     const QSize size = wanted.size().boundedTo(screen.size());
     return {
         QPoint(

@@ -6,6 +6,7 @@
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <gallery/Client.h>
 #include <gallery/LastFolders.h>
+#include <gallery/SkinIcon.h>
 
 #include <QAccessible>
 #include <QAction>
@@ -23,6 +24,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <numeric>
 
 using namespace OperatorClient;
 
@@ -347,18 +349,38 @@ private slots:
             << QRect(2000, 100, 1200, 800) << QVector<QRect>{left} << QRect(720, 100, 1200, 800);
         QTest::newRow("the screen on the other side is gone")
             << QRect(-1800, 500, 1200, 800) << QVector<QRect>{left} << QRect(0, 240, 1200, 800);
-        QTest::newRow("larger than the screen") << QRect(50, 50, 4000, 3000) << QVector<QRect>{left} << left;
+        QTest::newRow("larger than the screen")
+            << QRect(50, 50, 4000, 3000) << QVector<QRect>{left} << QRect(0, 30, 1920, 1010);
+        QTest::newRow("its title bar would be off the screen")
+            << QRect(0, -60, 800, 600) << two << QRect(0, 30, 800, 600);
         QTest::newRow("mostly on the second")
             << QRect(1800, 300, 1000, 800) << two << QRect(1920, 200, 1000, 800);
         QTest::newRow("no screen") << window << QVector<QRect>{} << window;
     }
 
-    // Catches a window that comes up where no screen shows it.
+    // Catches a window that comes up where no screen shows it, or not the bar that it is moved by.
     void WindowIsPlacedOnScreens()
     {
         QFETCH(QRect, wanted);
         QFETCH(QVector<QRect>, screens);
-        QTEST(PlaceOnScreens(wanted, screens), "placed");
+        QTEST(PlaceOnScreens(wanted, screens, 30), "placed");
+    }
+
+    // Catches commands that look as if they could be used, because a light desktop hardly changes the icons
+    // of a dark skin when they are disabled.
+    void DisabledIconsAreFaint()
+    {
+        const QIcon icon = SkinIcon(QStringLiteral("ToolBar"), QStringLiteral("WholeWall"));
+        const auto ink = [&](QIcon::Mode mode) {
+            const QImage image = icon.pixmap(20, mode).toImage().convertToFormat(QImage::Format_Alpha8);
+            qint64 sum = 0;
+            for (int y = 0; y < image.height(); ++y)
+                sum = std::accumulate(image.scanLine(y), image.scanLine(y) + image.width(), sum);
+            return sum;
+        };
+        QVERIFY(ink(QIcon::Normal) > 0);
+        QCOMPARE(ink(QIcon::Selected), ink(QIcon::Normal));
+        QVERIFY(ink(QIcon::Disabled) * 2 < ink(QIcon::Normal));
     }
 
     // Catches a start that makes pages nobody sees, a page that is made anew at each visit, and one made late
