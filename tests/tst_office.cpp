@@ -19,6 +19,8 @@
 #include <atomic>
 #include <csignal>
 #include <cstdio>
+#include <random>
+#include <sys/file.h>
 #include <thread>
 #include <unistd.h>
 #include <xlsxwriter.h>
@@ -33,6 +35,7 @@ using Rows = QList<QList<QString>>;
 
 constexpr int ShortLimit = 3000; // for an office that hangs, milliseconds
 constexpr int TimeToGo = 10000; // until a process and its files are gone, milliseconds
+constexpr int LongestStore = 120000; // of a table that does not fit, on a busy machine, milliseconds
 
 const QString Unicode = QStringLiteral("\u00C4\u4E2D\u6587 \U0001F600");
 
@@ -79,6 +82,49 @@ std::unique_ptr<AutomationObject> NewSheet(AutomationObject& application)
     return book ? book->querySubObject(QStringLiteral("WorkSheets(int)"), {1}) : nullptr;
 }
 
+/// Texts that take as much room in a compressed file as here: about a megabyte.
+Rows LargeTable()
+{
+    std::mt19937 random(7);
+    Rows rows;
+    for (int row = 0; row < 20000; ++row)
+        rows << QList<QString>{QString::number(random(), 36) + QString::number(random(), 36)};
+    return rows;
+}
+
+QByteArray NamesIn(const QDir& folder)
+{
+    const auto entries = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    return '[' + folder.entryList(entries).join(QLatin1Char(' ')).toUtf8() + ']';
+}
+
+/// Whether a workbook could be opened, filled and stored, as three digits.
+QByteArray StoreInSteps(const QString& path, const Rows& rows)
+{
+    AxExcelFunction excel;
+    const bool steps[]
+        = {excel.OpenExcel(path, true), excel.SetMultiCellValue(1, 1, rows), excel.SaveExcel()};
+    QByteArray digits;
+    for (const bool step : steps)
+        digits += step ? '1' : '0';
+    return digits;
+}
+
+/// What a client does whose disk is full: stores what does not fit, and, when the office has gone, a small
+/// table. Tells how far it came, and what is in the folder then and among the temporary files.
+int StoreOnFullDisk(const QString& path)
+{
+    const QDir folder = QFileInfo(path).dir();
+    QByteArray told = StoreInSteps(path, LargeTable());
+    told += ' ' + NamesIn(folder);
+    while (Processes::Host(getpid()) != 0)
+        QTest::qWait(20);
+    told += ' ' + NamesIn(QDir::temp());
+    told += ' ' + StoreInSteps(path, {{QStringLiteral("x")}});
+    std::puts(told.constData());
+    return 0;
+}
+
 /// What a client does that is killed, or leaves, with a workbook open.
 int HoldWorkbook(const QString& path, bool leave)
 {
@@ -121,6 +167,8 @@ private Q_SLOTS:
     void OutlivesItsOffice();
     void OutlivesAHostThatDiesEarly();
     void LeavesNoHalfFile();
+    void StoresOnAFullDisk_data();
+    void StoresOnAFullDisk();
     void StartsForAClientThatIgnoresItsChildren();
     void GivesUpOnABrokenOffice_data();
     void GivesUpOnABrokenOffice();
@@ -134,6 +182,7 @@ private:
     {
         return QDir(m_temporary.path()).entryList({QStringLiteral("uicomponents-office-*")}, QDir::Dirs);
     }
+    bool IsAbandoned(const QString& profile) const;
     bool Store(const QString& path, const Rows& rows);
     void EndOffice();
     QString WriteForeignWorkbook() const;
@@ -155,6 +204,13 @@ void TestOffice::cleanup()
     for (const char* name :
          {"UICOMPONENTS_OFFICE_PATH", "UICOMPONENTS_OFFICE_TIMEOUT", "UICOMPONENTS_OFFICE_IDLE"})
         qunsetenv(name);
+}
+
+/// Whether no thread of a killed host is left that holds the profile: the last ones can outlive the office.
+bool TestOffice::IsAbandoned(const QString& profile) const
+{
+    QFile lock(m_temporary.filePath(profile + QLatin1String("/lock")));
+    return lock.open(QIODevice::ReadWrite) && flock(lock.handle(), LOCK_EX | LOCK_NB) == 0;
 }
 
 bool TestOffice::Store(const QString& path, const Rows& rows)
@@ -613,6 +669,49 @@ void TestOffice::LeavesNoHalfFile()
     QCOMPARE(QDir(Path(QStringLiteral("half"))).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
+void TestOffice::StoresOnAFullDisk_data()
+{
+    QTest::addColumn<QString>("disk");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QByteArray>("told");
+    const auto row = [](const char* name, const char* disk, const char* size, const char* told) {
+        QTest::newRow(name) << QString::fromLatin1(disk) << QString::fromLatin1(size) << QByteArray(told);
+    };
+    row("target", "target", "64k", "110 [] [] 111\n");
+    row("no room for the profile", "tmp", "64k", "000 [] [] 000\n");
+    row("no room for the office's file", "tmp", "1m", "110 [] [] 111\n");
+}
+
+// Catches a half workbook, a success that is none, and temporary files that keep the disk full.
+void TestOffice::StoresOnAFullDisk()
+{
+    QFETCH(QString, disk);
+    QFETCH(QString, size);
+    QFETCH(QByteArray, told);
+    const QTemporaryDir place;
+    const QDir folder(place.path());
+    QVERIFY(folder.mkdir(QStringLiteral("target")) && folder.mkdir(QStringLiteral("tmp")));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), folder.filePath(QStringLiteral("tmp")));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), place.path());
+    environment.insert(QStringLiteral("UICOMPONENTS_OFFICE_IDLE"), QStringLiteral("200"));
+    // In the eyes of the client alone, one of the folders is a small disk.
+    const QString command
+        = QStringLiteral("mount -t tmpfs -o size=$0 none $1 && echo mounted && exec $2 --store $3");
+    QProcess client;
+    client.setProcessEnvironment(environment);
+    client.start(
+        QStringLiteral("unshare"),
+        {QStringLiteral("--user"), QStringLiteral("--map-root-user"), QStringLiteral("--mount"),
+         QStringLiteral("sh"), QStringLiteral("-c"), command, size, folder.filePath(disk),
+         QCoreApplication::applicationFilePath(), folder.filePath(QStringLiteral("target/table.xlsx"))});
+    QVERIFY(client.waitForFinished(LongestStore));
+    const QByteArray output = client.readAllStandardOutput();
+    if (!output.startsWith("mounted\n"))
+        QSKIP("this system lets no user mount a disk of his own");
+    QCOMPARE(output, "mounted\n" + told);
+}
+
 // Catches an office that does not come up because the client leaves its children to the system: the first
 // start of a profile ends with a wish to be started again.
 void TestOffice::StartsForAClientThatIgnoresItsChildren()
@@ -718,6 +817,7 @@ void TestOffice::EndsWithTheClient()
         client.kill();
         QVERIFY(client.waitForFinished());
         QTRY_VERIFY_WITH_TIMEOUT(!Processes::Runs(office), TimeToGo);
+        QTRY_VERIFY_WITH_TIMEOUT(!withHost || IsAbandoned(Profiles().value(0)), TimeToGo);
     } else {
         QVERIFY(client.waitForFinished());
         QCOMPARE(client.exitStatus(), QProcess::NormalExit);
@@ -738,9 +838,11 @@ int main(int argc, char** argv)
     TestSupport::PrepareEnvironment();
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() == 3
-        && (arguments.at(1) == QLatin1String("--hold") || arguments.at(1) == QLatin1String("--leave")))
-        return HoldWorkbook(arguments.at(2), arguments.at(1) == QLatin1String("--leave"));
+    const QString task = arguments.size() == 3 ? arguments.at(1) : QString();
+    if (task == QLatin1String("--store"))
+        return StoreOnFullDisk(arguments.at(2));
+    if (task == QLatin1String("--hold") || task == QLatin1String("--leave"))
+        return HoldWorkbook(arguments.at(2), task == QLatin1String("--leave"));
     TestOffice test;
     return TestSupport::RunStrictly(test, argc, argv);
 }

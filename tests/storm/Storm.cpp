@@ -98,6 +98,10 @@ bool MayDeleteIn(const QMetaMethod& signal)
         || (signal.enclosingMetaObject() == &QAbstractButton::staticMetaObject && signal.name() == "clicked");
 }
 
+/// Whether the widget's window has left the focus chain, as it does early in its destructor: Qt crashes when
+/// a slot of the focus that goes then makes a child of anything in that window.
+bool IsInDyingWindow(const QWidget& widget) { return widget.window()->nextInFocusChain() == nullptr; }
+
 QFont FontOfSize(int points)
 {
     QFont font;
@@ -210,7 +214,7 @@ void Storm::Attach()
 void Storm::InSlot(QObject* sender, const QMetaMethod& signal, void** arguments)
 {
     const bool isWhole = m_subject && m_subject->metaObject()->className() == m_kind.className;
-    if (m_deleting || !isWhole) // signals of a widget in its destructor
+    if (m_deleting || !isWhole || IsInDyingWindow(*m_subject)) // signals of a widget in its destructor
         return;
     if (sender == m_subject && m_kind.isRight && !m_kind.isRight(*m_subject, signal, arguments))
         NoteFault(QStringLiteral("signal ") + QString::fromLatin1(signal.methodSignature()));

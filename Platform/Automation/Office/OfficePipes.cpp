@@ -43,7 +43,14 @@ void RemoveProfile(const QString& profile)
         for (const QString& file : files)
             folder.remove(file);
     }
-    QDir(profile).removeRecursively();
+    // Its lock goes last: as long as it is there, the next client takes up a removal that was cut short.
+    QDir folder(profile);
+    bool empty = true;
+    const QStringList subfolders = folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot);
+    for (const QString& subfolder : subfolders)
+        empty = QDir(folder.filePath(subfolder)).removeRecursively() && empty;
+    if (empty)
+        folder.removeRecursively();
 }
 
 } // namespace Office

@@ -2,6 +2,7 @@
 
 #include <Platform/Automation/Office/OfficePipes.h>
 
+#include <QDir>
 #include <QFile>
 #include <csignal>
 #include <fcntl.h>
@@ -32,20 +33,23 @@ QStringList OfficeArguments(const QString& program, const QString& profile)
     };
 }
 
-/// The office's environment: no display, and a locale in which every file name can be said.
-QList<QByteArray> OfficeEnvironment()
+/// The office's environment: no display, a locale in which every file name can be said, and a folder for its
+/// temporary files that goes with the profile: an office that is killed leaves them, also large ones.
+QList<QByteArray> OfficeEnvironment(const QString& temporaryFolder)
 {
     QList<QByteArray> variables;
     for (char** variable = environ; *variable; ++variable) {
         const QByteArray text(*variable);
         const bool replaced = text.startsWith("LC_") || text.startsWith("LANG") || text.startsWith("DISPLAY=")
-            || text.startsWith("WAYLAND_DISPLAY=") || text.startsWith("URE_BOOTSTRAP=");
+            || text.startsWith("WAYLAND_DISPLAY=") || text.startsWith("URE_BOOTSTRAP=")
+            || text.startsWith("TMPDIR=") || text.startsWith("TMP=") || text.startsWith("TEMP=");
         if (!replaced)
             variables << text;
     }
     return variables << "LC_ALL=C.UTF-8"
                      << "SAL_USE_VCLPLUGIN=svp"
-                     << "SAL_ENABLE_FILE_LOCKING=1";
+                     << "SAL_ENABLE_FILE_LOCKING=1"
+                     << "TMPDIR=" + QFile::encodeName(temporaryFolder);
 }
 
 std::vector<char*> Pointers(QList<QByteArray>& texts)
@@ -86,7 +90,10 @@ bool OfficeProcess::Start()
     const QStringList texts = OfficeArguments(m_program, m_profile);
     for (const QString& text : texts)
         arguments << QFile::encodeName(text);
-    QList<QByteArray> environment = OfficeEnvironment();
+    const QString temporaryFolder = m_profile + QLatin1String("/temporary");
+    if (!QDir().mkpath(temporaryFolder))
+        return false;
+    QList<QByteArray> environment = OfficeEnvironment(temporaryFolder);
     const std::vector<char*> argv = Pointers(arguments);
     const std::vector<char*> envp = Pointers(environment);
     const pid_t parent = getpid();
