@@ -23,7 +23,7 @@ constexpr int SmallestWidth = 160; // pixels
 constexpr int FootMargin = 8; // pixels
 constexpr int PagesWithShortcut = 9;
 constexpr QSize IconSize(20, 20);
-constexpr QSize FootIconSize(28, 20); // leaves the distance to the text that the list has
+constexpr QSize FootIconSize(28, 20); // with room at both sides of the drawing, as the list leaves it
 constexpr int NameRole = Qt::UserRole;
 
 bool IsDark() { return KvGUI::GetSkinVersion() == QLatin1String("Black"); }

@@ -1,5 +1,7 @@
 #include <gallery/StartLabel.h>
 
+#include <Platform/BasicUIComponents/KvLineStart.h>
+
 #include <QEvent>
 
 namespace OperatorClient {
@@ -12,8 +14,7 @@ StartLabel::StartLabel(QWidget* parent)
 
 void StartLabel::Align()
 {
-    const Qt::Alignment side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
-    setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
+    setAlignment(KvGUI::LineStart(layoutDirection()));
 }
 
 void StartLabel::changeEvent(QEvent* event)

@@ -142,6 +142,20 @@ private slots:
         check(plain);
     }
 
+    /// Catches buttons that move over the hint, which stays at the left, in a mirrored layout.
+    void MirroredBottomRow()
+    {
+        CCutPhotoDlg dialog;
+        dialog.SetPhotoResolution(960, 640);
+        dialog.setLayoutDirection(Qt::RightToLeft);
+        dialog.show();
+        const QRect hint = dialog.findChild<QLabel*>(QStringLiteral("hint"))->geometry();
+        for (const int value : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
+            const QWidget* button = dialog.GetButton(value);
+            QVERIFY(hint.right() < button->mapTo(&dialog, QPoint()).x());
+        }
+    }
+
     /// Catches arithmetic that overflows and sizes below zero.
     void WildResolutions()
     {

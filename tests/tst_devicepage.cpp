@@ -3,6 +3,7 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
 
+#include <Platform/BasicUIComponents/KvCalendarEx.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <UI/FormInputs/CPasswordStrength.h>
 #include <UI/FormInputs/CTipLabel.h>
@@ -147,6 +148,41 @@ private slots:
         client.Shortcut('s');
         QCOMPARE(Bubble(), QStringLiteral("Enter the password"));
         QVERIFY(client.Field("Password")->hasFocus());
+    }
+
+    void PopupsKeepToTheirPlace_data()
+    {
+        TestSupport::Columns<Qt::LayoutDirection>("direction");
+        QTest::newRow("from the left") << Qt::LeftToRight;
+        QTest::newRow("from the right") << Qt::RightToLeft;
+    }
+
+    /// Catches a bubble over a field of the other column, and a calendar beyond the screen.
+    void PopupsKeepToTheirPlace()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        Client client;
+        client.window.setLayoutDirection(direction);
+        client.window.resize(1440, 900);
+        client.Shortcut('s');
+        const int bubble = CTipLabel::Instance()->width();
+        QVERIFY(bubble >= 200);
+        const auto across = [&](const char* name) {
+            const QWidget* field = client.Field(name);
+            return QRect(field->mapTo(&client.window, QPoint()), field->size());
+        };
+        const QRect device = across("Name");
+        const QRect account = across("User");
+        const bool mirrored = direction == Qt::RightToLeft;
+        QVERIFY((mirrored ? device.left() - account.right() : account.left() - device.right()) > bubble);
+        QVERIFY((mirrored ? account.left() : client.window.width() - account.right()) > bubble);
+
+        auto* period = client.page->findChild<WmDateCalendar*>();
+        period->click();
+        const auto* calendar = period->findChild<KvGUI::KvCalendarEx*>();
+        const QRect screen = period->screen()->availableGeometry();
+        QVERIFY(calendar->isVisible());
+        QVERIFY(screen.left() <= calendar->x() && calendar->geometry().right() <= screen.right());
     }
 
     /// Catches a group that is lost or added twice, and a dialog that closes on a name it refuses.

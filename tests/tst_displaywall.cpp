@@ -105,6 +105,29 @@ private Q_SLOTS:
         QCOMPARE(screens().at(0)->geometry(), QRect(QPoint(0, 0), QPoint(249, 149)));
     }
 
+    void buttonPictures_data()
+    {
+        QTest::addColumn<QString>("rule");
+        QTest::newRow("image") << QStringLiteral("image: url(%1)");
+        QTest::newRow("background") << QStringLiteral("background-image: url(%1)");
+        QTest::newRow("icon") << QStringLiteral("qproperty-icon: url(%1)");
+    }
+
+    // Catches a quicker painting of the title's buttons that leaves out the picture of a client's sheet.
+    void buttonPictures()
+    {
+        QFETCH(QString, rule);
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("red.png"));
+        QImage red(16, 16, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save(file));
+        Fixture f({LeftUpper});
+        f.wall->setStyleSheet(QStringLiteral("#pWindowCloseBtn { border: none; %1 }").arg(rule.arg(file)));
+        auto* button = f.Window(0)->findChild<QWidget*>(QStringLiteral("pWindowCloseBtn"));
+        QCOMPARE(button->grab().toImage().pixelColor(button->rect().center()), QColor(Qt::red));
+    }
+
     // Catches windows of a hidden wall that are placed when it is shown only, or a second time then.
     void hiddenWallIsLaidOut()
     {

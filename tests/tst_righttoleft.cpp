@@ -3,6 +3,7 @@
 #include "support/StrictMain.h"
 
 #include <Platform/BasicUIComponents/KvCalendarEx.h>
+#include <Platform/BasicUIComponents/KvDialog.h>
 #include <UI/FormInputs/CPasswordStrength.h>
 #include <UI/FormInputs/CRequiredEdit.h>
 #include <UI/FormInputs/KvLineEditEx.h>
@@ -14,6 +15,8 @@
 #include <QtTest>
 #include <QtWidgets>
 #include <functional>
+#include <memory>
+#include <utility>
 
 using namespace UICommonMdl;
 
@@ -48,6 +51,27 @@ QWidget* EndPart(const QWidget& field)
     }
     return nullptr;
 }
+
+/// The first and the last column in which something is drawn.
+std::pair<int, int> Ink(QWidget& label)
+{
+    const QImage image = label.grab().toImage();
+    std::pair<int, int> ink(image.width(), -1);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != image.pixel(0, 0))
+                ink = {qMin(ink.first, x), qMax(ink.second, x)};
+        }
+    }
+    return ink;
+}
+
+/// Mirrors the whole program as long as it lives, as a start with -reverse does.
+struct MirroredProgram
+{
+    MirroredProgram() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~MirroredProgram() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+};
 
 } // namespace
 
@@ -118,7 +142,8 @@ private slots:
         QTest::newRow("display") << 1;
     }
 
-    /// A wall on the desk that is the mirror of the one in the room, or has mirrored windows.
+    /// A wall on the desk that is the mirror of the one in the room, or has mirrored windows, or titles that
+    /// begin with their ellipsis.
     void monitorsKeepTheirPlaces()
     {
         QFETCH(int, family);
@@ -128,20 +153,49 @@ private slots:
         wall.resize(640, 480);
         wall.SetTVWallGridCount(1, 2);
         wall.SetWindowTitleShow(true);
+        const QString title = QStringLiteral("Loading ramp behind the northern warehouse");
         for (const double left : {0.0, 0.5}) {
-            const int screen
-                = wall.AddScreen({left, 0, left + 0.5, 1, false}, QIcon(), QString(), QVariant());
-            wall.OpenWindow(screen, {0, 0, 0.75, 0.5, true}, QVariant());
+            const int screen = wall.AddScreen({left, 0, left + 0.5, 1, false}, QIcon(), title, QVariant());
+            wall.OpenWindow(screen, {0, 0.1, 0.75, 0.5, true}, QVariant());
             wall.OpenWindow(screen, {0.25, 0.25, 1, 1, true}, QVariant());
+            wall.SetWindowContentText(screen, 0, title);
         }
         host.show();
         const QImage shown = wall.grab().toImage();
         QVERIFY(shown != shown.mirrored(true, false));
+        const MirroredProgram mirrored;
         host.setLayoutDirection(Qt::RightToLeft);
         wall.resize(641, 480);
         wall.resize(640, 480);
         QApplication::processEvents();
         QCOMPARE(wall.grab().toImage(), shown);
+    }
+
+    void latinTextStandsAtTheRight_data()
+    {
+        QTest::addColumn<Make>("make");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("title of a dialog") << Make(&New<KvGUI::KvDialog>) << QStringLiteral("kvDialogTitle");
+        QTest::newRow("days of a calendar")
+            << Make(&New<KvGUI::KvCalendarEx>) << QStringLiteral("kvCalendarHint");
+    }
+
+    /// A text in Latin letters that stays at the end of its line when the layout is turned round.
+    void latinTextStandsAtTheRight()
+    {
+        QFETCH(Make, make);
+        QFETCH(QString, name);
+        const std::unique_ptr<QWidget> widget(make(nullptr));
+        widget->setWindowTitle(QStringLiteral("Dates"));
+        widget->show();
+        auto* label = widget->findChild<QLabel*>(name);
+        const int margin = Ink(*label).first;
+        QVERIFY(margin < 10);
+        widget->setLayoutDirection(Qt::RightToLeft);
+        QApplication::processEvents();
+        const auto ink = Ink(*label);
+        QVERIFY(label->width() - ink.second < 10);
+        QVERIFY(ink.first > 20);
     }
 
     /// A meter that grows away from where the reader begins.

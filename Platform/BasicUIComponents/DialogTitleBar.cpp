@@ -1,5 +1,6 @@
 #include <Platform/BasicUIComponents/DialogTitleBar.h>
 
+#include <Platform/BasicUIComponents/KvLineStart.h>
 #include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <QEvent>
 #include <QGuiApplication>
@@ -30,6 +31,7 @@ DialogTitleBar::DialogTitleBar(bool bCloseButton, QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     m_pTitle->setObjectName(QStringLiteral("kvDialogTitle"));
     m_pTitle->setTextFormat(Qt::PlainText);
+    m_pTitle->setAlignment(LineStart(layoutDirection()));
     // A long title is shortened; it does not make the dialog wider.
     m_pTitle->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pTitle->installEventFilter(this);
@@ -69,6 +71,8 @@ bool DialogTitleBar::eventFilter(QObject* watched, QEvent* event)
     // The font comes with the sheet, after the first title.
     if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
         ShowTitle();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        m_pTitle->setAlignment(LineStart(layoutDirection()));
     return QWidget::eventFilter(watched, event);
 }
 

@@ -4,6 +4,7 @@
 #include "CalendarPage.h"
 #include "KvCalendarEx_p.h"
 
+#include <Platform/BasicUIComponents/KvLineStart.h>
 #include <Platform/BasicUIComponents/KvTranslatedText.h>
 #include <Platform/BasicUIComponents/PlatformLook.h>
 #include <QHBoxLayout>
@@ -33,6 +34,7 @@ void KvCalendarExPrivate::Build()
     endPage = new CalendarPage(selection, q);
     hint = new QLabel(q);
     hint->setObjectName(QStringLiteral("kvCalendarHint"));
+    hint->setAlignment(LineStart(q->layoutDirection()));
     times = new QWidget(q);
     startLabel = new QLabel(times);
     endLabel = new QLabel(times);
@@ -373,6 +375,8 @@ void KvCalendarEx::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
         d->ShowTexts();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        d->hint->setAlignment(LineStart(layoutDirection()));
 }
 
 } // namespace KvGUI

@@ -85,6 +85,8 @@ CutPhotoForm BuildCutPhotoForm(KvGUI::KvCustomDialog* dialog, QWidget* canvas)
     form.hint = BottomItem(dialog, "hint");
     form.hint->setWordWrap(true);
     form.hint->setMinimumWidth(kHintLeastWidth);
+    // The items stand at the left in every language, so the buttons keep to the right.
+    dialog->GetButton(QDialogButtonBox::Ok)->parentWidget()->setLayoutDirection(Qt::LeftToRight);
     return form;
 }
 

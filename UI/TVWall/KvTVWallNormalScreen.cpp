@@ -411,6 +411,7 @@ void KvTVWallNormalScreen::PaintHeading(QPainter& painter)
         m_icon.paint(&painter, QRect(rest.topLeft(), QSize(icon, rest.height())) & rest);
         rest.setLeft(rest.left() + icon);
     }
+    rest.setWidth(qMin(rest.width(), text + HeadingMargin)); // beside the icon, whichever way it runs
     m_heading.Draw(painter, rest, m_strTitle, Look().screenTextColor);
 }
 

@@ -64,9 +64,13 @@ void WindowTitle::Draw(QPainter& painter, const QRect& bar, const QString& text,
     }
     const bool fits = m_textWidth <= area.width();
     painter.setPen(color);
+    // A painter goes by the program's direction, not by that of the wall; the ellipsis would come first.
+    const Qt::LayoutDirection direction = painter.layoutDirection();
+    painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawText(
         area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
         fits ? text : metrics.elidedText(text, Qt::ElideRight, area.width()));
+    painter.setLayoutDirection(direction);
 }
 
 } // namespace UICommonMdl

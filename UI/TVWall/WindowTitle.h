@@ -34,8 +34,9 @@ public:
     static QRect BarRect(const QSize& window); ///< of the title bar in a window of this size
     static QRect VideoRect(const QSize& window); ///< of the video area; reaches over the lower edge
 
-    /// Draws a text at the left of @p bar, ended by an ellipsis where it does not fit. The width is measured
-    /// again only for another text or font.
+    /// Draws a text where its own direction starts in @p bar: at the left, and at the right for a text that
+    /// runs from right to left. Where it does not fit, it ends with an ellipsis. The width is measured again
+    /// only for another text or font.
     void Draw(QPainter& painter, const QRect& bar, const QString& text, const QColor& color);
 
 private:

@@ -26,6 +26,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -41,7 +42,9 @@ CTipLabel::DisplayPosition TipSide(const QWidget& field)
     return field.isRightToLeft() ? CTipLabel::Right : CTipLabel::Left;
 }
 
-constexpr int FormWidth = 460; // pixels, where the window has them
+constexpr int FormWidth = 400; // pixels, where the window has them
+/// Pixels beside each column for the error bubbles of its fields, where the window has them.
+constexpr int BubbleRoom = 220;
 constexpr int LabelWidth = 100;
 constexpr int LongestPeriod = 31; // days
 constexpr qint64 RootGroup = 1;
@@ -68,7 +71,7 @@ void AddRow(
     QFormLayout* form, const KvGUI::KvTranslatedText::Source& label, QWidget* field, QWidget* row = nullptr)
 {
     FollowLanguage(field, "accessibleName", [label] { return WithoutShortcut(label()); });
-    auto* text = FollowLanguage(new QLabel, "text", label);
+    auto* text = FollowLanguage(new StartLabel, "text", label);
     text->setMinimumWidth(LabelWidth);
     text->setBuddy(field);
     form->addRow(text, row ? row : field);
@@ -111,7 +114,9 @@ DevicePage::DevicePage(QWidget* parent)
     auto* columns = new QHBoxLayout;
     columns->setSpacing(12);
     columns->addLayout(left, FormWidth);
+    columns->addSpacerItem(new QSpacerItem(BubbleRoom, 0, QSizePolicy::Maximum));
     columns->addLayout(right, FormWidth);
+    columns->addSpacerItem(new QSpacerItem(BubbleRoom, 0, QSizePolicy::Maximum));
     columns->addStretch(1);
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(20, 20, 20, 20);
@@ -203,6 +208,8 @@ QWidget* DevicePage::BuildRecording()
     NameFileDialogs();
     m_pPeriod = new UICommonMdl::WmDateCalendar(group);
     m_pPeriod->SetRestrcitDateRange(LongestPeriod);
+    m_pCalendar = m_pPeriod->findChild<KvGUI::KvCalendarEx*>();
+    m_pCalendar->installEventFilter(this);
     auto* times = FollowLanguage(
         new KvGUI::KvCheckBox(group), "text", [] { return tr("Choose &times of day as well"); });
     AddRow(
@@ -215,6 +222,25 @@ QWidget* DevicePage::BuildRecording()
     connect(m_pFolder, &QLineEdit::textChanged, this, &DevicePage::TakeFolderOfFile);
     connect(times, &QCheckBox::toggled, m_pPeriod, &UICommonMdl::WmDateCalendar::SetTimeEditVisible);
     return group;
+}
+
+bool DevicePage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_pCalendar && event->type() == QEvent::Show)
+        PlaceCalendar();
+    return Page::eventFilter(watched, event);
+}
+
+/// The button opens its calendar at its right in every layout. Where lines end at the left it belongs there,
+/// and never beyond the screen.
+void DevicePage::PlaceCalendar() const
+{
+    int x = m_pCalendar->x();
+    if (isRightToLeft())
+        x = m_pPeriod->mapToGlobal(QPoint(0, 0)).x() - m_pCalendar->width();
+    const QRect room = m_pPeriod->screen()->availableGeometry();
+    const int last = room.right() + 1 - m_pCalendar->width();
+    m_pCalendar->move(qMax(room.left(), qMin(x, last)), m_pCalendar->y());
 }
 
 void DevicePage::OnLanguageChanged()
@@ -394,7 +420,7 @@ QVector<Page::Picture> DevicePage::Pictures()
              FillIn();
              m_pPeriod->click();
          },
-         [this] { m_pPeriod->findChild<KvGUI::KvCalendarEx*>()->close(); }},
+         [this] { m_pCalendar->close(); }},
         {QStringLiteral("group"),
          [this] {
              FillIn();

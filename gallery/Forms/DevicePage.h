@@ -7,6 +7,10 @@ class QFormLayout;
 class QLabel;
 class QLineEdit;
 
+namespace KvGUI {
+class KvCalendarEx;
+}
+
 namespace UICommonMdl {
 class CPasswordEdit;
 class CPasswordStrength;
@@ -39,6 +43,7 @@ public:
 
 protected:
     void OnLanguageChanged() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* BuildDevice();
@@ -47,6 +52,7 @@ private:
     QWidget* BuildButtons();
     QWidget* StrengthRow(QWidget* parent);
     QWidget* GroupRow(QWidget* parent);
+    void PlaceCalendar() const;
     void NameGroups();
     void NameFileDialogs();
     void ShowStrength();
@@ -68,6 +74,7 @@ private:
     UICommonMdl::KvLineEditWithDirButton* m_pCertificate = nullptr;
     UICommonMdl::KvLineEditWithDirButton* m_pFolder = nullptr;
     UICommonMdl::WmDateCalendar* m_pPeriod = nullptr;
+    KvGUI::KvCalendarEx* m_pCalendar = nullptr; ///< of the period
     UICommonMdl::WmAddGroup* m_pNewGroup = nullptr;
 };
 

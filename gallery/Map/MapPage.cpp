@@ -5,6 +5,7 @@
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/LinkWeb/CActiveXLinkWebCtrl.h>
 #include <gallery/FollowLanguage.h>
+#include <gallery/StartLabel.h>
 #include <gallery/Map/MapRules.h>
 #include <gallery/Pictures/DrawnCamera.h>
 
@@ -110,9 +111,9 @@ QString MapPage::Title() { return tr("Site map"); }
 QWidget* MapPage::NewFaultPanel()
 {
     auto* panel = new QWidget;
-    m_pFaultTitle = new QLabel(panel);
+    m_pFaultTitle = new StartLabel(panel);
     m_pFaultTitle->setObjectName(QStringLiteral("pageTitle"));
-    m_pFaultHint = new QLabel(panel);
+    m_pFaultHint = new StartLabel(panel);
     m_pFaultHint->setObjectName(QStringLiteral("hint"));
     m_pLoadAgain = FollowLanguage(new QPushButton(panel), "text", [] { return tr("Load the map again"); });
     m_pLoadAgain->setObjectName(QStringLiteral("loadMapAgain"));

@@ -201,7 +201,7 @@ QWidget* PhotoPage::BuildCut()
     column->setSpacing(8);
     m_pCutView = new PhotoView(group);
     m_pCutView->setMinimumHeight(140);
-    m_pCutText = new QLabel(group);
+    m_pCutText = new StartLabel(group);
     m_pCutText->setTextFormat(Qt::PlainText);
     m_pCutText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     FollowLanguage(m_pCutText, "accessibleName", [] { return tr("Facts of the cut"); });

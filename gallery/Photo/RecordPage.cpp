@@ -227,7 +227,7 @@ void RecordPage::DeletePicture()
     FollowLanguage(dialog->GetButton(QDialogButtonBox::Ok), "text", [] { return tr("&Delete"); });
     auto* layout = new QVBoxLayout(dialog->GetCentralWidget());
     layout->setContentsMargins(20, 20, 20, 20);
-    layout->addWidget(FollowLanguage(new QLabel(dialog->GetCentralWidget()), "text", [] {
+    layout->addWidget(FollowLanguage(new StartLabel(dialog->GetCentralWidget()), "text", [] {
         return tr("Delete this picture from the record?");
     }));
     connect(dialog, &KvGUI::KvCustomDialog::SignalOkButtonClicked, dialog, &QDialog::accept);

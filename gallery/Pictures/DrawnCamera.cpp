@@ -13,12 +13,14 @@ namespace {
 // Below this a line of text would cover the picture.
 constexpr int SmallestHeightWithText = 70;
 
+/// White letters with a dark edge all round, to be read on every picture.
 void PaintOutlined(QPainter& painter, const QRect& area, int flags, const QString& text)
 {
     const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
-    painter.setPen(QColor(0, 0, 0, 190));
-    painter.drawText(area.translated(1, 1), flags, shown);
-    painter.setPen(QColor(245, 246, 248));
+    painter.setPen(QColor(0, 0, 0, 150));
+    for (const QPoint& step : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1), QPoint(1, 1)})
+        painter.drawText(area.translated(step), flags, shown);
+    painter.setPen(QColor(255, 255, 255));
     painter.drawText(area, flags, shown);
 }
 
@@ -69,6 +71,7 @@ void DrawnCamera::PaintText(QPainter& painter, const QRect& area, const QDateTim
     QFont font = painter.font();
     font.setPixelSize(qBound(10, area.height() / 20, 20));
     painter.setFont(font);
+    painter.setLayoutDirection(Qt::LeftToRight); // the camera writes into its picture, whoever looks at it
     const QRect text = area.adjusted(8, 5, -8, -5);
     PaintOutlined(
         painter, text, Qt::AlignLeft | Qt::AlignTop, now.toString(QStringLiteral("yyyy-MM-dd  hh:mm:ss")));
