@@ -155,6 +155,7 @@ private Q_SLOTS:
     void ReadsWhatItCannotReadAsNothing_data();
     void ReadsWhatItCannotReadAsNothing();
     void PassesValuesBothWays();
+    void PassesLargeBlocks();
     void CopesWithUnusualPaths_data();
     void CopesWithUnusualPaths();
     void ReportsUnwritablePlaces_data();
@@ -465,6 +466,26 @@ void TestOffice::PassesValuesBothWays()
     QCOMPARE(
         other->querySubObject(QStringLiteral("UsedRange"))->dynamicCall(QStringLiteral("Value")),
         QVariant(4.0));
+}
+
+// Catches rows of a large block, which crosses in pieces, that are lost, swapped or formatted as others.
+void TestOffice::PassesLargeBlocks()
+{
+    constexpr int Count = 12345;
+    QVariantList rows;
+    for (int row = 0; row < Count; ++row) {
+        const QVariant moment = QDateTime(QDate(2026, 3, 14).addDays(row), QTime(12, 0));
+        rows << QVariant(QVariantList{double(row), QString::number(row), row % 5000 ? QVariant() : moment});
+    }
+    const auto application = Application();
+    const auto range
+        = NewSheet(*application)
+              ->querySubObject(QStringLiteral("Range(const QString&)"), {QStringLiteral("B3:D12350")});
+    range->dynamicCall(QStringLiteral("SetValue(const QVariant&)"), {QVariant(rows)});
+    const QVariantList stored = range->dynamicCall(QStringLiteral("Value")).toList();
+    QCOMPARE(stored.size(), Count + 3);
+    QCOMPARE(stored.mid(0, Count), rows);
+    QCOMPARE(stored.last().toList(), (QVariantList{QVariant(), QVariant(), QVariant()}));
 }
 
 void TestOffice::CopesWithUnusualPaths_data()

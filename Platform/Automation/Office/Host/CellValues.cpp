@@ -2,6 +2,7 @@
 
 #include <Platform/Automation/Office/Host/UnoText.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Office {
@@ -52,6 +53,16 @@ CellKind KindOf(const QVariant& value)
     default:
         return CellKind::Number;
     }
+}
+
+bool HoldOnlyTexts(const QVariantList& rows)
+{
+    const auto isText
+        = [](const QVariant& cell) { return !cell.isValid() || cell.type() == QVariant::String; };
+    return std::all_of(rows.begin(), rows.end(), [&isText](const QVariant& row) {
+        const QVariantList cells = row.toList();
+        return std::all_of(cells.begin(), cells.end(), isText);
+    });
 }
 
 UnoBlock ToBlock(const QVariant& value, int rows, int columns, QDate nullDate)

@@ -28,6 +28,9 @@ UnoBlock ToBlock(const QVariant& value, int rows, int columns, QDate nullDate);
 
 CellKind KindOf(const QVariant& value);
 
+/// Whether the row lists hold nothing but texts and empty cells.
+bool HoldOnlyTexts(const QVariantList& rows);
+
 /// The value of a cell: a double, a text, a bool, a QDateTime; invalid for an empty cell or an error.
 QVariant FromCell(const com::sun::star::uno::Any& cell, CellKind kind, QDate nullDate);
 

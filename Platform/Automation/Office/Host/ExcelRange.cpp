@@ -12,6 +12,9 @@
 #include <com/sun/star/util/NumberFormat.hpp>
 #include <com/sun/star/util/XMergeable.hpp>
 
+#include <atomic>
+#include <future>
+
 namespace Office {
 
 using namespace com::sun::star;
@@ -22,6 +25,8 @@ namespace {
 
 // A sheet with two far cells is no table, and too much for a client's memory.
 constexpr qint64 MostCells = 20000000;
+constexpr int CellsOfPiece = 10000;
+const QString TextFormat = QStringLiteral("@");
 
 table::CellRangeAddress AddressOf(const ExcelRange::Range& range)
 {
@@ -82,8 +87,7 @@ void ExcelRange::Write(const QString& name, const QVariant& value)
     else if (name == QLatin1String("mergecells"))
         Reference<util::XMergeable>(m_range, uno::UNO_QUERY_THROW)->merge(value.toBool());
     else if (name == QLatin1String("numberformatlocal"))
-        SetProperty(
-            m_properties, "NumberFormat", Any(sal_Int32(m_pWorkbook->Open().FormatOfCode(value.toString()))));
+        SetNumberFormat(value.toString());
     else
         ExcelObject::Write(name, value);
 }
@@ -129,11 +133,43 @@ void ExcelRange::SetValue(const QVariant& value)
 {
     if (qint64(Rows()) * Columns() > MostCells)
         throw Refused("too many cells");
-    Data(m_range)->setDataArray(ToBlock(value, Rows(), Columns(), m_pWorkbook->Open().NullDate()));
-    const QVariantList rows
-        = value.type() == QVariant::List ? value.toList() : QVariantList{QVariantList{value}};
-    for (int column = 0; column < Columns(); ++column)
+    const bool isBlock = value.type() == QVariant::List;
+    const QVariantList rows = isBlock ? value.toList() : QVariantList{QVariantList{value}};
+    const bool isText = isBlock && HoldOnlyTexts(rows);
+    // The office gives this format to each text that looks like a number; where it is, it does not look.
+    if (isText)
+        SetNumberFormat(TextFormat);
+    SetRows(value);
+    for (int column = 0; column < Columns() && !isText; ++column)
         FormatColumn(rows, column, qMin(Rows(), rows.size()));
+}
+
+/// Hands over the rows in pieces, by two threads: while the office stores a piece, the next one is made and
+/// crosses the bridge.
+void ExcelRange::SetRows(const QVariant& value)
+{
+    const int rowsOfPiece = qMax(1, CellsOfPiece / Columns());
+    const QDate nullDate = m_pWorkbook->Open().NullDate();
+    const QVariantList rows = value.toList();
+    std::atomic<int> next{0};
+    const auto setPieces = [&] {
+        for (int first = next.fetch_add(rowsOfPiece); first < Rows(); first = next.fetch_add(rowsOfPiece)) {
+            const int count = qMin(rowsOfPiece, Rows() - first);
+            const Range piece = m_range->getCellRangeByPosition(0, first, Columns() - 1, first + count - 1);
+            const QVariant part = rows.isEmpty() ? value : rows.mid(first, count);
+            Data(piece)->setDataArray(ToBlock(part, count, Columns(), nullDate));
+        }
+    };
+    if (Rows() <= rowsOfPiece)
+        return setPieces();
+    std::future<void> other = std::async(setPieces);
+    setPieces();
+    other.get();
+}
+
+void ExcelRange::SetNumberFormat(const QString& code)
+{
+    SetProperty(m_properties, "NumberFormat", Any(sal_Int32(m_pWorkbook->Open().FormatOfCode(code))));
 }
 
 /// Dates and truth values are numbers with a format, given to each run of them in the column.

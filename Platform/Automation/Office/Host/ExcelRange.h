@@ -24,6 +24,8 @@ public:
 private:
     QVariant Value() const;
     void SetValue(const QVariant& value);
+    void SetRows(const QVariant& value);
+    void SetNumberFormat(const QString& code);
     void FormatColumn(const QVariantList& rows, int column, int count);
     void SetRowHeight(int points);
     void SetColumnWidth(int characters);
