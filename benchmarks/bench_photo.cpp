@@ -1,12 +1,9 @@
 // Fitting a 12-megapixel picture to a byte limit against encoding it at every quality, and painting a crop
 // canvas while a frame is dragged over a 24-megapixel picture against drawing a ready pixmap of that size.
 //
-// What bounds fitting from below: the picture is encoded really at the quality that fits, as zeros are
-// stuffed into its bytes, and its colours and cosines are calculated once for all qualities that do not. With
-// many steps the plain loop pays for that many times, with 9 steps about ten times and for cheap qualities
-// only; with one step both encode twice, so the ratio is 1. Counting instead of encoding at quality 100 was
-// slower there, and so was handing the encoder a picture of 24 bits, whose memory costs more than it saves.
-// Two threads, each counting a part, took no less time than one on two busy cores.
+// What bounds fitting from below: colours, cosines and the last quality's bits take about two of the plain loop's
+// cheaper encodings, whatever the number of steps. Two threads, each counting a part, took no less time than one
+// on two busy cores.
 
 #include "Ratio.h"
 

@@ -106,7 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     const std::optional<JpegTables> tables = ReadJpegTables(bytes);
-    Expect(!tables || tables->headerBytes + tables->scanBytes <= bytes.size(), "tables end inside the file");
+    Expect(!tables || tables->headerBytes + tables->scanBytes < bytes.size(), "tables end inside the file");
     if (IsTooLarge(bytes))
         return 0;
 

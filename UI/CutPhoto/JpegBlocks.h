@@ -1,9 +1,11 @@
 #pragma once
 
+#include "JpegQuantiser.h"
 #include "JpegSamples.h"
 #include "JpegTables.h"
 #include "JpegTransform.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QtGlobal>
 #include <array>
@@ -13,7 +15,7 @@
 namespace UICommonMdl {
 
 /// A picture as a JPEG encoder sees it before it quantises: the cosine transforms of its 8 x 8 blocks, from
-/// which the size at one quality after the other is counted.
+/// which the bits at one quality after the other are counted, and written.
 ///
 /// Samples and transform are those of the JPEG library that Qt writes with, to the last bit. Count from fine
 /// to coarse tables: what a count rounds to zero is forgotten, as a coarser one would round it to zero too.
@@ -26,41 +28,34 @@ public:
     /// Whether @p tables divide by as much as all tables counted with so far, or by more.
     bool CanCount(const JpegTables& tables) const;
 
-    /// Bytes of the picture's bits, without zeros stuffed after bytes of 255; any number above @p enough
-    /// when there are more than that.
-    qint64 Bytes(const JpegTables& tables, qint64 enough);
+    /// The picture's bits as the encoder writes them; nothing when they surely take more than @p enough
+    /// bytes.
+    std::optional<QByteArray> Written(const JpegTables& tables, qint64 enough);
 
 private:
-    /// A coefficient that is not rounded to zero, or the end of a block.
-    struct Coefficient
+    /// A row of blocks.
+    struct Row
     {
-        quint16 magnitude;
-        quint16 place; ///< in zigzag order, 1 to 63; 64 at the end
+        JpegDetails details;
+        std::vector<qint16> means;
     };
-    /// One component of a band.
-    struct Channel
-    {
-        std::vector<Coefficient> coefficients; ///< block after block, in any order
-        std::vector<qint16> means; ///< of the blocks, in the order of writing
-    };
-    /// 16 rows of the picture.
-    struct Band
-    {
-        std::array<Channel, 3> channels; ///< luminance, and when coloured two chrominances
-        int fillers = 0; ///< blocks of luminance that fill up groups at the picture's edges
-    };
-    struct Quantiser;
+    /// 16 rows of the picture: two rows of luminance and, when coloured, one of each chrominance.
+    using Band = std::array<Row, 4>;
+    using Means = std::array<int, 3>; ///< one of each component
+    using Quantisers = std::array<JpegQuantiser, 2>; ///< of luminance and chrominance
 
-    bool AddBand(const Quantiser& luminance, const Quantiser& chrominance);
-    Channel Transformed(const JpegPlane& plane, const QSize& size, const Quantiser& quantiser);
-    size_t MeanIndex(int column, int row, const QSize& size) const;
-    static qint64 DetailBits(Channel& channel, const Quantiser& quantiser);
-    static qint64 MeanBits(const Channel& channel, const Quantiser& quantiser, int& previous);
+    bool AddBand(const Quantisers& quantisers);
+    Row Transformed(const JpegPlane& plane, int row, int columns, const JpegQuantiser& quantiser);
+    template <typename Visit>
+    void ForEachBlock(const Band& band, Visit visit) const;
+    qint64 MeanBits(const Band& band, const Quantisers& quantisers, Means& previous) const;
+    qint64 Bits(const Quantisers& quantisers, qint64 enough);
+    void Write(const Band& band, const Quantisers& quantisers, Means& previous, JpegBits& bits) const;
 
     const QSize m_size;
     const bool m_colored;
     JpegSamples m_samples;
-    std::vector<Coefficient> m_found; ///< room for all of a channel
+    JpegDetails m_found; ///< room for all of a row
     std::optional<JpegTables> m_tables; ///< counted with last
     std::vector<Band> m_bands;
 };

@@ -16,6 +16,9 @@ struct JpegFit
 /// 54, 49, 45, 41, 37, 34, 31, 28, 26, 24, 22, 20, 18, 17 and from there every quality down to 0, then -1.
 int NextLowerQuality(int quality);
 
+/// Whether a picture of @p size is not longer than a JPEG can be.
+bool CanBeJpeg(const QSize& size);
+
 /// @p image as a JPEG of @p quality, 0 to 100; empty when it cannot be written as one.
 QByteArray JpegBytes(const QImage& image, int quality);
 

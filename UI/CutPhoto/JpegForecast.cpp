@@ -2,52 +2,59 @@
 
 #include "JpegFitting.h"
 
-#include <limits>
-
 namespace UICommonMdl {
 
 namespace {
 
 constexpr int SampleSide = 64;
-constexpr int EndBytes = 2; // after the picture's bits
 
-/// Smaller pictures are encoded as quickly; larger ones would take too much memory.
+/// Smaller pictures are encoded as quickly.
 constexpr qint64 FewestPixels = qint64(4) * SampleSide * SampleSide;
-constexpr qint64 MostPixels = qint64(1) << 26;
 
-bool IsWorthwhile(const QSize& size)
+/// Larger pictures would take too much memory, unless most of their values are forgotten.
+constexpr qint64 MostMemory = qint64(400) << 20;
+constexpr qint64 BytesOfPixel = 6;
+constexpr qint64 BytesOfWrittenByte = 12; // of the fewest bits that a value is written in
+
+bool IsWorthwhile(const QSize& size, qint64 maximum)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
-    return pixels >= FewestPixels && pixels <= MostPixels;
+    return CanBeJpeg(size) && pixels >= FewestPixels
+        && qMin(pixels * BytesOfPixel, maximum * BytesOfWrittenByte) <= MostMemory;
 }
 
+/// The middle, with the same parts of blocks at its edges as the whole picture has.
 QImage MiddlePart(const QImage& image)
 {
-    QRect part(0, 0, qMin(SampleSide, image.width()), qMin(SampleSide, image.height()));
+    const auto side = [](int length) { return qMin(length, SampleSide + length % JpegSamples::BandRows); };
+    QRect part(0, 0, side(image.width()), side(image.height()));
     part.moveCenter(image.rect().center());
     return image.copy(part);
 }
 
 } // namespace
 
-JpegForecast::JpegForecast(const QImage& image)
+JpegForecast::JpegForecast(const QImage& image, int maximum)
     : m_image(image)
     , m_sample(MiddlePart(image))
-    , m_covered(IsWorthwhile(image.size()))
+    , m_maximum(maximum)
+    , m_covered(IsWorthwhile(image.size(), maximum))
 { }
 
-bool JpegForecast::Exceeds(int quality, int maximum)
+std::optional<qint64> JpegForecast::Bytes(int quality)
 {
     if (!m_covered)
-        return false;
-    const std::optional<JpegTables> tables = ReadJpegTables(JpegBytes(m_sample, quality));
+        return std::nullopt;
+    const QByteArray sample = JpegBytes(m_sample, quality);
+    const std::optional<JpegTables> tables = ReadJpegTables(sample);
     m_covered = tables && Prepare(*tables)
-        && m_sampleBlocks->Bytes(*tables, std::numeric_limits<int>::max()) == tables->scanBytes;
+        && m_sampleBlocks->Written(*tables, sample.size())
+            == sample.mid(tables->headerBytes, tables->scanBytes);
     if (!m_covered)
-        return false;
-    const qint64 room = qint64(maximum) - tables->headerBytes - EndBytes;
-    // Stuffed zeros can only add to what is counted.
-    return m_blocks->Bytes(*tables, room) > room;
+        return std::nullopt;
+    const int frameBytes = tables->headerBytes + JpegEndBytes;
+    const std::optional<QByteArray> written = m_blocks->Written(*tables, m_maximum - frameBytes);
+    return written ? frameBytes + qint64(written->size()) : m_maximum + 1;
 }
 
 bool JpegForecast::Prepare(const JpegTables& tables)

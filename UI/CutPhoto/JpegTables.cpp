@@ -1,5 +1,7 @@
 #include "JpegTables.h"
 
+#include <algorithm>
+
 namespace UICommonMdl {
 
 namespace {
@@ -21,7 +23,7 @@ constexpr int MarkerBytes = 2;
 constexpr int LengthBytes = 2;
 constexpr int LongestCode = 16;
 
-using CodeLengths = std::array<int, 256>; // by symbol; 0 for a symbol without a code
+using Codes = std::array<JpegCode, 256>; // by symbol
 
 /// The bytes of a JPEG up to its picture, segment by segment.
 class Reader
@@ -43,14 +45,13 @@ private:
     bool ReadFrame(int from, int to);
     bool ReadScan(int from, int to) const;
     std::optional<JpegCoding> Coding(int table) const;
-    std::optional<qint64> ScanBytes(int from) const;
     std::optional<JpegTables> Tables(int scanStart) const;
 
     const QByteArray m_bytes;
     int m_components = 0;
     std::array<std::optional<std::array<int, JpegBlockSize>>, 2> m_divisors;
-    std::array<std::optional<CodeLengths>, 2> m_dc;
-    std::array<std::optional<CodeLengths>, 2> m_ac;
+    std::array<std::optional<Codes>, 2> m_dc;
+    std::array<std::optional<Codes>, 2> m_ac;
 };
 
 std::optional<JpegTables> Reader::Read()
@@ -107,12 +108,12 @@ bool Reader::ReadHuffman(int from, int to)
         const auto table = static_cast<size_t>(Byte(at) & 15);
         if (kind > 1 || table > 1)
             return false;
-        CodeLengths& lengths = (kind == 0 ? m_dc : m_ac)[table].emplace();
-        lengths.fill(0);
+        Codes& codes = (kind == 0 ? m_dc : m_ac)[table].emplace();
         int symbol = at + 1 + LongestCode;
-        for (int length = 1; length <= LongestCode; ++length)
+        quint16 code = 0;
+        for (int length = 1; length <= LongestCode; ++length, code = static_cast<quint16>(code << 1))
             for (int i = Byte(at + length); i > 0; --i)
-                lengths[static_cast<size_t>(Byte(symbol++))] = length;
+                codes[static_cast<size_t>(Byte(symbol++))] = {code++, static_cast<quint8>(length)};
         at = symbol;
     }
     return at == to;
@@ -156,36 +157,19 @@ std::optional<JpegCoding> Reader::Coding(int table) const
     for (const int divisor : coding.divisors)
         if (divisor == 0)
             return std::nullopt;
-    for (size_t bits = 0; bits < coding.dcBits.size(); ++bits)
-        coding.dcBits[bits] = (*m_dc[i])[bits] + static_cast<int>(bits);
-    for (size_t symbol = 0; symbol < coding.acBits.size(); ++symbol)
-        coding.acBits[symbol] = (*m_ac[i])[symbol] + static_cast<int>(symbol & 15);
+    std::copy_n(m_dc[i]->begin(), coding.dc.size(), coding.dc.begin());
+    coding.ac = *m_ac[i];
     return coding;
-}
-
-std::optional<qint64> Reader::ScanBytes(int from) const
-{
-    qint64 stuffed = 0;
-    for (int at = from; at + 1 < m_bytes.size(); ++at) {
-        if (Byte(at) != 0xFF)
-            continue;
-        if (Byte(at + 1) == EndOfImage && at + MarkerBytes == m_bytes.size())
-            return at - from - stuffed;
-        if (Byte(at + 1) != 0)
-            return std::nullopt;
-        ++stuffed;
-    }
-    return std::nullopt;
 }
 
 std::optional<JpegTables> Reader::Tables(int scanStart) const
 {
     const std::optional<JpegCoding> luminance = Coding(0);
     const std::optional<JpegCoding> chrominance = m_components == 1 ? luminance : Coding(1);
-    const std::optional<qint64> scanBytes = ScanBytes(scanStart);
-    if (!luminance || !chrominance || !scanBytes)
+    const int scanEnd = m_bytes.size() - JpegEndBytes;
+    if (!luminance || !chrominance || scanEnd < scanStart || Word(scanEnd) != 0xFF00 + EndOfImage)
         return std::nullopt;
-    return JpegTables{scanStart, *scanBytes, m_components == 3, *luminance, *chrominance};
+    return JpegTables{scanStart, scanEnd - scanStart, m_components == 3, *luminance, *chrominance};
 }
 
 } // namespace
