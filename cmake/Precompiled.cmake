@@ -9,9 +9,15 @@ set(UICOMPONENTS_DEFINITIONS QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_ASCII QT_NO_URL
     QT_DEPRECATED_WARNINGS_SINCE=0x050500)
 target_compile_definitions(UIComponentsPrecompiled PRIVATE ${UICOMPONENTS_DEFINITIONS})
 uicomponents_warnings(UIComponentsPrecompiled)
+if(UICOMPONENTS_COVERAGE)
+    # Without the branches that the compiler adds to each call that could throw: what is counted is written.
+    set(UICOMPONENTS_COUNTED -fno-exceptions -fno-threadsafe-statics)
+endif()
+target_compile_options(UIComponentsPrecompiled PRIVATE ${UICOMPONENTS_COUNTED})
 
 function(uicomponents_precompiled)
     foreach(target IN LISTS ARGN)
+        target_compile_options(${target} PRIVATE ${UICOMPONENTS_COUNTED})
         target_compile_definitions(${target} PRIVATE ${UICOMPONENTS_DEFINITIONS})
         target_precompile_headers(${target} REUSE_FROM UIComponentsPrecompiled)
     endforeach()

@@ -157,9 +157,7 @@ private slots:
 
     void Budgets_data()
     {
-        QTest::addColumn<QByteArray>("codec");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("typed");
+        TestSupport::Columns<QByteArray, int, QString>("codec", "type", "typed");
         QTest::addColumn<int>("kept"); // characters
         const QByteArray utf8("UTF-8");
         const QByteArray gbk("GBK");

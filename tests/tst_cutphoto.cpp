@@ -1,5 +1,6 @@
 // The two crop canvases, driven by real mouse and key events; what was framed is read from the cut.
 
+#include "support/Columns.h"
 #include "support/CropCanvas.h"
 #include "support/StrictMain.h"
 
@@ -511,8 +512,7 @@ private slots:
     // client.
     void FilesOfAllKindsAreRead_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("bytes");
+        TestSupport::Columns<QString, QByteArray>("name", "bytes");
         QTest::addColumn<QSize>("size"); // empty when it is not a picture
 
         const QImage scene = PlacePicture(QSize(60, 40));

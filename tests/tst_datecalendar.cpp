@@ -698,23 +698,18 @@ private slots:
         QCOMPARE(form.button->text(), QStringLiteral("2024/01/05-2024/01/07"));
     }
 
-    void Positions_data()
-    {
-        TestSupport::Columns<QPoint, QPoint>("corner", "position");
-        QTest::newRow("room above") << QPoint(500, 700) << QPoint(500, 400);
-        QTest::newRow("just room above") << QPoint(500, 340) << QPoint(500, 40);
-        QTest::newRow("a pixel too little") << QPoint(500, 339) << QPoint(500, 309);
-        QTest::newRow("near the top") << QPoint(500, 80) << QPoint(500, 50);
-        QTest::newRow("below the screen") << QPoint(500, 1400) << QPoint(500, 800);
-        QTest::newRow("right edge") << QPoint(1919, 700) << QPoint(1919, 400);
-    }
-
     /// Catches a calendar beyond the upper or lower edge of the screen.
     void Positions()
     {
-        QFETCH(QPoint, corner);
-        const QRect available(0, 40, 1920, 1040);
-        QTEST(CalendarPosition(corner, 30, 300, available), "position");
+        const auto position = [](int x, int y) {
+            return CalendarPosition({x, y}, 30, 300, QRect(0, 40, 1920, 1040));
+        };
+        QCOMPARE(position(500, 700), QPoint(500, 400)); // room above
+        QCOMPARE(position(500, 340), QPoint(500, 40));
+        QCOMPARE(position(500, 339), QPoint(500, 309)); // a pixel too little
+        QCOMPARE(position(500, 80), QPoint(500, 50));
+        QCOMPARE(position(500, 1400), QPoint(500, 800)); // below the screen
+        QCOMPARE(position(1919, 700), QPoint(1919, 400));
     }
 
     /// Catches a press that closes the calendar and opens it again, and a button that stays pressed after one

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 #include "support/WallMouse.h"
 
@@ -8,17 +9,8 @@
 #include <gallery/Wall/WallPage.h>
 #include <gallery/Wall/WallRules.h>
 
-#include <QAction>
-#include <QApplication>
-#include <QFile>
-#include <QImage>
-#include <QLabel>
-#include <QMimeData>
-#include <QPainter>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QUrl>
+#include <QtTest>
+#include <QtWidgets>
 #include <memory>
 
 using namespace OperatorClient;
@@ -127,11 +119,6 @@ bool IsInside(const KvGUI::StructScaleRect& rect)
         && rect.dLeft < rect.dRight && rect.dTop < rect.dBottom;
 }
 
-KvGUI::StructScaleRect Cell(double left, double top, double right, double bottom)
-{
-    return {left, top, right, bottom, false};
-}
-
 } // namespace
 
 class tst_gallery : public QObject
@@ -186,10 +173,7 @@ private Q_SLOTS:
 
     void DamagedLayout_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("readable");
-        QTest::addColumn<int>("screens");
-        QTest::addColumn<int>("windows");
+        TestSupport::Columns<QString, bool, int, int>("text", "readable", "screens", "windows");
         const auto row = [](const char* name, const QString& text, bool readable, int screens, int windows) {
             QTest::newRow(name) << text << readable << screens << windows;
         };
@@ -286,72 +270,37 @@ private Q_SLOTS:
         QCOMPARE(saved->screens.at(3).text, QStringLiteral("After it"));
     }
 
-    void FreeCells_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<int>("columns");
-        QTest::addColumn<QVector<QRectF>>("taken");
-        QTest::addColumn<int>("free");
-        QTest::newRow("one screen") << 2 << 2 << QVector<QRectF>{{0, 0, 0.5, 0.5}} << 3;
-        QTest::newRow("neighbours only touch") << 3 << 3 << QVector<QRectF>{{0, 0, 1.0 / 3, 1}} << 6;
-        QTest::newRow("a screen over cells of a finer grid")
-            << 4 << 4 << QVector<QRectF>{{0, 0, 0.5, 0.5}} << 12;
-        QTest::newRow("no grid") << 0 << 0 << QVector<QRectF>{} << 0;
-    }
-
     // Catches cells counted as taken by a screen that only touches them, and screens put on top of others.
     void FreeCells()
     {
-        QFETCH(int, rows);
-        QFETCH(int, columns);
-        QFETCH(QVector<QRectF>, taken);
-        QFETCH(int, free);
-        QVector<KvGUI::StructScaleRect> rects;
-        for (const QRectF& rect : taken)
-            rects.append(Cell(rect.left(), rect.top(), rect.right(), rect.bottom()));
-        QCOMPARE(OperatorClient::FreeCells(rows, columns, rects).size(), free);
-    }
-
-    void StackingOrder_data()
-    {
-        QTest::addColumn<QVector<int>>("zValues");
-        QTest::addColumn<QList<int>>("moved");
-        QTest::addColumn<bool>("toTop");
-        QTest::addColumn<QVector<int>>("order");
-        using V = QVector<int>;
-        using L = QList<int>;
-        QTest::newRow("nothing") << V{} << L{} << true << V{};
-        QTest::newRow("raise the lowest") << V{1, 2, 3} << L{0} << true << V{1, 2, 0};
-        QTest::newRow("lower the highest") << V{1, 2, 3} << L{2} << false << V{2, 0, 1};
-        QTest::newRow("several keep their order") << V{4, 3, 2, 1} << L{0, 2} << true << V{3, 1, 2, 0};
-        QTest::newRow("equal values") << V{0, 0, 0} << L{1} << false << V{1, 0, 2};
-        QTest::newRow("a window that is not there") << V{2, 1} << L{7} << true << V{1, 0};
+        const auto free = [](int rows, int columns, const KvGUI::StructScaleRect& taken) {
+            return OperatorClient::FreeCells(rows, columns, {taken}).size();
+        };
+        QCOMPARE(free(2, 2, {0, 0, 0.5, 0.5}), 3);
+        QCOMPARE(free(3, 3, {0, 0, 1.0 / 3, 1}), 6); // its neighbours only touch
+        QCOMPARE(free(4, 4, {0, 0, 0.5, 0.5}), 12);
+        QCOMPARE(free(0, 0, {0, 0, 0.5, 0.5}), 0);
     }
 
     // Catches windows that change places among themselves when they are raised or lowered together.
     void StackingOrder()
     {
-        QFETCH(QVector<int>, zValues);
-        QFETCH(QList<int>, moved);
-        QFETCH(bool, toTop);
-        QFETCH(QVector<int>, order);
-        QCOMPARE(OperatorClient::StackingOrder(zValues, moved, toTop), order);
-    }
-
-    void DroppedWindowStaysInside_data()
-    {
-        QTest::addColumn<QPointF>("centre");
-        QTest::newRow("middle") << QPointF(0.5, 0.5);
-        QTest::newRow("corner") << QPointF(0, 1);
-        QTest::newRow("outside") << QPointF(-3, 7);
-        QTest::newRow("on a screen without size") << QPointF(qQNaN(), qInf());
+        using OperatorClient::StackingOrder;
+        using V = QVector<int>;
+        QCOMPARE(StackingOrder({}, {}, true), V());
+        QCOMPARE(StackingOrder({1, 2, 3}, {0}, true), V({1, 2, 0}));
+        QCOMPARE(StackingOrder({1, 2, 3}, {2}, false), V({2, 0, 1}));
+        QCOMPARE(StackingOrder({4, 3, 2, 1}, {0, 2}, true), V({3, 1, 2, 0}));
+        QCOMPARE(StackingOrder({0, 0, 0}, {1}, false), V({1, 0, 2}));
+        QCOMPARE(StackingOrder({2, 1}, {7}, true), V({1, 0})); // a window that is not there
     }
 
     // Catches a dropped window that stands partly outside its screen, or nowhere.
     void DroppedWindowStaysInside()
     {
-        QFETCH(QPointF, centre);
-        QVERIFY(IsInside(PlaceAround(centre)));
+        for (const QPointF& centre :
+             {QPointF(0.5, 0.5), QPointF(0, 1), QPointF(-3, 7), QPointF(qQNaN(), qInf())})
+            QVERIFY(IsInside(PlaceAround(centre)));
     }
 
     // Catches what a restart forgets: places, stacking, sources, switches.

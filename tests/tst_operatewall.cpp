@@ -251,11 +251,6 @@ private Q_SLOTS:
         QCOMPARE(z.Geometry().size(), QSize(1200, 900));
         z.mouse.Wheel({400, 300}, 0); // sideways: delta below 1
         QCOMPARE(z.Geometry(), QRect(0, 0, 800, 600));
-    }
-
-    void zoomSurvivesAResize()
-    {
-        Zoomable z;
         for (int i = 0; i < 3; ++i)
             z.mouse.Wheel({799, 300}, 120);
         QCOMPARE(z.Geometry().size(), QSize(2700, 2025));

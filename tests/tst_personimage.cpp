@@ -147,23 +147,18 @@ private slots:
         }
     }
 
-    void Captions_data()
-    {
-        TestSupport::Columns<int, QString>("type", "text");
-        QTest::newRow("avatar") << 1 << QStringLiteral("Avatar");
-        QTest::newRow("first face") << 2 << QStringLiteral("Face1");
-        QTest::newRow("second face") << 3 << QStringLiteral("Face2");
-        QTest::newRow("any other") << -7 << QStringLiteral("Face2");
-    }
-
     /// Catches the type's number in place of the face's.
     void Captions()
     {
-        QFETCH(int, type);
-        QFETCH(QString, text);
         WmPersonImage panel;
-        panel.SetShowAvatarOrFaceLabel(true, type);
-        QCOMPARE(Caption(panel)->text(), text);
+        const auto caption = [&](int type) {
+            panel.SetShowAvatarOrFaceLabel(true, type);
+            return Caption(panel)->text();
+        };
+        QCOMPARE(caption(1), QStringLiteral("Avatar"));
+        QCOMPARE(caption(2), QStringLiteral("Face1"));
+        QCOMPARE(caption(3), QStringLiteral("Face2"));
+        QCOMPARE(caption(-7), QStringLiteral("Face2"));
     }
 
     /// Catches a page button that offers the page which is shown, and a turn that leaves the buttons hidden.

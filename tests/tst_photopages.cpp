@@ -22,7 +22,6 @@ using namespace OperatorClient;
 
 namespace {
 
-constexpr int kDialogIsThere = 150; // milliseconds
 constexpr int kLookInterval = 20; // milliseconds
 
 /// Runs @p act once a dialog of @p page is open and shows its picture, however slow the machine is.
@@ -86,6 +85,13 @@ void DropPicture(const PhotoPage& page, const QImage& picture)
     QMimeData data;
     data.setImageData(picture);
     Drop(*page.findChild<PhotoView*>(), data);
+}
+
+/// Crops in the dialog without a search, and answers it by a key.
+void CropPlain(PhotoPage& page, Qt::Key answer)
+{
+    WhenOpen(page, [answer](QDialog& dialog) { QTest::keyClick(&dialog, answer); });
+    page.CropPlain();
 }
 
 template <typename PageType>
@@ -180,8 +186,7 @@ private slots:
         const QList<QSpinBox*> boxes = page.findChildren<QSpinBox*>();
         for (int i = 0; i < limits.size(); ++i)
             boxes.at(i)->setValue(limits.at(i));
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        page.CropPlain();
+        CropPlain(page, Qt::Key_Return);
         QVERIFY(page.Cut().has_value());
         QTEST(page.Cut()->image.size(), "cut");
     }
@@ -209,14 +214,11 @@ private slots:
     {
         PhotoPage page{QString()};
         Show(page);
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-        page.CropPlain();
+        CropPlain(page, Qt::Key_Escape);
         QVERIFY(!page.Cut().has_value());
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        page.CropPlain();
+        CropPlain(page, Qt::Key_Return);
         QVERIFY(page.Cut().has_value());
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-        page.CropPlain();
+        CropPlain(page, Qt::Key_Escape);
         QVERIFY(page.Cut().has_value());
     }
 
@@ -234,8 +236,7 @@ private slots:
         Drop(*page.findChild<PhotoView*>(), data);
         const auto* name = page.findChild<QLabel*>(QStringLiteral("hint"));
         QVERIFY(name->sizeHint().width() >= name->fontMetrics().horizontalAdvance(name->text()));
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        page.CropPlain();
+        CropPlain(page, Qt::Key_Return);
         QVERIFY(page.Cut().has_value());
         QCOMPARE(page.Cut()->image.size(), blue.size());
         QCOMPARE(page.Cut()->image.pixelColor(150, 100), QColor(Qt::blue));
@@ -270,83 +271,52 @@ private slots:
         PhotoPage page(path);
         Show(page);
         QVERIFY(IsTold(QStringLiteral("broken.jpg")));
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        page.CropPlain();
+        CropPlain(page, Qt::Key_Return);
         QVERIFY(page.Cut().has_value()); // of the drawn photo, which is there still
     }
 
-    /// Catches a cut of one photo that is saved as one of another.
+    /// Catches a cut of one photo that is saved as one of another, and a file of another quality or size than
+    /// the page shows.
     void NewPhotoTakesTheCutAway()
     {
         PhotoPage page{QString()};
         Show(page);
         auto* save = ButtonOf(page, QStringLiteral("Save as JPEG\u2026"));
         QVERIFY(!save->isEnabled());
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        page.CropPlain();
+        CropPlain(page, Qt::Key_Return);
         QVERIFY(save->isEnabled());
+        const QString path = m_folder.filePath(QStringLiteral("cut.jpg"));
+        QVERIFY(PhotoCrop::Save(*page.Cut(), path));
+        QCOMPARE(QFileInfo(path).size(), qint64(page.Cut()->jpeg.size()));
+        QCOMPARE(QImage(path).size(), page.Cut()->image.size());
         QTest::mouseClick(ButtonOf(page, QStringLiteral("Drawn photo")), Qt::LeftButton);
         QVERIFY(!page.Cut().has_value());
         QVERIFY(!save->isEnabled());
     }
 
-    /// Catches a file of another quality or size than the page shows, and half a file.
-    void SavedCutIsTheCut()
-    {
-        PhotoPage page{QString()};
-        Show(page);
-        WhenOpen(page, [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-        page.CropPlain();
-        const QString path = m_folder.filePath(QStringLiteral("cut.jpg"));
-        QVERIFY(PhotoCrop::Save(*page.Cut(), path));
-        QCOMPARE(QFileInfo(path).size(), qint64(page.Cut()->jpeg.size()));
-        QCOMPARE(QImage(path).size(), page.Cut()->image.size());
-        QVERIFY(!PhotoCrop::Save(*page.Cut(), m_folder.filePath(QStringLiteral("none/cut.jpg"))));
-    }
-
     /// Catches any use of the page or its dialog after both are gone.
     void PageDestroyedWhileADialogIsOpen()
     {
-        for (const auto crop : {&PhotoPage::CropPlain, &PhotoPage::CropWithZoom}) {
-            if (crop == &PhotoPage::CropWithZoom)
-                TestSupport::AnnounceCropCanvases();
-            auto* page = new PhotoPage(QString());
+        for (const char* open :
+             {"Open a photo\u2026", "By a plain frame\u2026", "With handles and search\u2026"}) {
+            QPointer<PhotoPage> page = new PhotoPage(QString());
             Show(*page);
-            QTimer::singleShot(kDialogIsThere, qApp, [page] { delete page; });
-            (page->*crop)();
+            if (qstrcmp(open, "With handles and search\u2026") == 0)
+                TestSupport::AnnounceCropCanvases();
+            WhenOpen(*page, [page](QDialog&) { delete page; });
+            ButtonOf(*page, QString::fromUtf8(open))->click();
+            QVERIFY(page.isNull());
         }
-    }
-
-    /// Catches a file dialog that is deleted a second time by the page which opened it.
-    void PageDestroyedWhileAFileIsChosen()
-    {
-        auto* page = new PhotoPage(QString());
-        const QPointer<PhotoPage> guard(page);
-        Show(*page);
-        QTimer::singleShot(kDialogIsThere, qApp, [page] {
-            QVERIFY(page->findChild<QFileDialog*>() != nullptr);
-            delete page;
-        });
-        ButtonOf(*page, QStringLiteral("Open a photo\u2026"))->click();
-        QVERIFY(guard.isNull());
-    }
-
-    void CanvasKeepsThePicturesShape_data()
-    {
-        TestSupport::Columns<QSize, QSize>("picture", "canvas");
-        QTest::newRow("wide") << QSize(1920, 1080) << QSize(960, 540);
-        QTest::newRow("high") << QSize(1000, 2000) << QSize(320, 640);
-        QTest::newRow("small") << QSize(30, 20) << QSize(960, 640);
-        QTest::newRow("very high") << QSize(1, 20000) << QSize(320, 640);
-        QTest::newRow("none") << QSize() << QSize(960, 640);
     }
 
     /// Catches a canvas in which people look wide or thin, and one too small to use.
     void CanvasKeepsThePicturesShape()
     {
-        QFETCH(QSize, picture);
-        QFETCH(QSize, canvas);
-        QCOMPARE(PhotoCrop::CanvasSize(picture), canvas);
+        QCOMPARE(PhotoCrop::CanvasSize({1920, 1080}), QSize(960, 540));
+        QCOMPARE(PhotoCrop::CanvasSize({1000, 2000}), QSize(320, 640));
+        QCOMPARE(PhotoCrop::CanvasSize({30, 20}), QSize(960, 640));
+        QCOMPARE(PhotoCrop::CanvasSize({1, 20000}), QSize(320, 640));
+        QCOMPARE(PhotoCrop::CanvasSize({}), QSize(960, 640));
     }
 
     /// Catches fields or pictures that are lost when the client starts again.

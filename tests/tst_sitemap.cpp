@@ -12,8 +12,6 @@
 #include <QtWidgets>
 #include <unistd.h>
 
-Q_DECLARE_METATYPE(OperatorClient::WallLayout)
-
 using namespace OperatorClient;
 
 namespace {
@@ -111,56 +109,35 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(client.page.IsMapLoaded(), Patience);
     }
 
-    void FreeQuarters_data()
-    {
-        TestSupport::Columns<WallLayout, int, QPointF>("wall", "screen", "corner");
-        const WindowLayout full = Window(0, 0, 1, 1, 1);
-        const WindowLayout first = Window(0, 0, 0.5, 0.5, 2);
-        QTest::newRow("no screen") << WallLayout() << -1 << QPointF(0, 0);
-        QTest::newRow("empty screen") << Wall({{}}) << 0 << QPointF(0, 0);
-        QTest::newRow("beside another") << Wall({{first}}) << 0 << QPointF(0.5, 0);
-        QTest::newRow("a window over two quarters")
-            << Wall({{Window(0.2, 0.1, 0.8, 0.4, 1)}}) << 0 << QPointF(0, 0.5);
-        QTest::newRow("an edge that was rounded")
-            << Wall({{Window(0, 0, 0.5004, 0.5004, 1)}}) << 0 << QPointF(0.5, 0);
-        QTest::newRow("the next screen") << Wall({{full}, {first}}) << 1 << QPointF(0.5, 0);
-        QTest::newRow("all taken") << Wall({{full}, {full}}) << -1 << QPointF(0, 0);
-    }
-
     // Catches a window that opens over another although there is room.
     void FreeQuarters()
     {
-        QFETCH(WallLayout, wall);
-        QFETCH(int, screen);
-        QFETCH(QPointF, corner);
-        const FreeQuarter quarter = FirstFreeQuarter(wall);
-        QCOMPARE(quarter.screen, screen);
-        if (screen >= 0)
-            QCOMPARE(QPointF(quarter.rect.dLeft, quarter.rect.dTop), corner);
-    }
-
-    void ScriptForMap_data()
-    {
-        TestSupport::Columns<WallLayout, int, QList<int>, QString>("wall", "screen", "selected", "script");
-        WindowLayout photo = Window(0, 0, 1, 1, 1);
-        photo.source = SourceSpec::Photo(QStringLiteral("/a.png"));
-        const WallLayout wall = Wall({{Window(0, 0, 1, 1, 3), photo}, {Window(0, 0, 1, 1, 5)}});
-        using L = QList<int>;
-        QTest::newRow("empty wall") << WallLayout() << -1 << L() << QStringLiteral("showWall([], [])");
-        QTest::newRow("nothing selected") << wall << 0 << L() << QStringLiteral("showWall([3,5], [])");
-        QTest::newRow("a camera") << wall << 1 << L{0} << QStringLiteral("showWall([3,5], [5])");
-        QTest::newRow("camera and photo") << wall << 0 << L{0, 1} << QStringLiteral("showWall([3,5], [3])");
-        QTest::newRow("no screen") << wall << -1 << L{0} << QStringLiteral("showWall([3,5], [])");
+        const WindowLayout full = Window(0, 0, 1, 1, 1);
+        const WindowLayout first = Window(0, 0, 0.5, 0.5, 2);
+        const auto free = [](const WallLayout& wall) {
+            const FreeQuarter quarter = FirstFreeQuarter(wall);
+            return qMakePair(quarter.screen, QPointF(quarter.rect.dLeft, quarter.rect.dTop));
+        };
+        QCOMPARE(free({}).first, -1);
+        QCOMPARE(free(Wall({{full}, {full}})).first, -1);
+        QCOMPARE(free(Wall({{}})), qMakePair(0, QPointF(0, 0)));
+        QCOMPARE(free(Wall({{first}})), qMakePair(0, QPointF(0.5, 0)));
+        QCOMPARE(free(Wall({{Window(0.2, 0.1, 0.8, 0.4, 1)}})), qMakePair(0, QPointF(0, 0.5)));
+        QCOMPARE(free(Wall({{Window(0, 0, 0.5004, 0.5004, 1)}})), qMakePair(0, QPointF(0.5, 0))); // rounded
+        QCOMPARE(free(Wall({{full}, {first}})), qMakePair(1, QPointF(0.5, 0)));
     }
 
     // Catches a photo that is taken for a camera, and a selection of another screen.
     void ScriptForMap()
     {
-        QFETCH(WallLayout, wall);
-        QFETCH(int, screen);
-        QFETCH(QList<int>, selected);
-        QString script = WallScript(wall, screen, selected);
-        QTEST(script.replace(QLatin1String("],["), QLatin1String("], [")), "script");
+        WindowLayout photo = Window(0, 0, 1, 1, 1);
+        photo.source = SourceSpec::Photo(QStringLiteral("/a.png"));
+        const WallLayout wall = Wall({{Window(0, 0, 1, 1, 3), photo}, {Window(0, 0, 1, 1, 5)}});
+        QCOMPARE(WallScript({}, -1, {}), QStringLiteral("showWall([], [])"));
+        QCOMPARE(WallScript(wall, 0, {}), QStringLiteral("showWall([3,5], [])"));
+        QCOMPARE(WallScript(wall, 1, {0}), QStringLiteral("showWall([3,5], [5])"));
+        QCOMPARE(WallScript(wall, 0, {0, 1}), QStringLiteral("showWall([3,5], [3])"));
+        QCOMPARE(WallScript(wall, -1, {0}), QStringLiteral("showWall([3,5], [])"));
     }
 
     // Catches a click that opens nothing, another camera, or a second window of a camera that is there.

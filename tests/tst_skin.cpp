@@ -138,7 +138,7 @@ private slots:
         QCOMPARE(widget.styleSheet(), SheetOf("client.css"));
     }
 
-    /// Catches a missing or empty sheet that clears the style.
+    /// Catches a missing or empty sheet that clears the style, and a crash without a widget.
     void MissingSheetLeavesTheStyle()
     {
         QWidget widget;
@@ -149,11 +149,6 @@ private slots:
         CommonFun::SetStyleSheet(&widget, "nowhere"_s, kSample, QString());
         CommonFun::SetStyleSheetEx(&widget, kSample, kForms);
         QCOMPARE(widget.styleSheet(), own);
-    }
-
-    /// Catches a crash without a widget.
-    void NullWidgetIsIgnored()
-    {
         CommonFun::SetStyleSheet(nullptr, kForms, QString(), QString());
         CommonFun::SetStyleSheetEx(nullptr, kSample, kForms);
         KvGUI::SetSkinVersion(kNight);
@@ -187,29 +182,24 @@ private slots:
         QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
     }
 
-    /// Catches a class name that is asked for again when the skin changes: the object is a subclass by then.
-    void SheetOfTheBaseClassStaysThat()
+    /// Catches a class name that is asked for again when the skin changes (the object is a subclass by then),
+    /// a subclass that no longer follows the skin, and one that does not get its own sheet where there is
+    /// one.
+    void SheetsOfSubclasses()
     {
-        const DerivedWidget widget(false);
-        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-        KvGUI::SetSkinVersion(kNight);
-        QCOMPARE(widget.styleSheet(), SheetOf("night.css"));
+        for (const bool styled : {false, true}) {
+            const DerivedWidget widget(styled);
+            QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+            KvGUI::SetSkinVersion(kNight);
+            QCOMPARE(widget.styleSheet(), SheetOf(styled ? "derived.css" : "night.css"));
+            KvGUI::SetSkinVersion(kDay); // which has the base class's only
+            QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
+        }
     }
 
-    /// Catches a subclass without a sheet of its own that no longer follows the skin, and one that does not
-    /// get its own sheet where there is one.
-    void SheetFoundLaterWins()
-    {
-        const DerivedWidget widget(true);
-        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-        KvGUI::SetSkinVersion(kNight);
-        QCOMPARE(widget.styleSheet(), SheetOf("derived.css"));
-        KvGUI::SetSkinVersion(kDay); // which has the base class's only
-        QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
-    }
-
-    /// Catches widgets that are polished again for a sheet that both skins share.
-    void EqualSheetIsNotSetAgain()
+    /// Catches widgets that are polished again for a sheet that both skins share, and one that is noted
+    /// twice: the earlier call would come back with the skin.
+    void LastCallCounts()
     {
         SampleWidget widget;
         CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
@@ -220,16 +210,6 @@ private slots:
         QCOMPARE(widget.m_styleChanges, 0);
         CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
         QVERIFY(widget.m_styleChanges > 0);
-    }
-
-    /// Catches a widget that is noted twice: the earlier call would come back with the skin.
-    void LastCallCounts()
-    {
-        SampleWidget widget;
-        CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
-        KvGUI::SetSkinVersion(kNight);
-        QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
-        CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
         KvGUI::SetSkinVersion(kDay);
         QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
     }
@@ -271,29 +251,17 @@ private slots:
         }
     }
 
-    /// Catches a sheet on disk that is looked for in the skin.
-    void SheetsOnDisk()
+    /// Catches a sheet on disk that is looked for in the skin, or that a change of skin takes away.
+    void SheetsOnDiskBelongToNoSkin()
     {
         QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkpath("Skin/forms"_s));
         Write(folder.filePath("Skin/forms/disk.css"_s), "QWidget { color: \"\xE6\x97\xA5\" }");
         KvGUI::KvDir::SetCurrentPath(folder.path());
-        QWidget widget;
-        CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
-        QCOMPARE(widget.styleSheet(), "QWidget { color: \"\u65E5\" }"_s);
-    }
-
-    /// Catches a skin change that takes a client's own sheet away.
-    void SheetsOnDiskBelongToNoSkin()
-    {
-        QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
-        Write(folder.filePath("Skin/own.css"_s), "QWidget { color: blue }");
-        KvGUI::KvDir::SetCurrentPath(folder.path());
         SampleWidget widget;
-        CommonFun::SetStyleSheetEx(&widget, "own.css"_s, QString());
+        CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
         KvGUI::SetSkinVersion(kNight);
-        QCOMPARE(widget.styleSheet(), "QWidget { color: blue }"_s);
+        QCOMPARE(widget.styleSheet(), "QWidget { color: \"\u65E5\" }"_s);
         CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
         KvGUI::SetSkinVersion(kDay);
         QCOMPARE(widget.styleSheet(), SheetOf("day.css"));

@@ -129,36 +129,6 @@ private slots:
         }
     }
 
-    void ByteBudgetOfLongTexts_data()
-    {
-        TestSupport::Columns<QByteArray, QString, int>("codec", "unit", "bytes");
-        const QString han = QStringLiteral("\u4E2D");
-        const QString face = QStringLiteral("\U0001F600");
-        QTest::newRow("UTF-8, ASCII") << QByteArray("UTF-8") << QStringLiteral("a") << 1;
-        QTest::newRow("UTF-8, Han") << QByteArray("UTF-8") << han << 3;
-        QTest::newRow("UTF-8, pairs") << QByteArray("UTF-8") << face << 4;
-        QTest::newRow("GBK, Han") << QByteArray("GBK") << han << 2;
-        QTest::newRow("GB18030, pairs") << QByteArray("GB18030") << face << 4;
-    }
-
-    /// Catches a cut that takes quadratic time: it would not come back before the test's time limit.
-    void ByteBudgetOfLongTexts()
-    {
-        QFETCH(QByteArray, codec);
-        QFETCH(QString, unit);
-        QFETCH(int, bytes);
-        const LocaleCodec locale(codec);
-        QVERIFY(locale.IsKnown());
-        const int count = 1000000 / bytes;
-        const QString text = unit.repeated(count);
-        const int full = count * bytes;
-        for (const int budget : {bytes, 1000, full / 2, full - 1, full}) {
-            const QString cut = CommonFun::GetLocal8BitValidByteLenString(text, budget);
-            QCOMPARE(cut.size(), budget / bytes * unit.size());
-            QVERIFY(text.startsWith(cut));
-        }
-    }
-
     /// Catches a UTF-8 budget that follows the process codec, or a local one that does not.
     void ByteBudgetsFollowTheirEncoding()
     {
@@ -305,6 +275,14 @@ private slots:
         row(ascii, "ASCII: up to a zero byte", QStringLiteral("ab\0cd").left(5), 2);
         row(ascii, "ASCII: empty", QString(), 0);
 
+        const Reading patched
+            = [](const QString& text) { return QCommon::PatchPath(text, QStringLiteral("b.ini")); };
+        row(patched, "path: slash added", QStringLiteral("C:/a"), QStringLiteral("C:/a/b.ini"));
+        row(patched, "path: slash there", QStringLiteral("C:/a/"), QStringLiteral("C:/a/b.ini"));
+        row(patched, "path: no folder", QString(), QStringLiteral("b.ini"));
+        row(patched, "path: back-slash", QStringLiteral("C:\\"), QStringLiteral("C:\\/b.ini"));
+        row(patched, "path: place marks", QStringLiteral("50%2%1"), QStringLiteral("50%2%1/b.ini"));
+
         const Reading webSkin = [](const QString& text) { return QCommon::HostToWebSkinName(text); };
         row(webSkin, "web skin: any case", QStringLiteral("white"), QStringLiteral("light"));
         row(webSkin, "web skin: a part", QStringLiteral("White2"), QStringLiteral("black"));
@@ -313,8 +291,8 @@ private slots:
 
     /// Catches: for blanks, a trim in their place and brackets that count; for rectangles, sizes and colours,
     /// the third and fourth number taken for a size, forgiven counts, an overflow and a warning; for digits,
-    /// other scripts and signs; for ASCII, bytes counted as unsigned or behind a zero; for skins, a part for
-    /// the whole.
+    /// other scripts and signs; for ASCII, bytes counted as unsigned or behind a zero; for paths, a folder
+    /// taken for a format; for skins, a part for the whole.
     void WhatATextSays()
     {
         QFETCH(Reading, read);
@@ -372,27 +350,6 @@ private slots:
         QCommon::ConvertToIPStr(ip, nullptr, 16);
     }
 
-    void PatchedPaths_data()
-    {
-        TestSupport::Columns<QString, QString, QString>("folder", "file", "path");
-        const QString file = QStringLiteral("b.ini");
-        QTest::newRow("added") << QStringLiteral("C:/a") << file << QStringLiteral("C:/a/b.ini");
-        QTest::newRow("there") << QStringLiteral("C:/a/") << file << QStringLiteral("C:/a/b.ini");
-        QTest::newRow("no folder") << QString() << file << file;
-        QTest::newRow("back-slash") << QStringLiteral("C:\\") << file << QStringLiteral("C:\\/b.ini");
-        QTest::newRow("place marks") << QStringLiteral("50%2%1") << file << QStringLiteral("50%2%1/b.ini");
-        QTest::newRow("no file") << QStringLiteral("C:/a") << QString() << QStringLiteral("C:/a/");
-    }
-
-    /// Catches a folder whose name is taken for a format.
-    void PatchedPaths()
-    {
-        QFETCH(QString, folder);
-        QFETCH(QString, file);
-        QFETCH(QString, path);
-        QCOMPARE(QCommon::PatchPath(folder, file), path);
-    }
-
     /// Catches wrong separators, digits or texts cut short (the first value is that of RFC 2617, 3.5), and a
     /// part of the digits in a buffer that has no room for all.
     void Ha1()
@@ -414,28 +371,19 @@ private slots:
         QCOMPARE(small.mid(32), QByteArray(8, 'x'));
     }
 
-    void Extracts_data()
-    {
-        TestSupport::Columns<int, int, int>("base", "n", "result");
-        QTest::newRow("exact power") << 10 << 1000 << 3;
-        QTest::newRow("just below") << 10 << 999 << 2;
-        QTest::newRow("below the base") << 10 << 9 << 0;
-        QTest::newRow("zero") << 10 << 0 << 0;
-        QTest::newRow("base 0") << 0 << 5 << 0;
-        QTest::newRow("negative base") << -2 << 5 << 0;
-        QTest::newRow("negative number") << 2 << -8 << 0;
-        QTest::newRow("base 1") << 1 << 5 << 0;
-        QTest::newRow("largest") << 2 << INT_MAX << 30;
-        QTest::newRow("largest base") << INT_MAX << INT_MAX << 1;
-    }
-
     /// Catches a loop without end for base 1, and an overflow for the largest number.
     void Extracts()
     {
-        QFETCH(int, base);
-        QFETCH(int, n);
-        QFETCH(int, result);
-        QCOMPARE(QCommon::GetExtract(base, n), result);
+        QCOMPARE(QCommon::GetExtract(10, 1000), 3);
+        QCOMPARE(QCommon::GetExtract(10, 999), 2);
+        QCOMPARE(QCommon::GetExtract(10, 9), 0);
+        QCOMPARE(QCommon::GetExtract(10, 0), 0);
+        QCOMPARE(QCommon::GetExtract(0, 5), 0);
+        QCOMPARE(QCommon::GetExtract(-2, 5), 0);
+        QCOMPARE(QCommon::GetExtract(2, -8), 0);
+        QCOMPARE(QCommon::GetExtract(1, 5), 0);
+        QCOMPARE(QCommon::GetExtract(2, INT_MAX), 30);
+        QCOMPARE(QCommon::GetExtract(INT_MAX, INT_MAX), 1);
     }
 
     /// Catches numbers cut to 32 bits, and keys that repeat.

@@ -57,23 +57,17 @@ class TestTipLabel : public QObject
     Q_OBJECT
 
 private slots:
-    void BodySizes_data()
-    {
-        TestSupport::Columns<int, QSize>("textWidth", "size");
-        QTest::newRow("nothing") << 0 << QSize(200, 26);
-        QTest::newRow("one word") << 60 << QSize(200, 26);
-        QTest::newRow("widest line") << 299 << QSize(299, 26);
-        QTest::newRow("just full") << 300 << QSize(300, 19);
-        QTest::newRow("a pixel more") << 301 << QSize(300, 38);
-        QTest::newRow("two full lines") << 600 << QSize(300, 38);
-        QTest::newRow("650") << 650 << QSize(300, 57);
-    }
-
     /// Catches a line too few or too many at a whole multiple of the width.
     void BodySizes()
     {
-        QFETCH(int, textWidth);
-        QTEST(TipBodySize(textWidth, 15, 2), "size");
+        const auto size = [](int textWidth) { return TipBodySize(textWidth, 15, 2); };
+        QCOMPARE(size(0), QSize(200, 26));
+        QCOMPARE(size(60), QSize(200, 26));
+        QCOMPARE(size(299), QSize(299, 26));
+        QCOMPARE(size(300), QSize(300, 19)); // just full
+        QCOMPARE(size(301), QSize(300, 38));
+        QCOMPARE(size(600), QSize(300, 38));
+        QCOMPARE(size(650), QSize(300, 57));
     }
 
     void Placements_data()

@@ -1,5 +1,6 @@
 // The rules of a video wall on plain values.
 
+#include "support/Columns.h"
 #include "support/ScaleRects.h"
 #include "support/StrictMain.h"
 #include "support/Text.h"
@@ -303,9 +304,7 @@ private Q_SLOTS:
 
     void clicks_data()
     {
-        QTest::addColumn<WallSelection::Click>("click");
-        QTest::addColumn<bool>("selectOnly");
-        QTest::addColumn<bool>("targetSelected");
+        TestSupport::Columns<WallSelection::Click, bool, bool>("click", "selectOnly", "targetSelected");
         QTest::addColumn<QVector<bool>>("selected"); // target, another one that is selected before
         QTest::addColumn<bool>("selectOnlyAfter");
         using Click = WallSelection::Click;
@@ -348,10 +347,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QSize>("screen");
         QTest::addColumn<QRect>("units"); // left, top, width and height in 1/8192
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("percent");
-        QTest::addColumn<QRect>("geometry");
-        QTest::addColumn<int>("font");
+        TestSupport::Columns<QString, int, QRect, int>("text", "percent", "geometry", "font");
         const QSize units(8192, 8192);
         const QSize screen(1000, 600);
         QTest::newRow("two lines") << units << QRect(10, 20, 400, 100) << "a\nb"_s << 50

@@ -431,8 +431,7 @@ private Q_SLOTS:
 
     void clickInMode_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<Qt::MouseButton>("button");
+        TestSupport::Columns<int, Qt::MouseButton>("mode", "button");
         QTest::addColumn<bool>("selectedBefore"); // the clicked window; the other one always is
         QTest::addColumn<QList<int>>("selectedAfter");
         using L = QList<int>;
@@ -530,8 +529,7 @@ private Q_SLOTS:
 
     void areaIsDrawn_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QPoint>("to");
+        TestSupport::Columns<int, QPoint>("mode", "to");
         QTest::addColumn<Rect>("area"); // empty: none
         QTest::newRow("mode 0") << 0 << QPoint(600, 500) << Rect{0.5, 0.6, 0.6, 500 / 600.0, true};
         QTest::newRow("mode 1, up and left") << 1 << QPoint(400, 300) << Rect{0.4, 0.5, 0.5, 0.6, true};
