@@ -1,5 +1,6 @@
 // The whole example client: its window, what it remembers, its command line, and what holds for all pages.
 
+#include "support/Columns.h"
 #include "support/CropCanvas.h"
 #include "support/StrictMain.h"
 
@@ -8,22 +9,8 @@
 #include <gallery/LastFolders.h>
 #include <gallery/SkinIcon.h>
 
-#include <QAccessible>
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
-#include <QDir>
-#include <QElapsedTimer>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QScreen>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 #include <numeric>
 
 using namespace OperatorClient;
@@ -153,9 +140,7 @@ private slots:
 
     void CommandLine_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QStringList>("told");
+        TestSupport::Columns<QStringList, int, QStringList>("arguments", "code", "told");
         const auto row = [](const char* name, const QString& arguments, int code, const QStringList& told) {
             QTest::newRow(name) << arguments.split(QLatin1Char(' ')) << code << told;
         };
@@ -336,9 +321,7 @@ private slots:
 
     void WindowIsPlacedOnScreens_data()
     {
-        QTest::addColumn<QRect>("wanted");
-        QTest::addColumn<QVector<QRect>>("screens");
-        QTest::addColumn<QRect>("placed");
+        TestSupport::Columns<QRect, QVector<QRect>, QRect>("wanted", "screens", "placed");
         const QRect left(0, 0, 1920, 1040);
         const QRect right(1920, 0, 1280, 1000);
         const QVector<QRect> two{left, right};
@@ -542,8 +525,7 @@ private:
 
     void AddPagesInLanguages() const
     {
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("language");
+        TestSupport::Columns<QString, QString>("page", "language");
         for (const QString& language : Language::Names()) {
             for (const QString& page : PageNames())
                 QTest::addRow("%s %s", qPrintable(page), qPrintable(language)) << page << language;

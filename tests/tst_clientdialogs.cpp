@@ -12,18 +12,8 @@
 #include <gallery/Wall/WallPage.h>
 #include <gallery/Wall/WallSound.h>
 
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPropertyAnimation>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 #include <memory>
 
 using namespace OperatorClient;
@@ -119,196 +109,186 @@ class tst_ClientDialogs : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void selectionBringsTheDetails();
-    void detailsFollowTheWindow();
-    void severalWindows();
-    void closedDetailsStayAway();
-    void detailsGoWithTheirWindow();
-    void detailsGoWithThePage();
-    void soundOfOneWindow();
-    void soundOfTheWall();
-    void pairingIssuesTokens();
-    void pairingEndsWithTheDialog();
+    /// Catches a panel that does not come, comes for nothing, or tells of another window.
+    void selectionBringsTheDetails()
+    {
+        const Client client;
+        QVERIFY(!client.Panel()->IsShown());
+        client.Click(0, 1);
+        QVERIFY(client.Panel()->IsShown());
+        client.FinishSlide();
+        QCOMPARE(client.Heading(), QStringLiteral("Main entrance"));
+        QCOMPARE(client.Fact("Window"), QStringLiteral("2"));
+        QCOMPARE(client.Fact("Size"), QStringLiteral("50.0 % \u00d7 50.0 %"));
+        const QWidget* cameras = client.page->Cameras();
+        QCOMPARE(client.Panel()->geometry().topRight(), cameras->mapToGlobal(cameras->rect().topRight()));
+        QCOMPARE(client.Panel()->height(), cameras->height());
+
+        client.Action(Command::SelectNone)->trigger();
+        client.Action(Command::SelectOne)->trigger(); // deselects
+        client.FinishSlide();
+        QVERIFY(!client.Panel()->IsShown());
+    }
+
+    /// Catches facts of the moment of the selection.
+    void detailsFollowTheWindow()
+    {
+        const Client client;
+        client.Click(2, 0);
+        const QString place = client.Fact("Place");
+        const QString order = client.Fact("Order");
+        const QPoint title
+            = client.MiddleOf(2, 0) - QPoint(0, client.Wall()->GetWindowWidget(2, 0)->height() / 2 + 10);
+        TestSupport::WallMouse(client.Wall()).Drag(title, title + QPoint(12, 8));
+        QVERIFY(client.Fact("Place") != place);
+        client.Action(Command::Raise)->trigger();
+        QVERIFY(client.Fact("Order") != order);
+    }
+
+    /// Catches one window's facts, and its sound, shown for several.
+    void severalWindows()
+    {
+        const Client client;
+        client.Action(Command::SelectMany)->trigger();
+        client.Click(0, 0);
+        client.Click(0, 2);
+        QCOMPARE(client.Heading(), QStringLiteral("2 window(s) selected"));
+        QVERIFY(!client.Panel()->findChild<KvVolumeButton*>()->isVisible());
+    }
+
+    /// Catches a panel that comes again and again after the operator closed it.
+    void closedDetailsStayAway()
+    {
+        const Client client;
+        client.Click(0, 0);
+        client.FinishSlide();
+        QTest::mouseClick(
+            client.Panel()->findChild<QPushButton*>(QStringLiteral("closeBtn")), Qt::LeftButton);
+        client.FinishSlide();
+        QVERIFY(!client.Panel()->IsShown());
+        QVERIFY(!client.Action(Command::Details)->isChecked());
+        client.Click(0, 1);
+        QVERIFY(!client.Panel()->IsShown());
+        QTest::keyClick(client.window.windowHandle(), Qt::Key_I, Qt::ControlModifier);
+        QVERIFY(client.Panel()->IsShown());
+        QCOMPARE(client.Heading(), QStringLiteral("Main entrance"));
+    }
+
+    /// Catches a panel that tells of a window which is closed.
+    void detailsGoWithTheirWindow()
+    {
+        const Client client;
+        client.Click(0, 0);
+        client.Action(Command::CloseSelected)->trigger();
+        client.FinishSlide();
+        QVERIFY(!client.Panel()->IsShown());
+    }
+
+    /// Catches a panel that stays over another page.
+    void detailsGoWithThePage()
+    {
+        Client client;
+        client.Click(0, 0);
+        client.FinishSlide();
+        client.window.ShowPage(1);
+        QVERIFY(!client.Panel()->IsShown());
+        client.window.ShowPage(0);
+        QVERIFY(client.Panel()->IsShown());
+    }
+
+    /// Catches a panel and a title bar that disagree about the sound, and two windows that sound at once.
+    void soundOfOneWindow()
+    {
+        const Client client;
+        const auto first = client.Silence(0, 0);
+        const auto second = client.Silence(0, 1);
+        auto* volume = client.Panel()->findChild<KvVolumeButton*>();
+        client.Click(0, 0);
+        client.FinishSlide();
+        PressAndKey(volume, Qt::Key_Space);
+        QVERIFY(client.Wall()->GetWindowVolumeBtnStatus(0, 0));
+        QVERIFY(first->m_bAudible);
+
+        client.Click(0, 1);
+        QCOMPARE(volume->objectName(), QStringLiteral("btnVolumeOff"));
+        QCOMPARE(volume->GetVolumeValue(), 100);
+        PressAndKey(volume, Qt::Key_Space);
+        QVERIFY(!client.Wall()->GetWindowVolumeBtnStatus(0, 0));
+        QVERIFY(!first->m_bAudible && second->m_bAudible);
+
+        PressAndKey(volume, Qt::Key_PageDown);
+        QCOMPARE(second->m_iVolume, 45); // of the wall's 50
+        client.Click(0, 0);
+        QCOMPARE(volume->GetVolumeValue(), 100);
+        client.Click(0, 1);
+        QCOMPARE(volume->GetVolumeValue(), 90);
+        QCOMPARE(volume->objectName(), QStringLiteral("btnVolumeOn"));
+
+        auto* title = client.Wall()->GetWindowWidget(0, 1)->parentWidget()->findChild<QPushButton*>(
+            QStringLiteral("pWindowVolumeOnBtn"));
+        QTest::mouseClick(title, Qt::LeftButton);
+        QCOMPARE(volume->objectName(), QStringLiteral("btnVolumeOff"));
+    }
+
+    /// Catches a tool bar that does not reach the window which sounds.
+    void soundOfTheWall()
+    {
+        const Client client;
+        const auto source = client.Silence(0, 0);
+        client.page->Cameras()->Sound()->SetWindowOn(0, 0, true);
+        KvVolumeButton* volume = client.page->findChild<WallToolBar*>()->VolumeButton();
+        PressAndKey(volume, Qt::Key_PageUp);
+        QCOMPARE(source->m_iVolume, 60);
+        volume->SetVolumeState(true);
+        QTest::mouseClick(volume, Qt::LeftButton);
+        QWidget* popup = QApplication::activePopupWidget();
+        QTest::mouseClick(popup->findChild<QToolButton*>(), Qt::LeftButton);
+        QVERIFY(!source->m_bAudible);
+        QVERIFY(client.Wall()->GetWindowVolumeBtnStatus(0, 0)); // it will sound again
+        QTest::mouseClick(popup->findChild<QToolButton*>(), Qt::LeftButton);
+        QVERIFY(source->m_bAudible);
+    }
+
+    /// Catches a code that is not the token issued last, and a renewal with another phone.
+    void pairingIssuesTokens()
+    {
+        Client client;
+        client.window.ShowPage(1);
+        auto* page = client.window.CurrentPage();
+        auto* dialog = page->findChild<UICommonMdl::CDisplayQRcodeDlg*>();
+        auto* issued = page->findChild<QPlainTextEdit*>();
+        page->findChild<QLineEdit*>()->setText(QStringLiteral("Gate"));
+        page->findChild<QComboBox*>()->setCurrentIndex(1);
+        QTest::mouseClick(page->findChild<QPushButton*>(QStringLiteral("showCode")), Qt::LeftButton);
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        QCOMPARE(dialog->RefreshInterval(), 5000);
+        dialog->SetRefreshInterval(30);
+        QTRY_VERIFY(issued->blockCount() >= 3);
+        dialog->SetRefreshInterval(5000);
+        const QStringList lines = issued->toPlainText().split(QLatin1Char('\n'));
+        for (const QString& line : lines)
+            QVERIFY(line.endsWith(QStringLiteral("Gate")));
+        const QString token = QString::fromUtf8(TestSupport::ReadQrCode(dialog->grab().toImage()));
+        QVERIFY(!token.isEmpty());
+        QVERIFY(lines.last().contains(token));
+        QVERIFY(!lines.first().contains(token));
+    }
+
+    /// Catches tokens that are issued while nobody sees them.
+    void pairingEndsWithTheDialog()
+    {
+        Client client;
+        client.window.ShowPage(1);
+        auto* page = client.window.CurrentPage();
+        auto* dialog = page->findChild<UICommonMdl::CDisplayQRcodeDlg*>();
+        QTest::keyClick(page->findChild<QLineEdit*>(), Qt::Key_Return);
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        QVERIFY(dialog->findChild<QTimer*>()->isActive());
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
+        QVERIFY(!dialog->findChild<QTimer*>()->isActive());
+    }
 };
-
-/// Catches a panel that does not come, comes for nothing, or tells of another window.
-void tst_ClientDialogs::selectionBringsTheDetails()
-{
-    const Client client;
-    QVERIFY(!client.Panel()->IsShown());
-    client.Click(0, 1);
-    QVERIFY(client.Panel()->IsShown());
-    client.FinishSlide();
-    QCOMPARE(client.Heading(), QStringLiteral("Main entrance"));
-    QCOMPARE(client.Fact("Window"), QStringLiteral("2"));
-    QCOMPARE(client.Fact("Size"), QStringLiteral("50.0 % \u00d7 50.0 %"));
-    const QWidget* cameras = client.page->Cameras();
-    QCOMPARE(client.Panel()->geometry().topRight(), cameras->mapToGlobal(cameras->rect().topRight()));
-    QCOMPARE(client.Panel()->height(), cameras->height());
-
-    client.Action(Command::SelectNone)->trigger();
-    client.Action(Command::SelectOne)->trigger(); // deselects
-    client.FinishSlide();
-    QVERIFY(!client.Panel()->IsShown());
-}
-
-/// Catches facts of the moment of the selection.
-void tst_ClientDialogs::detailsFollowTheWindow()
-{
-    const Client client;
-    client.Click(2, 0);
-    const QString place = client.Fact("Place");
-    const QString order = client.Fact("Order");
-    const QPoint title
-        = client.MiddleOf(2, 0) - QPoint(0, client.Wall()->GetWindowWidget(2, 0)->height() / 2 + 10);
-    TestSupport::WallMouse(client.Wall()).Drag(title, title + QPoint(12, 8));
-    QVERIFY(client.Fact("Place") != place);
-    client.Action(Command::Raise)->trigger();
-    QVERIFY(client.Fact("Order") != order);
-}
-
-/// Catches one window's facts, and its sound, shown for several.
-void tst_ClientDialogs::severalWindows()
-{
-    const Client client;
-    client.Action(Command::SelectMany)->trigger();
-    client.Click(0, 0);
-    client.Click(0, 2);
-    QCOMPARE(client.Heading(), QStringLiteral("2 window(s) selected"));
-    QVERIFY(!client.Panel()->findChild<KvVolumeButton*>()->isVisible());
-}
-
-/// Catches a panel that comes again and again after the operator closed it.
-void tst_ClientDialogs::closedDetailsStayAway()
-{
-    const Client client;
-    client.Click(0, 0);
-    client.FinishSlide();
-    QTest::mouseClick(client.Panel()->findChild<QPushButton*>(QStringLiteral("closeBtn")), Qt::LeftButton);
-    client.FinishSlide();
-    QVERIFY(!client.Panel()->IsShown());
-    QVERIFY(!client.Action(Command::Details)->isChecked());
-    client.Click(0, 1);
-    QVERIFY(!client.Panel()->IsShown());
-    QTest::keyClick(client.window.windowHandle(), Qt::Key_I, Qt::ControlModifier);
-    QVERIFY(client.Panel()->IsShown());
-    QCOMPARE(client.Heading(), QStringLiteral("Main entrance"));
-}
-
-/// Catches a panel that tells of a window which is closed.
-void tst_ClientDialogs::detailsGoWithTheirWindow()
-{
-    const Client client;
-    client.Click(0, 0);
-    client.Action(Command::CloseSelected)->trigger();
-    client.FinishSlide();
-    QVERIFY(!client.Panel()->IsShown());
-}
-
-/// Catches a panel that stays over another page.
-void tst_ClientDialogs::detailsGoWithThePage()
-{
-    Client client;
-    client.Click(0, 0);
-    client.FinishSlide();
-    client.window.ShowPage(1);
-    QVERIFY(!client.Panel()->IsShown());
-    client.window.ShowPage(0);
-    QVERIFY(client.Panel()->IsShown());
-}
-
-/// Catches a panel and a title bar that disagree about the sound, and two windows that sound at once.
-void tst_ClientDialogs::soundOfOneWindow()
-{
-    const Client client;
-    const auto first = client.Silence(0, 0);
-    const auto second = client.Silence(0, 1);
-    auto* volume = client.Panel()->findChild<KvVolumeButton*>();
-    client.Click(0, 0);
-    client.FinishSlide();
-    PressAndKey(volume, Qt::Key_Space);
-    QVERIFY(client.Wall()->GetWindowVolumeBtnStatus(0, 0));
-    QVERIFY(first->m_bAudible);
-
-    client.Click(0, 1);
-    QCOMPARE(volume->objectName(), QStringLiteral("btnVolumeOff"));
-    QCOMPARE(volume->GetVolumeValue(), 100);
-    PressAndKey(volume, Qt::Key_Space);
-    QVERIFY(!client.Wall()->GetWindowVolumeBtnStatus(0, 0));
-    QVERIFY(!first->m_bAudible && second->m_bAudible);
-
-    PressAndKey(volume, Qt::Key_PageDown);
-    QCOMPARE(second->m_iVolume, 45); // of the wall's 50
-    client.Click(0, 0);
-    QCOMPARE(volume->GetVolumeValue(), 100);
-    client.Click(0, 1);
-    QCOMPARE(volume->GetVolumeValue(), 90);
-    QCOMPARE(volume->objectName(), QStringLiteral("btnVolumeOn"));
-
-    auto* title = client.Wall()->GetWindowWidget(0, 1)->parentWidget()->findChild<QPushButton*>(
-        QStringLiteral("pWindowVolumeOnBtn"));
-    QTest::mouseClick(title, Qt::LeftButton);
-    QCOMPARE(volume->objectName(), QStringLiteral("btnVolumeOff"));
-}
-
-/// Catches a tool bar that does not reach the window which sounds.
-void tst_ClientDialogs::soundOfTheWall()
-{
-    const Client client;
-    const auto source = client.Silence(0, 0);
-    client.page->Cameras()->Sound()->SetWindowOn(0, 0, true);
-    KvVolumeButton* volume = client.page->findChild<WallToolBar*>()->VolumeButton();
-    PressAndKey(volume, Qt::Key_PageUp);
-    QCOMPARE(source->m_iVolume, 60);
-    volume->SetVolumeState(true);
-    QTest::mouseClick(volume, Qt::LeftButton);
-    QWidget* popup = QApplication::activePopupWidget();
-    QTest::mouseClick(popup->findChild<QToolButton*>(), Qt::LeftButton);
-    QVERIFY(!source->m_bAudible);
-    QVERIFY(client.Wall()->GetWindowVolumeBtnStatus(0, 0)); // it will sound again
-    QTest::mouseClick(popup->findChild<QToolButton*>(), Qt::LeftButton);
-    QVERIFY(source->m_bAudible);
-}
-
-/// Catches a code that is not the token issued last, and a renewal with another phone.
-void tst_ClientDialogs::pairingIssuesTokens()
-{
-    Client client;
-    client.window.ShowPage(1);
-    auto* page = client.window.CurrentPage();
-    auto* dialog = page->findChild<UICommonMdl::CDisplayQRcodeDlg*>();
-    auto* issued = page->findChild<QPlainTextEdit*>();
-    page->findChild<QLineEdit*>()->setText(QStringLiteral("Gate"));
-    page->findChild<QComboBox*>()->setCurrentIndex(1);
-    QTest::mouseClick(page->findChild<QPushButton*>(QStringLiteral("showCode")), Qt::LeftButton);
-    QVERIFY(QTest::qWaitForWindowExposed(dialog));
-    QCOMPARE(dialog->RefreshInterval(), 5000);
-    dialog->SetRefreshInterval(30);
-    QTRY_VERIFY(issued->blockCount() >= 3);
-    dialog->SetRefreshInterval(5000);
-    const QStringList lines = issued->toPlainText().split(QLatin1Char('\n'));
-    for (const QString& line : lines)
-        QVERIFY(line.endsWith(QStringLiteral("Gate")));
-    const QString token = QString::fromUtf8(TestSupport::ReadQrCode(dialog->grab().toImage()));
-    QVERIFY(!token.isEmpty());
-    QVERIFY(lines.last().contains(token));
-    QVERIFY(!lines.first().contains(token));
-}
-
-/// Catches tokens that are issued while nobody sees them.
-void tst_ClientDialogs::pairingEndsWithTheDialog()
-{
-    Client client;
-    client.window.ShowPage(1);
-    auto* page = client.window.CurrentPage();
-    auto* dialog = page->findChild<UICommonMdl::CDisplayQRcodeDlg*>();
-    QTest::keyClick(page->findChild<QLineEdit*>(), Qt::Key_Return);
-    QVERIFY(QTest::qWaitForWindowExposed(dialog));
-    QVERIFY(dialog->findChild<QTimer*>()->isActive());
-    QTest::keyClick(dialog, Qt::Key_Escape);
-    QVERIFY(!dialog->isVisible());
-    QVERIFY(!dialog->findChild<QTimer*>()->isActive());
-}
 
 STRICT_X_TEST_MAIN(tst_ClientDialogs)
 #include "tst_clientdialogs.moc"

@@ -2,6 +2,7 @@
 //
 // UICOMPONENTS_KILLS=1000 kills each writer so often, in place of a few times.
 
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 #include "support/VirtualDisplay.h"
 #include "support/WriteFaults.h"
@@ -19,13 +20,8 @@
 #include <gallery/Screenshots.h>
 #include <gallery/Wall/WallLayoutFile.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QElapsedTimer>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 #include <random>
 
 using namespace OperatorClient;
@@ -222,166 +218,156 @@ class TestFaults : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void SurvivesKills_data();
-    void SurvivesKills();
-    void LeavesNoHalf_data();
-    void LeavesNoHalf();
-    void WritesIntoAFolderThatVanished();
-    void KeepsTheBackup();
-    void ScreenshotsOnAFullDisk();
-    void EndsWithItsDisplay();
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        QVERIFY(QDir().mkpath(Folder()));
+        // For another user to read in.
+        QVERIFY(QFile::setPermissions(m_folder->path(), QFileDevice::Permissions(0x7755)));
+        KvGUI::KvDir::SetCurrentPath(QString());
+    }
+
+    void SurvivesKills_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < int(std::size(Savers)); ++i)
+            QTest::newRow(Savers[i].name) << i;
+    }
+
+    // Catches a save that goes through a half-written file, which a kill would leave like that, and a next
+    // writer that waits for the dead one.
+    void SurvivesKills()
+    {
+        QFETCH(int, index);
+        const Saver& saver = Savers[index];
+        bool given = false;
+        const int wanted = qEnvironmentVariableIntValue("UICOMPONENTS_KILLS", &given);
+        const int kills = given ? wanted : FewKills;
+        std::mt19937 random(20);
+        int newest = 0;
+        for (int kill = 0; kill < kills; ++kill) {
+            QElapsedTimer timer;
+            timer.start();
+            KillSaverAfter(index, Folder(), 1 + static_cast<int>(random() % 30));
+            const int number = saver.saved(Folder());
+            QVERIFY2(number > newest, "what was saved is damaged, or older");
+            newest = number;
+            QVERIFY2(timer.elapsed() < 25000, "a writer waited for a dead one");
+        }
+    }
+
+    void LeavesNoHalf_data()
+    {
+        TestSupport::Columns<int, QString>("index", "fault");
+        for (int i = 0; i < int(std::size(Savers)); ++i) {
+            for (const char* fault : {"full", "fuller", "read-only", "no folder"})
+                QTest::addRow("%s, %s", Savers[i].name, fault) << i << QString::fromLatin1(fault);
+        }
+    }
+
+    // Catches a save that costs what was saved before, leaves half of a file or a temporary one, reports a
+    // success that is none, or never ends.
+    void LeavesNoHalf()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, fault);
+        const Saver& saver = Savers[index];
+        QVERIFY(saver.save(Folder(), 1));
+        QCOMPARE(saver.saved(Folder()), 1);
+        const auto before = FilesIn(Folder());
+        QElapsedTimer timer;
+        timer.start();
+        bool told = true;
+        {
+            const auto present = fault == QLatin1String("full") ? FullDisk(1000)
+                : fault == QLatin1String("fuller")              ? FullDisk(0)
+                : fault == QLatin1String("read-only")           ? ReadOnlyFolder(Folder())
+                                                                : FileForFolder(Folder());
+            const bool first = saver.save(Folder(), 2);
+            told = !saver.save(Folder(), 3) && !first;
+        }
+        QVERIFY(timer.elapsed() < LongestWait);
+        const auto after = FilesIn(Folder());
+        QCOMPARE(after.keys(), before.keys());
+        for (auto file = before.begin(); file != before.end(); ++file)
+            QVERIFY2(after.value(file.key()) == file.value(), qPrintable(file.key()));
+        QVERIFY(told || index <= SettingsSavers);
+        QVERIFY(saver.save(Folder(), 4));
+        QCOMPARE(saver.saved(Folder()), 4);
+        QCOMPARE(FilesIn(Folder()).keys(), before.keys());
+    }
+
+    // Catches settings that are lost because their folder was removed while the client ran.
+    void WritesIntoAFolderThatVanished()
+    {
+        for (const Saver& saver : Savers) {
+            QVERIFY(saver.save(Folder(), 1));
+            QVERIFY(QDir(Folder()).removeRecursively());
+            if (saver.save(Folder(), 2))
+                QVERIFY2(saver.saved(Folder()) == 2, saver.name);
+            QVERIFY(QDir().mkpath(Folder()));
+        }
+    }
+
+    // Catches a backup that is removed before its successor is written, and a restored file that is half of
+    // one.
+    void KeepsTheBackup()
+    {
+        QVERIFY(SaveWithBackup(Folder(), 1));
+        const QString backup = IniPath(Folder()) + QLatin1String(".usertmp");
+        {
+            const auto full = FullDisk(1000);
+            CommonFun::BackupConfigFile(IniPath(Folder()));
+            QFile::remove(IniPath(Folder()));
+            CommonFun::GetHasBackupConfigFileName(IniPath(Folder()));
+        }
+        QVERIFY(QFile::exists(backup));
+        QVERIFY(!QFile::exists(IniPath(Folder())));
+        QCOMPARE(SavedWithBackup(Folder()), 1);
+    }
+
+    // Catches a picture that is half written and looks like one.
+    void ScreenshotsOnAFullDisk()
+    {
+        const SourcePool pool;
+        MainWindow window;
+        window.AddPage({QStringLiteral("empty"), [] { return QString(); }, [] { return new Page; }});
+        bool saved = true;
+        {
+            const auto full = FullDisk(200);
+            saved = SaveScreenshots(window, pool, Folder(), QString());
+        }
+        QVERIFY(!saved);
+        QCOMPARE(FilesIn(Folder()).keys(), QStringList());
+        {
+            const auto file = FileForFolder(Folder());
+            QVERIFY(!SaveScreenshots(window, pool, Folder(), QString()));
+        }
+        QVERIFY(SaveScreenshots(window, pool, Folder(), QString()));
+        QCOMPARE(FilesIn(Folder()).size(), 2);
+    }
+
+    // Catches a client that hangs when its display goes away, or that loses what it had saved.
+    void EndsWithItsDisplay()
+    {
+        QProcess child;
+        {
+            const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+            const VirtualDisplay display;
+            child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--show"), Folder()});
+            qputenv("QT_QPA_PLATFORM", platform);
+            QVERIFY(child.waitForReadyRead(60000));
+        }
+        QVERIFY(child.waitForFinished(LongestWait));
+        QVERIFY(child.exitStatus() == QProcess::NormalExit && child.exitCode() != 0);
+        QCOMPARE(SavedWall(Folder()), 1);
+    }
 
 private:
     QString Folder() const { return m_folder->filePath(QStringLiteral("data")); }
 
     QScopedPointer<QTemporaryDir> m_folder;
 };
-
-void TestFaults::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    QVERIFY(QDir().mkpath(Folder()));
-    // For another user to read in.
-    QVERIFY(QFile::setPermissions(m_folder->path(), QFileDevice::Permissions(0x7755)));
-    KvGUI::KvDir::SetCurrentPath(QString());
-}
-
-void TestFaults::SurvivesKills_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(Savers)); ++i)
-        QTest::newRow(Savers[i].name) << i;
-}
-
-// Catches a save that goes through a half-written file, which a kill would leave like that, and a next writer
-// that waits for the dead one.
-void TestFaults::SurvivesKills()
-{
-    QFETCH(int, index);
-    const Saver& saver = Savers[index];
-    bool given = false;
-    const int wanted = qEnvironmentVariableIntValue("UICOMPONENTS_KILLS", &given);
-    const int kills = given ? wanted : FewKills;
-    std::mt19937 random(20);
-    int newest = 0;
-    for (int kill = 0; kill < kills; ++kill) {
-        QElapsedTimer timer;
-        timer.start();
-        KillSaverAfter(index, Folder(), 1 + static_cast<int>(random() % 30));
-        const int number = saver.saved(Folder());
-        QVERIFY2(number > newest, "what was saved is damaged, or older");
-        newest = number;
-        QVERIFY2(timer.elapsed() < 25000, "a writer waited for a dead one");
-    }
-}
-
-void TestFaults::LeavesNoHalf_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("fault");
-    for (int i = 0; i < int(std::size(Savers)); ++i) {
-        for (const char* fault : {"full", "fuller", "read-only", "no folder"})
-            QTest::addRow("%s, %s", Savers[i].name, fault) << i << QString::fromLatin1(fault);
-    }
-}
-
-// Catches a save that costs what was saved before, leaves half of a file or a temporary one, reports a
-// success that is none, or never ends.
-void TestFaults::LeavesNoHalf()
-{
-    QFETCH(int, index);
-    QFETCH(QString, fault);
-    const Saver& saver = Savers[index];
-    QVERIFY(saver.save(Folder(), 1));
-    QCOMPARE(saver.saved(Folder()), 1);
-    const auto before = FilesIn(Folder());
-    QElapsedTimer timer;
-    timer.start();
-    bool told = true;
-    {
-        const auto present = fault == QLatin1String("full") ? FullDisk(1000)
-            : fault == QLatin1String("fuller")              ? FullDisk(0)
-            : fault == QLatin1String("read-only")           ? ReadOnlyFolder(Folder())
-                                                            : FileForFolder(Folder());
-        const bool first = saver.save(Folder(), 2);
-        told = !saver.save(Folder(), 3) && !first;
-    }
-    QVERIFY(timer.elapsed() < LongestWait);
-    const auto after = FilesIn(Folder());
-    QCOMPARE(after.keys(), before.keys());
-    for (auto file = before.begin(); file != before.end(); ++file)
-        QVERIFY2(after.value(file.key()) == file.value(), qPrintable(file.key()));
-    QVERIFY(told || index <= SettingsSavers);
-    QVERIFY(saver.save(Folder(), 4));
-    QCOMPARE(saver.saved(Folder()), 4);
-    QCOMPARE(FilesIn(Folder()).keys(), before.keys());
-}
-
-// Catches settings that are lost because their folder was removed while the client ran.
-void TestFaults::WritesIntoAFolderThatVanished()
-{
-    for (const Saver& saver : Savers) {
-        QVERIFY(saver.save(Folder(), 1));
-        QVERIFY(QDir(Folder()).removeRecursively());
-        if (saver.save(Folder(), 2))
-            QVERIFY2(saver.saved(Folder()) == 2, saver.name);
-        QVERIFY(QDir().mkpath(Folder()));
-    }
-}
-
-// Catches a backup that is removed before its successor is written, and a restored file that is half of one.
-void TestFaults::KeepsTheBackup()
-{
-    QVERIFY(SaveWithBackup(Folder(), 1));
-    const QString backup = IniPath(Folder()) + QLatin1String(".usertmp");
-    {
-        const auto full = FullDisk(1000);
-        CommonFun::BackupConfigFile(IniPath(Folder()));
-        QFile::remove(IniPath(Folder()));
-        CommonFun::GetHasBackupConfigFileName(IniPath(Folder()));
-    }
-    QVERIFY(QFile::exists(backup));
-    QVERIFY(!QFile::exists(IniPath(Folder())));
-    QCOMPARE(SavedWithBackup(Folder()), 1);
-}
-
-// Catches a picture that is half written and looks like one.
-void TestFaults::ScreenshotsOnAFullDisk()
-{
-    const SourcePool pool;
-    MainWindow window;
-    window.AddPage({QStringLiteral("empty"), [] { return QString(); }, [] { return new Page; }});
-    bool saved = true;
-    {
-        const auto full = FullDisk(200);
-        saved = SaveScreenshots(window, pool, Folder(), QString());
-    }
-    QVERIFY(!saved);
-    QCOMPARE(FilesIn(Folder()).keys(), QStringList());
-    {
-        const auto file = FileForFolder(Folder());
-        QVERIFY(!SaveScreenshots(window, pool, Folder(), QString()));
-    }
-    QVERIFY(SaveScreenshots(window, pool, Folder(), QString()));
-    QCOMPARE(FilesIn(Folder()).size(), 2);
-}
-
-// Catches a client that hangs when its display goes away, or that loses what it had saved.
-void TestFaults::EndsWithItsDisplay()
-{
-    QProcess child;
-    {
-        const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-        const VirtualDisplay display;
-        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--show"), Folder()});
-        qputenv("QT_QPA_PLATFORM", platform);
-        QVERIFY(child.waitForReadyRead(60000));
-    }
-    QVERIFY(child.waitForFinished(LongestWait));
-    QVERIFY(child.exitStatus() == QProcess::NormalExit && child.exitCode() != 0);
-    QCOMPARE(SavedWall(Folder()), 1);
-}
 
 int main(int argc, char** argv)
 {
