@@ -182,16 +182,21 @@ private slots:
         QCOMPARE(period->currentText(), QStringLiteral("每五秒（演示）"));
     }
 
-    // Catches a workbook of the other language that is refused, and one without the last column that is
-    // taken.
-    void ColumnsAreKnownInEachLanguage()
+    // Catches a workbook of the other language that is refused or whose words stay foreign, and one without
+    // the last column that is taken.
+    void WorkbooksOfEachLanguageAreRead()
     {
         Language present;
+        const AlarmRecord alarm = SampleAlarms(1, FrameClock().Now()).constFirst();
         for (const QString& written : Language::Names()) {
             present.Set(written);
             const QStringList columns = AlarmRecord::Columns();
+            QVariantList row;
+            for (const QString& text : alarm.Texts())
+                row << text;
             for (const QString& read : Language::Names()) {
                 present.Set(read);
+                QCOMPARE(AlarmRecord::FromRow(row)->Texts(), alarm.Texts());
                 QVERIFY(AlarmRecord::AreColumns(columns));
                 QVERIFY(AlarmRecord::AreColumns(columns + QStringList{QStringLiteral("Remark")}));
                 QVERIFY(!AlarmRecord::AreColumns(columns.mid(0, columns.size() - 1)));

@@ -100,6 +100,7 @@ private slots:
         client.Type(QStringLiteral("192.168.1.64"));
         client.Press(Qt::Key_Enter, Qt::KeypadModifier);
         QVERIFY(client.Field("Serial number")->hasFocus());
+        client.Type(QStringLiteral("NG-1"));
         client.Shortcut('i');
         QVERIFY(client.page->findChild<QIpAddrEdit*>()->isAncestorOf(QApplication::focusWidget()));
         client.Shortcut('e');
@@ -135,6 +136,9 @@ private slots:
         QCOMPARE(Bubble(), QStringLiteral("The address needs four numbers"));
         client.Type(QStringLiteral("7"));
         QCOMPARE(address->text(), QStringLiteral("10.0.0.7"));
+        client.Shortcut('s');
+        QCOMPARE(Bubble(), QStringLiteral("Enter the serial number"));
+        client.Type(QStringLiteral("NG-1"));
         client.Shortcut('s');
         QCOMPARE(Bubble(), QStringLiteral("Enter the user of the device"));
         client.Type(QStringLiteral("operator"));

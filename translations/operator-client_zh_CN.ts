@@ -418,6 +418,10 @@ Do you want to replace it?</source>
         <translation>请输入名称</translation>
     </message>
     <message>
+        <source>Enter the serial number</source>
+        <translation>请输入序列号</translation>
+    </message>
+    <message>
         <source>Enter the user of the device</source>
         <translation>请输入设备用户名</translation>
     </message>

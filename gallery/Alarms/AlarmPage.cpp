@@ -143,15 +143,15 @@ QWidget* AlarmPage::BuildWork()
     FollowLanguage(m_pProgress, "accessibleName", [] { return tr("Progress of the export"); });
     m_pProgress->setFixedWidth(ProgressWidth);
     m_pProgress->setTextVisible(false);
-    auto* cancel = FollowLanguage(new KvGUI::KvPushButton(m_pWork), "text", [] { return tr("&Cancel"); });
+    m_pCancel = FollowLanguage(new KvGUI::KvPushButton(m_pWork), "text", [] { return tr("&Cancel"); });
     auto* line = new QHBoxLayout(m_pWork);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(12);
     line->addWidget(m_pProgress);
     line->addWidget(m_pWorkText);
     line->addStretch(1);
-    line->addWidget(cancel);
-    connect(cancel, &QPushButton::clicked, this, &AlarmPage::CancelExport);
+    line->addWidget(m_pCancel);
+    connect(m_pCancel, &QPushButton::clicked, this, &AlarmPage::CancelExport);
     return m_pWork;
 }
 
@@ -232,6 +232,7 @@ void AlarmPage::Export(const QString& path)
     connect(m_pRunning, &AlarmExport::SignalFinished, this, [this, path](bool saved, const QString& error) {
         OnExported(saved, error, path);
     });
+    Q_EMIT SignalReport(QString()); // of the export before
     ShowWork(tr("Starting\u2026"), 0, all);
     m_pRunning->Start();
 }
@@ -267,6 +268,7 @@ void AlarmPage::AskForImport()
 void AlarmPage::Import(const QString& path)
 {
     AlarmImport import;
+    Q_EMIT SignalReport(QString());
     {
         const Waiting waiting;
         import = AlarmImport::Read(path);
@@ -297,8 +299,13 @@ void AlarmPage::ShowWork(const QString& text, int done, int all)
     m_pProgress->setRange(0, qMax(1, all));
     m_pProgress->setValue(done);
     m_pWork->show();
+    if (m_pExport->hasFocus())
+        m_pCancel->setFocus();
     m_pImport->setEnabled(false);
     m_pExport->setEnabled(false);
+    // The next step keeps the event loop from it, and storing may take seconds.
+    m_pWork->layout()->activate();
+    m_pWork->repaint();
 }
 
 void AlarmPage::EndWork()
@@ -306,9 +313,11 @@ void AlarmPage::EndWork()
     if (m_pRunning)
         m_pRunning->deleteLater();
     m_pRunning.clear();
-    m_pWork->hide();
     m_pImport->setEnabled(true);
     m_pExport->setEnabled(true);
+    if (m_pCancel->hasFocus())
+        m_pExport->setFocus(); // otherwise it leaves the page
+    m_pWork->hide();
 }
 
 void AlarmPage::Tell(const QString& text)

@@ -67,6 +67,7 @@ private:
     QPushButton* m_pImport = nullptr;
     QPushButton* m_pExport = nullptr;
     QWidget* m_pWork = nullptr;
+    QPushButton* m_pCancel = nullptr;
     QLabel* m_pWorkText = nullptr;
     QProgressBar* m_pProgress = nullptr;
     QPointer<AlarmExport> m_pRunning;

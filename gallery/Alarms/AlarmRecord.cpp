@@ -3,6 +3,7 @@
 #include <gallery/Language.h>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
 #include <random>
@@ -44,10 +45,9 @@ const char* const Notes[] = {
 };
 // clang-format on
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("OperatorClient::AlarmRecord", text);
-}
+constexpr const char* Context = "OperatorClient::AlarmRecord";
+
+QString Translated(const char* text) { return QCoreApplication::translate(Context, text); }
 
 template <std::size_t Size>
 QString OneOf(const char* const (&texts)[Size], std::minstd_rand& random)
@@ -55,13 +55,46 @@ QString OneOf(const char* const (&texts)[Size], std::minstd_rand& random)
     return QString::fromUtf8(texts[random() % Size]);
 }
 
-/// The text in the operator's language where the program knows it; a number behind it stays.
-QString InLanguage(const QString& text)
+/// The text with its words replaced by what @p replacement makes of them; a number behind them stays.
+template <typename Replacement>
+QString ReplaceWords(const QString& text, const Replacement& replacement)
 {
     static const QRegularExpression number(QStringLiteral(" \\d+$"));
     const QString behind = number.match(text).captured();
-    const QByteArray words = text.left(text.size() - behind.size()).toUtf8();
-    return words.isEmpty() ? text : Translated(words.constData()) + behind;
+    const QString words = text.left(text.size() - behind.size());
+    return words.isEmpty() ? text : replacement(words) + behind;
+}
+
+/// The text in the operator's language where the program knows it.
+QString InLanguage(const QString& text)
+{
+    return ReplaceWords(text, [](const QString& words) { return Translated(words.toUtf8().constData()); });
+}
+
+/// The program's words, by what they are in each language of the client.
+QHash<QString, QString> WordsByTranslation()
+{
+    QHash<QString, QString> words;
+    const auto add = [&](const auto& texts) {
+        for (const char* text : texts) {
+            const QStringList translations = Language::InEach(Context, text);
+            for (const QString& translation : translations)
+                words.insert(translation, QString::fromUtf8(text));
+        }
+    };
+    add(Places);
+    add(Kinds);
+    add(Levels);
+    add(States);
+    add(Notes);
+    return words;
+}
+
+/// The text of a cell, in the program's own words where it has them in any language.
+QString OfAnyLanguage(const QVariant& cell)
+{
+    static const QHash<QString, QString> known = WordsByTranslation(); // which reads files
+    return ReplaceWords(cell.toString(), [](const QString& words) { return known.value(words, words); });
 }
 
 QDateTime TimeOf(const QVariant& cell)
@@ -75,7 +108,7 @@ QVector<QStringList> TitlesInEachLanguage()
 {
     QVector<QStringList> titles(Language::Names().size());
     for (const char* title : ColumnTitles) {
-        const QStringList translations = Language::InEach("OperatorClient::AlarmRecord", title);
+        const QStringList translations = Language::InEach(Context, title);
         for (int language = 0; language < titles.size(); ++language)
             titles[language] << translations.at(language);
     }
@@ -114,11 +147,11 @@ std::optional<AlarmRecord> AlarmRecord::FromRow(const QVariantList& row)
     record.time = TimeOf(row.value(1));
     if (!numbered || !record.time.isValid())
         return std::nullopt;
-    record.camera = row.value(2).toString();
-    record.kind = row.value(3).toString();
-    record.level = row.value(4).toString();
-    record.state = row.value(5).toString();
-    record.note = row.value(6).toString();
+    record.camera = OfAnyLanguage(row.value(2));
+    record.kind = OfAnyLanguage(row.value(3));
+    record.level = OfAnyLanguage(row.value(4));
+    record.state = OfAnyLanguage(row.value(5));
+    record.note = OfAnyLanguage(row.value(6));
     return record;
 }
 

@@ -28,7 +28,8 @@ struct AlarmRecord
     /// One a column. Words that the program knows are shown in the operator's language.
     QStringList Texts() const;
 
-    /// The alarm in a row of a workbook; none when the row has no number or no time.
+    /// The alarm in a row of a workbook, whose words may be of any of the client's languages; none when the
+    /// row has no number or no time.
     static std::optional<AlarmRecord> FromRow(const QVariantList& row);
 };
 

@@ -328,6 +328,7 @@ bool DevicePage::IsAddressRight()
 bool DevicePage::Save()
 {
     const bool right = IsFilled(m_pName, tr("Enter a name")) && IsAddressRight()
+        && IsFilled(m_pSerial, tr("Enter the serial number"))
         && IsFilled(m_pUser, tr("Enter the user of the device"))
         && IsFilled(m_pPassword, tr("Enter the password"));
     if (!right)
