@@ -210,7 +210,8 @@ void Client::NotePlace()
     if (!m_pWindow->isVisible() || m_pWindow->isMinimized())
         return;
     m_state.maximized = m_pWindow->isMaximized();
-    const QRect place = m_state.maximized ? m_pWindow->normalGeometry() : m_pWindow->geometry();
+    const bool filling = m_state.maximized || m_pWindow->isFullScreen(); // which a window manager can make it
+    const QRect place = filling ? m_pWindow->normalGeometry() : m_pWindow->geometry();
     if (!place.isEmpty()) // as it can be after a start as maximised window
         m_state.window = place;
 }

@@ -209,6 +209,8 @@ private slots:
                 client.Window().setGeometry(place);
                 QVERIFY(client.Window().ShowPage(page));
                 KvGUI::SetSkinVersion(QStringLiteral("White"));
+                if (page == PageNames().first())
+                    client.Window().showFullScreen(); // does not become the window's size
                 // Ends before the delayed save.
             }
             KvGUI::SetSkinVersion(QStringLiteral("Black"));
