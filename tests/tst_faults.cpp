@@ -376,6 +376,8 @@ int main(int argc, char** argv)
         const QCoreApplication application(argc, argv);
         return SaveForEver(Savers[std::atoi(argv[2])], QString::fromLocal8Bit(argv[3]));
     }
+    if (qEnvironmentVariableIsSet("UICOMPONENTS_KILLS"))
+        qputenv("QTEST_FUNCTION_TIMEOUT", "7200000"); // milliseconds; Qt Test ends a function after 5 minutes
     QApplication application(argc, argv);
     if (argc == 3 && qstrcmp(argv[1], "--show") == 0)
         return ShowWall(application, QString::fromLocal8Bit(argv[2]));
