@@ -1,3 +1,4 @@
+#include "support/AtEvent.h"
 #include "support/Columns.h"
 #include "support/StrictMain.h"
 #include "support/WallMouse.h"
@@ -558,20 +559,32 @@ private Q_SLOTS:
         QVERIFY(icon() != dark);
     }
 
-    // Catches work spent on pictures that nobody sees.
+    void HiddenTilesRest_data()
+    {
+        TestSupport::Columns<int>("family");
+        QTest::newRow("of widgets") << int(WallLayout::DisplayFamily);
+        QTest::newRow("in a scene") << int(WallLayout::NormalFamily);
+    }
+
+    // Catches work spent on pictures that nobody sees, and pictures that stand still when they are seen.
     void HiddenTilesRest()
     {
-        Client client(m_strLayout);
-        const auto tile = [&](int screen, int window) {
-            return client.Wall()->GetWindowWidget(screen, window)->findChild<CameraTile*>();
-        };
-        QVERIFY(tile(0, 0)->CanBeSeen());
-        QTRY_VERIFY(client.clock.IsRunning());
-        client.page.hide();
-        QVERIFY(!tile(0, 0)->CanBeSeen());
-        QTRY_VERIFY(!client.clock.IsRunning());
-        client.page.show();
-        QTRY_VERIFY(client.clock.IsRunning());
+        WallLayout layout = FirstWall();
+        QFETCH(int, family);
+        layout.family = family;
+        Client client(m_strLayout, layout);
+        auto* tile = client.Wall()->GetWindowWidget(0, 0)->findChild<CameraTile*>();
+        for (int round = 0; round < 2; ++round) {
+            QVERIFY(tile->CanBeSeen());
+            for (int frame = 0; frame < 3; ++frame) {
+                const TestSupport::AtEvent painted(tile, QEvent::Paint, [] {});
+                QTRY_VERIFY(painted.HasActed());
+            }
+            client.page.hide();
+            QVERIFY(!tile->CanBeSeen());
+            QTRY_VERIFY(!client.clock.IsRunning());
+            client.page.show();
+        }
     }
 
     void UnreadableFileSaysWhy_data()

@@ -221,6 +221,19 @@ private Q_SLOTS:
         QCOMPARE(f.Video(0), QRect(251, 86, 146, 96));
     }
 
+    // Catches a moving picture that stands still for good because the wall had no room for it once.
+    void videosPaintWhenThereIsRoom()
+    {
+        Fixture f({LeftUpper});
+        f.wall->resize(40, 20);
+        QWidget* video = f.wall->GetWindowWidget(0, 0);
+        f.wall->resize(500, 300);
+        QTest::qWait(50); // until the wall itself has painted
+        const TestSupport::AtEvent painted(video, QEvent::Paint, [] {});
+        video->update();
+        QTRY_VERIFY(painted.HasActed());
+    }
+
     // Catches a video that takes the clicks which are the window's, or does not get its own.
     void videosOfTheClient()
     {

@@ -59,7 +59,15 @@ void KvTVWallNormalWindow::SetGeometry(const QRect& geometry)
     if (m_pFrame != nullptr)
         m_pFrame->FitTo(m_size);
     if (m_pProxy != nullptr) // last: what the client has put into it may place the window again
-        m_pProxy->setGeometry(WindowTitle::VideoRect(m_size));
+        PlaceVideo();
+}
+
+// One pixel at least: Qt takes an embedded widget that has had no size for unmapped ever after, so that its
+// updates paint nothing.
+void KvTVWallNormalWindow::PlaceVideo()
+{
+    const QRect area = WindowTitle::VideoRect(m_size);
+    m_pProxy->setGeometry(QRect(area.topLeft(), area.size().expandedTo(QSize(1, 1))));
 }
 
 // State, pixels and tool tips change before the report, so that a slot finds the window as it will be and
@@ -163,7 +171,7 @@ KvTVWallDisplayVideo* KvTVWallNormalWindow::GetVideo()
     });
     m_pProxy = new QGraphicsProxyWidget(this);
     m_pProxy->setWidget(m_pVideo);
-    m_pProxy->setGeometry(WindowTitle::VideoRect(m_size));
+    PlaceVideo();
     setFlag(ItemClipsChildrenToShape); // the video reaches over the lower edge
     return m_pVideo;
 }

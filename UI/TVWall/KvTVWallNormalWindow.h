@@ -98,6 +98,7 @@ private:
     void SetGeometry(const QRect& geometry);
     void UpdateTitle();
     bool HasVideo() const;
+    void PlaceVideo();
     void ColorVideo();
     Qt::Edges EdgesForMouse(const QPoint& pos) const;
     WindowDrag::Field Field() const;

@@ -2,7 +2,11 @@
 
 #include <gallery/Pictures/FrameClock.h>
 
+#include <QGraphicsProxyWidget>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QPainter>
+#include <algorithm>
 
 namespace OperatorClient {
 
@@ -26,7 +30,18 @@ void CameraTile::SetSource(std::shared_ptr<FrameSource> source)
     update();
 }
 
-bool CameraTile::CanBeSeen() const { return isVisible() && !visibleRegion().isEmpty(); }
+bool CameraTile::CanBeSeen() const
+{
+    if (!isVisible() || visibleRegion().isEmpty())
+        return false;
+    const QGraphicsProxyWidget* proxy = window()->graphicsProxyWidget();
+    if (proxy == nullptr)
+        return true;
+    // What lies in a scene stays visible while nobody shows the scene.
+    const QList<QGraphicsView*> views = proxy->scene()->views();
+    return std::any_of(
+        views.begin(), views.end(), [](const QGraphicsView* view) { return view->isVisible(); });
+}
 
 bool CameraTile::Refresh(const QDateTime& now)
 {
