@@ -24,8 +24,9 @@ install_packages() {
     DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y -qq --no-install-recommends $missing
 }
 
-# build_preset NAME: configures build/NAME where needed and builds all of it.
+# build_preset NAME [OPTION...]: configures build/NAME where needed and builds all of it; an option such as
+# --target NAME goes to the build.
 build_preset() {
     cmake --preset "$1"
-    cmake --build --preset "$1"
+    cmake --build --preset "$@"
 }
