@@ -1,5 +1,6 @@
 #include "support/AtEvent.h"
 #include "support/Columns.h"
+#include "support/SmallVideo.h"
 #include "support/StrictMain.h"
 #include "support/WallMouse.h"
 
@@ -20,6 +21,7 @@ using Command = WallToolBar::Command;
 namespace {
 
 const QColor PhotoColor(12, 200, 34);
+constexpr int UnseenVideo = 2500; // milliseconds until a video pauses that nobody sees
 constexpr int AfterSaving = 500; // longer than the page waits before it saves
 
 /// A wall page on the display with its layout in a file of its own folder.
@@ -583,6 +585,28 @@ private Q_SLOTS:
             client.page.hide();
             QVERIFY(!tile->CanBeSeen());
             QTRY_VERIFY(!client.clock.IsRunning());
+            client.page.show();
+        }
+    }
+
+    // Catches a video that is decoded while nobody sees it, and one that stays paused when it is seen again.
+    void HiddenVideosPause()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("video.avi"));
+        QVERIFY(TestSupport::WriteSmallVideo(path));
+        // The player warns where there is no sound device, in words of that machine.
+        QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+        const auto rules = qScopeGuard([] { QLoggingCategory::setFilterRules(QString()); });
+        Client client(m_strLayout, FirstWall(), {SourceSpec::Video(path)});
+        const FrameSource& video = client.Wall()->GetWindowWidget(0, 0)->findChild<CameraTile*>()->Source();
+        for (int round = 0; round < 2; ++round) {
+            const qint64 before = video.FrameNumber({});
+            QTRY_VERIFY(video.FrameNumber({}) > before + 30); // over its end, too
+            client.page.hide();
+            QTest::qWait(UnseenVideo);
+            const qint64 paused = video.FrameNumber({});
+            QTest::qWait(400);
+            QCOMPARE(video.FrameNumber({}), paused);
             client.page.show();
         }
     }

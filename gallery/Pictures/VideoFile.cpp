@@ -9,6 +9,12 @@
 
 namespace OperatorClient {
 
+namespace {
+
+constexpr int LongestUnseen = 2000; // milliseconds; twice what the clock leaves between two paintings
+
+} // namespace
+
 VideoFile::VideoFile(const QString& path)
     : m_strPath(path)
 {
@@ -36,6 +42,9 @@ void VideoFile::Start()
     connect(m_pPlayer, QOverload<QMediaPlayer::Error>::of(&QMediaPlayer::error), this, [this] {
         Fail(m_pPlayer->errorString());
     });
+    // Not at once: the player is busy with the frame.
+    connect(&m_sink, &VideoFrameSink::SignalFrame, this, &VideoFile::PauseUnseen, Qt::QueuedConnection);
+    m_sincePaint.start();
     m_pPlayer->setVideoOutput(&m_sink);
     m_pPlayer->setMuted(true);
     m_pPlayer->setMedia(QUrl::fromLocalFile(QFileInfo(m_strPath).absoluteFilePath()));
@@ -67,6 +76,13 @@ void VideoFile::PlayAgain()
     m_pPlayer->play();
 }
 
+/// A frame tells the time as well as a timer, and comes only while the video plays.
+void VideoFile::PauseUnseen()
+{
+    if (m_sincePaint.hasExpired(LongestUnseen) && m_pPlayer->state() == QMediaPlayer::PlayingState)
+        m_pPlayer->pause();
+}
+
 QString VideoFile::Title() const { return QFileInfo(m_strPath).fileName(); }
 
 qint64 VideoFile::FrameNumber(const QDateTime& now) const
@@ -96,6 +112,9 @@ void VideoFile::Paint(QPainter& painter, const QRect& area, const QDateTime& now
         PaintMessage(painter, area, tr("%1\nThe video cannot be shown: %2").arg(Title(), m_strError));
         return;
     }
+    m_sincePaint.start();
+    if (m_pPlayer && m_pPlayer->state() == QMediaPlayer::PausedState)
+        m_pPlayer->play();
     PaintNoPicture(painter, area);
     const QImage picture = m_sink.Picture();
     if (picture.isNull())

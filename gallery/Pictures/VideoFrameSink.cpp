@@ -18,6 +18,7 @@ bool VideoFrameSink::present(const QVideoFrame& frame)
         return false;
     m_frame = frame;
     ++m_iFrames;
+    Q_EMIT SignalFrame();
     return true;
 }
 

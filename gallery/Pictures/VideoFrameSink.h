@@ -22,6 +22,9 @@ public:
     qint64 FrameCount() const { return m_iFrames; } ///< frames since the beginning
     QImage Picture(); ///< the newest frame; null before the first
 
+Q_SIGNALS:
+    void SignalFrame(); ///< there is another one
+
 private:
     QVideoFrame m_frame;
     QImage m_picture;
