@@ -1,6 +1,10 @@
 #include <designer/DesignerWidget.h>
 
+#include <Platform/BasicUIComponents/KvSkin.h>
+
+#include <QGuiApplication>
 #include <QIcon>
+#include <QPalette>
 #include <QWidget>
 
 namespace UIComponentsDesigner {
@@ -39,7 +43,24 @@ QIcon DesignerWidget::icon() const
 
 bool DesignerWidget::isContainer() const { return false; }
 
-QWidget* DesignerWidget::createWidget(QWidget* parent) { return m_entry.create(parent); }
+void DesignerWidget::initialize(QDesignerFormEditorInterface*)
+{
+    m_bInDesigner = true;
+    // Designer paints the form itself, in the desktop's colours: the signs of the other skin would not be
+    // seen.
+    const bool light = QGuiApplication::palette().color(QPalette::Window).lightnessF() > 0.5;
+    KvGUI::SetSkinVersion(light ? QStringLiteral("White") : QStringLiteral("Black"));
+}
+
+bool DesignerWidget::isInitialized() const { return m_bInDesigner; }
+
+QWidget* DesignerWidget::createWidget(QWidget* parent)
+{
+    QWidget* widget = m_entry.create(parent);
+    if (m_bInDesigner && m_entry.furnish != nullptr)
+        m_entry.furnish(widget);
+    return widget;
+}
 
 QString DesignerWidget::domXml() const
 {

@@ -23,11 +23,15 @@ public:
     QString includeFile() const override;
     QIcon icon() const override;
     bool isContainer() const override;
+    /// By Designer only, before it makes a widget; a QUiLoader in a program calls nothing.
+    void initialize(QDesignerFormEditorInterface* editor) override;
+    bool isInitialized() const override;
     QWidget* createWidget(QWidget* parent) override;
     QString domXml() const override; ///< the widget as it is dropped on a form
 
 private:
     WidgetEntry m_entry;
+    bool m_bInDesigner = false;
 };
 
 } // namespace UIComponentsDesigner

@@ -42,6 +42,11 @@ QWidget* Create(QWidget* parent)
     return new Widget(parent);
 }
 
+void ShowAWall(QWidget* widget)
+{
+    static_cast<KvTVWallOperateWnd*>(widget)->SetShowMode(KvTVWallOperateWnd::DisplayMode);
+}
+
 } // namespace
 
 const QVector<WidgetEntry>& Widgets()
@@ -53,7 +58,8 @@ const QVector<WidgetEntry>& Widgets()
          "VideoWall",
          "Video wall of either family, with zoom and overview",
          {480, 270},
-         &Create<KvTVWallOperateWnd>},
+         &Create<KvTVWallOperateWnd>,
+         &ShowAWall},
         {"UICommonMdl::KvTVWallDisplayWnd",
          "UI/TVWall/KvTVWallDisplayWnd.h",
          Walls,

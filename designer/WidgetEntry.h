@@ -17,6 +17,7 @@ struct WidgetEntry
     const char* toolTip;
     QSize size; ///< when it is dropped on a form, in pixels
     QWidget* (*create)(QWidget* parent);
+    void (*furnish)(QWidget* widget) = nullptr; ///< gives it something to show on a form; may be null
 };
 
 /// Every widget of the library that has a place in a form. Dialogs, menus, bubbles and pop-ups have none:

@@ -3,6 +3,7 @@
 #include <support/CropCanvas.h>
 #include <support/StrictMain.h>
 
+#include <Platform/BasicUIComponents/KvSkin.h>
 #include <QUiLoader>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
@@ -99,6 +100,26 @@ private Q_SLOTS:
                 QFile::exists(QStringLiteral(SOURCE_TREE "/") + listedWidget->includeFile()),
                 qPrintable(listedWidget->includeFile()));
         }
+    }
+
+    /// A wall that cannot be seen on a form, signs of the dark skin on a light form, and a program whose skin
+    /// or wall the plugin chooses.
+    void formsShowWhatIsThere()
+    {
+        QString error;
+        const auto listed = ListedWidgets(error);
+        QVERIFY2(!listed.isEmpty(), qPrintable(error));
+        QDesignerCustomWidgetInterface* entry = listed.first();
+        QCOMPARE(entry->includeFile(), QStringLiteral("UI/TVWall/KvTVWallOperateWnd.h"));
+        const std::unique_ptr<QWidget> inProgram(entry->createWidget(nullptr));
+        QVERIFY(inProgram->findChildren<QWidget*>().isEmpty());
+        QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("Black"));
+
+        QGuiApplication::setPalette(QPalette(Qt::white));
+        entry->initialize(nullptr);
+        const std::unique_ptr<QWidget> onForm(entry->createWidget(nullptr));
+        QVERIFY(!onForm->findChildren<QWidget*>().isEmpty());
+        QCOMPARE(KvGUI::GetSkinVersion(), QStringLiteral("White"));
     }
 
     /// A new widget of the library that nobody added to the plugin.

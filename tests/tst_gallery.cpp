@@ -507,6 +507,31 @@ private Q_SLOTS:
         QVERIFY(again.Action(Command::Gutter)->isEnabled() && !again.Action(Command::CellBound)->isEnabled());
     }
 
+    void ScreensHaveAMenu_data()
+    {
+        TestSupport::Columns<int, int>("family", "usable");
+        QTest::newRow("of widgets") << int(WallLayout::DisplayFamily) << 5;
+        QTest::newRow("in a scene") << int(WallLayout::NormalFamily) << 3;
+    }
+
+    // Catches a family whose screens have no menu, and a menu whose commands this family only pretends to do.
+    void ScreensHaveAMenu()
+    {
+        QFETCH(int, family);
+        Client client(m_strLayout);
+        client.page.Cameras()->SetFamily(family);
+        client.mouse.Click(client.OnScreen(3, 0.2, 0.2), Qt::RightButton);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu != nullptr);
+        const QList<QAction*> actions = menu->actions();
+        const auto usable
+            = [](const QAction* action) { return !action->isSeparator() && action->isEnabled(); };
+        QTEST(int(std::count_if(actions.begin(), actions.end(), usable)), "usable");
+        actions.first()->trigger();
+        QCOMPARE(client.Wall()->GetWindowCount(3), 1);
+        menu->close();
+    }
+
     void ZoomedWallIsUsable_data()
     {
         QTest::addColumn<int>("family");

@@ -1,5 +1,6 @@
 #include <gallery/Wall/CameraWall.h>
 
+#include <UI/TVWall/KvTVWallNormalWnd.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/Pictures/CameraTile.h>
 #include <gallery/SkinIcon.h>
@@ -84,6 +85,11 @@ void CameraWall::ShowFamily(int family)
         return;
     m_iFamily = family;
     m_pWall->SetShowMode(family);
+    // The operate widget passes on this signal of a wall of widgets only.
+    if (const auto* scene = m_pWall->findChild<UICommonMdl::KvTVWallNormalWnd*>())
+        connect(
+            scene, &UICommonMdl::KvTVWallNormalWnd::SignalScreenRightClick, this,
+            &CameraWall::SignalMenuWanted);
     m_pNotes->WatchWall();
 }
 

@@ -13,7 +13,10 @@ ScreenMenu::ScreenMenu(CameraWall& cameras, int screen, QWidget* parent)
         cameras.OpenWindow(screen, KvGUI::StructScaleRect{0, 0, 1, 1, true});
     };
     AddCommand([] { return tr("New window filling the screen"); }, fill);
-    AddCommand([] { return tr("Snap all windows"); }, [&cameras, screen] { cameras.SnapWindows(screen); });
+    const bool ofWidgets = cameras.Family() == WallLayout::DisplayFamily; // which alone can snap and has maps
+    QAction* snap = AddCommand(
+        [] { return tr("Snap all windows"); }, [&cameras, screen] { cameras.SnapWindows(screen); });
+    snap->setEnabled(ofWidgets);
     AddCommand([] { return tr("Close all windows"); }, [&cameras, screen] { cameras.CloseWindows(screen); });
     addSeparator();
     const ScreenNote note = NoteOf(*cameras.Wall(), screen);
@@ -21,23 +24,25 @@ ScreenMenu::ScreenMenu(CameraWall& cameras, int screen, QWidget* parent)
     AddSwitch(
         [] { return tr("Text overlays"); }, note.overlays,
         [notes, screen](bool on) { notes->SetOverlays(screen, on); });
-    AddSwitch(
+    QAction* baseMap = AddSwitch(
         [] { return tr("Base map"); }, note.baseMap,
         [notes, screen](bool on) { notes->SetBaseMap(screen, on); });
+    baseMap->setEnabled(ofWidgets);
 }
 
-void ScreenMenu::AddCommand(QString (*text)(), const std::function<void()>& act)
+QAction* ScreenMenu::AddCommand(QString (*text)(), const std::function<void()>& act)
 {
-    FollowLanguage(addAction(QString(), this, act), "text", text);
+    return FollowLanguage(addAction(QString(), this, act), "text", text);
 }
 
-void ScreenMenu::AddSwitch(QString (*text)(), bool checked, const std::function<void(bool)>& set)
+QAction* ScreenMenu::AddSwitch(QString (*text)(), bool checked, const std::function<void(bool)>& set)
 {
     QAction* action = FollowLanguage(addAction(QString()), "text", text);
     action->setCheckable(true);
     action->setChecked(checked);
     connect(action, &QAction::triggered, this, set);
     connect(action, &QAction::triggered, this, &ScreenMenu::SignalSwitched);
+    return action;
 }
 
 } // namespace OperatorClient

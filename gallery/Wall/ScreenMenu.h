@@ -20,8 +20,8 @@ Q_SIGNALS:
     void SignalSwitched(); ///< the screen shows something else beside its windows now
 
 private:
-    void AddCommand(QString (*text)(), const std::function<void()>& act);
-    void AddSwitch(QString (*text)(), bool checked, const std::function<void(bool)>& set);
+    QAction* AddCommand(QString (*text)(), const std::function<void()>& act);
+    QAction* AddSwitch(QString (*text)(), bool checked, const std::function<void(bool)>& set);
 };
 
 } // namespace OperatorClient
