@@ -1,8 +1,5 @@
 #include "JpegQuantiser.h"
 
-#include <QtAlgorithms>
-#include <cstdlib>
-
 namespace UICommonMdl {
 
 namespace {
@@ -11,9 +8,6 @@ constexpr int Scale = 8; // coefficients are too large by this
 constexpr size_t LongestRun = 16; // of zeros, written as a symbol of its own
 constexpr size_t SixteenZeros = (LongestRun - 1) << 4;
 constexpr size_t RestZero = 0;
-
-/// How many bits a value takes of which the double is given; the double's lowest bit says nothing.
-quint32 HalfLength(quint32 value) { return 31 - qCountLeadingZeroBits(value | 1); }
 
 /// Adds a value's code and then the value itself with as many bits as it has, of a negative one the opposite
 /// bits.
@@ -43,21 +37,6 @@ JpegQuantiser::JpegQuantiser(const JpegCoding& coding)
             bits[length] = runs + coding.ac[zeros % LongestRun << 4 | length].length + length;
         bits[JpegEndLength] = zeros == 0 ? 0 : coding.ac[RestZero].length; // told unless the block is full
     }
-}
-
-quint32 JpegQuantiser::Length(int value) { return HalfLength(static_cast<quint32>(std::abs(value)) * 2); }
-
-/// Twice the magnitude divided and rounded to the nearest, or one more; exact for all that fits into 16 bits.
-quint32 JpegQuantiser::Doubled(quint32 magnitude, size_t place) const
-{
-    constexpr quint64 Half = quint64(1) << 31;
-    return static_cast<quint32>((quint64(magnitude) * m_reciprocals[place] + Half) >> 31);
-}
-
-int JpegQuantiser::Mean(int mean) const
-{
-    const auto magnitude = static_cast<int>(Doubled(static_cast<quint32>(std::abs(mean)), 0) / 2);
-    return mean < 0 ? -magnitude : magnitude;
 }
 
 qint64 JpegQuantiser::DetailBits(JpegDetails& details) const

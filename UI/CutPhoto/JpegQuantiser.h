@@ -3,8 +3,10 @@
 #include "JpegBits.h"
 #include "JpegTables.h"
 
+#include <QtAlgorithms>
 #include <QtGlobal>
 #include <array>
+#include <cstdlib>
 #include <vector>
 
 namespace UICommonMdl {
@@ -36,7 +38,11 @@ public:
     const std::array<qint16, JpegBlockSize>& Least() const { return m_least; }
 
     /// A block's mean, eight times too large, divided.
-    int Mean(int mean) const;
+    int Mean(int mean) const
+    {
+        const auto magnitude = static_cast<int>(Doubled(static_cast<quint32>(std::abs(mean)), 0) / 2);
+        return mean < 0 ? -magnitude : magnitude;
+    }
 
     /// Bits of a divided mean that differs by @p difference from the one before it.
     quint32 MeanBits(int difference) const { return m_meanBits[Length(difference)]; }
@@ -54,8 +60,16 @@ public:
 private:
     static constexpr size_t Lengths = 16; // in bits, of divided values, 0 included
 
-    static quint32 Length(int value);
-    quint32 Doubled(quint32 magnitude, size_t place) const;
+    static quint32 Length(int value) { return HalfLength(static_cast<quint32>(std::abs(value)) * 2); }
+    /// How many bits a value takes of which the double is given; the double's lowest bit says nothing.
+    static quint32 HalfLength(quint32 value) { return 31 - qCountLeadingZeroBits(value | 1); }
+    /// Twice the magnitude divided and rounded to the nearest, or one more; exact for all that fits into 16
+    /// bits.
+    quint32 Doubled(quint32 magnitude, size_t place) const
+    {
+        constexpr quint64 Half = quint64(1) << 31;
+        return static_cast<quint32>((quint64(magnitude) * m_reciprocals[place] + Half) >> 31);
+    }
 
     const JpegCoding m_coding;
     std::array<qint16, JpegBlockSize> m_least{};
