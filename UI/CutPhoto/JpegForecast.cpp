@@ -14,7 +14,7 @@ constexpr qint64 FewestPixels = qint64(4) * SampleSide * SampleSide;
 /// Larger pictures would take too much memory, unless most of their values are forgotten.
 constexpr qint64 MostMemory = qint64(400) << 20;
 constexpr qint64 BytesOfPixel = 6;
-constexpr qint64 BytesOfWrittenByte = 12; // of the fewest bits that a value is written in
+constexpr qint64 BytesOfWrittenByte = 24; // of 3 bits, the fewest of a value; half of the room may be empty
 
 bool IsWorthwhile(const QSize& size, qint64 maximum)
 {

@@ -55,6 +55,8 @@ qint64 JpegQuantiser::DetailBits(JpegDetails& details) const
         next = taken ? place % JpegBlockEnd.place + 1 : next;
     }
     details.resize(static_cast<size_t>(kept - details.data()));
+    if (details.size() < details.capacity() / 2)
+        details.shrink_to_fit();
     return bits;
 }
 
