@@ -25,10 +25,7 @@ constexpr auto kMyPermissions = QFileDevice::ReadUser | QFileDevice::WriteUser |
 QString ClassSheetName(const QWidget* widget)
 {
     const QString className = QString::fromUtf8(widget->metaObject()->className());
-    const QString separator = QStringLiteral("::");
-    const int last = className.lastIndexOf(separator);
-    const QString name = last < 0 ? className : className.mid(last + separator.size());
-    return name.isEmpty() ? name : name + QLatin1String(".css");
+    return className.section(QStringLiteral("::"), -1) + QLatin1String(".css");
 }
 
 bool IsBlank(QChar character)

@@ -178,8 +178,7 @@ QString QCommon::PatchPath(QString dir, QString file)
 int QCommon::GetDevIdByChnlId(const std::string& chnlId, std::string& devId)
 {
     std::string device = chnlId;
-    bool isChannel = CutLastField(device);
-    isChannel = CutLastField(device) && isChannel;
+    const bool isChannel = CutLastField(device) && CutLastField(device);
     // The first of the three fields may be missing.
     CutLastField(device);
     if (!isChannel || device.size() > kLongestDeviceId) {

@@ -686,7 +686,8 @@ private slots:
     /// Catches messages without a window that are lost, and a crash where no window is active.
     void MessagesOfNoWindow()
     {
-        Notify("Connected", nullptr);
+        KvMenu menu; // a pop-up of no window
+        Notify("Connected", &menu);
         QCOMPARE(Texts(), QStringList(QStringLiteral("Connected")));
         {
             Window window;

@@ -319,6 +319,10 @@ private slots:
             form.hand.Click(tooFar);
             QCOMPARE(changed.count(), 0);
         }
+        form.hand.View(0)->setFocus();
+        form.hand.View(0)->setCurrentIndex({});
+        form.hand.Key(Qt::Key_Return);
+        QCOMPARE(changed.count(), 0);
         form.hand.Click(QDate(2024, 1, 26));
         QCOMPARE(changed.count(), 1);
         form.hand.Click(January20);
@@ -507,15 +511,17 @@ private slots:
     /// Catches a calendar that needs the mouse.
     void KeysChooseARange()
     {
-        Form form;
-        form.hand.View(0)->setFocus();
-        form.hand.Key(Qt::Key_Return); // 5 January, the start of the range
-        for (int i = 0; i < 4; ++i)
-            form.hand.Key(Qt::Key_Down);
-        QVERIFY(form.hand.IsInRange(QDate(2024, 1, 30))); // the range follows the keys too
-        form.hand.Key(Qt::Key_Space);
-        QCOMPARE(Range(*form.calendar).start, At(January5, 0));
-        QCOMPARE(Range(*form.calendar).end, EndOf(QDate(2024, 2, 2)));
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            Form form;
+            form.hand.View(0)->setFocus();
+            form.hand.Key(key); // 5 January, the start of the range
+            for (int i = 0; i < 4; ++i)
+                form.hand.Key(Qt::Key_Down);
+            QVERIFY(form.hand.IsInRange(QDate(2024, 1, 30))); // the range follows the keys too
+            form.hand.Key(key);
+            QCOMPARE(Range(*form.calendar).start, At(January5, 0));
+            QCOMPARE(Range(*form.calendar).end, EndOf(QDate(2024, 2, 2)));
+        }
     }
 
     /// Catches Escape that closes at once, and a first click remembered for the next opening.
@@ -548,6 +554,8 @@ private slots:
     {
         Form form;
         const CalendarMonthModel* days = form.hand.View(0)->Days();
+        const QAbstractItemModelTester tester(
+            form.hand.View(0)->Days(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         const auto header = [&](int column) {
             return days->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         };

@@ -1,5 +1,6 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
+#include "support/WriteFaults.h"
 
 #include <Common/CIniFile.h>
 #include <Common/CLocalIniFile.h>
@@ -158,6 +159,21 @@ private slots:
                                 << true;
         QTest::newRow("list") << deep(3) << true;
         QTest::newRow("a text") << QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << true;
+        QTest::newRow("font") << QByteArray("@Variant(\\0\\0\\0\\x40)") << true;
+        QTest::newRow("texts") << QByteArray("@Variant(\\0\\0\\0\\v\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61)")
+                               << true;
+        QTest::newRow("nothing in a list") << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1"
+                                                         "\\0\\0\\0\\0\\0\\0\\0\\0)")
+                                           << true;
+        QTest::newRow("list without its things")
+            << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1)") << true;
+        QTest::newRow("octal") << QByteArray("a\\101") << true;
+        QTest::newRow("numbers without digits") << QByteArray("@\\xg") << true;
+        QTest::newRow("font in a list")
+            << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1\\0\\0\\0\\x40)") << false;
+        QTest::newRow("maps without end")
+            << "@Variant(" + QByteArray("\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\0").repeated(100000) + ")"
+            << false;
         QTest::newRow("list without end")
             << QByteArray("@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
         QTest::newRow("map without end") << QByteArray("@Variant(\\0\\0\\0\\b\\x10\\0\\0\\0)") << false;
@@ -186,6 +202,21 @@ private slots:
         file.WriteValue(kSection, kKey, 7);
         QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
         QCOMPARE(Read(Path() + QStringLiteral(".damaged")), safe ? QByteArray("no such file") : text);
+    }
+
+    /// Catches a damaged value that is read after all because its file cannot be put aside, or that comes
+    /// back with the backup.
+    void DamageThatStays()
+    {
+        const QByteArray text = "[Wall]\nRows=2\nLayout=@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\n";
+        const auto rows = [this] { return CIniFile(Path()).ReadValue(kSection, QStringLiteral("Rows"), 7); };
+        Write(Path(), text);
+        {
+            const auto fault = TestSupport::ReadOnlyFolder(m_folder->path());
+            QCOMPARE(rows(), QVariant(7));
+        }
+        Write(BackupPath(), text);
+        QCOMPARE(rows(), QVariant(7));
     }
 
     /// Catches a value that is stored and then taken for damage, with the whole file.
@@ -231,6 +262,12 @@ private slots:
         QCOMPARE(first.ReadValue(kSection, kKey, 3), QVariant(3));
         QVERIFY(first.ReadAllSecName().isEmpty());
         QCOMPARE(second.ReadValue(kSection, kKey, 3).toInt(), 1);
+        first = std::move(second);
+        QCOMPARE(first.ReadValue(kSection, kKey, 3).toInt(), 1);
+        QIniFile small(Path());
+        QIniFile other(std::move(small));
+        small = std::move(other);
+        QCOMPARE(small.ReadValue(kSection, kKey).toInt(), 1);
     }
 
     /// Catches a file that is looked for in the working directory.

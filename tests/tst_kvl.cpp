@@ -63,6 +63,7 @@ private slots:
         QTest::newRow("padding before a digit") << QByteArray("Zm=v");
         QTest::newRow("line break") << QByteArray("Zm9v\nYmF");
         QTest::newRow("foreign character") << QByteArray("Zm9-");
+        QTest::newRow("behind the letters") << QByteArray("Zm9~");
         QTest::newRow("byte above 0x7F") << QByteArray("Zm9\xC3");
         QTest::newRow("zero byte") << QByteArray("Zm9\0", 4);
         QTest::newRow("stray bits") << QByteArray("Zh==");
@@ -128,6 +129,12 @@ private slots:
         QVERIFY(Common::enBase64("a", ULLONG_MAX).empty());
         QCOMPARE(Common::deBase64(std::string(), nullptr), 0);
         QVERIFY(Common::deBase64(std::string("Zm9v"), nullptr) < 0);
+        QByteArray out(9, 'x');
+        QCOMPARE(kvl::DBase64::Encode(nullptr, 3, out.data(), 9), -1LL);
+        QCOMPARE(kvl::DBase64::Encode("foo", 3, nullptr, 9), -1LL);
+        QCOMPARE(kvl::DBase64::Decode(nullptr, 4, out.data(), 9), -1LL);
+        QCOMPARE(kvl::DBase64::Encode(nullptr, 0, out.data(), 9), 0LL);
+        QCOMPARE(kvl::DBase64::Decode(nullptr, 0, out.data(), 9), 0LL);
     }
 
     void FormattingIsBounded_data()
@@ -166,6 +173,9 @@ private slots:
     void NullBuffersAreLeftAlone()
     {
         QCOMPARE(kvl::DStr::sprintf_x(nullptr, 5, "%d", 1), -1);
+        QByteArray wild(8, 'x');
+        QCOMPARE(kvl::DStr::sprintf_x(wild.data(), 8, "%ls", L"\xD800"), -1); // half a character
+        QCOMPARE(wild.at(0), '\0');
         QVERIFY(!kvl::DStr::strcpy_x(nullptr, 5, "a"));
         QByteArray out(2, 'x');
         QVERIFY(!kvl::DStr::strcpy_x(out.data(), 0, "a"));

@@ -580,7 +580,28 @@ void TestOffice::RefusesWhatItDoesNotKnow()
     for (const char* address : {"A@1", "", "A0:B0", "A2147483647:B2147483648", "ZZZZ1"})
         QVERIFY2(!sheet->querySubObject(range, {QLatin1String(address)}), address);
     const auto cell = sheet->querySubObject(range, {QStringLiteral("A1")});
-    QVERIFY(!cell->setProperty(QStringLiteral("HorizontalAlignment"), 5));
+    const auto book = application->querySubObject(QStringLiteral("ActiveWorkBook"));
+    const auto books = application->querySubObject(QStringLiteral("WorkBooks"));
+    const auto font = cell->querySubObject(QStringLiteral("Font"));
+    const auto interior = cell->querySubObject(QStringLiteral("Interior"));
+    const auto borders = cell->querySubObject(QStringLiteral("Borders"));
+    for (AutomationObject* object :
+         {books.get(), book.get(), sheet.get(), cell.get(), font.get(), interior.get(), borders.get()}) {
+        QVERIFY(!object->dynamicCall(QStringLiteral("Explode()")).isValid());
+        QVERIFY(!object->querySubObject(QStringLiteral("Charts")));
+        QVERIFY(!object->property(QStringLiteral("Colour")).isValid());
+        QVERIFY(!object->setProperty(QStringLiteral("Colour"), 1));
+    }
+    QVERIFY(!application->setProperty(QStringLiteral("Colour"), 1));
+    QVERIFY(!interior->setProperty(QStringLiteral("Color"), QStringLiteral("none")));
+    for (const char* alignment : {"HorizontalAlignment", "VerticalAlignment"})
+        QVERIFY2(!cell->setProperty(QLatin1String(alignment), 5), alignment);
+    for (const int index : {0, 9})
+        QVERIFY(!book->querySubObject(QStringLiteral("WorkSheets(int)"), {index}));
+    const QString save = QStringLiteral("SaveAs(const QString &, int)");
+    QVERIFY(!book->dynamicCall(save, {Path(QStringLiteral("table.ods")), 60}).toBool());
+    book->dynamicCall(QStringLiteral("Close (Boolean)"), {false});
+    QVERIFY(!book->dynamicCall(save, {Path(QStringLiteral("closed.csv")), 6}).toBool());
     QVERIFY(!cell->isNull());
     application->dynamicCall(QStringLiteral("Quit(void)"));
     QVERIFY(!cell->dynamicCall(QStringLiteral("Value")).isValid());

@@ -3,6 +3,7 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
 
+#include <Platform/Automation/Office/Host/RowRuns.h>
 #include <Platform/Automation/Office/OfficeMessage.h>
 
 #include <QtTest>
@@ -134,6 +135,27 @@ private Q_SLOTS:
         buffer.Add("\xff\xff\xff\xff", 4);
         QVERIFY(!buffer.Take());
         QVERIFY(buffer.IsBroken());
+    }
+
+    // Catches rows whose height the client has set among those that are measured, and rows that are missed.
+    void GapsBetweenRows()
+    {
+        RowRuns runs;
+        const auto gaps = [&runs](int last) {
+            QString text;
+            const auto found = runs.Gaps(last);
+            for (const RowRuns::Run& gap : found)
+                text += QStringLiteral("%1-%2 ").arg(gap.first).arg(gap.last);
+            return text;
+        };
+        QCOMPARE(gaps(3), QStringLiteral("0-3 "));
+        runs.Add(5, 6);
+        runs.Add(1, 2);
+        runs.Add(9, 9);
+        QCOMPARE(gaps(10), QStringLiteral("0-0 3-4 7-8 10-10 "));
+        QCOMPARE(gaps(4), QStringLiteral("0-0 3-4 "));
+        runs.Add(2, 4); // touches two of them
+        QCOMPARE(gaps(9), QStringLiteral("0-0 7-8 "));
     }
 };
 

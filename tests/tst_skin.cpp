@@ -334,6 +334,8 @@ private slots:
         QCOMPARE(read(folder + "/night.css"_s, QString()), night);
         QVERIFY(read("none.css"_s, folder).isNull());
         QVERIFY(read(QString(), folder).isNull());
+        QVERIFY(read("//"_s, folder).isNull());
+        QCOMPARE(read(folder + "/night.css"_s, "//"_s), night);
         const QByteArray empty = read("empty.css"_s, folder);
         QVERIFY(empty.isEmpty() && !empty.isNull());
     }

@@ -103,7 +103,7 @@ QVariant CalendarMonthModel::headerData(int section, Qt::Orientation orientation
 Qt::ItemFlags CalendarMonthModel::flags(const QModelIndex& index) const
 {
     const Qt::ItemFlags reachable = Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
-    return m_selection.CanPick(Day(index)) ? reachable : Qt::ItemFlags(Qt::ItemNeverHasChildren);
+    return m_selection.CanPick(Day(index)) ? reachable : Qt::ItemFlags();
 }
 
 } // namespace KvGUI

@@ -61,10 +61,7 @@ QDate MonthOf(const QDate& day) { return {day.year(), day.month(), 1}; }
 
 QDate MonthsLater(const QDate& month, int months)
 {
-    const QDate wanted = MonthOf(month).addMonths(months);
-    if (!wanted.isValid())
-        return months < 0 ? FirstMonth() : LastMonth();
-    return qBound(FirstMonth(), wanted, LastMonth());
+    return qBound(FirstMonth(), MonthOf(month).addMonths(months), LastMonth());
 }
 
 PagePair WithStartPage(const PagePair& pages, const QDate& month)

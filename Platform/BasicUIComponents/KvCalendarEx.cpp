@@ -100,8 +100,6 @@ bool KvCalendarExPrivate::TimesShown() const { return !times->isHidden(); }
 
 void KvCalendarExPrivate::Pick(const QDate& day)
 {
-    if (!selection.CanPick(day))
-        return;
     current = day;
     if (!selection.IsChoosing()) {
         selection.anchor = day;

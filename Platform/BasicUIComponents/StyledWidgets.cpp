@@ -74,8 +74,8 @@ bool StyledWidgets::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Polish) {
         watched->removeEventFilter(this);
-        auto* widget = qobject_cast<QWidget*>(watched);
-        if (widget != nullptr && widget->styleSheet().isEmpty())
+        auto* widget = static_cast<QWidget*>(watched);
+        if (widget->styleSheet().isEmpty())
             Restyle(widget);
     }
     return QObject::eventFilter(watched, event);

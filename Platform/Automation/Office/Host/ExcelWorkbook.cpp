@@ -86,7 +86,7 @@ Document& ExcelWorkbook::Open() const
 
 bool ExcelWorkbook::Save(const QVariant& path, FileFormat format)
 {
-    m_pDocument->Save(
+    Open().Save(
         QDir::fromNativeSeparators(path.toString()), format, m_context.scratchFolder, m_context.saving);
     return true;
 }
