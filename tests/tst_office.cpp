@@ -291,6 +291,7 @@ void TestOffice::StoresStyledTables()
     QCOMPARE(field("A3", "wrap"), QVariant(true));
     const QString red = QStringLiteral("ff0000");
     QCOMPARE(Texts(cell("B4").value(QStringLiteral("borders"))), (QStringList{red, red, red, red}));
+    QCOMPARE(field("B4", "line"), QVariant(QStringLiteral("thin")));
     const QJsonObject heights = book.value(QStringLiteral("heights")).toObject();
     QCOMPARE(qRound(heights.value(QStringLiteral("1")).toDouble()), 30);
     QCOMPARE(qRound(heights.value(QStringLiteral("4")).toDouble()), 20);

@@ -26,6 +26,7 @@ def xlsx(path):
                 "fill": color(cell.fill.fgColor) if cell.fill.fill_type == "solid" else None,
                 "horizontal": cell.alignment.horizontal, "vertical": cell.alignment.vertical,
                 "wrap": bool(cell.alignment.wrap_text), "format": cell.number_format,
+                "line": cell.border.left.style,
                 "borders": [color(side.color) if side.style else None for side in (
                     cell.border.left, cell.border.top, cell.border.right, cell.border.bottom)],
             }
