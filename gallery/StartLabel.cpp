@@ -12,10 +12,7 @@ StartLabel::StartLabel(QWidget* parent)
     Align();
 }
 
-void StartLabel::Align()
-{
-    setAlignment(KvGUI::LineStart(layoutDirection()));
-}
+void StartLabel::Align() { setAlignment(KvGUI::LineStart(layoutDirection())); }
 
 void StartLabel::changeEvent(QEvent* event)
 {

@@ -156,6 +156,21 @@ private slots:
         }
     }
 
+    /// Catches a canvas over the dialog's line, which then has gaps at the sides.
+    void LineGoesAllRound()
+    {
+        CCutPhotoDlg dialog;
+        dialog.SetPhotoResolution(960, 640);
+        dialog.show();
+        const QImage image = dialog.grab().toImage();
+        const QRgb line = image.pixel(image.width() / 2, 0);
+        QVERIFY(line != image.pixel(image.width() / 2, 1));
+        for (int y = 0; y < image.height(); ++y) {
+            QCOMPARE(image.pixel(0, y), line);
+            QCOMPARE(image.pixel(image.width() - 1, y), line);
+        }
+    }
+
     /// Catches arithmetic that overflows and sizes below zero.
     void WildResolutions()
     {

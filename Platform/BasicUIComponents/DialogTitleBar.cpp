@@ -14,6 +14,9 @@ namespace KvGUI {
 
 namespace {
 
+constexpr int TitleMargin = 12; // pixels beside the title
+constexpr int CloseMargin = 5; // pixels beside the close button
+
 /// Where programs do not place their own windows, the desktop moves them.
 bool MovedByTheDesktop(QWidget* window)
 {
@@ -31,16 +34,15 @@ DialogTitleBar::DialogTitleBar(bool bCloseButton, QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     m_pTitle->setObjectName(QStringLiteral("kvDialogTitle"));
     m_pTitle->setTextFormat(Qt::PlainText);
-    m_pTitle->setAlignment(LineStart(layoutDirection()));
     // A long title is shortened; it does not make the dialog wider.
     m_pTitle->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pTitle->installEventFilter(this);
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(12, 1, 5, 1);
     layout->setSpacing(6);
     layout->addWidget(m_pTitle, 1);
     if (bCloseButton)
         AddCloseButton();
+    FollowDirection();
 }
 
 void DialogTitleBar::AddCloseButton()
@@ -66,13 +68,22 @@ void DialogTitleBar::ShowTitle()
     m_pTitle->setText(m_pTitle->fontMetrics().elidedText(m_strTitle, Qt::ElideRight, m_pTitle->width()));
 }
 
+/// A layout turns its widgets round, and not its margins.
+void DialogTitleBar::FollowDirection()
+{
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    layout()->setContentsMargins(
+        mirrored ? CloseMargin : TitleMargin, 1, mirrored ? TitleMargin : CloseMargin, 1);
+    m_pTitle->setAlignment(LineStart(layoutDirection()));
+}
+
 bool DialogTitleBar::eventFilter(QObject* watched, QEvent* event)
 {
     // The font comes with the sheet, after the first title.
     if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
         ShowTitle();
     else if (event->type() == QEvent::LayoutDirectionChange)
-        m_pTitle->setAlignment(LineStart(layoutDirection()));
+        FollowDirection();
     return QWidget::eventFilter(watched, event);
 }
 

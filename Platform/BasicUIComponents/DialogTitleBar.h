@@ -28,6 +28,7 @@ protected:
 private:
     void AddCloseButton();
     void ShowTitle();
+    void FollowDirection();
 
     QLabel* m_pTitle;
     QString m_strTitle;

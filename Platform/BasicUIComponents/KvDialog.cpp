@@ -10,6 +10,35 @@ namespace KvGUI {
 
 namespace {
 
+/// The frame of a dialog. Its line lies over the content: a picture that fills the dialog would cover it at
+/// the sides.
+class DialogFrame : public QWidget
+{
+public:
+    explicit DialogFrame(QWidget* parent)
+        : QWidget(parent)
+        , m_pEdge(new QWidget(this))
+    {
+        setObjectName(QStringLiteral("kvDialogFrame"));
+        setAttribute(Qt::WA_StyledBackground);
+        m_pEdge->setObjectName(QStringLiteral("kvDialogEdge"));
+        m_pEdge->setAttribute(Qt::WA_StyledBackground);
+        m_pEdge->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent*) override
+    {
+        m_pEdge->setGeometry(rect());
+        // The line alone, so that the content is not painted for the sake of what lies over it.
+        m_pEdge->setMask(QRegion(rect()) - rect().adjusted(1, 1, -1, -1));
+        m_pEdge->raise();
+    }
+
+private:
+    QWidget* const m_pEdge;
+};
+
 QVBoxLayout* LayoutWithoutGaps(QWidget* widget)
 {
     auto* layout = new QVBoxLayout(widget);
@@ -24,9 +53,7 @@ KvDialog::KvDialog(QWidget* parent, int iDialogFlags)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
     UsePlatformSheet(this, QStringLiteral("KvDialog.css"));
-    auto* frame = new QWidget(this);
-    frame->setObjectName(QStringLiteral("kvDialogFrame"));
-    frame->setAttribute(Qt::WA_StyledBackground);
+    auto* frame = new DialogFrame(this);
     UsePlatformSheet(frame, QStringLiteral("KvDialogFrame.css"));
     LayoutWithoutGaps(this)->addWidget(frame);
 

@@ -5,9 +5,9 @@
 #include <Platform/BasicUIComponents/KvSkinNotifier.h>
 #include <UI/LinkWeb/CActiveXLinkWebCtrl.h>
 #include <gallery/FollowLanguage.h>
-#include <gallery/StartLabel.h>
 #include <gallery/Map/MapRules.h>
 #include <gallery/Pictures/DrawnCamera.h>
+#include <gallery/StartLabel.h>
 
 #include <QEventLoop>
 #include <QJsonDocument>

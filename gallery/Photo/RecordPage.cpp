@@ -326,7 +326,8 @@ QVector<Page::Picture> RecordPage::Pictures()
         {QStringLiteral("menu"),
          [this] {
              ShowVisitor(2);
-             m_pMenu->popup(m_pMenuButton->mapToGlobal(m_pMenuButton->rect().bottomLeft()));
+             const int x = isRightToLeft() ? m_pMenuButton->width() - m_pMenu->sizeHint().width() : 0;
+             m_pMenu->popup(m_pMenuButton->mapToGlobal(QPoint(x, m_pMenuButton->height())));
              m_pMenu->setActiveAction(m_pMenu->actions().constFirst());
          },
          [this] { m_pMenu->close(); }},
