@@ -39,50 +39,54 @@ struct PageNeeds
     QString recordFolder;
 };
 
-Page* NewWallPage(const PageNeeds& needs)
+Page* NewWallPage(const PageNeeds& needs, QWidget* parent)
 {
     const WallLayoutFile file(needs.settingsFile);
     return new WallPage(
-        needs.pool, needs.clock, file, file.Read().value_or(FirstWall()), needs.options.files);
+        needs.pool, needs.clock, file, file.Read().value_or(FirstWall()), needs.options.files, parent);
 }
 
-Page* NewMapPage(const PageNeeds& needs)
+Page* NewMapPage(const PageNeeds& needs, QWidget* parent)
 {
     return new MapPage(
-        needs.pool, needs.clock, KvGUI::KvDir::GetCurrentPath() + QLatin1String("maps/site-map.html"));
+        needs.pool, needs.clock, KvGUI::KvDir::GetCurrentPath() + QLatin1String("maps/site-map.html"),
+        parent);
 }
 
-Page* NewPhotoPage(const PageNeeds& needs)
+Page* NewPhotoPage(const PageNeeds& needs, QWidget* parent)
 {
-    auto* page = new PhotoPage(needs.options.photo);
+    auto* page = new PhotoPage(needs.options.photo, parent);
     page->Remember(needs.settingsFile);
     return page;
 }
 
-Page* NewRecordPage(const PageNeeds& needs) { return new RecordPage(needs.recordFolder); }
-
-Page* NewPairingPage(const PageNeeds& needs)
+Page* NewRecordPage(const PageNeeds& needs, QWidget* parent)
 {
-    Q_UNUSED(needs)
-    return new PairingPage;
+    return new RecordPage(needs.recordFolder, parent);
 }
 
-Page* NewAlarmPage(const PageNeeds& needs)
-{
-    return new AlarmPage(SampleAlarms(SampleAlarmCount, needs.clock.Now()));
-}
-
-Page* NewDevicePage(const PageNeeds& needs)
+Page* NewPairingPage(const PageNeeds& needs, QWidget* parent)
 {
     Q_UNUSED(needs)
-    return new DevicePage;
+    return new PairingPage(parent);
+}
+
+Page* NewAlarmPage(const PageNeeds& needs, QWidget* parent)
+{
+    return new AlarmPage(SampleAlarms(SampleAlarmCount, needs.clock.Now()), parent);
+}
+
+Page* NewDevicePage(const PageNeeds& needs, QWidget* parent)
+{
+    Q_UNUSED(needs)
+    return new DevicePage(parent);
 }
 
 struct Registered
 {
     const char* name;
     QString (*title)();
-    Page* (*make)(const PageNeeds& needs);
+    Page* (*make)(const PageNeeds& needs, QWidget* parent);
 };
 
 // clang-format off
@@ -169,7 +173,8 @@ void Client::AddPages()
         pictures ? m_pictureFolder.filePath(QStringLiteral("person")) : UsersRecordFolder()};
     for (const Registered& page : Registry)
         m_pWindow->AddPage(
-            {QString::fromLatin1(page.name), page.title, [make = page.make, needs] { return make(needs); }});
+            {QString::fromLatin1(page.name), page.title,
+             [make = page.make, needs](QWidget* parent) { return make(needs, parent); }});
 }
 
 /// From now on, what the operator changes is what the next start shows.

@@ -109,7 +109,7 @@ Page* MainWindow::PageAt(int index)
 {
     Place& place = m_places[index];
     if (place.page == nullptr) {
-        place.page = place.entry.make();
+        place.page = place.entry.make(m_pPages);
         m_pPages->addWidget(place.page);
         connect(place.page, &Page::SignalReport, this, [this](const QString& text) {
             statusBar()->showMessage(text);

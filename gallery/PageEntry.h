@@ -3,6 +3,8 @@
 #include <QString>
 #include <functional>
 
+class QWidget;
+
 namespace OperatorClient {
 
 class Page;
@@ -12,7 +14,9 @@ struct PageEntry
 {
     QString name; ///< of its icon, its screenshots and on the command line: lower-case letters and "-"
     std::function<QString()> title; ///< in the language of the moment
-    std::function<Page*()> make; ///< called once, when the page is shown for the first time
+    /// Called once, when the page is shown for the first time. Given its parent from the beginning, the page
+    /// is styled only once.
+    std::function<Page*(QWidget* parent)> make;
 };
 
 } // namespace OperatorClient

@@ -43,8 +43,10 @@ struct Client
     {
         page = new WallPage(
             pool, clock, WallLayoutFile(folder.filePath(QStringLiteral("l.ini"))), FirstWall(), {});
-        window.AddPage({QStringLiteral("wall"), WallPage::Title, [this] { return page; }});
-        window.AddPage({QStringLiteral("pairing"), PairingPage::Title, [] { return new PairingPage; }});
+        window.AddPage({QStringLiteral("wall"), WallPage::Title, [this](QWidget*) { return page; }});
+        window.AddPage({QStringLiteral("pairing"), PairingPage::Title, [](QWidget* parent) {
+                            return new PairingPage(parent);
+                        }});
         window.ShowPage(0);
         window.show();
         window.activateWindow();

@@ -38,17 +38,24 @@ struct Client
     {
         clock.Freeze(QDateTime(QDate(2026, 3, 14), QTime(10, 24, 36)));
         const WallLayoutFile file(folder.filePath(QStringLiteral("layout.ini")));
-        Add(WallPage::Title, [this, file] { return new WallPage(pool, clock, file, FirstWall(), {}); });
-        Add(MapPage::Title, [this] { return new MapPage(pool, clock, QStringLiteral("/no map")); });
-        Add(PhotoPage::Title, [] { return new PhotoPage(QString()); });
-        Add(RecordPage::Title, [this] { return new RecordPage(folder.filePath(QStringLiteral("person"))); });
-        Add(PairingPage::Title, [] { return new PairingPage; });
-        Add(AlarmPage::Title, [this] { return new AlarmPage(SampleAlarms(SampleCount, clock.Now())); });
-        Add(DevicePage::Title, [] { return new DevicePage; });
+        Add(WallPage::Title, [this, file](QWidget* parent) {
+            return new WallPage(pool, clock, file, FirstWall(), {}, parent);
+        });
+        Add(MapPage::Title,
+            [this](QWidget* parent) { return new MapPage(pool, clock, QStringLiteral("/no map"), parent); });
+        Add(PhotoPage::Title, [](QWidget* parent) { return new PhotoPage(QString(), parent); });
+        Add(RecordPage::Title, [this](QWidget* parent) {
+            return new RecordPage(folder.filePath(QStringLiteral("person")), parent);
+        });
+        Add(PairingPage::Title, [](QWidget* parent) { return new PairingPage(parent); });
+        Add(AlarmPage::Title, [this](QWidget* parent) {
+            return new AlarmPage(SampleAlarms(SampleCount, clock.Now()), parent);
+        });
+        Add(DevicePage::Title, [](QWidget* parent) { return new DevicePage(parent); });
         window.show();
     }
 
-    void Add(QString (*title)(), const std::function<Page*()>& make)
+    void Add(QString (*title)(), const std::function<Page*(QWidget*)>& make)
     {
         window.AddPage({QString::number(window.PageNames().size()), title, make});
     }

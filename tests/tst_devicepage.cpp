@@ -29,7 +29,7 @@ struct Client
 {
     Client()
     {
-        window.AddPage({QStringLiteral("device"), DevicePage::Title, [this] { return page; }});
+        window.AddPage({QStringLiteral("device"), DevicePage::Title, [this](QWidget*) { return page; }});
         window.ShowPage(0);
         window.show();
         window.activateWindow();

@@ -331,7 +331,9 @@ private Q_SLOTS:
     {
         const SourcePool pool;
         MainWindow window;
-        window.AddPage({QStringLiteral("empty"), [] { return QString(); }, [] { return new Page; }});
+        window.AddPage(
+            {QStringLiteral("empty"), [] { return QString(); },
+             [](QWidget* parent) { return new Page(parent); }});
         bool saved = true;
         {
             const auto full = FullDisk(200);
