@@ -25,7 +25,7 @@ QByteArray JpegBytes(const QImage& image, int quality);
 /// Looks for the first of the qualities 100, 90, 81 ... 0 at which @p image takes at most @p maximum bytes as
 /// a JPEG; the lowest is taken in any case, and its size tells whether it fits.
 ///
-/// Sizes do not always fall with the quality, so each is looked at; those that are surely too large are not
+/// Sizes do not always fall with the quality, so each is looked at; what JpegForecast can tell is not
 /// encoded.
 JpegFit FitJpeg(const QImage& image, int maximum);
 
