@@ -120,6 +120,7 @@ Page* MainWindow::PageAt(int index)
 
 void MainWindow::OnPageChosen(int index)
 {
+    statusBar()->clearMessage(); // it reports of another page
     m_pPages->setCurrentWidget(PageAt(index));
     m_pLeft.clear();
     Q_EMIT SignalPageShown(CurrentPageName());

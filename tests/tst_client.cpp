@@ -399,7 +399,8 @@ private slots:
         QCOMPARE(made(late), 1 + stills.size());
     }
 
-    // Catches keys that choose the wrong page or none, and a page that cannot be left or entered by F6.
+    // Catches keys that choose the wrong page or none, a report that stays on a page which it is not of, and
+    // a page that cannot be left or entered by F6.
     void KeysChoosePagesAndAreas()
     {
         Client client(Options());
@@ -407,8 +408,10 @@ private slots:
         client.Show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         const auto page = [&] { return PageNames().indexOf(window.CurrentPageName()); };
+        window.statusBar()->showMessage(QStringLiteral("of the wall"));
         QTest::keyClick(&window, Qt::Key_7, Qt::AltModifier);
         QCOMPARE(page(), 6);
+        QCOMPARE(window.statusBar()->currentMessage(), QString());
         QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
         QCOMPARE(page(), 0);
         QTest::keyClick(&window, Qt::Key_PageUp, Qt::ControlModifier);

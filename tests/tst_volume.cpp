@@ -204,6 +204,21 @@ private Q_SLOTS:
         QVERIFY(opened.isEmpty());
     }
 
+    /// Catches a button of a form, which has a name of its own, without a sign.
+    void looksWithAnyName()
+    {
+        const auto look = [](const QString& name, bool on) {
+            KvVolumeButton button;
+            button.resize(32, 32);
+            button.SetVolumeState(on);
+            if (!name.isEmpty())
+                button.setObjectName(name);
+            return button.grab().toImage();
+        };
+        QCOMPARE(look(QStringLiteral("volume"), false), look({}, false));
+        QVERIFY(look({}, true) != look({}, false));
+    }
+
     /// Catches values off the scale, a report without a change, and a tool tip that keeps the old value, also
     /// when the signals are blocked.
     void valuesAreReportedOnce()

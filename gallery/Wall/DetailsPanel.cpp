@@ -21,6 +21,7 @@ DetailsPanel::DetailsPanel(CameraWall* cameras)
     , m_pDetails(new WindowDetails)
 {
     FollowLanguage(this, "accessibleName", [] { return tr("Details"); });
+    FollowLanguage(this, "windowTitle", [] { return tr("Details"); }); // in the desktop's list of windows
     SetTitle(tr("Details"));
     InitUI();
     SetFixWidth(Width);
