@@ -28,6 +28,9 @@ constexpr int NameRole = Qt::UserRole;
 
 bool IsDark() { return KvGUI::GetSkinVersion() == QLatin1String("Black"); }
 
+/// Of the skin that the switch leads to.
+QString SkinSwitchIcon() { return IsDark() ? QStringLiteral("SkinLight") : QStringLiteral("SkinDark"); }
+
 QIcon Icon(const QString& name) { return SkinIcon(QStringLiteral("Pages"), name); }
 
 } // namespace
@@ -55,7 +58,7 @@ SideBar::SideBar(QWidget* parent)
     m_pSkin->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
     addAction(m_pSkin);
     ShowTexts();
-    AddFootButton(m_pSkin, QString());
+    AddFootButton(m_pSkin, SkinSwitchIcon());
     AddLanguages();
     m_pList->installEventFilter(this);
     connect(m_pSkin, &QAction::triggered, this, &SideBar::ChangeSkin);
@@ -69,6 +72,7 @@ SideBar::SideBar(QWidget* parent)
 QToolButton* SideBar::AddFootButton(QAction* action, const QString& icon)
 {
     action->setData(icon);
+    action->setIcon(Icon(icon));
     m_footActions.append(action);
     auto* button = new QToolButton(this);
     button->setIconSize(FootIconSize);
@@ -77,7 +81,7 @@ QToolButton* SideBar::AddFootButton(QAction* action, const QString& icon)
     button->setFocusPolicy(Qt::StrongFocus); // tool buttons leave the Tab key out
     button->setDefaultAction(action);
     m_pFoot->addWidget(button);
-    LoadIcons();
+    FitWidth();
     return button;
 }
 
@@ -155,15 +159,18 @@ void SideBar::LoadIcons()
 {
     for (int row = 0; row < m_pList->count(); ++row)
         m_pList->item(row)->setIcon(Icon(m_pList->item(row)->data(NameRole).toString()));
-    m_pSkin->setData(IsDark() ? QStringLiteral("SkinLight") : QStringLiteral("SkinDark"));
+    m_pSkin->setData(SkinSwitchIcon());
     for (QAction* action : qAsConst(m_footActions))
         action->setIcon(Icon(action->data().toString()));
     FitWidth();
 }
 
-/// As wide as the longest text, which is another one in each language and font.
+/// As wide as the longest text, which is another one in each language and font. Before it is shown, its font
+/// is not the one of the window's sheet.
 void SideBar::FitWidth()
 {
+    if (!m_pList->isVisible())
+        return;
     const int frame = m_pList->width() - m_pList->viewport()->width() + 2; // and the bar's lines
     setFixedWidth(
         std::max({SmallestWidth, m_pList->sizeHintForColumn(0) + frame, m_pFoot->minimumSize().width()}));
@@ -176,7 +183,6 @@ void SideBar::changeEvent(QEvent* event)
         ShowTexts();
 }
 
-/// The list takes its font from the window's sheet, and not before it is shown.
 bool SideBar::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
