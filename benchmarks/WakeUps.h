@@ -8,7 +8,7 @@
 namespace WakeUps {
 
 constexpr int Watched = 2000; // milliseconds
-constexpr int Settling = 300; // until what a change has brought with it is done
+constexpr int Settling = 600; // until what a change has brought with it is done
 
 inline void RunEvents(int milliseconds)
 {
