@@ -14,6 +14,8 @@
 #include <functional>
 #include <memory>
 
+using TestSupport::Drag;
+using TestSupport::MoveHeld;
 using UICommonMdl::CCutDetailPhoto;
 using UICommonMdl::CCutPhotoWithZoom;
 using UICommonMdl::CutImageInfo;
@@ -66,13 +68,6 @@ bool IsTold(const QString& message)
 
 const QString NoArea = QStringLiteral("Please select a valid area to cut.");
 
-void MoveHeld(QWidget& widget, const QPoint& pos)
-{
-    QMouseEvent move(
-        QEvent::MouseMove, pos, widget.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &move);
-}
-
 void Press(QWidget& widget, const QPoint& pos, Qt::MouseButton button = Qt::LeftButton)
 {
     QTest::mousePress(&widget, button, Qt::NoModifier, pos);
@@ -81,14 +76,6 @@ void Press(QWidget& widget, const QPoint& pos, Qt::MouseButton button = Qt::Left
 void Click(QWidget& widget, const QPoint& pos)
 {
     QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, pos);
-}
-
-void Drag(QWidget& widget, const QPoint& from, const QPoint& to)
-{
-    Press(widget, from);
-    MoveHeld(widget, (from + to) / 2);
-    MoveHeld(widget, to);
-    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, to);
 }
 
 template <typename CanvasType>

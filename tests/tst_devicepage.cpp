@@ -22,8 +22,6 @@ using namespace UICommonMdl;
 
 namespace {
 
-constexpr int ButtonPress = 200; // milliseconds; a shortcut shows its button pressed before it clicks it
-
 /// The client's window with the page alone.
 struct Client
 {
@@ -49,7 +47,10 @@ struct Client
     void Shortcut(char letter) const
     {
         QTest::keyClick(window.windowHandle(), letter, Qt::AltModifier);
-        QTest::qWait(ButtonPress);
+        const auto buttons
+            = window.findChildren<QAbstractButton*>(); // which are shown pressed before they click
+        QTRY_VERIFY(
+            std::none_of(buttons.begin(), buttons.end(), [](auto* button) { return button->isDown(); }));
     }
     QLineEdit* Field(const char* name) const
     {

@@ -320,10 +320,6 @@ private Q_SLOTS:
         QTest::newRow("default") << "" << Texts{width} << "#f3f5b8" << font("false", "", "#000000");
         QTest::newRow("title") << "title" << Texts{"range.RowHeight=30"_s, width} << "#333399"
                                << font("false", "16", "#ffffff");
-        QTest::newRow("header") << "header" << Texts{"range.RowHeight=20"_s, width} << "#ffffff"
-                                << font("true", "9", "#000000");
-        QTest::newRow("context") << "context" << Texts{"range.RowHeight=20"_s, width} << "#f3f5b8"
-                                 << font("false", "9", "#000000");
         QTest::newRow("by hand") << "by hand" << Texts{"range.RowHeight=5"_s, "range.ColumnWidth=6"_s}
                                  << "#010203"
                                  << Texts{"range.Font"_s,        "font.Name=Serif"_s,  "font.Bold=true"_s,
@@ -363,13 +359,9 @@ private Q_SLOTS:
                   AxExcelFunction::VAlign_Bottom})
                 QVERIFY(excel.SetCellVerticalAlignment(side));
         }
-        if (preset == QLatin1String("title"))
+        if (preset == QLatin1String("title")) {
             excel.SetExcelTitleProperty();
-        else if (preset == QLatin1String("header"))
-            excel.SetCellHeaderProperty();
-        else if (preset == QLatin1String("context"))
-            excel.SetCellContextProperty();
-        else if (!preset.isEmpty()) {
+        } else if (!preset.isEmpty()) {
             borders = "#040506"_s;
             alignment[0] = "range.HorizontalAlignment=-4131"_s;
             alignment[1] = "range.VerticalAlignment=-4107"_s;
