@@ -54,6 +54,7 @@ QAction* MainWindow::AddKey(const QKeySequence& key)
 {
     auto* action = new QAction(this);
     action->setShortcut(key);
+    action->setShortcutContext(Qt::ApplicationShortcut); // also in a panel, which is a window of its own
     addAction(action);
     return action;
 }

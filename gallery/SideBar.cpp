@@ -56,6 +56,7 @@ SideBar::SideBar(QWidget* parent)
     all->addLayout(m_pFoot);
 
     m_pSkin->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
+    m_pSkin->setShortcutContext(Qt::ApplicationShortcut);
     addAction(m_pSkin);
     ShowTexts();
     AddFootButton(m_pSkin, SkinSwitchIcon());

@@ -198,6 +198,26 @@ private Q_SLOTS:
         QVERIFY(client.Panel()->IsShown());
     }
 
+    /// Catches keys that are dead once the panel was clicked, and a client that goes on when only its panel
+    /// is left.
+    void panelKeepsKeysAndEndsWithTheClient()
+    {
+        Client client;
+        client.Click(0, 0);
+        client.FinishSlide();
+        client.Panel()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(client.Panel()));
+        QTest::keyClick(client.Panel(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(client.Action(Command::SceneFamily)->isChecked());
+        QTest::keyClick(client.Panel(), Qt::Key_2, Qt::AltModifier);
+        QCOMPARE(client.window.CurrentPageName(), QStringLiteral("pairing"));
+        client.window.ShowPage(0);
+
+        QTimer::singleShot(0, &client.window, &QWidget::close);
+        QTimer::singleShot(3000, qApp, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+    }
+
     /// Catches a panel and a title bar that disagree about the sound, and two windows that sound at once.
     void soundOfOneWindow()
     {

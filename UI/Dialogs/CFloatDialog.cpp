@@ -16,7 +16,7 @@
 namespace UICommonMdl {
 
 CFloatDialog::CFloatDialog(QWidget* parent)
-    : QDialog(parent, Qt::Tool | Qt::FramelessWindowHint) // a tool window: shortcuts of its parent's go on
+    : QDialog(parent, Qt::FramelessWindowHint)
     , m_ui(std::make_unique<Ui::CFloatDialog>())
     , m_floatWgt(new QWidget(this))
     , m_pAnimation(new QPropertyAnimation(m_floatWgt, "pos", this))

@@ -36,8 +36,8 @@ class CFloatDialog;
 /// another parent. When the parent hides, the panel goes with it at once and comes back with it. A panel
 /// that slid out does not come back.
 ///
-/// Keys that the content does not want end here: Escape closes nothing. The shortcuts of the parent's window
-/// work in the panel too. A request to close from the desktop
+/// Keys that the content does not want end here: Escape closes nothing. Shortcuts of the parent's window that
+/// shall work in the panel too have the context Qt::ApplicationShortcut. A request to close from the desktop
 /// counts as a click on the close button. Any slot may delete the dialog.
 class UICOMPONENTS_EXPORT CFloatDialog : public QDialog
 {

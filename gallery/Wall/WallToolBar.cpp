@@ -130,6 +130,7 @@ void WallToolBar::AddCommands()
         QAction* action = FollowLanguage(addAction(QString()), "text", [&entry] { return tr(entry.text); });
         const QKeySequence shortcut(QString::fromLatin1(entry.shortcut));
         action->setShortcut(shortcut);
+        action->setShortcutContext(Qt::ApplicationShortcut); // also in the details panel
         FollowLanguage(action, "toolTip", [&entry, shortcut] {
             return QStringLiteral("%1 (%2)").arg(tr(entry.tip), shortcut.toString(QKeySequence::NativeText));
         });
