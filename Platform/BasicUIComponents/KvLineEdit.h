@@ -9,6 +9,10 @@ namespace KvGUI {
 ///
 /// A subclass may give itself another sheet with CommonFun::SetStyleSheet; where the skin has none for
 /// it, this class's look stays.
+///
+/// What Qt asks of slots of any line edit holds here, too, or Qt crashes: none of them ends the edit at once,
+/// nor by deleteLater() from inside an event loop that the slot runs; and a slot of editingFinished() makes
+/// no child widget when nextInFocusChain() of its window is null, for then that window is in its destructor.
 class UICOMPONENTS_EXPORT KvLineEdit : public QLineEdit
 {
     Q_OBJECT

@@ -158,9 +158,10 @@ QString Storm::Step()
     MakeStage();
     Attach();
     Act();
-    QCoreApplication::processEvents();
-    if (m_dice.OneIn(4))
+    // As the application's own loop does between two events; left over, a modal loop would do it.
+    if (QThread::currentThread()->loopLevel() == 0 || m_dice.OneIn(4))
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
     if (m_subject && m_subject->width() < 2000 && m_dice.OneIn(20))
         m_subject->grab();
     if (m_fault.isEmpty() && m_subject && m_kind.fault)
@@ -223,7 +224,9 @@ void Storm::InSlot(QObject* sender, const QMetaMethod& signal, void** arguments)
         return;
     const QScopedValueRollback<int> depth(m_slotDepth, m_slotDepth + 1);
     // Also what happens in slots in this one: Qt must come back to a sender that is there.
-    const QScopedValueRollback<bool> keeps(m_keeps, m_keeps || !MayDeleteIn(signal));
+    const bool keepsFromHere = m_keptSinceLoop < 0 && !MayDeleteIn(signal);
+    const QScopedValueRollback<int> kept(
+        m_keptSinceLoop, keepsFromHere ? QThread::currentThread()->loopLevel() : m_keptSinceLoop);
     Note(signal.methodSignature(), sender);
     if (m_dice.OneIn(10))
         Delete(true);
@@ -605,7 +608,10 @@ void Storm::Delete(bool now)
     // Qt uses a window once more after a right press or a drag in it, and comes to here in a menu's loop.
     if (m_fragile && widget->isWindow())
         return;
-    const bool later = !now || m_keeps;
+    const bool kept = m_keptSinceLoop >= 0;
+    if (kept && QThread::currentThread()->loopLevel() > m_keptSinceLoop) // which would not wait for the slot
+        return;
+    const bool later = !now || kept;
     Note(later ? "delete later" : "delete", widget);
     if (later)
         return widget->deleteLater();

@@ -74,8 +74,8 @@ private:
     int m_slotDepth = 0;
     int m_servedLoop = 0;
     int m_modalSteps = 0;
+    int m_keptSinceLoop = -1; ///< the event loop of a signal whose sender nobody may delete in its slots
     bool m_deleting = false;
-    bool m_keeps = false; ///< in a signal whose sender nobody may delete at once
     bool m_fragile = false; ///< in an event after which Qt needs the window
 };
 
