@@ -16,7 +16,7 @@ using namespace OperatorClient;
 
 namespace {
 
-const QDateTime Moment(QDate(2026, 3, 14), QTime(10, 24, 36));
+QDateTime Moment() { return {QDate(2026, 3, 14), QTime(10, 24, 36)}; }
 constexpr int Patience = 60000; // for an office on a busy machine, milliseconds
 
 QList<QList<QString>> ManyRows(int count)
@@ -110,16 +110,16 @@ private Q_SLOTS:
             QVERIFY2(seenBetween.contains(written), qPrintable(QString::number(written)));
         QCOMPARE(finished.at(0), (QVariantList{true, QString()}));
         QStringList written;
-        for (const QVariant& block : m_recording.blocks.mid(2)) {
+        const QVariantList blocks = m_recording.blocks.mid(2);
+        for (const QVariant& block : blocks) {
             const QVariantList rows = block.toList();
             for (const QVariant& row : rows)
                 written << row.toList().first().toString();
         }
         QCOMPARE(written.size(), 2500);
         QCOMPARE(written.last(), QStringLiteral("'2499"));
-        QCOMPARE(
-            m_recording.calls.filter(QStringLiteral("Range(")).last(),
-            QStringLiteral("sheet.Range(const QString&)(A2003:A2502)"));
+        const QStringList ranges = m_recording.calls.filter(QStringLiteral("Range("));
+        QCOMPARE(ranges.last(), QStringLiteral("sheet.Range(const QString&)(A2003:A2502)"));
     }
 
     // Catches a cancelled export that writes its file all the same, or leaves the page locked or without the
@@ -129,7 +129,7 @@ private Q_SLOTS:
         RecordedObject::Provide(m_recording);
         QWidget host; // without a layout it sends no size hints, which the offscreen platform would warn of
         host.resize(900, 600);
-        AlarmPage page(SampleAlarms(3000, Moment), &host);
+        AlarmPage page(SampleAlarms(3000, Moment()), &host);
         page.resize(host.size());
         host.show();
         host.activateWindow();
@@ -187,14 +187,14 @@ private Q_SLOTS:
     // Catches rows taken for alarms that are none, and dates lost because another program wrote them.
     void ReadsAlarmsFromRows()
     {
-        const auto alarm = AlarmRecord::FromRow({7.0, Moment, QStringLiteral("Gate")});
+        const auto alarm = AlarmRecord::FromRow({7.0, Moment(), QStringLiteral("Gate")});
         QVERIFY(alarm);
         QCOMPARE(alarm->number, 7);
-        QCOMPARE(alarm->time, Moment);
+        QCOMPARE(alarm->time, Moment());
         QCOMPARE(alarm->camera, QStringLiteral("Gate"));
         QVERIFY(AlarmRecord::FromRow({QStringLiteral("8"), QStringLiteral(" 2026-03-14 10:24:36 ")}));
         QVERIFY(!AlarmRecord::FromRow({}));
-        QVERIFY(!AlarmRecord::FromRow({QStringLiteral("x"), Moment}));
+        QVERIFY(!AlarmRecord::FromRow({QStringLiteral("x"), Moment()}));
         QVERIFY(!AlarmRecord::FromRow({9, QStringLiteral("yesterday")}));
     }
 
@@ -211,7 +211,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, suffix);
         const QString path = Path(QStringLiteral("round trip.") + suffix);
-        const QVector<AlarmRecord> all = SampleAlarms(1500, Moment);
+        const QVector<AlarmRecord> all = SampleAlarms(1500, Moment());
         QVector<AlarmRecord> high;
         std::copy_if(all.begin(), all.end(), std::back_inserter(high), [](const AlarmRecord& alarm) {
             return alarm.level == QLatin1String("High");
@@ -250,7 +250,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("No.,Name\n1,x\n2,y\n");
         file.close();
-        AlarmPage page(SampleAlarms(5, Moment));
+        AlarmPage page(SampleAlarms(5, Moment()));
         QSignalSpy done(&page, &AlarmPage::SignalDone);
         for (int notification = 0; notification < 2; ++notification) {
             QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");

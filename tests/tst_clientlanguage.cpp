@@ -199,7 +199,8 @@ private slots:
             present.Set(written);
             const QStringList columns = AlarmRecord::Columns();
             QVariantList row;
-            for (const QString& text : alarm.Texts())
+            const QStringList texts = alarm.Texts();
+            for (const QString& text : texts)
                 row << text;
             for (const QString& read : Language::Names()) {
                 present.Set(read);
