@@ -412,10 +412,10 @@ void Storm::Key(QWidget* widget, QWindow& window)
 
 void Storm::Compose()
 {
-    QObject* const editor = QGuiApplication::focusObject();
+    QWidget* const editor = QApplication::focusWidget();
     QInputMethodEvent event(m_dice.OneIn(2) ? m_dice.Text() : QString(), {});
     event.setCommitString(m_dice.OneIn(2) ? m_dice.Text() : QString(), -m_dice.Below(4), m_dice.Below(4));
-    if (editor != nullptr)
+    if (editor != nullptr && !IsForeign(editor))
         QCoreApplication::sendEvent(editor, &event);
 }
 
@@ -470,7 +470,7 @@ void Storm::ChangeWidget()
 
 void Storm::Reparent()
 {
-    if (!m_subject)
+    if (!m_subject || (m_fragile && m_subject->isWindow())) // its window would go with its place
         return;
     QWidget* const parents[] = {nullptr, m_window, m_container, m_container};
     const Qt::WindowFlags flags = m_subject->windowFlags();
