@@ -190,7 +190,8 @@ KvTVWallNormalWnd::KvTVWallNormalWnd(QWidget* parent)
 
 KvTVWallNormalWnd::~KvTVWallNormalWnd()
 {
-    d_func()->view->disconnect(); // what its end sets off reaches nobody
+    // What its end sets off reaches nobody; that it ended does, which disconnect() would prevent.
+    d_func()->view->blockSignals(true);
     for (KvTVWallNormalScreen* screen : d_func()->view->Screens())
         screen->disconnect();
     d_func()->view->DeleteWithWall();

@@ -78,7 +78,8 @@ void KvTVWallOperateWndPrivate::MakeDisplayWall()
     eagleEye->raise();
 }
 
-// What goes with the child may call back, so it is out of reach first.
+// What goes with the child may call back, so it is out of reach first: not by disconnect(), after which
+// nobody would learn of its end, the table of what assistive technology knows among them.
 template <typename Widget>
 void KvTVWallOperateWndPrivate::Delete(QPointer<Widget>& child)
 {
@@ -86,7 +87,7 @@ void KvTVWallOperateWndPrivate::Delete(QPointer<Widget>& child)
     if (gone == nullptr)
         return;
     child.clear();
-    gone->disconnect();
+    gone->blockSignals(true);
     going << gone;
     const QPointer<KvTVWallOperateWndPrivate> alive(this);
     delete gone;
