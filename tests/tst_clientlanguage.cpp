@@ -117,8 +117,9 @@ private slots:
         const QStringList wanted{QStringLiteral("操作客户端"), QStringLiteral("电视墙"),
                                  QStringLiteral("停车场"),     QStringLiteral("1,500 条报警"),
                                  QStringLiteral("二楼走廊"),   QStringLiteral("屏幕")};
+        const QStringList shown = chinese.values();
         for (const QString& text : wanted)
-            QVERIFY2(chinese.values().contains(text), qPrintable(text));
+            QVERIFY2(shown.contains(text), qPrintable(text));
         QTRY_COMPARE(client.Clipped().join(QLatin1Char('\n')), QString());
         Client late;
         QCOMPARE(ChangedTexts(chinese, late.ShowPages()).join(QLatin1Char('\n')), QString());
@@ -195,14 +196,15 @@ private slots:
     {
         Language present;
         const AlarmRecord alarm = SampleAlarms(1, FrameClock().Now()).constFirst();
-        for (const QString& written : Language::Names()) {
+        const QStringList languages = Language::Names();
+        for (const QString& written : languages) {
             present.Set(written);
             const QStringList columns = AlarmRecord::Columns();
             QVariantList row;
             const QStringList texts = alarm.Texts();
             for (const QString& text : texts)
                 row << text;
-            for (const QString& read : Language::Names()) {
+            for (const QString& read : languages) {
                 present.Set(read);
                 QCOMPARE(AlarmRecord::FromRow(row)->Texts(), alarm.Texts());
                 QVERIFY(AlarmRecord::AreColumns(columns));
