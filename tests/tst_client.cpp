@@ -117,16 +117,6 @@ void ChooseLanguage(Client& client, const QString& name)
     QFAIL("no such language");
 }
 
-/// Qt can still have the face of a dead widget that was at the same address.
-const QAccessibleInterface* FaceOf(QWidget* widget)
-{
-    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
-    if (face == nullptr || face->object() == widget)
-        return face;
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(face));
-    return QAccessible::queryAccessibleInterface(widget);
-}
-
 QString Describe(const QWidget* widget)
 {
     return QStringLiteral("%1 \"%2\" in %3")
@@ -495,7 +485,7 @@ private slots:
         const QWidgetList controls = Controls(window);
         QVERIFY(controls.size() >= 3);
         for (QWidget* control : controls) {
-            const QAccessibleInterface* face = FaceOf(control);
+            const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
             QVERIFY2(
                 face != nullptr && !face->text(QAccessible::Name).isEmpty(), qPrintable(Describe(control)));
             const bool hasStop = reached.contains(control) || reached.contains(control->focusProxy());
