@@ -224,14 +224,18 @@ void Storm::InSlot(QObject* sender, const QMetaMethod& signal, void** arguments)
         return;
     const QScopedValueRollback<int> depth(m_slotDepth, m_slotDepth + 1);
     // Also what happens in slots in this one: Qt must come back to a sender that is there.
-    const bool keepsFromHere = m_keptSinceLoop < 0 && !MayDeleteIn(signal);
-    const QScopedValueRollback<int> kept(
-        m_keptSinceLoop, keepsFromHere ? QThread::currentThread()->loopLevel() : m_keptSinceLoop);
+    const QScopedValueRollback<int> kept(m_keptSinceLoop, KeptSince(!MayDeleteIn(signal)));
     Note(signal.methodSignature(), sender);
     if (m_dice.OneIn(10))
         Delete(true);
     else
         Call();
+}
+
+/// The loop since which nobody may delete a widget, when from here on nobody may.
+int Storm::KeptSince(bool keeps) const
+{
+    return m_keptSinceLoop < 0 && keeps ? QThread::currentThread()->loopLevel() : m_keptSinceLoop;
 }
 
 /// Goes on inside every modal loop that a step opens, and ends the loop some time.
@@ -307,7 +311,9 @@ void Storm::Send(QEvent::Type type, Qt::MouseButton button)
     static int time = 0;
     const Qt::KeyboardModifiers keys = m_dice.OneIn(4) ? Qt::ShiftModifier : Qt::NoModifier;
     const QPoint pos = m_pressWindow->mapFromGlobal(m_pointer);
-    const QScopedValueRollback<bool> fragile(m_fragile, m_fragile || button == Qt::RightButton);
+    const bool isMenuPress = button == Qt::RightButton; // after which Qt uses the widget and its window again
+    const QScopedValueRollback<bool> fragile(m_fragile, m_fragile || isMenuPress);
+    const QScopedValueRollback<int> kept(m_keptSinceLoop, KeptSince(isMenuPress));
     qt_handleMouseEvent(m_pressWindow, pos, m_pointer, m_held, button, type, keys, ++time);
     QCoreApplication::processEvents();
 }

@@ -31,6 +31,7 @@ public:
 private:
     void MakeStage();
     void Attach();
+    int KeptSince(bool keeps) const;
     void Serve();
     void CloseTopmost();
 
@@ -74,7 +75,7 @@ private:
     int m_slotDepth = 0;
     int m_servedLoop = 0;
     int m_modalSteps = 0;
-    int m_keptSinceLoop = -1; ///< the event loop of a signal whose sender nobody may delete in its slots
+    int m_keptSinceLoop = -1; ///< the event loop of a signal or press that Qt comes back to a widget after
     bool m_deleting = false;
     bool m_fragile = false; ///< in an event after which Qt needs the window
 };

@@ -34,6 +34,7 @@
 #include <QAbstractAnimation>
 #include <QApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <limits>
@@ -70,8 +71,12 @@ void SetAddress(QWidget& edit, Dice& dice)
 {
     const QString text = dice.Text();
     const bool isAddress = text.startsWith(QLatin1String("10.0.0.")) && text.midRef(7).toInt() <= 255;
-    edit.setProperty("foreign", !isAddress && (edit.property("foreign").toBool() || !text.isEmpty()));
+    const bool foreign = !isAddress && (edit.property("foreign").toBool() || !text.isEmpty());
+    edit.setProperty("foreign", foreign);
+    const QPointer<QWidget> guard(&edit);
     static_cast<QIpAddrEdit&>(edit).settext(text);
+    if (guard && foreign) // a slot may have set an address before the last parts of this text
+        edit.setProperty("foreign", true);
 }
 
 /// Octets that are none, or a look of the focus without it.
