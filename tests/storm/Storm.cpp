@@ -591,8 +591,11 @@ void Storm::SetProperty()
     const QMetaObject* owner = property.enclosingMetaObject();
     if (owner == &QFrame::staticMetaObject || owner == &QDialog::staticMetaObject)
         return;
-    // A line edit goes on typing into the mask that it had before it emitted inputRejected().
-    if (m_slotDepth > 0 && qstrcmp(property.name(), "inputMask") == 0)
+    // A line edit goes on typing into the mask that it had before it emitted inputRejected(), and Qt goes on
+    // giving the focus to the clear button, for which the edit emitted editingFinished().
+    const bool isUsedAgain
+        = qstrcmp(property.name(), "inputMask") == 0 || qstrcmp(property.name(), "clearButtonEnabled") == 0;
+    if (m_slotDepth > 0 && isUsedAgain)
         return;
     const QMetaEnum keys = property.enumerator();
     const QVariant value = property.isEnumType()
