@@ -1,9 +1,9 @@
 // Fitting a 12-megapixel picture to a byte limit against encoding it at every quality, and painting a crop
 // canvas while a frame is dragged over a 24-megapixel picture against drawing a ready pixmap of that size.
 //
-// What bounds fitting from below: colours, cosines and the last quality's bits take about two of the plain loop's
-// cheaper encodings, whatever the number of steps. Two threads, each counting a part, took no less time than one
-// on two busy cores.
+// What bounds fitting from below: colours, cosines and the last quality's bits take about two of the plain
+// loop's cheaper encodings, whatever the number of steps. Two threads, each counting a part, took no less
+// time than one on two busy cores.
 
 #include "Ratio.h"
 
