@@ -178,7 +178,8 @@ QString QCommon::PatchPath(QString dir, QString file)
 int QCommon::GetDevIdByChnlId(const std::string& chnlId, std::string& devId)
 {
     std::string device = chnlId;
-    const bool isChannel = CutLastField(device) && CutLastField(device);
+    bool isChannel = CutLastField(device);
+    isChannel = isChannel && CutLastField(device);
     // The first of the three fields may be missing.
     CutLastField(device);
     if (!isChannel || device.size() > kLongestDeviceId) {
