@@ -107,11 +107,12 @@ void PrintWakeUps()
     const QTemporaryDir folder;
     Client client(Options(folder, QString()));
     client.Show();
-    for (const QString& page : PageNames()) {
+    const QStringList pages = PageNames();
+    for (const QString& page : pages) {
         client.Window().ShowPage(page);
         WakeUps::RunEvents(WakeUps::Settling);
     }
-    for (const QString& page : PageNames()) {
+    for (const QString& page : pages) {
         client.Window().ShowPage(page);
         print(page);
     }

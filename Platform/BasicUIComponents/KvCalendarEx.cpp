@@ -19,8 +19,8 @@ namespace KvGUI {
 
 namespace {
 
-const QTime DayStart(0, 0, 0);
-const QTime DayEnd(23, 59, 59);
+QTime DayStart() { return {0, 0, 0}; }
+QTime DayEnd() { return {23, 59, 59}; }
 
 } // namespace
 
@@ -109,8 +109,8 @@ void KvCalendarExPrivate::Pick(const QDate& day)
     }
     const DateRange range = OrderedRange(selection.anchor, day);
     selection.anchor = QDate();
-    const QTime from = TimesShown() ? startTime->time() : DayStart;
-    const QTime to = TimesShown() ? endTime->time() : DayEnd;
+    const QTime from = TimesShown() ? startTime->time() : DayStart();
+    const QTime to = TimesShown() ? endTime->time() : DayEnd();
     const Moments before = chosen;
     SetRange({LocalMoment(range.start, from), LocalMoment(range.end, to)});
     Report(before);
@@ -230,8 +230,8 @@ void KvCalendarExPrivate::ShowTimes()
     const QSignalBlocker startBlocker(startTime);
     const QSignalBlocker endBlocker(endTime);
     const bool any = chosen.start.isValid();
-    startTime->setTime(any ? chosen.start.time() : DayStart);
-    endTime->setTime(any ? chosen.end.time() : DayEnd);
+    startTime->setTime(any ? chosen.start.time() : DayStart());
+    endTime->setTime(any ? chosen.end.time() : DayEnd());
 }
 
 /// The day that the keyboard begins with on a page.

@@ -30,7 +30,11 @@ namespace Storms {
 
 namespace {
 
-QByteArray g_log;
+QByteArray& Steps()
+{
+    static QByteArray steps;
+    return steps;
+}
 
 /// Makes every text twice as long.
 class LongLanguage : public QTranslator
@@ -117,7 +121,7 @@ Storm::Storm(const Kind& kind, int seed)
     : m_kind(kind)
     , m_dice(seed)
 {
-    g_log.clear();
+    Steps().clear();
     Serve();
 }
 
@@ -137,7 +141,7 @@ Storm::~Storm()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-const QByteArray& Storm::Log() { return g_log; }
+const QByteArray& Storm::Log() { return Steps(); }
 
 void Storm::NoteFault(const QString& fault)
 {
@@ -147,10 +151,10 @@ void Storm::NoteFault(const QString& fault)
 
 void Storm::Note(const char* what, const QObject* object)
 {
-    g_log += QByteArray(2 * (m_slotDepth + m_servedLoop), ' ') + what;
+    Steps() += QByteArray(2 * (m_slotDepth + m_servedLoop), ' ') + what;
     if (object != nullptr)
-        g_log += QByteArray(" ") + object->metaObject()->className() + ' ' + object->objectName().toUtf8();
-    g_log += '\n';
+        Steps() += QByteArray(" ") + object->metaObject()->className() + ' ' + object->objectName().toUtf8();
+    Steps() += '\n';
 }
 
 QString Storm::Step()

@@ -29,8 +29,19 @@ namespace {
 constexpr int StepsPerSeed = 300;
 constexpr int Seeds = 3;
 
-QByteArray g_command;
-QString g_warning;
+/// How the storm that runs is repeated.
+QByteArray& Command()
+{
+    static QByteArray command;
+    return command;
+}
+
+/// The first unexpected warning of the storm that runs.
+QString& Warning()
+{
+    static QString warning;
+    return warning;
+}
 
 /// Warnings that are part of an interface, and what the offscreen platform cannot do. On an X server Qt also
 /// warns of itself when a window is hidden and shown again before the server has told of its first showing.
@@ -45,8 +56,8 @@ bool IsExpected(const QString& warning)
 
 void NoteWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    if (type != QtDebugMsg && type != QtInfoMsg && !IsExpected(text) && g_warning.isEmpty())
-        g_warning = text;
+    if (type != QtDebugMsg && type != QtInfoMsg && !IsExpected(text) && Warning().isEmpty())
+        Warning() = text;
     if (type == QtFatalMsg)
         fprintf(stderr, "%s\n", qPrintable(text));
 }
@@ -55,7 +66,7 @@ void NoteWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
 void PrintSteps()
 {
     const QByteArray text
-        = "\nRepeat: " + g_command + "\nThe last steps:\n" + Storm::Log().right(4000) + '\n';
+        = "\nRepeat: " + Command() + "\nThe last steps:\n" + Storm::Log().right(4000) + '\n';
     if (write(STDERR_FILENO, text.constData(), size_t(text.size())) < 0)
         _exit(1);
 }
@@ -137,7 +148,7 @@ private Q_SLOTS:
         const bool once = m_seed > 0 && m_seconds == 0;
         int seed = first;
         while (fault.isEmpty()) {
-            g_command = "UICOMPONENTS_STORM_SEED=" + QByteArray::number(seed) + ' '
+            Command() = "UICOMPONENTS_STORM_SEED=" + QByteArray::number(seed) + ' '
                 + QCoreApplication::applicationFilePath().toLocal8Bit() + " storm:" + QTest::currentDataTag();
             fault = FaultOf(m_kinds.at(kind), seed);
             ++seed;
@@ -179,14 +190,14 @@ private Q_SLOTS:
 private:
     static QString FaultOf(const Kind& kind, int seed)
     {
-        g_warning.clear();
+        Warning().clear();
         QString fault;
         {
             Storm storm(kind, seed);
             for (int step = 0; fault.isEmpty() && step < StepsPerSeed; ++step)
-                fault = g_warning.isEmpty() ? storm.Step() : g_warning;
+                fault = Warning().isEmpty() ? storm.Step() : Warning();
         }
-        return fault.isEmpty() ? g_warning : fault;
+        return fault.isEmpty() ? Warning() : fault;
     }
 
     const QVector<Kind>& m_kinds = Storms::Kinds();
