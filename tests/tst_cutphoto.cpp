@@ -93,7 +93,7 @@ std::unique_ptr<CanvasType> MakeCanvas()
 QRgb PixelAt(QWidget& widget, const QPoint& pos) { return widget.grab().toImage().pixel(pos); }
 
 /// Runs when the next menu has opened, then closes it.
-void OnNextMenu(std::function<void(QMenu*)> act)
+void OnNextMenu(const std::function<void(QMenu*)>& act)
 {
     QTimer::singleShot(0, qApp, [act] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());

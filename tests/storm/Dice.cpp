@@ -34,7 +34,7 @@ QString Dice::Text()
 {
     const QString texts[] = {
         QString(),
-        QStringLiteral(""),
+        QLatin1String(""),
         QStringLiteral(" \u3000 "),
         QStringLiteral("10.0.0.%1").arg(Below(300)),
         QStringLiteral("7"),
