@@ -121,13 +121,19 @@ private slots:
         QCOMPARE(file.ReadAllSecName(), QStringList{section});
     }
 
-    /// Catches a removal that takes too much or stays in memory.
+    /// Catches a removal that takes too much or stays in memory, or half a file on a full disk.
     void RemovesValuesAndGroups()
     {
         Write(Path(), "[Wall]\nLayout=1\nRows=2\n\n[Screens]\nFirst=3\n\n[Users]\nadmin=4\n");
         CIniFile file(Path());
         file.RemoveValue(kSection, kKey);
         QVERIFY(!Read(Path()).contains("Layout"));
+        {
+            const auto fault = TestSupport::FullDisk(10);
+            const QByteArray whole = Read(Path());
+            file.RemoveValue(QStringLiteral("Users"), QStringLiteral("admin"));
+            QCOMPARE(Read(Path()), whole);
+        }
         QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), 2);
         file.RemoveValue(QStringLiteral("Screens"), QString());
         QCOMPARE(file.ReadAllSecName(), (QStringList{QStringLiteral("Users"), kSection}));

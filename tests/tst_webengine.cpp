@@ -5,6 +5,7 @@
 #include "web/WebServer.h"
 
 #include <Platform/Automation/AutomationRegistry.h>
+#include <Platform/BasicUIComponents/KvLanguage.h>
 #include <UI/LinkWeb/CActiveXLinkWebCtrl.h>
 
 #include <QtTest>
@@ -377,6 +378,18 @@ private slots:
         QCOMPARE(client.Value(Name("linkWeb.CallBack('n'.repeat(1024), 'p'.repeat(4194304))")), Name("0"));
         QCOMPARE(client.names.value(1).size(), 1024);
         QCOMPARE(client.params.value(1).size(), 4194304);
+    }
+
+    // Catches a view without a page that keeps its name when the operator chooses another language.
+    void NameFollowsTheLanguage()
+    {
+        const auto control = Automation::AutomationRegistry::CreateControl(nullptr);
+        QVERIFY(control && control->setControl(Name("LinkWeb.PageControl")));
+        QCOMPARE(control->widget()->accessibleName(), Name("Web page"));
+        QVERIFY(KvGUI::SetLanguage(Name("zh_CN")));
+        QTRY_COMPARE(control->widget()->accessibleName(), QStringLiteral("\u7f51\u9875"));
+        QVERIFY(KvGUI::SetLanguage(Name("en")));
+        QTRY_COMPARE(control->widget()->accessibleName(), Name("Web page"));
     }
 
     // Catches calls that reach a listener that was taken away.
