@@ -55,7 +55,7 @@ int NumberOf(const QString& text)
 
 QString IniPath(const QString& folder) { return QDir(folder).filePath(IniName); }
 
-int NumberOf(QVariant value) { return NumberOf(value.toString()); }
+int NumberOf(const QVariant& value) { return NumberOf(value.toString()); }
 
 /// One way to save something with a number, and to get the number back.
 struct Saver
