@@ -398,10 +398,11 @@ private slots:
         Form form;
         QStringList told;
         const auto tell = [&](const char* name, void (KvCalendarEx::*signal)()) {
-            connect(form.calendar, signal, form.calendar, [&told, &form, name] { // clazy:exclude=connect-non-signal
+            const auto note = [&told, &form, name] {
                 told << QString::fromLatin1(name) + Range(*form.calendar).start.toString(QStringLiteral(" M"))
                         + Range(*form.calendar).end.toString(QStringLiteral(" M"));
-            });
+            };
+            connect(form.calendar, signal, form.calendar, note); // clazy:exclude=connect-non-signal
         };
         tell("range", &KvCalendarEx::SgnDateTimeChanged);
         tell("start", &KvCalendarEx::SgnStartYearMonthChanged);
