@@ -80,6 +80,7 @@ public:
         Note(member, arguments);
         if (member == AddListener) {
             const auto address = static_cast<quintptr>(arguments.value(0).toULongLong());
+            // NOLINTNEXTLINE(performance-no-int-to-ptr): the interface passes the address as a number
             m_script.listener = reinterpret_cast<LINKWEB::ILinkWebAPI*>(address);
         } else if (member == Load && m_script.onLoad) {
             m_script.onLoad(); // may delete this control
