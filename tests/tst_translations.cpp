@@ -28,6 +28,7 @@
 
 #include <QtTest>
 #include <QtWidgets>
+#include <algorithm>
 #include <functional>
 
 using namespace UICommonMdl;
@@ -162,7 +163,10 @@ private slots:
         TestSupport::AnnounceCropCanvases(2);
         AllWidgets all;
         const QMap<QString, QString> english = ShownTexts(all);
-        QVERIFY(english.values().contains(QStringLiteral("Overview of the wall")));
+        const auto count = [](const QMap<QString, QString>& texts, const QString& wanted) {
+            return std::count(texts.begin(), texts.end(), wanted);
+        };
+        QVERIFY(count(english, QStringLiteral("Overview of the wall")) > 0);
         QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
 
         Switch(Chinese);
@@ -173,10 +177,8 @@ private slots:
             QVERIFY2(!sources.contains(*text), qPrintable(text.key() + QLatin1String(": ") + *text));
         for (const char* wanted :
              {"窗口 1", "窗口 2  Siren 7", "人脸1", "上一张", "关闭声音", "IP 地址，第 4 段"})
-            QVERIFY2(chinese.values().contains(QString::fromUtf8(wanted)), wanted);
-        QCOMPARE(
-            chinese.values().count(QStringLiteral("Siren 7")),
-            english.values().count(QStringLiteral("Siren 7")));
+            QVERIFY2(count(chinese, QString::fromUtf8(wanted)) > 0, wanted);
+        QCOMPARE(count(chinese, QStringLiteral("Siren 7")), count(english, QStringLiteral("Siren 7")));
         QTRY_COMPARE(ClippedTexts(all).join(QLatin1Char('\n')), QString());
 
         Switch(English);
