@@ -24,7 +24,7 @@ QJsonObject Folders()
         return {};
     const QStringList texts = Stored().Read();
     for (const QString& text : texts) {
-        const QJsonObject folders = QJsonDocument::fromJson(text.toUtf8()).object();
+        QJsonObject folders = QJsonDocument::fromJson(text.toUtf8()).object();
         if (!folders.isEmpty())
             return folders;
     }

@@ -5,6 +5,7 @@
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
 #include <UI/CutPhoto/CutPhotoForm.h>
 
+#include <QEvent>
 #include <QLabel>
 #include <QTimer>
 

@@ -41,6 +41,7 @@ KvLineEditWithDirButton::KvLineEditWithDirButton(QWidget* parent)
     CommonFun::SetStyleSheet(this, QStringLiteral("LineEdit"), QString(), QString());
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes a copy
 void KvLineEditWithDirButton::SetOpenFile(QString caption, QString directory, QString filter)
 {
     m_strCaption = std::move(caption);

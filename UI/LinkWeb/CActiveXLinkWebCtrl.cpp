@@ -53,6 +53,7 @@ bool CActiveXLinkWebCtrl::HasControl() const { return m_pControl != nullptr; }
 
 QString CActiveXLinkWebCtrl::GetUrl() { return m_strUrl; }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes a copy
 void CActiveXLinkWebCtrl::SetUrl(QString url)
 {
     if (!QUrl(url, QUrl::TolerantMode).isValid())
@@ -123,12 +124,14 @@ void CActiveXLinkWebCtrl::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes a copy
 void CActiveXLinkWebCtrl::ExecuteJavaScript(QString script)
 {
     if (m_pControl)
         m_pControl->dynamicCall(LINKWEB::RunScriptMember, {script});
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes copies
 int CActiveXLinkWebCtrl::MainCall(QString name, QString param)
 {
     Q_EMIT sgnMainCall(name, param);
