@@ -402,7 +402,7 @@ private slots:
                 told << QString::fromLatin1(name) + Range(*form.calendar).start.toString(QStringLiteral(" M"))
                         + Range(*form.calendar).end.toString(QStringLiteral(" M"));
             };
-            connect(form.calendar, signal, form.calendar, note); // clazy:exclude=connect-non-signal
+            connect(form.calendar, signal, form.calendar, note);
         };
         tell("range", &KvCalendarEx::SgnDateTimeChanged);
         tell("start", &KvCalendarEx::SgnStartYearMonthChanged);

@@ -210,7 +210,7 @@ private slots:
              {&WmPersonImage::SignalClickUploadPicBtn, &WmPersonImage::SignalCameraBtnClick,
               &WmPersonImage::SignalVistorSnapBtnClick, &WmPersonImage::SignalIDCardBtnClick,
               &WmPersonImage::SignalDeleteBtnClick, &WmPersonImage::SignalTurnPageBtnClick})
-            connect(&panel, clicked, this, [&all] { ++all; }); // clazy:exclude=connect-non-signal
+            connect(&panel, clicked, this, [&all] { ++all; });
         const QPoint middle = panel.findChild<QPushButton*>(button)->geometry().center();
         QTest::mouseClick(panel.windowHandle(), Qt::LeftButton, Qt::NoModifier, middle);
         QCOMPARE(spy.count(), 1);

@@ -131,9 +131,9 @@ void CActiveXLinkWebCtrl::ExecuteJavaScript(QString script)
         m_pControl->dynamicCall(LINKWEB::RunScriptMember, {script});
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes copies
 int CActiveXLinkWebCtrl::MainCall(QString name, QString param)
 {
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes copies
     Q_EMIT sgnMainCall(name, param);
     return 0;
 }
