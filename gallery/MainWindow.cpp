@@ -121,6 +121,8 @@ Page* MainWindow::PageAt(int index)
 
 void MainWindow::OnPageChosen(int index)
 {
+    if (index < 0)
+        return; // no row is the current one
     statusBar()->clearMessage(); // it reports of another page
     m_pPages->setCurrentWidget(PageAt(index));
     m_pLeft.clear();
