@@ -3,6 +3,7 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
 
+#include <Platform/BasicUIComponents/KvLineEdit.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
 #include <UI/FormInputs/CRequiredEdit.h>
 #include <UI/FormInputs/KvImpPushButton.h>
@@ -68,6 +69,34 @@ class TestLineEdits : public QObject
 
 private slots:
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    /// Catches a text that the validator refuses and that stays because a slot took the selection away, as
+    /// the loss of the focus does, before the validator was asked; and a commit that is right and refused.
+    void InputMethodsObeyTheValidator()
+    {
+        KvGUI::KvLineEdit edit;
+        edit.setValidator(new QIntValidator(0, 255, &edit));
+        connect(&edit, &QLineEdit::cursorPositionChanged, &edit, &QLineEdit::deselect);
+        const QSignalSpy rejected(&edit, &QLineEdit::inputRejected);
+        const auto commit = [&edit](const QString& text, int from = 0, int length = 0) {
+            QInputMethodEvent event;
+            event.setCommitString(text, from, length);
+            QCoreApplication::sendEvent(&edit, &event);
+            return edit.text();
+        };
+        QCOMPARE(commit(QStringLiteral("folder")), QString());
+        QCOMPARE(commit(QStringLiteral("12")), QStringLiteral("12"));
+        QCOMPARE(commit(QStringLiteral("1000")), QStringLiteral("12"));
+        QCOMPARE(rejected.size(), 2);
+        QCOMPARE(commit(QStringLiteral("34"), -2, 2), QStringLiteral("34")); // in the place of the 12
+        edit.selectAll();
+        QCOMPARE(commit(QStringLiteral("199")), QStringLiteral("199"));
+        edit.setMaxLength(2);
+        QCOMPARE(commit(QStringLiteral("987"), -2, 2), QStringLiteral("98"));
+        edit.setText(QStringLiteral("no")); // what the program sets may be wrong and can be mended
+        edit.home(false);
+        QCOMPARE(commit(QStringLiteral("7"), 0, 1), QStringLiteral("7o"));
+    }
 
     /// Catches a mark that keeps the height of the edit's birth, and a text that begins under it.
     void MarksFollowTheHeight()

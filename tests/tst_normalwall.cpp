@@ -234,6 +234,25 @@ private Q_SLOTS:
         QTRY_VERIFY(painted.HasActed());
     }
 
+    // Catches pictures in the size of a wild rectangle or of a large wall under the wheel, which no display
+    // server takes, and a video that no longer fills its window when its size has an end.
+    void videosOfHugeWindows()
+    {
+        Fixture f({LeftUpper});
+        QWidget* fill = f.Fill(0, Qt::red);
+        QWidget* video = f.wall->GetWindowWidget(0, 0);
+        const QSize place = video->size();
+        f.wall->SetWindowScale(0, 0, {-1e9, -1, 1e9, 1, true});
+        QVERIFY(video->width() == 16000 && video->height() > 0 && video->height() < 1000);
+        f.wall->SetWindowScale(0, 0, {-50, 0, 50, 30, true});
+        QCOMPARE(video->width(), 16000);
+        fill->resize(video->size());
+        QCOMPARE(f.Picture().pixelColor(900, 500), QColor(Qt::red));
+        f.wall->SetWindowScale(0, 0, LeftUpper);
+        QCOMPARE(video->size(), place);
+        QCOMPARE(f.Video(0).topLeft(), QPoint(101, 146));
+    }
+
     // Catches a video that takes the clicks which are the window's, or does not get its own.
     void videosOfTheClient()
     {

@@ -13,8 +13,15 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 namespace UICommonMdl {
+
+namespace {
+
+constexpr int LargestVideo = 16000; // pixels; twice as many on a screen of scale 2, which four gigabytes hold
+
+} // namespace
 
 KvTVWallNormalWindow::KvTVWallNormalWindow(
     KvTVWallNormalScreen* screen, KvTVWallNormalView* view, QGraphicsItem* parent, double precision,
@@ -63,11 +70,16 @@ void KvTVWallNormalWindow::SetGeometry(const QRect& geometry)
 }
 
 // One pixel at least: Qt takes an embedded widget that has had no size for unmapped ever after, so that its
-// updates paint nothing.
+// updates paint nothing. And no more than LargestVideo: Qt keeps a picture as large as the widget ready for
+// each embedded one, and display servers take none of more than 32767 pixels or four gigabytes. What is
+// larger is shown enlarged.
 void KvTVWallNormalWindow::PlaceVideo()
 {
     const QRect area = WindowTitle::VideoRect(m_size);
-    m_pProxy->setGeometry(QRect(area.topLeft(), area.size().expandedTo(QSize(1, 1))));
+    const int longest = std::max(area.width(), area.height());
+    const double enlarged = std::max(1.0, longest / double(LargestVideo));
+    m_pProxy->setScale(enlarged);
+    m_pProxy->setGeometry(QRectF(area.topLeft(), (area.size() / enlarged).expandedTo(QSize(1, 1))));
 }
 
 // State, pixels and tool tips change before the report, so that a slot finds the window as it will be and

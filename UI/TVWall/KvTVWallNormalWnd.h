@@ -182,9 +182,10 @@ public:
     bool SetWindowVolumeBtn(int iScreen, int iWindow, bool bOn);
     /// Whether the audio button shows "on"; false for a new window and without such a window.
     bool GetWindowVolumeBtnStatus(int iScreen, int iWindow) const;
-    /// The widget to put video into; it follows the window's size. It is made when it is first asked for and
-    /// shown through a proxy of the scene: it has no parent widget, and what lies in it must not be native.
-    /// Null without such a window and after DeleteWindowWidget.
+    /// The widget to put video into; it follows the window's size up to 16000 pixels in the longer direction
+    /// and is enlarged beyond. It is made when it is first asked for and shown through a proxy of the scene:
+    /// it has no parent widget, and what lies in it must not be native. Null without such a window and after
+    /// DeleteWindowWidget.
     QWidget* GetWindowWidget(int iScreen, int iWindow) const;
     /// Deletes the video widget with all that the client put into it, for good. @return whether there was
     /// one, asked for already or not
