@@ -102,7 +102,7 @@ private:
     bool AreSafe(int depth, bool keys)
     {
         const quint32 count = Count();
-        for (quint32 i = 0; i < count && !AtEnd(); ++i) {
+        for (quint32 i = 0; i < count && !m_stream.atEnd(); ++i) {
             if (keys)
                 Skip<QString>();
             if (!IsSafeObject(depth))
@@ -114,7 +114,7 @@ private:
     bool SkipTexts()
     {
         const quint32 count = Count();
-        for (quint32 i = 0; i < count && !AtEnd(); ++i)
+        for (quint32 i = 0; i < count && !m_stream.atEnd(); ++i)
             Skip<QString>();
         return m_honest;
     }
@@ -126,11 +126,9 @@ private:
     {
         quint32 count = 0;
         m_stream >> count;
-        m_honest = m_honest && count <= static_cast<quint32>(m_size) / 4;
+        m_honest = count <= static_cast<quint32>(m_size) / 4;
         return m_honest ? count : 0;
     }
-
-    bool AtEnd() const { return m_stream.status() != QDataStream::Ok || m_stream.atEnd(); }
 
     template <typename Value>
     void Skip()

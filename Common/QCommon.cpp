@@ -58,18 +58,16 @@ bool CutLastField(std::string& text)
     return true;
 }
 
-/// Writes the digest as lower-case hexadecimal digits; -1 and nothing written when a pointer is null or
-/// the digits do not fit.
-int WriteHex(const unsigned char* digest, char* out, int outLen)
+/// Writes the digest as lower-case hexadecimal digits; nothing when @p out is null or they do not fit.
+void WriteHex(const unsigned char* digest, char* out, int outLen)
 {
-    if (digest == nullptr || out == nullptr || outLen < kHa1Length)
-        return -1;
+    if (out == nullptr || outLen < kHa1Length)
+        return;
     constexpr char kDigits[] = "0123456789abcdef";
     for (std::size_t i = 0; i < kvl::DMD5::kDigestSize; ++i) {
         *out++ = kDigits[digest[i] >> 4];
         *out++ = kDigits[digest[i] & 15];
     }
-    return 0;
 }
 
 const char* TextOrEmpty(const char* text) { return text != nullptr ? text : ""; }

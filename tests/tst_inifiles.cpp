@@ -5,11 +5,16 @@
 #include <Common/CIniFile.h>
 #include <Common/CLocalIniFile.h>
 #include <Common/CommonFun.h>
+#include <Common/IniScreen.h>
+#include <Common/OrphanedLock.h>
 #include <Common/QCommon.h>
 #include <Common/QIniFile.h>
 #include <Platform/BasicUIComponents/KvDir.h>
 #include <QtTest>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <type_traits>
+#include <unistd.h>
 
 using UICommonMdl::CIniFile;
 using UICommonMdl::CLocalIniFile;
@@ -89,27 +94,21 @@ private slots:
         QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 0).toByteArray(), QByteArray("\0\x01\xFF", 3));
     }
 
-    /// Catches escapes in place of UTF-8, and a file of another hand that is read as Latin-1.
+    /// Catches escapes in place of UTF-8, a file of another hand that is read as Latin-1, a write that waits
+    /// for the object's end, and a written text that reads back as a list.
     void FileIsUtf8()
     {
-        const QString text = QStringLiteral("\u4E2D\u6587 \u00E9");
-        CIniFile(Path()).WriteValue(kSection, kKey, text);
-        QVERIFY(Read(Path()).contains(text.toUtf8()));
-        Write(m_folder->filePath(QStringLiteral("other.ini")), "[Wall]\nLayout=\xE4\xB8\xAD\n");
-        QIniFile other(m_folder->filePath(QStringLiteral("other.ini")));
-        QCOMPARE(other.ReadValue(kSection, kKey).toString(), QStringLiteral("\u4E2D"));
-    }
-
-    /// Catches a write that waits for the object's end, and a written text that reads back as a list.
-    void WritesAtOnce()
-    {
+        const QString text = QStringLiteral("\u4E2D\u6587,\u00E9");
         CIniFile file(Path());
-        file.WriteValue(kSection, kKey, QStringLiteral("a,b"));
-        QVERIFY(Read(Path()).contains("Layout"));
-        QCOMPARE(file.ReadValue(kSection, kKey, QVariant()), QVariant(QStringLiteral("a,b")));
+        file.WriteValue(kSection, kKey, text);
+        QVERIFY(Read(Path()).contains(text.toUtf8()));
+        QCOMPARE(file.ReadValue(kSection, kKey, QVariant()), QVariant(text));
         QIniFile small(Path());
         small.WriteValue(kSection, QStringLiteral("Other"), 7);
         QVERIFY(Read(Path()).contains("Other=7"));
+        Write(m_folder->filePath(QStringLiteral("other.ini")), "[Wall]\nLayout=\xE4\xB8\xAD\n");
+        QIniFile other(m_folder->filePath(QStringLiteral("other.ini")));
+        QCOMPARE(other.ReadValue(kSection, kKey).toString(), QStringLiteral("\u4E2D"));
     }
 
     /// Catches a key that is built in two steps, so that the key goes into the section's place mark.
@@ -173,6 +172,10 @@ private slots:
                                            << true;
         QTest::newRow("list without its things")
             << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1)") << true;
+        QTest::newRow("list cut off") << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1") << true;
+        QTest::newRow("texts cut off") << QByteArray("@Variant(\\0\\0\\0\\v\\0\\0\\0\\x1") << true;
+        QTest::newRow("number cut off") << QByteArray("@\\x") << true;
+        QTest::newRow("escape cut off") << QByteArray("@\\") << true;
         QTest::newRow("octal") << QByteArray("a\\101") << true;
         QTest::newRow("numbers without digits") << QByteArray("@\\xg") << true;
         QTest::newRow("font in a list")
@@ -199,7 +202,8 @@ private slots:
     {
         QFETCH(QByteArray, value);
         QFETCH(bool, safe);
-        const QByteArray text = "[Wall]\nRows=2\nLayout=" + value + "\n";
+        QCOMPARE(IsSafeIniText(value), safe);
+        const QByteArray text = "[Wall]\nRows=2\nLayout=" + value;
         Write(Path(), text);
         Write(BackupPath(), "[Wall]\nRows=3\n");
         CIniFile file(Path());
@@ -243,16 +247,24 @@ private slots:
         QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), QVariant(QLocale(QLocale::German)));
     }
 
-    /// Catches a writer that waits half a minute for one that was killed before it had signed its lock.
-    void UnsignedLockOfADeadWriter()
+    /// Catches a writer that waits half a minute for one that was killed, before or after it had signed its
+    /// lock, and one that takes the lock of a writer that lives.
+    void LocksOfOtherWriters()
     {
-        Write(Path() + QStringLiteral(".lock"), QByteArray());
-        QElapsedTimer timer;
-        timer.start();
-        CIniFile(Path()).WriteValue(kSection, kKey, 7);
-        QVERIFY(timer.elapsed() < 10000);
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
+        const QString lock = Path() + QStringLiteral(".lock");
+        for (const QByteArray& signature : {QByteArray(""), QByteArray("2147483647\nclient\n\n")}) {
+            Write(lock, signature);
+            QElapsedTimer timer;
+            timer.start();
+            CIniFile(Path()).WriteValue(kSection, kKey, signature);
+            QVERIFY(timer.elapsed() < 10000);
+            QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toByteArray(), signature);
+            QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
+        }
+        QFile held(lock);
+        QVERIFY(held.open(QIODevice::WriteOnly) && flock(held.handle(), LOCK_EX) == 0);
+        RemoveOrphanedLock(Path());
+        QVERIFY(held.exists());
     }
 
     /// Catches two owners of one settings object and a crash of the one that was moved from.
@@ -358,6 +370,27 @@ private slots:
             QCOMPARE(QFile::permissions(BackupPath()), QFile::permissions(Path()));
         }
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
+    }
+
+    /// Catches a backup that is not replaced because somebody else, such as the administrator, has written
+    /// it, and files left over where it cannot be replaced.
+    void BackupsOfSomebodyElse()
+    {
+        if (geteuid() != 0)
+            QSKIP("only the administrator can become another user");
+        for (const mode_t folder : {0777, 01777}) { // in the second one nobody replaces the others' files
+            QFile::remove(BackupPath());
+            Write(Path(), "[Wall]\nRows=3\n");
+            Write(BackupPath(), "[Wall]\nRows=2\n");
+            QCOMPARE(chmod(QFile::encodeName(m_folder->path()).constData(), folder), 0);
+            constexpr uid_t Nobody = 65534;
+            QCOMPARE(setresuid(Nobody, Nobody, 0), 0);
+            CommonFun::BackupConfigFile(Path());
+            QCOMPARE(setresuid(0, 0, 0), 0);
+            QCOMPARE(
+                Read(BackupPath()), QByteArray(folder == 0777 ? "[Wall]\nRows=3\n" : "[Wall]\nRows=2\n"));
+            QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 2);
+        }
     }
 
     /// Catches a good file that is overwritten by its backup, a good file lost to a bad backup, and a crash

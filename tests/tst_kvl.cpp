@@ -133,6 +133,7 @@ private slots:
         QCOMPARE(kvl::DBase64::Encode(nullptr, 3, out.data(), 9), -1LL);
         QCOMPARE(kvl::DBase64::Encode("foo", 3, nullptr, 9), -1LL);
         QCOMPARE(kvl::DBase64::Decode(nullptr, 4, out.data(), 9), -1LL);
+        QCOMPARE(kvl::DBase64::Decode("Zm9v", 4, nullptr, 9), -1LL);
         QCOMPARE(kvl::DBase64::Encode(nullptr, 0, out.data(), 9), 0LL);
         QCOMPARE(kvl::DBase64::Decode(nullptr, 0, out.data(), 9), 0LL);
     }
@@ -174,6 +175,8 @@ private slots:
     {
         QCOMPARE(kvl::DStr::sprintf_x(nullptr, 5, "%d", 1), -1);
         QByteArray wild(8, 'x');
+        const char* noFormat = nullptr;
+        QCOMPARE(kvl::DStr::sprintf_x(wild.data(), 8, noFormat, 1), -1);
         QCOMPARE(kvl::DStr::sprintf_x(wild.data(), 8, "%ls", L"\xD800"), -1); // half a character
         QCOMPARE(wild.at(0), '\0');
         QVERIFY(!kvl::DStr::strcpy_x(nullptr, 5, "a"));

@@ -4,6 +4,7 @@
 
 #include <Common/CommonFun.h>
 #include <Common/QCommon.h>
+#include <Common/SkinPicture.h>
 #include <Platform/BasicUIComponents/KvDir.h>
 #include <Platform/BasicUIComponents/KvFile.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
@@ -288,6 +289,25 @@ private slots:
         QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
         QFile::remove(path);
         QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
+    }
+
+    /// Catches a picture for another density, which is blurred or of another size, and none where only one
+    /// was drawn.
+    void PicturesFollowTheDensity()
+    {
+        QTemporaryDir folder;
+        for (const char* name : {"both.png", "one.png", "both@2x.png"}) {
+            const int size = qstrlen(name) > 8 ? 8 : 4;
+            QVERIFY(QImage(size, size, QImage::Format_RGB32).save(folder.filePath(QLatin1String(name))));
+        }
+        const auto pixels = [&folder](const QString& name, qreal density) {
+            return SkinPicture(folder.filePath(name), density).width();
+        };
+        QCOMPARE(pixels("both"_s, 1), 4);
+        QCOMPARE(pixels("both"_s, 1.5), 8);
+        QCOMPARE(pixels("one"_s, 2), 4);
+        QCOMPARE(pixels("none"_s, 2), 0);
+        QCOMPARE(LogicalSize(SkinPicture(folder.filePath("both"_s), 2)), QSize(4, 4));
     }
 
     /// Catches bytes that are decoded as UTF-8 or end at a zero, and an output that a failure clears.

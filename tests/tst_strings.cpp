@@ -56,6 +56,9 @@ QString RandomText(std::mt19937& random, int size)
     return text;
 }
 
+/// Asked before there is a screen, of which a point is to have more than one pixel.
+const double EarliestRatio = (qputenv("QT_SCALE_FACTOR", "1.5"), QCommon::DevicePixelRatio());
+
 /// What a function makes of a text.
 using Reading = std::function<QVariant(const QString&)>;
 
@@ -198,6 +201,10 @@ private slots:
         QCOMPARE(text, out);
         QCommon::GetSuitableText(metrics, INT_MAX, text, out);
         QCOMPARE(out, text);
+        // Together wider than each by itself, by a fraction of a pixel.
+        text.fill(QChar(0x0E01), 2000);
+        QCommon::GetSuitableTextEx(metrics, metrics.horizontalAdvance(text) - 1, text, out);
+        QVERIFY(out.endsWith(QStringLiteral("...")));
     }
 
     /// Catches a colour or size that is lost with the next tool tip.
@@ -215,9 +222,11 @@ private slots:
         QToolTip::hideText();
     }
 
-    /// Catches a ratio that is not the screen's.
+    /// Catches a ratio that is not the screen's, or kept from a time when there was none.
     void RatioIsTheScreens()
     {
+        QCOMPARE(EarliestRatio, 1.0);
+        QCOMPARE(QCommon::DevicePixelRatio(), 1.5);
         QCOMPARE(QCommon::DevicePixelRatio(), QGuiApplication::primaryScreen()->devicePixelRatio());
     }
 
