@@ -25,9 +25,15 @@ class TestAutomation : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        // A folder that does not exist, and one with a library that is none, must do no harm.
+        // A folder that does not exist, a library that is none, and a provider that cannot be loaded here (it
+        // is for another machine) must do no harm.
         QFile broken(m_broken.filePath(QStringLiteral("libbroken.so")));
         QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no library") > 0);
+        const QString other = m_broken.filePath(QStringLiteral("libother.so"));
+        QVERIFY(QFile::copy(QStringLiteral(PROBE_PLUGINS "/lib1-ProbeProvider.so"), other));
+        QFile machine(other);
+        QVERIFY(machine.open(QIODevice::ReadWrite) && machine.seek(18) && machine.write("\xFF\xFF") == 2);
+        machine.close();
         const QStringList folders{
             QStringLiteral("/nonexistent"), m_broken.path(), QStringLiteral(PROBE_PLUGINS)};
         qputenv("UICOMPONENTS_PLUGIN_PATH", QFile::encodeName(folders.join(QDir::listSeparator())));

@@ -94,6 +94,9 @@ private Q_SLOTS:
         QTest::newRow("more than one") << ResultWith(QByteArray("\0\0", 2));
         QTest::newRow("unknown kind") << ResultWith(QByteArray(1, '\0')).replace(0, 1, "\7");
         QTest::newRow("unknown status") << ResultWith(QByteArray(1, '\0')).replace(1, 1, "\3");
+        QTest::newRow("unknown request") << ToFrame(Request()).mid(4).replace(0, 1, "\6");
+        QTest::newRow("member without a name") << QByteArray(7, '\0');
+        QTest::newRow("arguments that are none") << QByteArray(5, '\0') + QByteArray("\6\0\0\0\0\0", 6);
         QTest::newRow("unknown value") << ResultWith("\x0b");
         QTest::newRow("list without end") << ResultWith("\x0a\xff\xff\xff\xff");
         QTest::newRow("text without end") << ResultWith("\x06\x7f\xff\xff\xff"

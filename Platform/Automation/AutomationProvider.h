@@ -29,11 +29,11 @@ public:
     AutomationProvider& operator=(const AutomationProvider&) = delete;
 
     /// A new object of the kind @p programId, which is among those in the plugin's "objects"; null when
-    /// the program behind it is missing or does not start.
-    virtual std::unique_ptr<AutomationObject> CreateObject(const QString& programId) = 0;
+    /// the program behind it is missing or does not start, and for a plugin without objects.
+    virtual std::unique_ptr<AutomationObject> CreateObject(const QString& programId);
 
     /// A new control in a child widget of @p parent; null when the plugin has none.
-    virtual std::unique_ptr<HostedControl> CreateControl(QWidget* parent) = 0;
+    virtual std::unique_ptr<HostedControl> CreateControl(QWidget* parent);
 };
 
 } // namespace Automation

@@ -16,7 +16,6 @@ public:
     {
         return std::make_unique<ProbeObject>(QStringLiteral("foreign:") + programId);
     }
-    std::unique_ptr<Automation::HostedControl> CreateControl(QWidget*) override { return nullptr; }
 };
 
 #include "ForeignProvider.moc"

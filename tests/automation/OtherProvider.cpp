@@ -17,7 +17,6 @@ public:
     {
         return std::make_unique<ProbeObject>(QStringLiteral("other:") + programId);
     }
-    std::unique_ptr<Automation::HostedControl> CreateControl(QWidget*) override { return nullptr; }
 };
 
 #include "OtherProvider.moc"

@@ -19,6 +19,4 @@ std::unique_ptr<Automation::AutomationObject> OfficeProvider::CreateObject(const
     return m_pSession ? OfficeObject::CreateApplication(m_pSession) : nullptr;
 }
 
-std::unique_ptr<Automation::HostedControl> OfficeProvider::CreateControl(QWidget*) { return nullptr; }
-
 } // namespace Office

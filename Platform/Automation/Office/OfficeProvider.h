@@ -17,7 +17,6 @@ class OfficeProvider : public QObject, public Automation::AutomationProvider
 
 public:
     std::unique_ptr<Automation::AutomationObject> CreateObject(const QString& programId) override;
-    std::unique_ptr<Automation::HostedControl> CreateControl(QWidget* parent) override;
 
 private:
     std::shared_ptr<OfficeSession> m_pSession;

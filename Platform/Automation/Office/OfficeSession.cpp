@@ -175,10 +175,10 @@ bool OfficeSession::Send(const QByteArray& frame)
         if (written > 0)
             sent += static_cast<int>(written);
         else if (errno == EAGAIN) {
-            if (WaitFor(POLLOUT))
-                continue;
-            Kill();
-            return false;
+            if (!WaitFor(POLLOUT)) {
+                Kill();
+                return false;
+            }
         } else if (errno != EINTR) {
             Close();
             return false;

@@ -4,11 +4,6 @@
 
 namespace WebEngine {
 
-std::unique_ptr<Automation::AutomationObject> WebEngineProvider::CreateObject(const QString&)
-{
-    return nullptr;
-}
-
 std::unique_ptr<Automation::HostedControl> WebEngineProvider::CreateControl(QWidget* parent)
 {
     return std::make_unique<WebControl>(parent);

@@ -15,7 +15,6 @@ class WebEngineProvider : public QObject, public Automation::AutomationProvider
     Q_INTERFACES(Automation::AutomationProvider)
 
 public:
-    std::unique_ptr<Automation::AutomationObject> CreateObject(const QString& programId) override;
     std::unique_ptr<Automation::HostedControl> CreateControl(QWidget* parent) override;
 };
 

@@ -32,8 +32,8 @@ using uno::Sequence;
 namespace {
 
 constexpr int WidestPortrait = 17000; // hundredths of a millimetre on a page of 210 mm, without margins
-// Comma, quotation mark, UTF-8, from line 1 on; as shown, quoted where needed.
-const QString CsvOptions = QStringLiteral("44,34,76,1,,0,false,true,false");
+// Comma, quotation mark, UTF-8, from line 1 on; as shown, quoted where needed, and no text is a formula.
+const QString CsvOptions = QStringLiteral("44,34,76,1,,0,false,true,false,false,false,0,false");
 const char ByteOrderMark[] = "\xEF\xBB\xBF";
 
 beans::PropertyValue Argument(const char* name, const Any& value)
@@ -198,7 +198,7 @@ Document::Document(const Model& model)
 Document::~Document()
 {
     try {
-        Close();
+        As<util::XCloseable>(m_model)->close(true);
     } catch (const uno::Exception&) { // the office has gone, and the document with it
     }
 }
@@ -291,16 +291,6 @@ void Document::Save(
     As<frame::XStorable>(m_model)->storeToURL(FileUrl(scratch.Path()), ToSequence(arguments));
     const std::lock_guard<std::timed_mutex> lock(saving);
     MoveToPlace(scratch.Path(), path, format == FileFormat::Csv ? QByteArray(ByteOrderMark) : QByteArray());
-}
-
-void Document::Close()
-{
-    if (!m_model.is())
-        return;
-    const Reference<util::XCloseable> closeable(m_model, uno::UNO_QUERY);
-    m_model.clear();
-    if (closeable.is())
-        closeable->close(true);
 }
 
 } // namespace Office

@@ -35,7 +35,7 @@ public:
     /// The workbook in the file @p path, for reading: macros do not run and links are not followed.
     static std::unique_ptr<Document> Open(const Desktop& desktop, const QString& path);
 
-    ~Document();
+    ~Document(); ///< closes it
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
@@ -58,8 +58,6 @@ public:
     /// Stores the workbook as the file @p path: it is written in @p scratchFolder, and then replaces what is
     /// at its place in one step, under the lock.
     void Save(const QString& path, FileFormat format, const QString& scratchFolder, std::timed_mutex& saving);
-
-    void Close();
 
 private:
     explicit Document(const Model& model);

@@ -60,7 +60,7 @@ std::shared_ptr<ExcelObject> ExcelApplication::SubObject(const QString& member, 
     if (member == QLatin1String("workbooks"))
         return std::make_shared<ExcelWorkbooks>(shared_from_this());
     if (member == QLatin1String("activeworkbook"))
-        return m_workbooks.isEmpty() ? nullptr : m_workbooks.last();
+        return ActiveWorkbook();
     return ExcelObject::SubObject(member, arguments);
 }
 
@@ -85,12 +85,23 @@ std::shared_ptr<ExcelWorkbook> ExcelApplication::OpenWorkbook(const QString& pat
     return Keep(Document::Open(m_context.desktop, path));
 }
 
+std::shared_ptr<ExcelWorkbook> ExcelApplication::ActiveWorkbook()
+{
+    ForgetClosedWorkbooks();
+    return m_workbooks.isEmpty() ? nullptr : m_workbooks.last();
+}
+
 std::shared_ptr<ExcelWorkbook> ExcelApplication::Keep(std::unique_ptr<Document> document)
+{
+    ForgetClosedWorkbooks();
+    m_workbooks << std::make_shared<ExcelWorkbook>(std::move(document), m_context);
+    return m_workbooks.last();
+}
+
+void ExcelApplication::ForgetClosedWorkbooks()
 {
     const auto closed = [](const std::shared_ptr<ExcelWorkbook>& workbook) { return workbook->IsGone(); };
     m_workbooks.erase(std::remove_if(m_workbooks.begin(), m_workbooks.end(), closed), m_workbooks.end());
-    m_workbooks << std::make_shared<ExcelWorkbook>(std::move(document), m_context);
-    return m_workbooks.last();
 }
 
 void ExcelApplication::Quit()

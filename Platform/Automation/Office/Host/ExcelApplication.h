@@ -36,6 +36,8 @@ public:
 
 private:
     std::shared_ptr<ExcelWorkbook> Keep(std::unique_ptr<Document> document);
+    std::shared_ptr<ExcelWorkbook> ActiveWorkbook(); ///< null when none is open
+    void ForgetClosedWorkbooks();
 
     const OfficeContext& m_context;
     QVector<std::shared_ptr<ExcelWorkbook>> m_workbooks; ///< the last one is the active one

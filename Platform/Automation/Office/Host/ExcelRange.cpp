@@ -1,6 +1,5 @@
 #include <Platform/Automation/Office/Host/ExcelRange.h>
 
-#include <Platform/Automation/Office/Host/CellValues.h>
 #include <Platform/Automation/Office/Host/ExcelLook.h>
 #include <Platform/Automation/Office/Host/ExcelUnits.h>
 #include <Platform/Automation/Office/Host/RangeKinds.h>
@@ -134,12 +133,14 @@ void ExcelRange::SetValue(const QVariant& value)
     if (qint64(Rows()) * Columns() > MostCells)
         throw Refused("too many cells");
     const bool isBlock = value.type() == QVariant::List;
-    const QVariantList rows = isBlock ? value.toList() : QVariantList{QVariantList{value}};
+    const QVariantList rows = value.toList();
     const bool isText = isBlock && HoldOnlyTexts(rows);
     // The office gives this format to each text that looks like a number; where it is, it does not look.
     if (isText)
         SetNumberFormat(TextFormat);
     SetRows(value);
+    if (!isBlock)
+        return SetKind(m_range, KindOf(value));
     for (int column = 0; column < Columns() && !isText; ++column)
         FormatColumn(rows, column, qMin(Rows(), rows.size()));
 }
@@ -172,7 +173,19 @@ void ExcelRange::SetNumberFormat(const QString& code)
     SetProperty(m_properties, "NumberFormat", Any(sal_Int32(m_pWorkbook->Open().FormatOfCode(code))));
 }
 
-/// Dates and truth values are numbers with a format, given to each run of them in the column.
+/// Dates and truth values are numbers with a format.
+void ExcelRange::SetKind(const Range& cells, CellKind kind)
+{
+    if (kind == CellKind::Number)
+        return;
+    const sal_Int16 type
+        = kind == CellKind::Boolean ? util::NumberFormat::LOGICAL : util::NumberFormat::DATETIME;
+    SetProperty(
+        Reference<beans::XPropertySet>(cells, uno::UNO_QUERY_THROW), "NumberFormat",
+        Any(sal_Int32(m_pWorkbook->Open().StandardFormat(type))));
+}
+
+/// Tells the office of each run of one kind in the column.
 void ExcelRange::FormatColumn(const QVariantList& rows, int column, int count)
 {
     const auto kindAt = [&](int row) { return KindOf(rows.at(row).toList().value(column)); };
@@ -182,14 +195,7 @@ void ExcelRange::FormatColumn(const QVariantList& rows, int column, int count)
         int end = start + 1;
         while (end < count && kindAt(end) == kind)
             ++end;
-        if (kind != CellKind::Number) {
-            const sal_Int16 type
-                = kind == CellKind::Boolean ? util::NumberFormat::LOGICAL : util::NumberFormat::DATETIME;
-            const Range run = m_range->getCellRangeByPosition(column, start, column, end - 1);
-            SetProperty(
-                Reference<beans::XPropertySet>(run, uno::UNO_QUERY_THROW), "NumberFormat",
-                Any(sal_Int32(m_pWorkbook->Open().StandardFormat(type))));
-        }
+        SetKind(m_range->getCellRangeByPosition(column, start, column, end - 1), kind);
         start = end;
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Platform/Automation/Office/Host/CellValues.h>
 #include <Platform/Automation/Office/Host/ExcelWorkbook.h>
 
 #include <com/sun/star/beans/XPropertySet.hpp>
@@ -26,6 +27,7 @@ private:
     void SetValue(const QVariant& value);
     void SetRows(const QVariant& value);
     void SetNumberFormat(const QString& code);
+    void SetKind(const Range& cells, CellKind kind);
     void FormatColumn(const QVariantList& rows, int column, int count);
     void SetRowHeight(int points);
     void SetColumnWidth(int characters);

@@ -77,13 +77,6 @@ QVariant ExcelWorkbook::Read(const QString& name)
 
 void ExcelWorkbook::Close() { m_pDocument.reset(); }
 
-Document& ExcelWorkbook::Open() const
-{
-    if (!m_pDocument)
-        throw Refused("closed");
-    return *m_pDocument;
-}
-
 bool ExcelWorkbook::Save(const QVariant& path, FileFormat format)
 {
     Open().Save(

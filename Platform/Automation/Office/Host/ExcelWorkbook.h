@@ -16,7 +16,7 @@ public:
     QVariant Read(const QString& name) override; ///< of the sheets
 
     void Close();
-    Document& Open() const; ///< the open document; throws Refused when it is closed
+    Document& Open() const { return *m_pDocument; } ///< the document, which has to be open: see IsGone()
 
 private:
     bool Save(const QVariant& path, FileFormat format);

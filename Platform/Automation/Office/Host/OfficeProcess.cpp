@@ -42,7 +42,7 @@ QList<QByteArray> OfficeEnvironment(const QString& temporaryFolder)
         const QByteArray text(*variable);
         const bool replaced = text.startsWith("LC_") || text.startsWith("LANG") || text.startsWith("DISPLAY=")
             || text.startsWith("WAYLAND_DISPLAY=") || text.startsWith("URE_BOOTSTRAP=")
-            || text.startsWith("TMPDIR=") || text.startsWith("TMP=") || text.startsWith("TEMP=");
+            || text.startsWith("TMPDIR=");
         if (!replaced)
             variables << text;
     }
