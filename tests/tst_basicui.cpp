@@ -5,7 +5,9 @@
 #include <Common/CommonFun.h>
 #include <Platform/BasicUIComponents/KvCheckBox.h>
 #include <Platform/BasicUIComponents/KvCustomDialog.h>
+#include <Platform/BasicUIComponents/KvDir.h>
 #include <Platform/BasicUIComponents/KvHorScrollBar.h>
+#include <Platform/BasicUIComponents/KvLanguage.h>
 #include <Platform/BasicUIComponents/KvMenu.h>
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
 #include <Platform/BasicUIComponents/KvPushButton.h>
@@ -14,6 +16,7 @@
 #include <Platform/BasicUIComponents/NotificationPlaces.h>
 #include <Platform/BasicUIComponents/NotificationPopup.h>
 #include <Platform/BasicUIComponents/PlatformLook.h>
+#include <Platform/BasicUIComponents/StyledWidgets.h>
 #include <QtTest>
 #include <QtWidgets>
 #include <functional>
@@ -25,6 +28,10 @@ namespace {
 
 const QString kBlack = QStringLiteral("Black");
 const QString kWhite = QStringLiteral("White");
+
+// Asked before there is an application object.
+const QString kEarlyPath = KvDir::GetCurrentPath();
+const bool kEarlyLanguage = KvGUI::SetLanguage(QStringLiteral("zh_CN"));
 
 constexpr int kOk = QDialogButtonBox::Ok;
 constexpr int kCancel = QDialogButtonBox::Cancel;
@@ -125,6 +132,13 @@ private slots:
     }
 
     void cleanup() { KvMessageNotify::Instance()->CloseAll(); }
+
+    /// Catches a client's early question that crashes or makes Qt warn.
+    void BeforeTheApplicationObject()
+    {
+        QCOMPARE(kEarlyPath, QDir::currentPath() + QLatin1Char('/'));
+        QVERIFY(!kEarlyLanguage);
+    }
 
     void TitleBarDragsTheDialog_data()
     {
@@ -455,6 +469,10 @@ private slots:
         before.setStyleSheet(QString()); // back to the library's
         KvGUI::SetSkinVersion(kBlack);
         QVERIFY(!before.styleSheet().isEmpty());
+        KvPushButton bare(QStringLiteral("OK"));
+        StyledWidgets::Instance().Forget(&bare);
+        bare.ensurePolished();
+        QVERIFY(bare.styleSheet().isEmpty());
     }
 
     /// Catches a dialog in the look of its base class: Qt does not parse a second sheet by itself when
@@ -694,6 +712,7 @@ private slots:
             Notify("Saved", nullptr);
             QCOMPARE(Messages().size(), 2);
         }
+        Notify("Connected", &menu); // once is enough
         QCOMPARE(Texts(), QStringList(QStringLiteral("Connected")));
         KvMessageNotify::Instance()->CloseAll();
         QCOMPARE(Messages().size(), 0);

@@ -1,6 +1,7 @@
 // The rules behind the crop canvases on plain values: where a frame lies in the source picture, how a cut is
 // fitted to its limits.
 
+#include "support/Columns.h"
 #include "support/StrictMain.h"
 
 #include <UI/CutPhoto/CropFrame.h>
@@ -8,6 +9,7 @@
 #include <UI/CutPhoto/CropPicture.h>
 #include <UI/CutPhoto/JpegFitting.h>
 #include <UI/CutPhoto/JpegForecast.h>
+#include <UI/CutPhoto/JpegTables.h>
 #include <UI/CutPhoto/SearchMenu.h>
 
 #include <QtTest>
@@ -260,6 +262,7 @@ private slots:
             << whole << 900000 << QSize(-1, -1) << false << valid << QSize(400, 300) << 90;
         QTest::newRow("too wide") << whole << 900000 << QSize(399, 300) << false << pixels << none << -2;
         QTest::newRow("width alone") << whole << 900000 << QSize(400, 0) << false << pixels << none << -2;
+        QTest::newRow("height alone") << whole << 900000 << QSize(0, 300) << false << pixels << none << -2;
         QTest::newRow("halved") << whole << 900000 << QSize(399, 300) << true << valid << QSize(200, 150)
                                 << 90;
         QTest::newRow("width alone, kept")
@@ -423,7 +426,64 @@ private slots:
         QCOMPARE(FitJpeg(tooLong, 10).bytes, 0);
     }
 
-    // Catches counting that no longer agrees with the encoder, which costs nothing but all of the speed.
+    void OtherJpegsAreNotCounted_data()
+    {
+        TestSupport::Columns<QByteArray, QByteArray>("from", "to");
+        const auto row = [](const char* name, const char* from, const char* to) {
+            QTest::newRow(name) << QByteArray::fromHex(from) << QByteArray::fromHex(to);
+        };
+        row("no JPEG", "ffd8ffe0", "ffd9ffe0");
+        row("no mark", "ffe00010", "00e00010");
+        row("length below its own", "ffe00010", "ffe00001");
+        row("length beyond the end", "ffe00010", "ffe0ffff");
+        row("restarts", "ffe0", "ffdd");
+        row("unknown mark", "ffe0", "fff0");
+        row("progressive", "ffc0", "ffc2");
+        row("divisors of 16 bits", "ffdb004300", "ffdb004310");
+        row("divisors cut short", "ffdb004300", "ffdb004200");
+        row("divisor of 0", "ffdb00430008", "ffdb00430000");
+        row("no divisors for chrominance", "ffdb004301", "ffdb004300");
+        row("Huffman table of a third kind", "ffc4001f00", "ffc4001f20");
+        row("third Huffman table", "ffc4001f00", "ffc4001f02");
+        row("Huffman table cut short", "ffc4001f00", "ffc4001e00");
+        row("no means of chrominance", "ffc4001f01", "ffc4001f00");
+        row("no details of chrominance", "ffc400b511", "ffc400b510");
+        row("12 bits a sample", "ffc0001108", "ffc000110c");
+        row("components missing", "ffc000110800400040030122", "ffc000110800400040040122");
+        row("four components", "ffc00011080040004003012200021101031101",
+            "ffc00014080040004004012200021101031101041101");
+        row("whole chrominance", "03012200", "03011100");
+        row("halved one way", "00021101", "00022101");
+        row("halved differently", "01031101", "01032201");
+        row("one component only", "ffda000c03", "ffda000c01");
+        row("longer scan", "ffda000c", "ffda000e");
+        row("luminance by other tables", "030100021103", "030111021103");
+        row("blueness by other tables", "0100021103", "0100020003");
+        row("redness by other tables", "0211031100", "0211030000");
+    }
+
+    // Catches bits counted, or memory read, by tables that are not those of what is counted.
+    void OtherJpegsAreNotCounted()
+    {
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        QByteArray jpeg = Encoded(Scene(QSize(64, 64)), 75);
+        QVERIFY(ReadJpegTables(jpeg));
+        QCOMPARE(jpeg.count(from), 1);
+        QVERIFY(!ReadJpegTables(QByteArray(jpeg).replace(from, to)));
+        for (int size = 0; size < jpeg.size(); ++size)
+            QVERIFY(!ReadJpegTables(jpeg.left(size)));
+    }
+
+    // Catches a product's menu in the colours of another.
+    void MenusKnowTheirProduct()
+    {
+        QVERIFY(SearchMenuStyle(QStringLiteral("Brellow")).contains(QStringLiteral("#1269a2;color:#000000")));
+        QCOMPARE(SearchMenuStyle(QStringLiteral("Bellow")), QString());
+    }
+
+    // Catches counting that no longer agrees with the encoder, which costs nothing but all of the speed; what
+    // was counted with finer tables; and a picture that is counted although it would take too much memory.
     void ForecastCoversUsualPictures()
     {
         const QImage scene = Scene(QSize(333, 217));
@@ -432,15 +492,19 @@ private slots:
             Noise(QSize(256, 200), 128),
             WithDetails(scene),
             scene.convertToFormat(QImage::Format_Grayscale8),
+            scene.copy(0, 0, 333, 215).convertToFormat(QImage::Format_Grayscale8), // ends with half a band
             scene.convertToFormat(QImage::Format_Indexed8),
             Translucent(scene, QImage::Format_ARGB32),
             scene.convertToFormat(QImage::Format_RGBA64),
         };
+        constexpr int Unlimited = std::numeric_limits<int>::max();
         for (const QImage& image : images) {
-            JpegForecast forecast(image, std::numeric_limits<int>::max());
+            JpegForecast forecast(image, Unlimited);
             for (int quality = 100; quality >= 0; quality = NextLowerQuality(quality))
                 QCOMPARE(forecast.Bytes(quality).value_or(-1), qint64(Encoded(image, quality).size()));
+            QVERIFY(!forecast.Bytes(50)); // upwards: details of it are forgotten
         }
+        QVERIFY(!JpegForecast(QImage(9000, 8000, QImage::Format_Mono), Unlimited).Bytes(100)); // memory
     }
 };
 

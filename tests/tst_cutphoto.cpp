@@ -2,12 +2,14 @@
 
 #include "support/Columns.h"
 #include "support/CropCanvas.h"
+#include "support/Deletion.h"
 #include "support/StrictMain.h"
 
 #include <UI/CutPhoto/CCutDetailPhoto.h>
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
 
 #include <Platform/BasicUIComponents/KvMessageNotify.h>
+#include <Platform/BasicUIComponents/KvSkin.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -166,6 +168,8 @@ class TestCutPhoto : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { TestSupport::SpoilFreedMemory(); }
+
     // Catches a drag whose frame is off, the least size taken without its sign or its limit, and the extents
     // of an earlier selection that make a click a frame of no size.
     void DraggingMarksAFrame()
@@ -213,6 +217,7 @@ private slots:
         QCOMPARE(corner({40, 30}, {60, 111}), QPoint(50, 71));
         QCOMPARE(corner({40, 30}, {0, 20}), QPoint(0, 20));
         QCOMPARE(corner({40, 30}, {-1, 20}), QPoint(20, 25));
+        QCOMPARE(corner({40, 30}, {60, -2}), QPoint(50, 14));
     }
 
     // Catches a resize by another corner, or one that does not stop near the opposite edges.
@@ -335,6 +340,12 @@ private slots:
         QCOMPARE(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).size(), 1);
         canvas->OnClose();
         QVERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
+        OnNextMenu([&](QMenu* menu) { // closed by a slot of the client, inside the menu's own event
+            connect(menu, &QMenu::triggered, canvas.get(), &CCutPhotoWithZoom::OnClose);
+            ChooseInMenu(menu, QStringLiteral("Cancel"));
+        });
+        Press(*canvas, {100, 100}, Qt::RightButton);
+        QTRY_VERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
     }
 
     // Catches actions connected to another search, at once instead of queued, or a menu that stays, were it
@@ -354,6 +365,16 @@ private slots:
             QCoreApplication::processEvents();
             QCOMPARE(reported, QVector<int>{chosen});
             QVERIFY(canvas->findChildren<QMenu*>(QStringLiteral("mainMenu")).isEmpty());
+        }
+    }
+
+    // Catches a canvas with the colour of the skin before.
+    void TheBackgroundFollowsTheSkin()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        for (const char* skin : {"White", "Black"}) {
+            KvGUI::SetSkinVersion(QLatin1String(skin));
+            QCOMPARE(canvas->BackgroundColor().lightness() > 128, qstrcmp(skin, "White") == 0);
         }
     }
 
@@ -405,9 +426,14 @@ private slots:
     // chosen.
     void AMenuMayDeleteTheCanvas()
     {
-        for (const auto& [button, byChoice] :
-             {std::pair(Qt::LeftButton, false), std::pair(Qt::LeftButton, true),
-              std::pair(Qt::RightButton, false), std::pair(Qt::RightButton, true)}) {
+        enum Way
+        {
+            AtOnce,
+            ByChoice,
+            AfterAnotherPress // of those that close a menu and are given to what lies below
+        };
+        for (int i = 0; i < 6; ++i) {
+            const Qt::MouseButton button = i % 2 == 0 ? Qt::LeftButton : Qt::RightButton;
             QWidget host;
             host.resize(Canvas);
             TestSupport::AnnounceCropCanvases();
@@ -417,11 +443,14 @@ private slots:
             canvas->SetSrcImage(PlacePicture(Source));
             Drag(*canvas, {20, 10}, {120, 60});
             connect(canvas, &CCutPhotoWithZoom::SignClickFaceSearch, this, [&] { delete canvas; });
-            OnNextMenu([&, choose = byChoice](QMenu* menu) {
-                if (choose)
-                    ChooseInMenu(menu, QStringLiteral("Face Image Search"));
-                else
-                    delete canvas;
+            OnNextMenu([&](QMenu* menu) {
+                if (i / 2 == ByChoice)
+                    return ChooseInMenu(menu, QStringLiteral("Face Image Search"));
+                if (i / 2 == AfterAnotherPress) {
+                    OnNextMenu([](QMenu*) {});
+                    Press(*canvas, {50, 50}, Qt::RightButton);
+                }
+                delete canvas;
             });
             QTest::mousePress(host.windowHandle(), button, Qt::NoModifier, QPoint(120, 60));
             QTRY_VERIFY(canvas.isNull());
@@ -522,6 +551,8 @@ private slots:
         QTest::newRow("camera on its side") << "a.jpg" << RotatedJpeg(scene) << QSize(60, 40);
         QTest::newRow("truncated png") << "a.png" << png.left(png.size() / 2) << QSize();
         QTest::newRow("text") << "a.png" << QByteArray("no picture at all") << QSize();
+        QTest::newRow("too many pixels")
+            << "a.pbm" << QByteArray("P4\n16400 16400\n") + QByteArray(16400 / 8 * 16400, '\0') << QSize();
         QTest::newRow("empty file") << "a.png" << QByteArray() << QSize();
     }
 
@@ -673,6 +704,11 @@ private slots:
         QCOMPARE(Framed(*canvas), QRect(100, 100, 100, 50));
         canvas->SetCutRegion(QRect(20, 10, 60, 40));
         QCOMPARE(Framed(*canvas), QRect(20, 10, 60, 40));
+        QVERIFY(PixelAt(*canvas, {150, 120}) != PlacePicture(Source).pixel(300, 240));
+        for (const QSize& size : {QSize(60, 0), QSize(0, 40)}) { // no frame: nothing is dimmed
+            canvas->SetCutRegion(QRect(QPoint(20, 10), size));
+            QCOMPARE(PixelAt(*canvas, {150, 120}), PlacePicture(Source).pixel(300, 240));
+        }
     }
 
     // Catches a bubble that covers the photo while it is cropped, or that comes back.

@@ -320,6 +320,8 @@ private slots:
             QCOMPARE(changed.count(), 0);
         }
         form.hand.View(0)->setFocus();
+        form.hand.Key(Qt::Key_PageDown); // as far as this no range reaches
+        QVERIFY(!form.hand.IsInRange(QDate(2024, 1, 22)));
         form.hand.View(0)->setCurrentIndex({});
         form.hand.Key(Qt::Key_Return);
         QCOMPARE(changed.count(), 0);
@@ -512,14 +514,18 @@ private slots:
     /// Catches a calendar that needs the mouse.
     void KeysChooseARange()
     {
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Select}) {
             Form form;
+            const auto press = [&] { // QTest does not know all of these keys
+                QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+                QApplication::sendEvent(form.calendar->focusWidget(), &event);
+            };
             form.hand.View(0)->setFocus();
-            form.hand.Key(key); // 5 January, the start of the range
+            press(); // 5 January, the start of the range
             for (int i = 0; i < 4; ++i)
                 form.hand.Key(Qt::Key_Down);
             QVERIFY(form.hand.IsInRange(QDate(2024, 1, 30))); // the range follows the keys too
-            form.hand.Key(key);
+            press();
             QCOMPARE(Range(*form.calendar).start, At(January5, 0));
             QCOMPARE(Range(*form.calendar).end, EndOf(QDate(2024, 2, 2)));
         }
@@ -600,6 +606,16 @@ private slots:
         form.hand.Click(February1);
         QCOMPARE(Range(*form.calendar).start, At(January20, 0));
         QCOMPARE(Range(*form.calendar).end, EndOf(February1));
+        form.calendar->SetTimeEditVisible(true);
+        form.calendar->ClearRecord();
+        changed.clear();
+        start->setTime(QTime(6, 0)); // before there is a range
+        QCoreApplication::processEvents();
+        QCOMPARE(changed.count(), 0);
+        const QDate day = MonthOf(QDate::currentDate());
+        form.hand.Click(day);
+        form.hand.Click(day);
+        QCOMPARE(Range(*form.calendar).start, At(day, 6));
     }
 
     /// Catches a range on one day that ends before it starts.
@@ -741,13 +757,18 @@ private slots:
             QVERIFY(!form.Calendar()->isVisible());
             QVERIFY(!form.button->isChecked());
         }
+        // On the calendar's own edge where it covers the button, as on a small screen.
+        form.Press(OnButton);
+        form.Calendar()->move(form.button->mapToGlobal(QPoint(0, 0)));
+        form.Press(form.button->geometry().topLeft() + QPoint(3, 3));
+        QVERIFY(form.Calendar()->isVisible());
     }
 
     /// Catches a button that only the mouse can open, and a state that does not follow.
     void ButtonByKeyboard()
     {
         ButtonForm form;
-        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Down}) {
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down}) {
             form.button->setFocus();
             QTest::keyClick(form.button, key);
             QVERIFY(form.Calendar()->isVisible());
@@ -847,6 +868,21 @@ private slots:
         QVERIFY(!m_victim);
         QTRY_VERIFY(!calendar);
         QVERIFY(!QApplication::activePopupWidget());
+    }
+
+    /// Catches a touch of the calendar after a slot that hears of the second change of a press, and deletes.
+    void DeletedWhenCheckedAgain()
+    {
+        ButtonForm form;
+        const QPointer<KvCalendarEx> calendar = form.Calendar();
+        form.Press(OnButton);
+        connect(form.button, &QPushButton::toggled, calendar, [&](bool checked) {
+            if (checked)
+                delete form.button;
+        });
+        form.Press(OnButton);
+        QVERIFY(!form.button);
+        QTRY_VERIFY(!calendar);
     }
 
     /// Catches a calendar that a slot of its closing opens again, and that comes up without its pages, or

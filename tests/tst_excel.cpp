@@ -22,6 +22,7 @@ class OpenExcelFunction : public AxExcelFunction
 {
 public:
     using AxExcelFunction::convertToColName;
+    using AxExcelFunction::ReadAll;
     using AxExcelFunction::ReadSheets;
     using AxExcelFunction::to26AlphatString;
 };
@@ -136,6 +137,9 @@ private Q_SLOTS:
         const QString failed = "Open excel file failed."_s;
         QTest::newRow("no application") << "Excel.Application" << false << Texts() << notFound;
         QTest::newRow("null application") << "Excel.Application" << true << quit << notFound;
+        const QString again = "Excel.Application again"_s; // it ends after the probe
+        QTest::newRow("application gone") << again << false << Probe() << failed;
+        QTest::newRow("application null") << again << true << Probe() + quit << failed;
         QTest::newRow("no workbooks") << "WorkBooks" << false << Start() + quit << failed;
         QTest::newRow("null workbooks") << "WorkBooks" << true << Start() + quit << failed;
         QTest::newRow("no workbook") << "ActiveWorkBook" << false << Create() + quit << failed;
@@ -222,6 +226,7 @@ private Q_SLOTS:
             return gone && again == (read.height() > 0) ? read : QSize();
         };
         QCOMPARE(size(QVariant()), QSize(0, 0));
+        QCOMPARE(OpenExcelFunction().ReadAll(), QVariant()); // of nothing
         QCOMPARE(size("x"_s), QSize(0, 0)); // one cell
         QCOMPARE(size(Rows({{1, 2}})), QSize(0, 0)); // a header only
         QCOMPARE(size(Rows({{1}, {1, 2, 3}, {1, 2}})), QSize(3, 3));
@@ -289,7 +294,8 @@ private Q_SLOTS:
         QCOMPARE(m_recording.calls.first(), "sheet.Range(const QString&)(A2147483647:B2147483648)"_s);
     }
 
-    // Catches the text of a merged cell written to the block, and a style that is lost under the merge.
+    // Catches the text of a merged cell written to the block, a style that is lost under the merge, and a
+    // merge that is said to be done although the application does not know the other corner.
     void WritesMergedCells()
     {
         AxExcelFunction excel;
@@ -303,6 +309,8 @@ private Q_SLOTS:
                 "sheet.Range(const QString&)(B1:D3)"_s, "range.ColumnWidth=18"_s}));
         QCOMPARE(calls.last(), "range.MergeCells=true"_s);
         QVERIFY(calls.filter("NumberFormat"_s).isEmpty());
+        m_recording.absent = {"Range(const QString&)(B1:A0)"_s};
+        QVERIFY(!excel.SetMergeCellValue(1, 2, 0, 1, "title"_s));
     }
 
     void AppliesStyles_data()
@@ -384,8 +392,9 @@ private Q_SLOTS:
         QVERIFY(OpenNew(excel));
         m_recording.absent = {"Interior"_s, "Font"_s};
         m_recording.null = {"Borders"_s};
+        excel.SetColumnWidth(0);
         QVERIFY(excel.SetMultiCellValue(1, 1, {{"x"_s}}));
-        QCOMPARE(m_recording.calls.filter(QRegularExpression("^(interior|borders|font)"_s)), Texts());
+        QCOMPARE(m_recording.calls.filter(QRegularExpression("^(interior|borders|font)|Width"_s)), Texts());
     }
 
     // Catches rows of a wrong length, and a batch that is written twice.

@@ -284,7 +284,9 @@ private Q_SLOTS:
         QCOMPARE(f.dialog->Filtered(&other), 1);
         f.dialog->show();
         QCOMPARE(f.dialog->geometry(), QRect(other.mapToGlobal(QPoint(700 - Width, 0)), QSize(Width, 350)));
-        delete f.dialog;
+        f.dialog->setParent(f.page); // as a part of it, no window of its own
+        f.dialog->show();
+        QCOMPARE(f.dialog->geometry(), QRect(500 - Width, 0, Width, Height));
     }
 
     void comesBackWithTheParent_data()
@@ -353,6 +355,18 @@ private Q_SLOTS:
             QVERIFY(f.dialog.isNull());
             QCoreApplication::processEvents();
         }
+    }
+
+    /// Catches a filter taken from a parent that is gone: the client keeps the panel when its page dies.
+    void outlivesItsParent()
+    {
+        auto* page = new QWidget;
+        auto* first = new QObject(page);
+        CFloatDialog dialog(page);
+        connect(first, &QObject::destroyed, &dialog, [&] { dialog.setParent(nullptr); });
+        delete page;
+        dialog.show();
+        QVERIFY(dialog.isVisible());
     }
 
     /// Catches calls that need a parent.
@@ -504,6 +518,9 @@ private Q_SLOTS:
         }
         QVERIFY(titleBars.at(0) != titleBars.at(1));
 
+        const QString black = f.dialog->styleSheet();
+        KvGUI::SetSkinVersion(QStringLiteral("None"));
+        QCOMPARE(f.dialog->styleSheet(), black);
         f.dialog->setStyleSheet(appended);
         KvGUI::SetSkinVersion(QStringLiteral("White"));
         QCOMPARE(f.dialog->styleSheet(), appended);

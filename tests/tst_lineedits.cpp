@@ -96,6 +96,10 @@ private slots:
         edit.setText(QStringLiteral("no")); // what the program sets may be wrong and can be mended
         edit.home(false);
         QCOMPARE(commit(QStringLiteral("7"), 0, 1), QStringLiteral("7o"));
+        edit.setInputMask(QStringLiteral("99-99")); // which puts in the hyphen
+        edit.setValidator(new QRegExpValidator(QRegExp(QStringLiteral("\\d*-\\d*")), &edit));
+        edit.setCursorPosition(0);
+        QCOMPARE(commit(QStringLiteral("1234")), QStringLiteral("12-34"));
     }
 
     /// Catches a mark that keeps the height of the edit's birth, and a text that begins under it.

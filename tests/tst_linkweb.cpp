@@ -9,6 +9,7 @@
 #include <QtTest>
 #include <QtWidgets>
 #include <functional>
+#include <utility>
 
 using namespace TestSupport;
 using UICommonMdl::CActiveXLinkWebCtrl;
@@ -38,7 +39,8 @@ struct Script
     QPointer<QWidget> widget; // an EventProbe
     WId window = 1; // the control says that this is its native window
     LINKWEB::ILinkWebAPI* listener = nullptr;
-    std::function<void()> onLoad;
+    std::function<void(const QString& member)> onCall;
+    bool headless = false; // makes controls without a widget
     bool deleted = false;
     int made = 0;
 
@@ -61,7 +63,7 @@ public:
     ScriptedControl(Script& script, QWidget* parent)
         : m_script(script)
     {
-        m_script.widget = new EventProbe(parent);
+        m_script.widget = script.headless ? nullptr : new EventProbe(parent);
         ++m_script.made;
     }
     ~ScriptedControl() override
@@ -82,9 +84,9 @@ public:
             const auto address = static_cast<quintptr>(arguments.value(0).toULongLong());
             // NOLINTNEXTLINE(performance-no-int-to-ptr): the interface passes the address as a number
             m_script.listener = reinterpret_cast<LINKWEB::ILinkWebAPI*>(address);
-        } else if (member == Load && m_script.onLoad) {
-            m_script.onLoad(); // may delete this control
         }
+        if (m_script.onCall)
+            m_script.onCall(member); // may delete this control
         return QVariant();
     }
     WId winId() const override { return m_script.window; }
@@ -249,16 +251,26 @@ private slots:
         }
     }
 
-    // Catches a control that is shown after a page that loads at once made the client delete the widget.
-    void WidgetDeletedWhileLoading()
+    // Catches a call of a control after one in which it called back and made the client delete the widget.
+    void WidgetDeletedInsideACall()
     {
-        Script script;
-        UseScriptedControls(script);
-        auto* web = new CActiveXLinkWebCtrl;
-        script.onLoad = [&] { delete web; };
-        web->SetUrl(Address);
-        QVERIFY(script.deleted);
-        QCOMPARE(script.calls.mid(script.calls.indexOf(Load) + 1), QStringList({AddListener, "clear"_s}));
+        for (const QString& call : {AddListener, Load, RunScript}) {
+            Script script;
+            UseScriptedControls(script);
+            auto* web = new CActiveXLinkWebCtrl;
+            web->show();
+            bool gone = false;
+            script.onCall = [&](const QString& member) {
+                if (member == call && !std::exchange(gone, true))
+                    delete web;
+            };
+            web->SetUrl(Address);
+            QResizeEvent resize(QSize(300, 200), QSize(100, 100)); // by hand: Qt goes on with what it resizes
+            if (call == RunScript)
+                QApplication::sendEvent(web, &resize);
+            QVERIFY(script.deleted);
+            QCOMPARE(script.calls.mid(script.calls.indexOf(call) + 1), QStringList({AddListener, "clear"_s}));
+        }
     }
 
     // Catches a control that does not follow the widget, a page that is not told, and a control that is moved
@@ -349,18 +361,21 @@ private slots:
         QVERIFY(!script.widget);
     }
 
-    // Catches calls on a control whose widget somebody else has deleted.
-    void ControlWidgetGoneFirst()
+    // Catches a touch of the widget of a control that has none, or whose widget somebody else has deleted.
+    void ControlWithoutAWidget()
     {
-        Script script;
-        UseScriptedControls(script);
-        CActiveXLinkWebCtrl web;
-        web.SetUrl(Address);
-        web.show();
-        delete script.widget;
-        web.resize(300, 200);
-        web.SetUrl(Address);
-        QCOMPARE(script.made, 1);
+        for (const bool atFirst : {true, false}) {
+            Script script;
+            script.headless = atFirst;
+            UseScriptedControls(script);
+            CActiveXLinkWebCtrl web;
+            web.SetUrl(Address);
+            web.show();
+            delete script.widget;
+            web.resize(300, 200);
+            web.SetUrl(Address);
+            QCOMPARE(script.made, 1);
+        }
     }
 
     // Catches a widget that cannot do without a provider, or never asks again.

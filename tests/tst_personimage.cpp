@@ -153,7 +153,7 @@ private slots:
         WmPersonImage panel;
         const auto caption = [&](int type) {
             panel.SetShowAvatarOrFaceLabel(true, type);
-            return Caption(panel)->text();
+            return panel.CaptionType() == type ? Caption(panel)->text() : QString();
         };
         QCOMPARE(caption(1), QStringLiteral("Avatar"));
         QCOMPARE(caption(2), QStringLiteral("Face1"));

@@ -134,9 +134,11 @@ private slots:
     /// Catches the whole module path where its first part belongs.
     void ModuleNamesTheFolder()
     {
-        QWidget widget;
+        SampleWidget widget;
         CommonFun::SetStyleSheet(&widget, kForms, kSample, "Client/Maps"_s);
         QCOMPARE(widget.styleSheet(), SheetOf("client.css"));
+        KvGUI::SetSkinVersion(kNight); // where the module has none, and the library's comes back
+        QCOMPARE(widget.styleSheet(), SheetOf("night.css"));
     }
 
     /// Catches a missing or empty sheet that clears the style, and a crash without a widget.

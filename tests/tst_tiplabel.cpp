@@ -115,6 +115,8 @@ private slots:
         const QRect small(0, 0, 160, 20);
         QCOMPARE(
             PlaceTip(QRect(40, 5, 20, 10), QSize(200, 26), wanted, small).bubble.topLeft(), small.topLeft());
+        const QRect atTheBottom(1800, 990, 80, 30); // without an arrow the bubble does not change sides
+        QCOMPARE(PlaceTip(atTheBottom, QSize(200, 26), CTipLabel::None, screen).side, CTipLabel::None);
     }
 
     /// Catches a bubble that is not where the placement says, shows another text, takes an anchor's parent
@@ -227,9 +229,10 @@ private slots:
 
     void WholeTextIsSeen_data()
     {
-        QTest::addColumn<int>("width");
+        TestSupport::Columns<int, int>("width", "letters"); // pixels
         for (const int width : {20, 185, 199, 210, 250, 290, 299, 305, 400, 560, 590, 800, 880})
-            QTest::newRow(qPrintable(QString::number(width))) << width;
+            QTest::newRow(qPrintable(QString::number(width))) << width << TextBox()->fontInfo().pixelSize();
+        QTest::newRow("higher than the line") << 185 << 28;
     }
 
     /// Catches a text that needs more lines than the bubble has room for: padding that was not measured, or a
@@ -237,6 +240,10 @@ private slots:
     void WholeTextIsSeen()
     {
         QFETCH(int, width);
+        QFETCH(int, letters);
+        QFont font = TextBox()->font();
+        font.setPixelSize(letters);
+        TextBox()->setFont(font);
         Anchored form;
         const QString text = TextOfWidth(width);
         CTipLabel::Instance()->ShowTip(text, form.anchor, CTipLabel::Left);

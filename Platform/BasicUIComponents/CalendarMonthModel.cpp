@@ -38,7 +38,7 @@ QDate CalendarMonthModel::Day(const QModelIndex& index) const
 
 QModelIndex CalendarMonthModel::IndexOf(const QDate& day) const
 {
-    if (!day.isValid() || MonthOf(day) != m_month)
+    if (MonthOf(day) != m_month)
         return {};
     const int cell = CellOfDay(day, m_locale.firstDayOfWeek());
     return index(cell / CalendarColumns, cell % CalendarColumns);

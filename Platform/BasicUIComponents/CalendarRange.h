@@ -6,13 +6,13 @@
 
 namespace KvGUI {
 
-/// A range of days, both ends belonging to it; without days when either end is invalid.
+/// A range of days, both ends belonging to it. Either both are valid or, in a range without days, none.
 struct DateRange
 {
     QDate start;
     QDate end;
 
-    bool IsValid() const { return start.isValid() && end.isValid(); }
+    bool IsValid() const { return start.isValid(); }
     bool Contains(const QDate& day) const { return IsValid() && start <= day && day <= end; }
     bool operator==(const DateRange& other) const { return start == other.start && end == other.end; }
 };

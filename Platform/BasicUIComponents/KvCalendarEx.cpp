@@ -119,7 +119,7 @@ void KvCalendarExPrivate::Pick(const QDate& day)
 void KvCalendarExPrivate::Hover(const QDate& day)
 {
     // Off the days, the range keeps its last shape; the keyboard may have made it.
-    if (!selection.IsChoosing() || !day.isValid() || day == selection.hover)
+    if (!selection.IsChoosing() || !day.isValid())
         return;
     selection.hover = day;
     ShowSelection();
@@ -137,12 +137,13 @@ void KvCalendarExPrivate::FollowTime(bool startChanged)
     if (!chosen.start.isValid())
         return;
     const Moments before = chosen;
-    if (startChanged)
+    if (startChanged) {
         chosen.start = LocalMoment(chosen.start.date(), startTime->time());
-    else
+        chosen.end = qMax(chosen.end, chosen.start);
+    } else {
         chosen.end = LocalMoment(chosen.end.date(), endTime->time());
-    if (chosen.end < chosen.start)
-        (startChanged ? chosen.end : chosen.start) = startChanged ? chosen.start : chosen.end;
+        chosen.start = qMin(chosen.start, chosen.end);
+    }
     ShowTimes();
     // The time edit is not through with its event, and a slot may delete it.
     QMetaObject::invokeMethod(

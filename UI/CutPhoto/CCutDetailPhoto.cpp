@@ -80,9 +80,7 @@ QImage CCutDetailPhoto::ChanageImageByAspectRatio(const QImage& image) const
 void CCutDetailPhoto::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
-    CropState& state = d_func()->state;
-    if (state.photo.width() == 0 || state.photo.height() == 0)
-        state.CalculationPhotoRect(size());
+    const CropState& state = d_func()->state;
     QPainter painter(this);
     painter.drawPixmap(state.photo.topLeft(), state.display);
     if (state.crop.width() != 0 && state.crop.height() != 0)
@@ -176,8 +174,6 @@ void CCutDetailPhoto::SetCrop(const QRect& crop)
 void CCutDetailPhoto::UpdateTipPos()
 {
     CComTipWiget* const tip = d_func()->tip;
-    if (tip == nullptr)
-        return;
     tip->raise();
     tip->move(CropFrame::TipPosition(rect(), d_func()->state.displaySize.height(), tip->width()));
 }

@@ -95,8 +95,6 @@ void CCutPhotoWithZoomPrivate::ShowTipText()
 
 void CCutPhotoWithZoomPrivate::UpdateTipPos()
 {
-    if (tip == nullptr)
-        return;
     tip->raise();
     tip->move(CropFrame::TipPosition(q->rect(), state.displaySize.height(), tip->width()));
 }
@@ -258,7 +256,7 @@ bool CCutPhotoWithZoomPrivate::PopupMenu()
         [] { return CCutPhotoWithZoom::tr("Human Body Image Search"); }, SkinFile("iconBody_n.png"),
         SLOT(OnHumanSearchPicture()));
     AddAction([] { return CCutPhotoWithZoom::tr("Cancel"); }, SkinFile("close.png"), SLOT(OnClose()));
-    return !menu->isEmpty() && menu->exec(QCursor::pos()) != nullptr;
+    return menu->exec(QCursor::pos()) != nullptr;
 }
 
 void CCutPhotoWithZoomPrivate::AddAction(
@@ -417,8 +415,6 @@ void CCutPhotoWithZoom::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
     CCutPhotoWithZoomPrivate* const d = d_func();
-    if (d->state.photo.width() == 0 || d->state.photo.height() == 0)
-        d->state.CalculationPhotoRect(size());
     QPainter painter(this);
     painter.drawPixmap(d->state.photo.topLeft(), d->state.display);
     if (!d->pressed)
@@ -443,7 +439,7 @@ void CCutPhotoWithZoom::mousePressEvent(QMouseEvent* event)
 void CCutPhotoWithZoom::mouseReleaseEvent(QMouseEvent* event)
 {
     QWidget::mousePressEvent(event); // as a press: the canvas treats both ends of a click alike
-    if (event->type() == QEvent::MouseButtonRelease && event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton)
         d_func()->FinishCrop();
 }
 

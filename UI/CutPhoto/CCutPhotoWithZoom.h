@@ -73,7 +73,7 @@ public:
     /// Replaces what GetCutPhoto() returns and what a cut is taken from; what is shown does not change.
     void SetCutImage(const CutImageInfo& info);
 
-    QColor BackgroundColor() const; ///< by the skin in use when the canvas was made
+    QColor BackgroundColor() const; ///< by the skin in use
     /// @}
 
     /// @name The choice and its limits

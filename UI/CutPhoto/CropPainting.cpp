@@ -64,7 +64,8 @@ void DrawDots(QPainter& painter, const QRect& canvas, const Side& side, int from
 }
 
 /// Draws what a pen of dots draws along @p frame, in a fraction of its time: the dots run on around the
-/// corners, and only one that bends around a corner, or ends with the last side, is left to a pen.
+/// corners, and only one that bends around a corner is left to a pen. None is cut off at the end: the way
+/// around has an even length, as have dots and gaps.
 void DrawDottedOutline(QPainter& painter, const QRect& canvas, const QRect& frame)
 {
     const QPoint past = CropFrame::SearchHandle(frame);
@@ -82,7 +83,7 @@ void DrawDottedOutline(QPainter& painter, const QRect& canvas, const QRect& fram
         DrawDots(painter, canvas, side, offset, offset + dots * DotPeriod);
         offset += dots * DotPeriod;
         if (offset < side.length) {
-            const int beyond = i + 1 < 4 ? offset + DotLength - side.length : 0;
+            const int beyond = offset + DotLength - side.length;
             const QPoint bend[] = {side.At(offset), side.At(side.length), sides[(i + 1) % 4].At(beyond)};
             painter.drawPolyline(bend, 3);
             offset += DotPeriod;

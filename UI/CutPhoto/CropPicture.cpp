@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QImageReader>
-#include <cmath>
 
 namespace UICommonMdl::CropPicture {
 
@@ -16,12 +15,7 @@ constexpr qint64 MaximumPixels = qint64(1) << 28;
 constexpr float MaximumCoordinate = 1 << 24; // exact as a float, and leaves room for adding two of them
 
 /// Towards zero; what no picture can have is cut off.
-int Truncated(float value)
-{
-    if (std::isnan(value))
-        return 0;
-    return static_cast<int>(qBound(-MaximumCoordinate, value, MaximumCoordinate));
-}
+int Truncated(float value) { return static_cast<int>(qBound(-MaximumCoordinate, value, MaximumCoordinate)); }
 
 int Scaled(qint64 value, float ratio) { return Truncated(static_cast<float>(value) * ratio); }
 
@@ -65,16 +59,9 @@ QImage ReadPicture(QIODevice& file)
     return image;
 }
 
-QRect PhotoRect(const QSize& widget, const QSize& display)
-{
-    const int x = display.width() < widget.width() ? (widget.width() - display.width()) / 2 : 0;
-    const int y = display.height() < widget.height() ? (widget.height() - display.height()) / 2 : 0;
-    return QRect(QPoint(x, y), display);
-}
-
 QRect FollowedCrop(const QRect& crop, const QRect& before, const QRect& now)
 {
-    if (before.width() == 0 || before.height() == 0)
+    if (before.isEmpty())
         return crop;
     const float xRatio = Ratio(now.width(), before.width());
     const float yRatio = Ratio(now.height(), before.height());

@@ -14,18 +14,13 @@ namespace {
 /// What the operator is told; empty where nothing is said.
 QString Message(CropPicture::Verdict verdict, const QSize& maximum)
 {
-    switch (verdict) {
-    case CropPicture::Verdict::NoArea:
+    if (verdict == CropPicture::Verdict::NoArea)
         return QCoreApplication::translate("UICommonMdl::CropState", "Please select a valid area to cut.");
-    case CropPicture::Verdict::TooManyPixels:
+    if (verdict == CropPicture::Verdict::TooManyPixels)
         return QCoreApplication::translate(
                    "UICommonMdl::CropState", "Picture size exceeds the upper limit of %1 * %2.")
             .arg(maximum.width(), 0, 10, QLatin1Char(' '))
             .arg(maximum.height(), 0, 10, QLatin1Char(' '));
-    case CropPicture::Verdict::Valid:
-    case CropPicture::Verdict::TooManyBytes:
-        break;
-    }
     return QString();
 }
 
@@ -46,13 +41,13 @@ void CropState::ShowSource(const QImage& image, const QWidget& canvas)
     cutInfo.bHasImage = true;
     display = CropPainting::Stretched(image, canvas.size(), canvas.devicePixelRatioF());
     displaySize = display.isNull() ? QSize(0, 0) : canvas.size();
-    CalculationPhotoRect(canvas.size());
+    CalculationPhotoRect();
 }
 
-void CropState::CalculationPhotoRect(const QSize& widget)
+void CropState::CalculationPhotoRect()
 {
     if (!displaySize.isEmpty())
-        photo = CropPicture::PhotoRect(widget, displaySize);
+        photo = QRect(QPoint(0, 0), displaySize);
 }
 
 bool CropState::Covers(const QWidget& canvas) const

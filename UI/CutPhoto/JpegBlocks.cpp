@@ -32,8 +32,6 @@ bool JpegBlocks::CanCount(const JpegTables& tables) const
         return std::equal(
             one.divisors.begin(), one.divisors.end(), other.divisors.begin(), std::greater_equal<>());
     };
-    if (tables.colored != m_colored)
-        return false;
     return !m_tables
         || (coarser(tables.luminance, m_tables->luminance)
             && coarser(tables.chrominance, m_tables->chrominance));

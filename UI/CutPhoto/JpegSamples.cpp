@@ -99,12 +99,12 @@ void JpegSamples::ConvertBand(int top)
         Halve(top);
 }
 
-/// Row @p row as 32-bit pixels, valid until the next call.
+/// Row @p row as 32-bit pixels, valid until the next call, which must not ask for a row above it.
 const QRgb* JpegSamples::Pixels(int row)
 {
     if (m_direct)
         return reinterpret_cast<const QRgb*>(m_image.constScanLine(row));
-    if (m_strip.isNull() || row < m_stripTop || row >= m_stripTop + m_strip.height()) {
+    if (row >= m_stripTop + m_strip.height()) {
         m_stripTop = row;
         m_strip = m_image.copy(0, row, m_image.width(), qMin(BandRows, m_image.height() - row));
         // The encoder takes the upper 8 of 16 bits of grey, which is not how they become colours.

@@ -128,18 +128,16 @@ bool Reader::ReadFrame(int from, int to)
         return false;
     if (m_components == 1)
         return true; // whatever its sampling, blocks follow each other
-    if (m_components != 3)
-        return false;
     // Each has a number, its sampling factors as two half bytes, and its quantisation table.
     const int first = from + ComponentsAt + 1;
-    return Word(first + 1) == 0x2200 && Word(first + 1 + ComponentBytes) == 0x1101
+    return m_components == 3 && Word(first + 1) == 0x2200 && Word(first + 1 + ComponentBytes) == 0x1101
         && Word(first + 1 + 2 * ComponentBytes) == 0x1101;
 }
 
 bool Reader::ReadScan(int from, int to) const
 {
     constexpr int ComponentBytes = 2;
-    if (m_components == 0 || Byte(from) != m_components || to - from != 4 + ComponentBytes * m_components)
+    if (Byte(from) != m_components || to - from != 4 + ComponentBytes * m_components)
         return false;
     // Luminance uses the Huffman tables 0, chrominance the tables 1.
     if (Byte(from + 2) != 0)

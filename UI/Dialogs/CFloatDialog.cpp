@@ -140,10 +140,7 @@ bool CFloatDialog::event(QEvent* event)
 
 bool CFloatDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    const QWidget* parent = parentWidget();
-    if (parent == nullptr)
-        return false;
-    if (watched == parent || watched == parent->parentWidget())
+    if (watched == m_watched.value(0) || watched == m_watched.value(1))
         FollowParent(*event);
     if (event->type() == QEvent::Move)
         UpdatePos();

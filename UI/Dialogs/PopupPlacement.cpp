@@ -36,24 +36,26 @@ int NearestScreen(const QPoint& point, const QVector<ScreenArea>& screens)
     return nearest;
 }
 
-} // namespace
-
-QPoint CentredAbove(const QRect& anchor, const QSize& popup)
-{
-    return {anchor.left() + (anchor.width() - popup.width()) / 2, anchor.top() - popup.height()};
-}
-
+/// @p point when it lies in the available area of any monitor, of which there has to be one. Else the point
+/// of the nearest monitor's available area that is nearest to it.
 QPoint AvailablePoint(const QPoint& point, const QVector<ScreenArea>& screens)
 {
     const bool onScreen = std::any_of(screens.begin(), screens.end(), [&](const ScreenArea& screen) {
         return screen.available.contains(point);
     });
-    if (screens.isEmpty() || onScreen)
+    if (onScreen)
         return point;
     const QRect area = screens.at(NearestScreen(point, screens)).available;
     return {
         std::min(std::max(area.left(), point.x()), area.right()),
         std::min(std::max(area.top(), point.y()), area.bottom())};
+}
+
+} // namespace
+
+QPoint CentredAbove(const QRect& anchor, const QSize& popup)
+{
+    return {anchor.left() + (anchor.width() - popup.width()) / 2, anchor.top() - popup.height()};
 }
 
 int ScreenHolding(const QRect& widget, const QVector<ScreenArea>& screens)

@@ -19,17 +19,15 @@ struct ScreenArea
 /// on no monitor.
 QPoint CentredAbove(const QRect& anchor, const QSize& popup);
 
-/// @p point when it lies in the available area of any monitor. Else the point of the nearest monitor's
-/// available area that is nearest to it; without monitors @p point itself.
-QPoint AvailablePoint(const QPoint& point, const QVector<ScreenArea>& screens);
-
 /// Index of the monitor that shows most of @p widget, of equals the first; the one nearest to its centre
 /// when none shows any of it; -1 without monitors.
 int ScreenHolding(const QRect& widget, const QVector<ScreenArea>& screens);
 
-/// @p popup with its top left corner moved to AvailablePoint() and then left and up, so that it ends at
-/// least a pixel before the right and the lower edge of the monitor that holds @p widget. Only the corner
-/// is a place for the popup: the far edges stay behind, so the rectangle may have grown.
+/// @p popup with its top left corner moved to the nearest available area, unless it lies in one, and then
+/// left and up, so that it ends at least a pixel before the right and the lower edge of the monitor that
+/// holds
+/// @p widget; @p popup itself without monitors. Only the corner is a place for the popup: the far edges stay
+/// behind, so the rectangle may have grown.
 QRect AvailableGeometry(const QRect& popup, const QRect& widget, const QVector<ScreenArea>& screens);
 
 } // namespace UICommonMdl::PopupPlacement

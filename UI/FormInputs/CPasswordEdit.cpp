@@ -52,8 +52,6 @@ bool CPasswordEdit::eventFilter(QObject* watched, QEvent* event)
 void CPasswordEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu* menu = createStandardContextMenu();
-    if (!menu)
-        return;
     if (QAction* paste = PasteAction(menu))
         paste->setEnabled(false);
     menu->setAttribute(Qt::WA_DeleteOnClose);

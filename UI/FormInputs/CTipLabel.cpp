@@ -14,7 +14,6 @@
 #include <QTextEdit>
 #include <QTextFrame>
 #include <QTextLayout>
-#include <QTimerEvent>
 #include <QWindow>
 #include <cmath>
 
@@ -240,12 +239,8 @@ void CTipLabel::SetDisplayTime(int milliseconds)
 
 void CTipLabel::OnFadeOutFinished() { HideTip(); }
 
-void CTipLabel::timerEvent(QTimerEvent* event)
+void CTipLabel::timerEvent(QTimerEvent*)
 {
-    if (event->timerId() != m_hideTimer.timerId()) {
-        QWidget::timerEvent(event);
-        return;
-    }
     m_hideTimer.stop();
     m_pFadeIn->stop();
     m_pFadeOut->start();

@@ -101,7 +101,7 @@ QString KvLineEditWithDirButton::AskForPath()
 {
     const QPointer<QFileDialog> dialog(MakeDialog());
     const bool accepted = dialog->exec() == QDialog::Accepted;
-    QString path = accepted && dialog ? dialog->selectedFiles().value(0) : QString();
+    QString path = accepted ? dialog->selectedFiles().value(0) : QString(); // an accepted one lives
     delete dialog;
     return path;
 }

@@ -8,7 +8,6 @@
 #include <QPointer>
 #include <QStyle>
 #include <UI/FormInputs/QIpPartLineEdit.h>
-#include <algorithm>
 
 namespace UICommonMdl {
 
@@ -190,8 +189,7 @@ void QIpAddrEdit::texteditedslot(const QString&)
 
 bool QIpAddrEdit::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool focusEvent = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
-    if (focusEvent && std::find(m_octets.begin(), m_octets.end(), watched) != m_octets.end()) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
         m_bNotice = event->type() == QEvent::FocusIn;
         RefreshStyle();
     }

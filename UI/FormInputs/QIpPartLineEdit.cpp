@@ -65,8 +65,6 @@ void QIpPartLineEdit::keyPressEvent(QKeyEvent* event)
 void QIpPartLineEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu* menu = createStandardContextMenu();
-    if (!menu)
-        return;
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (QAction* paste = PasteAction(menu)) {
         paste->disconnect(this);

@@ -89,7 +89,7 @@ TipPlacement
 PlaceTip(const QRect& anchor, const QSize& body, CTipLabel::DisplayPosition side, const QRect& screen)
 {
     QRect wanted = WantedRect(anchor, body, side);
-    if (side != CTipLabel::None && !HasRoom(wanted, side, screen)) {
+    if (!HasRoom(wanted, side, screen)) {
         const QRect other = WantedRect(anchor, body, Opposite(side));
         if (HasRoom(other, Opposite(side), screen)) {
             wanted = other;

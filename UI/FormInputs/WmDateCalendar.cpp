@@ -110,10 +110,9 @@ void WmDateCalendar::keyPressEvent(QKeyEvent* event)
         QPushButton::keyPressEvent(event);
 }
 
-bool WmDateCalendar::eventFilter(QObject* watched, QEvent* event)
+/// @param watched the calendar
+bool WmDateCalendar::eventFilter(QObject* /*watched*/, QEvent* event)
 {
-    if (watched != m_pCalendar)
-        return QPushButton::eventFilter(watched, event);
     if (event->type() == QEvent::Hide)
         UncheckAtHide();
     if (event->type() != QEvent::MouseButtonPress)

@@ -159,17 +159,12 @@ bool AxExcelFunction::OpenExcel(const QString& path, bool bCreate)
 /// Makes room for a new file, or looks whether the file is there.
 bool AxExcelFunction::IsFileReady(const QString& path, bool create)
 {
-    const bool exists = QFile::exists(path);
-    if (!create) {
-        if (!exists)
-            m_iErrorCode = NoSuchFile;
-        return exists;
-    }
-    if (exists && !QFile::remove(path) && QFile::exists(path)) {
-        m_iErrorCode = OpenFailed;
-        return false;
-    }
-    return true;
+    if (create && QFile::exists(path))
+        QFile::remove(path);
+    if (QFile::exists(path) != create)
+        return true;
+    m_iErrorCode = create ? OpenFailed : NoSuchFile;
+    return false;
 }
 
 bool AxExcelFunction::StartApplication()
@@ -182,7 +177,9 @@ bool AxExcelFunction::StartApplication()
     m_pApplication->dynamicCall(QStringLiteral("SetVisible(bool)"), {false});
     m_pApplication->setProperty(QStringLiteral("DisplayAlerts"), false);
     m_pWorkBooks = m_pApplication->querySubObject(QStringLiteral("WorkBooks"));
-    return !IsMissing(m_pWorkBooks) || FailToOpen();
+    if (IsMissing(m_pWorkBooks))
+        return FailToOpen();
+    return true;
 }
 
 bool AxExcelFunction::OpenWorkbook(const QString& path)
@@ -194,7 +191,9 @@ bool AxExcelFunction::OpenWorkbook(const QString& path)
         m_pWorkBook = m_pWorkBooks->querySubObject(
             QStringLiteral("Open(const QString &)"), {QDir::toNativeSeparators(path)});
     }
-    return !IsMissing(m_pWorkBook) || FailToOpen();
+    if (IsMissing(m_pWorkBook))
+        return FailToOpen();
+    return true;
 }
 
 bool AxExcelFunction::OpenFirstSheet()
@@ -221,9 +220,8 @@ bool AxExcelFunction::FailToOpen()
 
 void AxExcelFunction::FreeExcel()
 {
-    if (m_pApplication) {
-        if (m_pWorkBook)
-            CloseWithoutSaving(*m_pWorkBook);
+    if (IsOpenExcel()) {
+        CloseWithoutSaving(*m_pWorkBook);
         m_pApplication->dynamicCall(QStringLiteral("Quit()"));
     }
     ForgetWorkbook();
@@ -243,13 +241,11 @@ void AxExcelFunction::ForgetWorkbook()
 
 bool AxExcelFunction::SaveExcel()
 {
-    if (!m_pApplication || !m_pWorkBook || !m_bWrite)
+    if (!IsOpenExcel() || !m_bWrite)
         return false;
-    QVariant result;
-    if (m_eVersion == AxExcel_Xls)
-        result = SaveAs(*m_pWorkBook, WorkbookPath::ForXlsOnly(m_strFilePath));
-    else if (m_eVersion == AxExcel_Xlsx)
-        result = SaveBySuffix(*m_pWorkBook, m_strFilePath);
+    const QVariant result = m_eVersion == AxExcel_Xls
+        ? SaveAs(*m_pWorkBook, WorkbookPath::ForXlsOnly(m_strFilePath))
+        : SaveBySuffix(*m_pWorkBook, m_strFilePath);
     return result.toBool();
 }
 
@@ -409,7 +405,7 @@ void AxExcelFunction::GetRowValue(int row, QStringList& out)
         return;
     out.reserve(cells->size());
     for (const QVariant& cell : *cells)
-        out << (cell.isValid() && !cell.isNull() ? cell.toString() : QString());
+        out << (cell.isNull() ? QString() : cell.toString());
 }
 
 QString AxExcelFunction::GetCellValue(int row, int column)

@@ -73,7 +73,7 @@ std::unique_ptr<Automation::AutomationObject>
 RecordedObject::querySubObject(const QString& member, const QVariantList& arguments)
 {
     Note(member + (arguments.isEmpty() ? QString() : Texts(arguments)));
-    if (m_recording.absent.contains(member))
+    if (m_recording.absent.contains(member) || m_recording.absent.contains(member + Texts(arguments)))
         return nullptr;
     return std::make_unique<RecordedObject>(NameOf(member), m_recording.null.contains(member), m_recording);
 }
@@ -94,10 +94,12 @@ void RecordedObject::Provide(Recording& recording)
 {
     Automation::AutomationRegistry::SetObjectFactory(
         Application, [&recording]() -> std::unique_ptr<AutomationObject> {
-            if (recording.absent.contains(Application))
+            const bool probed = recording.calls.contains(QStringLiteral("app.Quit(void)()"));
+            const QString step = probed ? Application + QStringLiteral(" again") : Application;
+            if (recording.absent.contains(step))
                 return nullptr;
             return std::make_unique<RecordedObject>(
-                QStringLiteral("app"), recording.null.contains(Application), recording);
+                QStringLiteral("app"), recording.null.contains(step), recording);
         });
 }
 

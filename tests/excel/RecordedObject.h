@@ -10,8 +10,10 @@
 struct Recording
 {
     QStringList calls; ///< one line a call, such as "book.Close (Boolean)(false)" or "font.Bold=true"
-    QSet<QString> absent; ///< sub-objects that do not exist, by member
-    QSet<QString> null; ///< sub-objects that are bound to nothing, by member; also "Excel.Application"
+    /// Sub-objects that do not exist, by member; also "Excel.Application", and "Excel.Application again" for
+    /// the one after the probe. With arguments, as in "WorkSheets(int)(1)", only those.
+    QSet<QString> absent;
+    QSet<QString> null; ///< the same of those that are bound to nothing
     QHash<QString, QVariant> answers; ///< of calls and of properties that are read, by member
     QVariantList blocks; ///< what SetValue got
     int living = 0; ///< recorded objects that have not been deleted
