@@ -110,7 +110,7 @@ void WmDateCalendar::keyPressEvent(QKeyEvent* event)
         QPushButton::keyPressEvent(event);
 }
 
-/// @param watched the calendar
+/// Of the calendar, the only one that is watched.
 bool WmDateCalendar::eventFilter(QObject* /*watched*/, QEvent* event)
 {
     if (event->type() == QEvent::Hide)
