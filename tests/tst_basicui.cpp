@@ -190,24 +190,6 @@ private slots:
         QTRY_COMPARE(label->text(), title);
     }
 
-    /// Catches a dialog that its modal loop does not end, and one that ends as accepted.
-    void ClosingRejects()
-    {
-        for (const bool byKey : {false, true}) {
-            KvDialog dialog;
-            QSignalSpy rejected(&dialog, &QDialog::rejected);
-            const int result = ExecAnd(&dialog, [&] {
-                if (byKey)
-                    QTest::keyClick(&dialog, Qt::Key_Escape);
-                else
-                    ClickOn(Part(dialog, "kvDialogCloseButton"));
-            });
-            QCOMPARE(result, int(QDialog::Rejected));
-            QCOMPARE(rejected.count(), 1);
-            QVERIFY(!dialog.isVisible());
-        }
-    }
-
     /// Catches signals that Qt's dialogs have not, in another order, or with the result of before.
     void EndsAsQtsDialogsDo()
     {
@@ -595,16 +577,6 @@ private slots:
         QVERIFY(Messages().at(1)->y() <= Messages().at(0)->geometry().bottom() + 20);
     }
 
-    /// Catches messages that stay behind when the window is dragged away.
-    void MessagesFollowTheirWindow()
-    {
-        Window window({10, 10, 300, 200});
-        Notify("Saved", &window);
-        const QPoint before = Messages().at(0)->pos();
-        window.move(window.pos() + QPoint(200, 150));
-        QTRY_COMPARE(Messages().at(0)->pos(), before + QPoint(200, 150));
-    }
-
     /// Catches a message that goes while it is read.
     void PointerKeepsAMessage()
     {
@@ -718,11 +690,15 @@ private slots:
         QCOMPARE(Messages().size(), 0);
     }
 
-    /// Catches messages that outlive their window or touch it on the way out, whatever goes first.
+    /// Catches messages that stay behind when the window is dragged away, outlive it, or touch it on the way
+    /// out, whatever goes first.
     void MessagesGoWithTheirWindow()
     {
-        auto* window = new Window;
+        auto* window = new Window({10, 10, 300, 200});
         Notify("a", window);
+        const QPoint before = Messages().at(0)->pos();
+        window->move(window->pos() + QPoint(200, 150));
+        QTRY_COMPARE(Messages().at(0)->pos(), before + QPoint(200, 150));
         Notify("b", window);
         Notify("c", window);
         delete Messages().at(1); // as a client could that looks through the windows

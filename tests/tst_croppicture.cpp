@@ -119,13 +119,6 @@ QImage WithDetails(QImage image)
     return image;
 }
 
-QImage GreyPalette(const QImage& image)
-{
-    QImage indexed = image.convertToFormat(QImage::Format_Grayscale8);
-    indexed = indexed.convertToFormat(QImage::Format_Indexed8);
-    return indexed;
-}
-
 QImage Translucent(const QImage& image, QImage::Format format)
 {
     QImage result = image.convertToFormat(QImage::Format_ARGB32);
@@ -236,14 +229,9 @@ private slots:
     // where nothing was measured.
     void LimitsAreChecked_data()
     {
-        QTest::addColumn<QSize>("crop"); // on a photo shown at half its size of 400 x 300
-        QTest::addColumn<int>("capacity");
-        QTest::addColumn<QSize>("maximum");
-        QTest::addColumn<bool>("keep");
-        QTest::addColumn<int>("verdict");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<int>("ratio"); // -2 for not measured
-
+        // On a photo shown at half its size of 400 x 300; a ratio of -2 for not measured.
+        TestSupport::Columns<QSize, int, QSize, bool, int, QSize, int>(
+            "crop", "capacity", "maximum", "keep", "verdict", "size", "ratio");
         const int valid = int(CropPicture::Verdict::Valid);
         const int noArea = int(CropPicture::Verdict::NoArea);
         const int pixels = int(CropPicture::Verdict::TooManyPixels);
@@ -285,20 +273,6 @@ private slots:
         QTEST(int(cut.verdict), "verdict");
         QTEST(cut.image.size(), "size");
         QTEST(cut.compressRatio.value_or(-2), "ratio");
-    }
-
-    // Catches a resize that was "tidied": the bottom edge lags one event behind, the left edge stays.
-    void ResizingKeepsToItsSteps()
-    {
-        const QPoint anchor = CropFrame::Anchor(QRect(50, 60, 100, 60));
-        QCOMPARE(anchor, QPoint(50, 120));
-        const QRect first = CropFrame::ResizedTo(QPoint(160, 50), QRect(50, 60, 100, 60), anchor);
-        QCOMPARE(first, QRect(50, 50, 111, 61));
-        const QRect second = CropFrame::ResizedTo(QPoint(160, 50), first, anchor);
-        QCOMPARE(second, QRect(50, 50, 111, 71));
-        QVERIFY(CropFrame::CanResizeTo(QPoint(70, 100), QRect(50, 60, 100, 60)));
-        QVERIFY(!CropFrame::CanResizeTo(QPoint(69, 100), QRect(50, 60, 100, 60)));
-        QVERIFY(!CropFrame::CanResizeTo(QPoint(70, 101), QRect(50, 60, 100, 60)));
     }
 
     // Catches the frame's corners taken where the photo's count, and another order of the tests.
@@ -398,7 +372,8 @@ private slots:
         for (const QImage::Format format : formats)
             QTest::addRow("format %d", format) << scene.convertToFormat(format);
         QTest::newRow("translucent 64 bits") << Translucent(scene, QImage::Format_RGBA64);
-        QTest::newRow("grey palette") << GreyPalette(scene);
+        QTest::newRow("grey palette")
+            << scene.convertToFormat(QImage::Format_Grayscale8).convertToFormat(QImage::Format_Indexed8);
     }
 
     void JpegFittingEqualsThePlainLoop()

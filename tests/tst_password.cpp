@@ -85,14 +85,18 @@ private slots:
         QCOMPARE(QGuiApplication::clipboard()->text(), Copied);
     }
 
-    /// Catches a password pasted by the menu, and a menu that lost its other entries.
+    /// Catches a password pasted by the menu, a menu that lost its other entries, and one that takes from the
+    /// user what the clipboard holds: more than the text, which could be given back.
     void MenuOffersNoPaste()
     {
         CPasswordEdit edit;
         edit.setText(QStringLiteral("abc"));
         edit.show();
         QVERIFY(QTest::qWaitForWindowExposed(&edit));
-        QGuiApplication::clipboard()->setText(Copied);
+        auto* content = new QMimeData;
+        content->setText(Copied);
+        content->setImageData(QImage(3, 2, QImage::Format_RGB32));
+        QGuiApplication::clipboard()->setMimeData(content);
         QPointer<QMenu> menu(OpenMenu(edit));
         QVERIFY(menu);
         QTest::keyClick(menu, Qt::Key_P);
@@ -103,44 +107,8 @@ private slots:
         }));
         menu->close();
         QTRY_VERIFY(!menu);
-    }
-
-    void MenuLeavesTheClipboard_data()
-    {
-        QTest::addColumn<QString>("format");
-        QTest::newRow("text") << QStringLiteral("text/plain");
-        QTest::newRow("rich text") << QStringLiteral("text/html");
-        QTest::newRow("files") << QStringLiteral("text/uri-list");
-        QTest::newRow("a program's own") << QStringLiteral("application/x-camera-list");
-        QTest::newRow("picture") << QStringLiteral("image/png");
-    }
-
-    /// Catches a menu that takes text, pictures or files from the user.
-    void MenuLeavesTheClipboard()
-    {
-        QFETCH(QString, format);
-        auto* content = new QMimeData;
-        if (format == QLatin1String("image/png")) {
-            QImage picture(3, 2, QImage::Format_RGB32);
-            picture.fill(Qt::red);
-            content->setImageData(picture);
-        } else {
-            content->setData(format, QByteArrayLiteral("file:///tmp/a\r\n"));
-        }
-        QClipboard* clipboard = QGuiApplication::clipboard();
-        clipboard->setMimeData(content);
-        CPasswordEdit edit;
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
-        const QByteArray before = clipboard->mimeData()->data(format);
-        QVERIFY(!before.isEmpty() || clipboard->mimeData()->hasImage());
-        const QPointer<QMenu> menu(OpenMenu(edit));
-        QVERIFY(menu);
-        QTest::keyClick(menu, Qt::Key_Escape);
-        QTRY_VERIFY(!menu);
-        QCOMPARE(clipboard->mimeData()->data(format), before);
-        if (format == QLatin1String("image/png"))
-            QCOMPARE(clipboard->image().size(), QSize(3, 2));
+        QCOMPARE(QGuiApplication::clipboard()->text(), Copied);
+        QCOMPARE(QGuiApplication::clipboard()->image().size(), QSize(3, 2));
     }
 
     /// Catches a resource tree without the place at which the edit looks for its sheet, in either skin.

@@ -126,25 +126,19 @@ private slots:
         QCOMPARE(Caption(panel)->geometry(), QRect(1, 0, 98, 20));
     }
 
-    /// Catches buttons that keep the place of the old size.
-    void LayoutFollowsTheSize()
-    {
-        WmPersonImage panel;
-        panel.show();
-        panel.resize(203, 151);
-        QTRY_COMPARE(Button(panel, "m_btnPhotoDelete")->geometry(), QRect(1, 131, 201, 20));
-        QCOMPARE(Button(panel, "m_btnTurnPage")->geometry(), QRect(152, 0, 50, 20));
-    }
-
-    /// Catches sizes below zero, of which Qt warns.
+    /// Catches sizes below zero, of which Qt warns, and buttons that keep the place of the old size.
     void TinyPanels()
     {
         WmPersonImage panel;
+        panel.show();
         for (const QSize& size : {QSize(1, 1), QSize(0, 0), QSize(3, 5)}) {
             panel.resize(size);
             panel.SetButtonSize();
             QVERIFY(Button(panel, "m_btnUpLoad")->width() >= 0);
         }
+        panel.resize(203, 151);
+        QCOMPARE(Button(panel, "m_btnPhotoDelete")->geometry(), QRect(1, 131, 201, 20));
+        QCOMPARE(Button(panel, "m_btnTurnPage")->geometry(), QRect(152, 0, 50, 20));
     }
 
     /// Catches the type's number in place of the face's.

@@ -242,24 +242,6 @@ private slots:
         QCOMPARE(page.Cut()->image.pixelColor(150, 100), QColor(Qt::blue));
     }
 
-    /// Catches a picture in memory that the dialog's layout takes away.
-    void DroppedPictureIsCropped()
-    {
-        QImage red(320, 240, QImage::Format_RGB32);
-        red.fill(Qt::red);
-        PhotoPage page{QString()};
-        Show(page);
-        DropPicture(page, red);
-        TestSupport::AnnounceCropCanvases();
-        WhenOpen(page, [](QDialog& dialog) {
-            DragOver(Canvas(dialog), QPoint(30, 30), QPoint(150, 120));
-            QTest::keyClick(&dialog, Qt::Key_Return);
-        });
-        page.CropWithZoom();
-        QVERIFY(page.Cut().has_value());
-        QCOMPARE(page.Cut()->image.pixelColor(5, 5), QColor(Qt::red));
-    }
-
     /// Catches a file that is no picture and takes the photo's place, or that nobody is told of.
     void UnreadableFileIsTold()
     {
@@ -381,23 +363,16 @@ private slots:
         QVERIFY(RecordPage(folder).Record().pictures.at(PersonRecord::Avatar).isEmpty());
     }
 
-    /// Catches a record without a name that is written.
-    void RecordNeedsAName()
+    /// Catches a record without a name that is written, and one that is said to be saved although its file
+    /// cannot be one.
+    void UnwrittenRecordIsTold()
     {
-        const QString folder = m_folder.filePath(QStringLiteral("nameless"));
+        const QString folder = m_folder.filePath(QStringLiteral("unwritten"));
         RecordPage page(folder);
         Show(page);
         QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
         QVERIFY(!QFileInfo::exists(folder + QLatin1String("/person.ini")));
-    }
-
-    /// Catches a record that is said to be saved although its file cannot be one.
-    void UnwrittenRecordIsTold()
-    {
-        const QString folder = m_folder.filePath(QStringLiteral("unwritten"));
         QVERIFY(QDir(folder).mkpath(QStringLiteral("person.ini")));
-        RecordPage page(folder);
-        Show(page);
         page.findChild<QLineEdit*>()->setText(QStringLiteral("Ada Vermeer"));
         QTest::mouseClick(ButtonOf(page, QStringLiteral("Save the record")), Qt::LeftButton);
         QVERIFY(IsTold(QStringLiteral("cannot be written")));

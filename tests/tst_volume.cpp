@@ -1,5 +1,6 @@
 // The volume button and its panel, by mouse and keyboard as the window system delivers them.
 
+#include "support/AtEvent.h"
 #include "support/Columns.h"
 #include "support/Deletion.h"
 #include "support/ShowActive.h"
@@ -75,21 +76,6 @@ void Key(Qt::Key key)
     if (window)
         QTest::keyRelease(window, key);
 }
-
-/// Notes whether a closing pop-up lets Qt give on the press that closes it.
-class HideWatcher : public QObject
-{
-public:
-    bool m_bReplay = false;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Hide)
-            m_bReplay = !static_cast<QWidget*>(watched)->testAttribute(Qt::WA_NoMouseReplay);
-        return false;
-    }
-};
 
 ScreenArea Monitor(const QRect& full) { return {full, full}; }
 
@@ -265,13 +251,14 @@ private Q_SLOTS:
     void pressElsewhereIsGivenOn()
     {
         Fixture f;
-        HideWatcher watcher;
-        f.Panel()->installEventFilter(&watcher);
         for (const QPoint& pos : {OnButton, OnOther, OnButton, OnOther}) {
             f.Click(OnButton);
+            bool replays = false; // whether the closing panel lets Qt give on the press
+            const TestSupport::AtEvent hide(
+                f.Panel(), QEvent::Hide, [&] { replays = !f.Panel()->testAttribute(Qt::WA_NoMouseReplay); });
             f.Click(pos);
             QVERIFY(!f.Panel()->isVisible());
-            QCOMPARE(watcher.m_bReplay, pos == OnOther);
+            QCOMPARE(replays, pos == OnOther);
         }
     }
 
