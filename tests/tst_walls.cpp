@@ -131,6 +131,15 @@ struct Action
     std::function<void(Fixture&)> act;
 };
 
+/// As a slot does that opens a dialog, while which @p change comes: what is deleted for later goes in it.
+void InADialog(const std::function<void()>& change)
+{
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, change);
+    QTimer::singleShot(5, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 /// What a client does to a wall with a window at the wrong moment.
 const QVector<Action> Changes = {
     {"a video goes", [](Fixture& f) { f.wall->DeleteWindowWidget(0, 0); }},
@@ -147,11 +156,14 @@ const QVector<Action> Changes = {
     {"the wall goes by its mode",
      [](Fixture& f) { f.wall->SetShowMode(f.display ? Wall::NormalMode : Wall::DisplayMode); }},
     {"the operate wall goes", [](Fixture& f) { delete f.wall; }},
+    {"all screens go in a dialog", [](Fixture& f) { InADialog([&f] { f.wall->DeleteAllScreen(); }); }},
+    {"the operate wall goes in a dialog", [](Fixture& f) { InADialog([&f] { delete f.wall; }); }},
 };
 constexpr int FirstOfWindows = 1;
 constexpr int FirstOfScreens = 3;
 constexpr int FirstThatAdds = 4;
 constexpr int FirstOfWalls = 5;
+constexpr int ScreensInADialog = 7;
 
 void DragOver(Fixture& f, const QPoint& at)
 {
@@ -201,6 +213,27 @@ const QVector<Action> Occasions = {
      }},
 };
 constexpr int DisplayOccasions = 2; // the last ones; the normal family does not report them
+
+/// What ends a drag of the left button without its release.
+const QVector<Action> Ends = {
+    {"Escape", [](Fixture& f) { QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape); }},
+    {"a release elsewhere",
+     [](Fixture& f) {
+         f.mouse.LoseRelease(OnEmpty);
+         f.mouse.Move(QPoint(150, 90)); // over the window that was dragged
+     }},
+    {"disabling",
+     [](Fixture& f) {
+         f.wall->setEnabled(false);
+         f.wall->setEnabled(true);
+     }},
+    {"hiding",
+     [](Fixture& f) {
+         f.client.hide();
+         f.client.show();
+         QVERIFY(QTest::qWaitForWindowExposed(&f.client));
+     }},
+};
 
 /// Calls @p slot for whatever the wall emits.
 void ConnectAll(Wall* wall, const std::function<void()>& slot)
@@ -380,12 +413,14 @@ private Q_SLOTS:
         QCOMPARE(f.Scale(0), start);
     }
 
-    // Catches a double-click whose two clicks report selections of their own.
+    // Catches a double-click of another button, and one whose two clicks report selections of their own.
     void doubleClick()
     {
         for (const bool editable : {true, false}) {
             Fixture f({editable ? LeftUpper : Fixed});
             const QSignalSpy doubleClicked(f.wall.data(), &Wall::SignalWindowDoubleClicked);
+            f.mouse.DoubleClick(f.OnVideo(0), Qt::RightButton);
+            QCOMPARE(f.Scale(0), editable ? LeftUpper : Fixed);
             f.mouse.DoubleClick(f.OnVideo(0));
             QCOMPARE(f.Scale(0), editable ? Whole : Fixed);
             QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
@@ -491,6 +526,8 @@ private Q_SLOTS:
         f.mouse.Click({700, 310}); // the other screen, beside its window
         QCOMPARE(f.wall->GetSelectedScreenIndex(), 1);
         QCOMPARE(f.wall->GetUnSelectedWindowIndexs(), QList<int>{0}); // deselected with the screen's own loss
+        f.wall->DeleteAllScreen();
+        f.mouse.Click({700, 310});
         QCOMPARE(f.screenSelected.count(), 3);
     }
 
@@ -539,7 +576,8 @@ private Q_SLOTS:
             << 0 << QPoint(5000, 5000) << Rect{0.5, 0.6, 0.999, 599 / 600.0, true};
     }
 
-    // Catches areas of another button or mode, and one that Escape does not give up.
+    // Catches areas of another button or mode, one that is drawn on after its end, and an Escape key kept
+    // from the client's dialog.
     void areaIsDrawn()
     {
         QFETCH(int, mode);
@@ -553,13 +591,21 @@ private Q_SLOTS:
             f.mouse.Move(to);
             f.mouse.Release(to, button);
         }
-        f.mouse.Press(from);
-        f.mouse.Move(to);
-        QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape);
-        f.mouse.Release(to);
         QCOMPARE(f.drawn.count(), area.bEditable ? 1 : 0);
         if (area.bEditable)
             QCOMPARE(f.drawn.at(0).at(1).value<Rect>(), area);
+        const TestSupport::AtEvent closes(&f.client, QEvent::KeyPress, [] {});
+        for (const Action& end : Ends) {
+            f.mouse.Press(from);
+            f.mouse.Move(to);
+            end.act(f);
+            f.mouse.Move(to + QPoint(5, 5));
+            f.mouse.Release(to);
+            QVERIFY2(f.drawn.count() == (area.bEditable ? 1 : 0), end.name);
+        }
+        QVERIFY(!closes.HasActed());
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape);
+        QVERIFY(closes.HasActed());
     }
 
     void windowIsDragged_data()
@@ -578,6 +624,7 @@ private Q_SLOTS:
             << LeftUpper << QPoint(298, 238) << QPoint(-100, -60) << false << Rect{0.1, 0.1, 0.3, 0.4, true};
         QTest::newRow("a fixed one") << Fixed << title << QPoint(50, 30) << false << Fixed;
         QTest::newRow("no way at all") << LeftUpper << title << QPoint(0, 0) << false << LeftUpper;
+        QTest::newRow("too short a way") << LeftUpper << title << QPoint(1, 0) << false << LeftUpper;
         QTest::newRow("to cells") << Rect{0.01, 0.01, 0.4, 0.4, true} << title << QPoint(530, 20) << true
                                   << Rect{0.5, 0.0, 1.0, 0.5, true};
     }
@@ -596,30 +643,27 @@ private Q_SLOTS:
             f.wall->SetScreenFreeMode(0, shift || !toCells);
             f.mouse.Drag(from, from + way, shift ? Qt::ShiftModifier : Qt::NoModifier);
             QCOMPARE(f.Scale(0), end);
+            QCOMPARE(f.Pixels(0).x(), qRound(end.dLeft * 1000));
             QCOMPARE(f.changed.count(), start == end ? 0 : 1);
         }
     }
 
-    // Catches a rectangle set before the release, and a drag that outlives Escape or the wall's hiding.
+    // Catches a rectangle set before the release, a drag that another button ends, and one that outlives its
+    // end.
     void dragMovesPixelsOnly()
     {
         Fixture f({LeftUpper});
         const QRect start(100, 60, 300, 240);
         const QPoint press = f.OnTitle(0);
-        for (const bool byKey : {true, false}) {
+        for (const Action& end : Ends) {
             f.mouse.Press(press);
             f.mouse.Move(press + QPoint(50, 30));
-            QCOMPARE(f.Pixels(0), start.translated(50, 30));
+            f.mouse.Click(press + QPoint(50, 30), Qt::RightButton);
+            QVERIFY2(f.Pixels(0) == start.translated(50, 30), end.name);
             QCOMPARE(f.Scale(0), LeftUpper);
-            if (byKey) {
-                QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape);
-            } else {
-                f.client.hide();
-                f.client.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&f.client));
-            }
+            end.act(f);
             f.mouse.Move(press + QPoint(90, 90));
-            QCOMPARE(f.Pixels(0), start);
+            QVERIFY2(f.Pixels(0) == start, end.name);
             f.mouse.Release(press + QPoint(90, 90));
             QCOMPARE(f.Pixels(0), start);
         }
@@ -703,9 +747,15 @@ private Q_SLOTS:
             QCOMPARE(f.PixelAt(OnOverlay), qRgb(0, 120, 0));
             const QSignalSpy pressed(f.wall.data(), &Wall::SignalWindowEvent);
             const QSignalSpy label(f.wall.data(), &Wall::SignalLabelEvent);
+            const QSignalSpy menu(f.wall.data(), &Wall::SignalScreenRightClick);
             f.mouse.Click(OnOverlay);
-            QCOMPARE(f.screenSelected.count() + pressed.count(), 0);
             QCOMPARE(label.count(), f.display ? 2 : 0);
+            f.mouse.Click(OnOverlay, Qt::RightButton);
+            f.mouse.Wheel(OnOverlay, 120);
+            QCOMPARE(f.screenSelected.count() + pressed.count() + menu.count(), 0);
+            QCOMPARE(label.count(), f.display ? 6 : 0);
+            QCOMPARE(f.Pixels(0).width(), 1500); // the wheel is the wall's
+            f.mouse.Wheel({5, 5}, -120);
             infos.clear();
             f.wall->SetScreenOSDInfo(0, infos);
             QVERIFY(f.PixelAt(OnOverlay) != qRgb(0, 120, 0));
@@ -724,9 +774,55 @@ private Q_SLOTS:
         const QPoint onFrame = f.Pixels(0).bottomLeft() + QPoint(150, 0);
         const QRgb unselected = f.PixelAt(onFrame);
         f.wall->SetSelectedWindowIndexs(0, 0, true);
-        QVERIFY(f.PixelAt(onFrame) != unselected);
+        const QRgb black = f.PixelAt(onFrame);
+        QVERIFY(black != unselected);
+        KvGUI::SetSkinVersion(QStringLiteral("White"));
+        const QRgb white = f.PixelAt(onFrame);
+        KvGUI::SetSkinVersion(QStringLiteral("Black"));
+        QVERIFY(white != black && white != unselected);
+        f.wall->SetWindowScale(0, 0, {0.2, 0.1, 0.7, 0.7, true});
+        QCOMPARE(f.PixelAt(f.Pixels(0).bottomLeft() + QPoint(150, 0)), black); // it follows the window
+        f.wall->SetWindowScale(0, 0, LeftUpper);
         f.wall->SetSelectedWindowIndexs(0, 0, false);
         QCOMPARE(f.PixelAt(onFrame), unselected);
+    }
+
+    // Catches a wheel that turns what the client has put into a video, or has taken in a slot, and zooms too.
+    void wheelsTakenByTheClient()
+    {
+        Fixture f({LeftUpper, RightUpper});
+        auto* number = new QSpinBox(f.wall->GetWindowWidget(0, 0));
+        number->setGeometry(20, 60, 100, 60);
+        number->show();
+        connect(f.wall, &Wall::SignalWindowEvent, f.wall, [](int, int window, QEvent* event) {
+            event->setAccepted(window == 1);
+        });
+        const QRect unzoomed = f.Pixels(1);
+        f.mouse.Wheel(f.OnVideo(0), 120);
+        f.mouse.Wheel(f.OnVideo(1), 120);
+        QCOMPARE(number->value(), 1);
+        QCOMPARE(f.Pixels(1), unzoomed);
+        f.mouse.Wheel(f.OnVideo(0) + QPoint(100, 0), 120); // beside it
+        QVERIFY(f.Pixels(1) != unzoomed);
+    }
+
+    // Catches what a wall does by hand although it is disabled.
+    void disabledWallsRest()
+    {
+        Fixture f({LeftUpper, Fixed});
+        f.wall->SetWindowSelectionMode(Wall::SingleSelection);
+        f.wall->setEnabled(false);
+        int emissions = 0;
+        ConnectAll(f.wall, [&emissions] { ++emissions; });
+        const QRect place = f.Pixels(0);
+        f.mouse.Drag(f.OnTitle(0), f.OnTitle(0) + QPoint(50, 30));
+        f.mouse.Click(f.OnVideo(0));
+        f.mouse.Click(f.OnVideo(0), Qt::RightButton);
+        f.mouse.DoubleClick(f.OnVideo(1));
+        f.mouse.Wheel(f.OnVideo(0), 120);
+        f.mouse.Drag(OnEmpty, OnEmpty + QPoint(50, 30));
+        QCOMPARE(emissions, 0);
+        QCOMPARE(f.Pixels(0), place);
     }
 
     void skinChangeRestyles()
@@ -752,27 +848,31 @@ private Q_SLOTS:
         }
     }
 
-    // Catches any use of a window, screen or wall after its signal, and a wall that is gone before Qt has
-    // done with the widget under the mouse; meant to be run under a sanitizer as well.
+    // Catches any use of a window, screen or wall after one of its signals, and a wall that is gone before Qt
+    // has done with the widget under the mouse; meant to be run under a sanitizer as well.
     void slotsMayDeleteAnything()
     {
         QFETCH(int, change);
         QFETCH(int, occasion);
-        Fixture f({LeftUpper, RightUpper});
-        f.wall->SetWindowSelectionMode(Wall::MultiSelection);
-        int emissions = 0;
-        ConnectAll(f.wall, [&] {
-            ++emissions;
-            if (f.wall)
-                Changes.at(change).act(f);
-        });
-        Occasions.at(occasion).act(f);
-        DeleteLater();
-        QVERIFY(emissions > 0);
-        if (change > FirstOfWalls)
-            QVERIFY(!f.wall && f.client.findChildren<QWidget*>().isEmpty());
-        else if (change >= FirstOfScreens)
-            QCOMPARE(f.wall->GetScreenCount(), 0);
+        const bool atEach = change == FirstOfWindows || change >= ScreensInADialog;
+        for (int nth = 0; nth == 0 || atEach; ++nth) { // the signal that brings the change
+            Fixture f({LeftUpper, RightUpper});
+            f.wall->SetWindowSelectionMode(Wall::MultiSelection);
+            int emissions = 0;
+            ConnectAll(f.wall, [&] {
+                if (emissions++ >= nth && f.wall)
+                    Changes.at(change).act(f);
+            });
+            Occasions.at(occasion).act(f);
+            DeleteLater();
+            if (nth > 0 && emissions <= nth)
+                break;
+            QVERIFY(emissions > 0);
+            if (change == ScreensInADialog || (change >= FirstOfScreens && change <= FirstOfWalls))
+                QCOMPARE(f.wall->GetScreenCount(), 0);
+            else if (change > FirstOfWalls)
+                QVERIFY(!f.wall && f.client.findChildren<QWidget*>().isEmpty());
+        }
     }
 
     void videosMayChangeTheWall_data()

@@ -1,6 +1,7 @@
 #include "KvTVWallDisplayEagleEye.h"
 
 #include "KvTVWallDisplayWnd_p.h"
+#include "WallEvents.h"
 
 #include <Common/CommonFun.h>
 #include <Common/SkinPicture.h>
@@ -82,18 +83,15 @@ void KvTVWallDisplayEagleEye::FitToPicture()
 
 void KvTVWallDisplayEagleEye::OnSkinChanged()
 {
-    const QSize before = size();
     LoadPictures();
     FitToPicture();
-    if (size() != before)
-        Q_EMIT SignalAreaChanged();
+    Q_EMIT SignalAreaChanged();
 }
 
 void KvTVWallDisplayEagleEye::OnArrangementChanged()
 {
     m_miniature = QPixmap();
-    if (m_bExpanded)
-        update();
+    update();
 }
 
 void KvTVWallDisplayEagleEye::SetArea(float left, float top, float width, float height)
@@ -102,8 +100,7 @@ void KvTVWallDisplayEagleEye::SetArea(float left, float top, float width, float 
     m_fTop = top;
     m_fWidth = width;
     m_fHeight = height;
-    if (m_bExpanded)
-        update();
+    update();
 }
 
 void KvTVWallDisplayEagleEye::SetColor(QColor& member, const QColor& color)
@@ -231,7 +228,7 @@ void KvTVWallDisplayEagleEye::changeEvent(QEvent* event)
 // that alone is no reason to mark it.
 void KvTVWallDisplayEagleEye::focusInEvent(QFocusEvent* event)
 {
-    m_bFocusShown = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    m_bFocusShown = WallEvents::IsByTab(*event);
     QWidget::focusInEvent(event);
 }
 

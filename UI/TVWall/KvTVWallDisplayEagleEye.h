@@ -41,7 +41,7 @@ public:
     void SetSelectedWindowColor(const QColor& color);
 
 Q_SIGNALS:
-    void SignalAreaChanged(); ///< the overview has another size now
+    void SignalAreaChanged(); ///< the overview may have another size now
     /// The operator wants the view's upper left corner at these fractions of the wall, which may lie outside.
     void SignalLocated(float fX, float fY);
 

@@ -21,8 +21,6 @@ KvTVWallDisplayFrame::KvTVWallDisplayFrame(QWidget* parent, const QColor& color)
 
 void KvTVWallDisplayFrame::SetColor(const QColor& color)
 {
-    if (m_color == color)
-        return;
     m_color = color;
     update();
 }

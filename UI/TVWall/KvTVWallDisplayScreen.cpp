@@ -16,7 +16,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
+#include <utility>
 
 namespace UICommonMdl {
 
@@ -35,7 +35,13 @@ public:
     {
         ++m_pScreen->m_iHandling;
     }
-    ~Handling() { --m_pScreen->m_iHandling; }
+    ~Handling()
+    {
+        if (--m_pScreen->m_iHandling > 0)
+            return;
+        for (QObject* removed : std::exchange(m_pScreen->m_removed, {}))
+            removed->deleteLater();
+    }
     Q_DISABLE_COPY(Handling)
 
 private:
@@ -85,10 +91,28 @@ KvTVWallDisplayScreen::KvTVWallDisplayScreen(
     setFocusPolicy(Qt::ClickFocus);
     setAcceptDrops(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    viewport()->setMouseTracking(true); // tells when a button was released elsewhere
     connect(m_pOverlays, SIGNAL(SignalLabelEvent(int, QEvent*)), SLOT(OnLabelEvent(int, QEvent*)));
 }
 
 KvTVWallDisplayScreen::~KvTVWallDisplayScreen() = default;
+
+void KvTVWallDisplayScreen::Remove()
+{
+    DeleteAllWindows();
+    hide();
+    DeleteWhenDone(this);
+}
+
+// A slot that opens a dialog runs an event loop of its own, in which what is deleted for later goes: while Qt
+// is still handling an event that would be too soon.
+void KvTVWallDisplayScreen::DeleteWhenDone(QObject* removed)
+{
+    if (m_iHandling > 0)
+        m_removed << removed;
+    else
+        removed->deleteLater();
+}
 
 void KvTVWallDisplayScreen::DeleteWithWall()
 {
@@ -96,11 +120,9 @@ void KvTVWallDisplayScreen::DeleteWithWall()
         delete this;
         return;
     }
-    DeleteAllWindows();
-    m_gestures.Cancel();
+    Remove();
     m_pWall = nullptr;
-    setParent(nullptr); // hides it too
-    deleteLater();
+    setParent(nullptr);
 }
 
 // ---- The screen itself
@@ -132,20 +154,13 @@ void KvTVWallDisplayScreen::SetSelected(bool selected)
     if (m_bSelected == selected)
         return;
     m_bSelected = selected;
-    ShowFrame();
-    Q_EMIT SignalArrangementChanged();
-}
-
-void KvTVWallDisplayScreen::ShowFrame()
-{
-    if (m_pFrame == nullptr && m_bSelected) {
+    if (m_pFrame == nullptr) {
         m_pFrame = new KvTVWallDisplayFrame(viewport(), ScreenBackdrop::SelectedColor());
         m_pFrame->FitTo(size());
     }
-    if (m_pFrame == nullptr)
-        return;
-    m_pFrame->setVisible(m_bSelected);
+    m_pFrame->setVisible(selected);
     m_pFrame->raise();
+    Q_EMIT SignalArrangementChanged();
 }
 
 void KvTVWallDisplayScreen::SelectUnlessSelected()
@@ -227,23 +242,34 @@ int KvTVWallDisplayScreen::OpenWindow(
         window->ShowNumber(m_windows.size());
     window->PlaceOnScreen();
     window->installEventFilter(m_pWatcher);
-    if (scale.bEditable) {
-        connect(window, SIGNAL(SignalCloseBtnClicked()), this, SLOT(OnWindowCloseBtnClicked()));
-        connect(window, SIGNAL(SignalVolemeBtnClicked()), this, SLOT(OnWindowVolumeBtnClicked()));
-        connect(
-            window, SIGNAL(SignalGeoChanged(KvGUI::StructScaleRect)), this,
-            SLOT(OnWindowGeoChanged(KvGUI::StructScaleRect)));
-        connect(
-            window, SIGNAL(SignalDoubleClickedSelectedChanged()), this,
-            SIGNAL(SignalWindowSelectedChanged()));
-    } else {
-        connect(
-            window, SIGNAL(SignalDoubleClickedSelectedChanged()), this, SIGNAL(SignalWindowDoubleClicked()));
-    }
+    Connect(window, scale.bEditable);
     RaiseOverlays();
     window->show();
     Q_EMIT SignalArrangementChanged();
     return m_windows.size() - 1;
+}
+
+void KvTVWallDisplayScreen::Connect(KvTVWallDisplayWindow* window, bool editable)
+{
+    using Window = KvTVWallDisplayWindow;
+    if (!editable) {
+        connect(
+            window, &Window::SignalDoubleClickedSelectedChanged, this,
+            &KvTVWallDisplayScreen::SignalWindowDoubleClicked);
+        return;
+    }
+    connect(window, &Window::SignalCloseBtnClicked, this, [this, window] {
+        Q_EMIT SignalWindowCloseBtnClicked(IndexOf(window));
+    });
+    connect(window, &Window::SignalVolemeBtnClicked, this, [this, window] {
+        Q_EMIT SignalWindowVolumeBtnClicked(IndexOf(window));
+    });
+    connect(window, &Window::SignalGeoChanged, this, [this, window](const KvGUI::StructScaleRect& rect) {
+        Q_EMIT SignalWindowGeoChanged(IndexOf(window), rect);
+    });
+    connect(
+        window, &Window::SignalDoubleClickedSelectedChanged, this,
+        &KvTVWallDisplayScreen::SignalWindowSelectedChanged);
 }
 
 bool KvTVWallDisplayScreen::DeleteWindow(int index)
@@ -258,7 +284,7 @@ bool KvTVWallDisplayScreen::DeleteWindow(int index)
     if (window->IsSelected())
         viewport()->update();
     Q_EMIT SignalArrangementChanged();
-    window->deleteLater();
+    DeleteWhenDone(window);
     window->hide(); // moves the focus on, of which the client may hear
     return true;
 }
@@ -320,31 +346,10 @@ int KvTVWallDisplayScreen::GetMaxWindowZValue() const
     return largest;
 }
 
-void KvTVWallDisplayScreen::OnWindowCloseBtnClicked()
-{
-    const int index = IndexOf(sender());
-    if (index != NoWindow)
-        Q_EMIT SignalWindowCloseBtnClicked(index);
-}
-
-void KvTVWallDisplayScreen::OnWindowVolumeBtnClicked()
-{
-    const int index = IndexOf(sender());
-    if (index != NoWindow)
-        Q_EMIT SignalWindowVolumeBtnClicked(index);
-}
-
 void KvTVWallDisplayScreen::OnLabelEvent(int label, QEvent* event)
 {
     const Handling handling(this);
     Q_EMIT SignalLabelEvent(label, event);
-}
-
-void KvTVWallDisplayScreen::OnWindowGeoChanged(const KvGUI::StructScaleRect& rect)
-{
-    const int index = IndexOf(sender());
-    if (index != NoWindow)
-        Q_EMIT SignalWindowGeoChanged(index, rect);
 }
 
 int KvTVWallDisplayScreen::IndexOf(const QObject* window) const
@@ -362,15 +367,12 @@ bool KvTVWallDisplayScreen::WatchWindow(KvTVWallDisplayWindow* window, QEvent* e
     if (!window->isEnabled())
         return false;
     const Handling handling(this);
-    const QPointer<KvTVWallDisplayWindow> windowAlive(window);
     static_cast<QObject*>(window)->event(event);
-    if (windowAlive)
+    if (IndexOf(window) != NoWindow)
         m_gestures.HandleWindowEvent(window, event);
-    const int index = windowAlive ? IndexOf(window) : NoWindow;
+    const int index = IndexOf(window);
     if (index != NoWindow)
         Q_EMIT SignalWindowEvent(index, event);
-    if (!windowAlive)
-        event->accept(); // or it would go on to the parent of a widget that is gone
     return true;
 }
 
@@ -379,10 +381,7 @@ int KvTVWallDisplayScreen::SelectionMode() const
     return m_pWall != nullptr ? m_pWall->GetWindowSelectionMode() : KvTVWallDisplayWnd::NoSelection;
 }
 
-QColor KvTVWallDisplayScreen::BandColor() const
-{
-    return m_pWall != nullptr ? m_pWall->BandColor() : QColor();
-}
+QColor KvTVWallDisplayScreen::BandColor() const { return m_pWall->BandColor(); }
 
 QRect KvTVWallDisplayScreen::WindowGeometry(int window) const { return m_windows.at(window)->geometry(); }
 
@@ -456,8 +455,6 @@ bool KvTVWallDisplayScreen::eventFilter(QObject* watched, QEvent* event)
 
 void KvTVWallDisplayScreen::childEvent(QChildEvent* event) { QAbstractScrollArea::childEvent(event); }
 
-void KvTVWallDisplayScreen::timerEvent(QTimerEvent* event) { QAbstractScrollArea::timerEvent(event); }
-
 void KvTVWallDisplayScreen::showEvent(QShowEvent* event) { QAbstractScrollArea::showEvent(event); }
 
 void KvTVWallDisplayScreen::hideEvent(QHideEvent* event)
@@ -475,8 +472,6 @@ void KvTVWallDisplayScreen::changeEvent(QEvent* event)
     QAbstractScrollArea::changeEvent(event);
 }
 
-void KvTVWallDisplayScreen::scrollContentsBy(int, int) { }
-
 void KvTVWallDisplayScreen::resizeEvent(QResizeEvent*) { PlaceWindows(); }
 
 void KvTVWallDisplayScreen::wheelEvent(QWheelEvent* event) { event->ignore(); } // it is the wall's
@@ -489,8 +484,6 @@ void KvTVWallDisplayScreen::dropEvent(QDropEvent* event) { Q_EMIT SignalScreenDr
 
 void KvTVWallDisplayScreen::paintEvent(QPaintEvent* event)
 {
-    if (m_pWall == nullptr)
-        return;
     QPainter painter(viewport());
     m_backdrop.Paint(painter, size(), event->rect(), devicePixelRatioF(), m_pWall->ScreenTextColor());
 }

@@ -34,13 +34,14 @@ public:
         KvTVWallDisplayWnd* wall, int rowSpan, int columnSpan, const KvGUI::StructScaleRect& scale,
         const QVariant& userData);
     ~KvTVWallDisplayScreen() override;
-    /// The wall ends: the screen goes with it, or, when a slot of its own signals has deleted the wall, as
-    /// soon as Qt is done with the event that is being handled.
-    void DeleteWithWall();
+    /// Takes the screen off the wall, with its windows. It is deleted as soon as Qt is done with the event
+    /// that is being handled.
+    void Remove();
+    void DeleteWithWall(); ///< the wall ends: as Remove(), but at once where no event is being handled
 
     /// @name The screen itself
     /// @{
-    /// Null when the wall was deleted and the screen handles its last event.
+    /// Null when the wall was deleted and the screen handles its last event, hidden.
     const KvTVWallDisplayWnd* GetWall() const { return m_pWall; }
     int GetRowSpan() const { return m_iRowSpan; } ///< rows of cells
     int GetColumnSpan() const { return m_iColumnSpan; } ///< columns of cells
@@ -83,6 +84,7 @@ Q_SIGNALS:
     void SignalLabelEvent(int label, QEvent* event);
     void SignalSelected();
     void SignalWindowSelectedChanged();
+    void SignalRightClick();
     void SignalDrawAreaOpenWindow(const KvGUI::StructScaleRect& rect);
     void SignalScreenDropEvent(QEvent* event);
     void SignalWindowVolumeBtnClicked(int window);
@@ -99,7 +101,6 @@ protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
     void childEvent(QChildEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -110,13 +111,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    void scrollContentsBy(int dx, int dy) override;
 
 private Q_SLOTS:
     void OnLabelEvent(int label, QEvent* event);
-    void OnWindowCloseBtnClicked();
-    void OnWindowVolumeBtnClicked();
-    void OnWindowGeoChanged(const KvGUI::StructScaleRect& rect);
 
 private:
     /// Watches windows. An object of its own: the screen itself is already the filter of its viewport, and
@@ -124,6 +121,7 @@ private:
     class Watcher;
     class Handling;
 
+    void Connect(KvTVWallDisplayWindow* window, bool editable);
     bool WatchWindow(KvTVWallDisplayWindow* window, QEvent* event);
 
     int SelectionMode() const override;
@@ -145,10 +143,11 @@ private:
     void PlaceWindows();
     void RaiseWindow(KvTVWallDisplayWindow* window);
     void RaiseOverlays();
-    void ShowFrame();
+    void DeleteWhenDone(QObject* removed);
 
     const KvTVWallDisplayWnd* m_pWall;
     int m_iHandling = 0; // events of Qt's on the stack
+    QVector<QObject*> m_removed; // windows, or the screen itself, that go when it is done with them
     const int m_iRowSpan;
     const int m_iColumnSpan;
     QVariant m_userData;

@@ -102,6 +102,8 @@ KvTVWallDisplayTitleItem::KvTVWallDisplayTitleItem(QWidget* parent)
 {
     setObjectName(QStringLiteral("pWindowTitleBar"));
     setAttribute(Qt::WA_StyledBackground);
+    setMouseTracking(true); // the window may want all moves
+    m_pText->setMouseTracking(true);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(1);

@@ -5,6 +5,7 @@
 #include "KvTVWallDisplayTitleItem.h"
 #include "KvTVWallDisplayVideo.h"
 #include "KvTVWallDisplayWnd.h"
+#include "WallEvents.h"
 #include "WallGeometry.h"
 #include "WindowTitle.h"
 
@@ -47,6 +48,7 @@ KvTVWallDisplayWindow::KvTVWallDisplayWindow(
 void KvTVWallDisplayWindow::PlaceOnScreen()
 {
     m_drag.End();
+    setMouseTracking(false);
     setGeometry(WallGeometry::Displayable(WallGeometry::WindowRect(m_pScreen->size(), GetScale())));
     if (!isVisible())
         LayOut(); // a hidden widget hears of its size when it is shown
@@ -223,11 +225,16 @@ void KvTVWallDisplayWindow::CancelDrag()
 void KvTVWallDisplayWindow::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
-    if (event->button() != Qt::LeftButton || !GetScale().bEditable || m_pScreen->IsPositioning())
+    if (event->button() != Qt::LeftButton)
+        return;
+    CancelDrag(); // whose release went elsewhere
+    if (!GetScale().bEditable || m_pScreen->IsPositioning())
         return;
     const Qt::Edges edges = EdgesForMouse(event->pos());
-    if (edges || m_pTitle->geometry().contains(event->pos()))
-        m_drag.Begin(edges, event->globalPos(), geometry());
+    if (!edges && !m_pTitle->geometry().contains(event->pos()))
+        return;
+    m_drag.Begin(edges, event->globalPos(), geometry());
+    setMouseTracking(true); // moves tell when the button was released elsewhere
 }
 
 void KvTVWallDisplayWindow::mouseMoveEvent(QMouseEvent* event)
@@ -253,7 +260,7 @@ void KvTVWallDisplayWindow::mouseDoubleClickEvent(QMouseEvent* event)
     event->accept();
     if (event->button() != Qt::LeftButton)
         return;
-    m_drag.End();
+    CancelDrag();
     const QPointer<KvTVWallDisplayWindow> alive(this);
     if (GetScale().bEditable)
         OnShowMaxOrNormal();
@@ -327,11 +334,9 @@ void KvTVWallDisplayWindow::changeEvent(QEvent* event)
 
 void KvTVWallDisplayWindow::childEvent(QChildEvent* event) { QWidget::childEvent(event); }
 
-void KvTVWallDisplayWindow::timerEvent(QTimerEvent* event) { QWidget::timerEvent(event); }
-
 void KvTVWallDisplayWindow::focusInEvent(QFocusEvent* event)
 {
-    m_bKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    m_bKeyboardFocus = WallEvents::IsByTab(*event);
     update();
 }
 

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <QWheelEvent>
+#include <utility>
 
 namespace UICommonMdl {
 
@@ -21,15 +22,12 @@ constexpr int NoIndex = -1;
 
 /// Describes screens and windows to assistive technology as the plain widgets that they are here: for their
 /// base classes Qt would list registered sub-windows only, and give no names.
-QAccessibleInterface* MakeAccessible(const QString& className, QObject* object)
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object)
 {
-    auto* widget = qobject_cast<QWidget*>(object);
-    if (widget == nullptr || !className.startsWith(QLatin1String("UICommonMdl::KvTVWallDisplay")))
-        return nullptr;
-    if (qobject_cast<KvTVWallDisplayWindow*>(widget) != nullptr)
-        return new QAccessibleWidget(widget, QAccessible::Window);
-    if (qobject_cast<KvTVWallDisplayScreen*>(widget) != nullptr)
-        return new QAccessibleWidget(widget, QAccessible::Pane);
+    if (auto* window = qobject_cast<KvTVWallDisplayWindow*>(object))
+        return new QAccessibleWidget(window, QAccessible::Window);
+    if (auto* screen = qobject_cast<KvTVWallDisplayScreen*>(object))
+        return new QAccessibleWidget(screen, QAccessible::Pane);
     return nullptr;
 }
 
@@ -50,41 +48,44 @@ KvTVWallDisplayWndPrivate::AddScreen(const KvGUI::StructScaleRect& rect, const Q
         WallGeometry::CellSpan(q->GetColumnCount(), rect.dLeft, rect.dRight), rect, userData);
     screens.append(screen);
     screen->PlaceOnWall();
-    connect(screen, SIGNAL(SignalWindowCloseBtnClicked(int)), this, SLOT(OnWindowCloseBtnClicked(int)));
-    connect(
-        screen, SIGNAL(SignalWindowGeoChanged(int, KvGUI::StructScaleRect)), this,
-        SLOT(OnWindowGeoChanged(int, KvGUI::StructScaleRect)));
-    connect(screen, SIGNAL(SignalWindowEvent(int, QEvent*)), this, SLOT(OnWindowEvent(int, QEvent*)));
-    connect(screen, SIGNAL(SignalLabelEvent(int, QEvent*)), this, SLOT(OnLabelEvent(int, QEvent*)));
-    connect(screen, SIGNAL(SignalSelected()), this, SLOT(OnScreenSelected()));
-    connect(screen, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(OnContextMenuRequested()));
-    connect(screen, SIGNAL(SignalWindowSelectedChanged()), this, SLOT(OnWindowSelectedChanged()));
-    connect(
-        screen, SIGNAL(SignalDrawAreaOpenWindow(KvGUI::StructScaleRect)), this,
-        SLOT(OnDrawAreaOpenWindow(KvGUI::StructScaleRect)));
-    connect(screen, SIGNAL(SignalScreenDropEvent(QEvent*)), this, SLOT(OnScreenDropEvent(QEvent*)));
-    connect(screen, SIGNAL(SignalWindowVolumeBtnClicked(int)), this, SLOT(OnWindowVolumeBtnClicked(int)));
-    connect(screen, SIGNAL(SignalWindowDoubleClicked()), this, SLOT(OnWindowDoubleClicked()));
-    connect(screen, SIGNAL(SignalWindowClicked()), q, SIGNAL(SignalWindowClicked()));
-    connect(screen, SIGNAL(Signal3DSite(int, int, int, int)), this, SLOT(OnWindow3DSite(int, int, int, int)));
-    connect(screen, SIGNAL(SignalArrangementChanged()), this, SIGNAL(SignalArrangementChanged()));
+    const auto relay = [this, screen](auto from, auto to) { Relay(screens, screen, from, q, to); };
+    using Screen = KvTVWallDisplayScreen;
+    using Wall = KvTVWallDisplayWnd;
+    relay(&Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
+    relay(&Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
+    relay(&Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
+    relay(&Screen::SignalLabelEvent, &Wall::SignalLabelEvent);
+    connect(screen, &Screen::SignalSelected, this, [this, screen] { SelectScreen(screen); });
+    relay(&Screen::SignalSelected, &Wall::SignalScreenSelectedChanged);
+    connect(screen, &QWidget::customContextMenuRequested, screen, &Screen::SignalRightClick);
+    relay(&Screen::SignalRightClick, &Wall::SignalScreenRightClick);
+    relay(&Screen::SignalWindowSelectedChanged, &Wall::SignalWindowSelectedChanged);
+    relay(&Screen::SignalDrawAreaOpenWindow, &Wall::SignalDrawAreaOpenWindow);
+    relay(&Screen::SignalScreenDropEvent, &Wall::SignalScreenEvent);
+    relay(&Screen::SignalWindowVolumeBtnClicked, &Wall::SignalWindowVolumeBtnClicked);
+    relay(&Screen::SignalWindowDoubleClicked, &Wall::SignalWindowDoubleClicked);
+    relay(&Screen::Signal3DSite, &Wall::SignalWindow3DSite);
+    connect(screen, &Screen::SignalWindowClicked, q, &Wall::SignalWindowClicked);
+    connect(screen, &Screen::SignalArrangementChanged, this, &WallArrangement::SignalArrangementChanged);
     screen->show();
     Q_EMIT SignalArrangementChanged();
     return screen;
 }
 
-// A screen may be the one that is emitting, so it only leaves the list now.
-void KvTVWallDisplayWndPrivate::DeleteAllScreen()
+QList<KvTVWallDisplayScreen*> KvTVWallDisplayWndPrivate::TakeScreens()
 {
-    const QList<KvTVWallDisplayScreen*> removed = screens;
-    screens.clear();
-    for (KvTVWallDisplayScreen* screen : removed) {
+    for (KvTVWallDisplayScreen* screen : qAsConst(screens)) {
         disconnect(screen, nullptr, this, nullptr);
         disconnect(screen, nullptr, q, nullptr);
-        screen->DeleteAllWindows();
-        screen->hide();
-        screen->deleteLater();
     }
+    return std::exchange(screens, {});
+}
+
+void KvTVWallDisplayWndPrivate::DeleteAllScreen()
+{
+    const QList<KvTVWallDisplayScreen*> removed = TakeScreens();
+    for (KvTVWallDisplayScreen* screen : removed)
+        screen->Remove();
     Q_EMIT SignalArrangementChanged();
 }
 
@@ -134,97 +135,6 @@ void KvTVWallDisplayWndPrivate::SetColor(QColor& member, const QColor& color)
         screen->UpdateLook();
 }
 
-int KvTVWallDisplayWndPrivate::SendingScreen() const
-{
-    return screens.indexOf(qobject_cast<KvTVWallDisplayScreen*>(sender()));
-}
-
-void KvTVWallDisplayWndPrivate::OnWindowCloseBtnClicked(int window)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalWindowCloseBtnClicked(screen, window);
-}
-
-void KvTVWallDisplayWndPrivate::OnWindowGeoChanged(int window, const KvGUI::StructScaleRect& rect)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalWindowGeoChanged(screen, window, rect);
-}
-
-void KvTVWallDisplayWndPrivate::OnWindowEvent(int window, QEvent* event)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalWindowEvent(screen, window, event);
-}
-
-void KvTVWallDisplayWndPrivate::OnLabelEvent(int label, QEvent* event)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalLabelEvent(screen, label, event);
-}
-
-void KvTVWallDisplayWndPrivate::OnScreenSelected()
-{
-    const int screen = SendingScreen();
-    if (screen == NoIndex)
-        return;
-    SelectScreen(screens.at(screen));
-    Q_EMIT q->SignalScreenSelectedChanged(screen);
-}
-
-void KvTVWallDisplayWndPrivate::OnContextMenuRequested()
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalScreenRightClick(screen);
-}
-
-void KvTVWallDisplayWndPrivate::OnWindowSelectedChanged()
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalWindowSelectedChanged(screen);
-}
-
-void KvTVWallDisplayWndPrivate::OnDrawAreaOpenWindow(const KvGUI::StructScaleRect& rect)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalDrawAreaOpenWindow(screen, rect);
-}
-
-void KvTVWallDisplayWndPrivate::OnScreenDropEvent(QEvent* event)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalScreenEvent(screen, event);
-}
-
-void KvTVWallDisplayWndPrivate::OnWindowVolumeBtnClicked(int window)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalWindowVolumeBtnClicked(screen, window);
-}
-
-void KvTVWallDisplayWndPrivate::OnWindowDoubleClicked()
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalWindowDoubleClicked(screen);
-}
-
-void KvTVWallDisplayWndPrivate::OnWindow3DSite(int startX, int startY, int endX, int endY)
-{
-    const int screen = SendingScreen();
-    if (screen != NoIndex)
-        Q_EMIT q->SignalWindow3DSite(screen, startX, startY, endX, endY);
-}
-
 // ---- The wall
 
 KvTVWallDisplayWnd::KvTVWallDisplayWnd(QWidget* parent)
@@ -240,9 +150,8 @@ KvTVWallDisplayWnd::KvTVWallDisplayWnd(QWidget* parent)
 // may be among them that still handle an event.
 KvTVWallDisplayWnd::~KvTVWallDisplayWnd()
 {
-    d_func()->screens.clear(); // what their end sets off finds none
-    const auto screens = findChildren<KvTVWallDisplayScreen*>(QString(), Qt::FindDirectChildrenOnly);
-    for (KvTVWallDisplayScreen* screen : screens)
+    d_func()->TakeScreens(); // what their end sets off finds none
+    while (auto* screen = findChild<KvTVWallDisplayScreen*>(QString(), Qt::FindDirectChildrenOnly))
         screen->DeleteWithWall();
 }
 

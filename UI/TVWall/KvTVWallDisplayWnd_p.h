@@ -8,8 +8,7 @@ namespace UICommonMdl {
 class KvTVWallDisplayScreen;
 class KvTVWallDisplayWindow;
 
-/// State of the display wall, and the relay of its screens' signals: each slot looks up the sending screen's
-/// present index and emits the wall's signal with it.
+/// State of the display wall.
 class KvTVWallDisplayWndPrivate : public WallArrangement
 {
     Q_OBJECT
@@ -19,6 +18,7 @@ public:
 
     KvTVWallDisplayScreen* AddScreen(const KvGUI::StructScaleRect& rect, const QVariant& userData);
     void DeleteAllScreen();
+    QList<KvTVWallDisplayScreen*> TakeScreens(); ///< all of them; they report nothing more
     /// Null for an index that names nothing.
     KvTVWallDisplayScreen* Screen(int screen) const { return screens.value(screen); }
     KvTVWallDisplayWindow* Window(int screen, int window) const;
@@ -39,23 +39,6 @@ public:
     QColor windowColor = QColor(46, 49, 56);
     QColor screenTextColor = QColor(201, 205, 213);
     QColor bandColor = QColor(90, 165, 242);
-
-public Q_SLOTS:
-    void OnWindowCloseBtnClicked(int window);
-    void OnWindowGeoChanged(int window, const KvGUI::StructScaleRect& rect);
-    void OnWindowEvent(int window, QEvent* event);
-    void OnLabelEvent(int label, QEvent* event);
-    void OnScreenSelected();
-    void OnContextMenuRequested();
-    void OnWindowSelectedChanged();
-    void OnDrawAreaOpenWindow(const KvGUI::StructScaleRect& rect);
-    void OnScreenDropEvent(QEvent* event);
-    void OnWindowVolumeBtnClicked(int window);
-    void OnWindowDoubleClicked();
-    void OnWindow3DSite(int startX, int startY, int endX, int endY);
-
-private:
-    int SendingScreen() const; ///< index of the screen whose signal is handled, or -1
 };
 
 } // namespace UICommonMdl

@@ -2,6 +2,7 @@
 
 #include "KvTVWallNormalView.h"
 #include "KvTVWallNormalWindow.h"
+#include "WallEvents.h"
 
 #include <QGraphicsSceneMouseEvent>
 #include <QKeyEvent>
@@ -111,7 +112,7 @@ bool KvTVWallNormalButton::sceneEvent(QEvent* event)
 void KvTVWallNormalButton::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
     event->accept();
-    SetDown(true);
+    SetDown(boundingRect().contains(event->pos()));
 }
 
 void KvTVWallNormalButton::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
@@ -119,10 +120,13 @@ void KvTVWallNormalButton::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
     SetDown(boundingRect().contains(event->pos()));
 }
 
-// A slot may remove the window, which is then deleted later.
+// A slot may remove the window, which is then deleted later. While the left button is held the others come
+// here too.
 void KvTVWallNormalButton::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
-    const bool clicked = m_bDown && boundingRect().contains(event->pos());
+    if (event->button() != Qt::LeftButton)
+        return;
+    const bool clicked = boundingRect().contains(event->pos());
     SetDown(false);
     if (clicked)
         m_pWindow->ClickButton(m_kind);
@@ -142,7 +146,7 @@ void KvTVWallNormalButton::hoverLeaveEvent(QGraphicsSceneHoverEvent*)
 
 void KvTVWallNormalButton::keyPressEvent(QKeyEvent* event)
 {
-    const bool clicks = event->key() == Qt::Key_Space && !event->isAutoRepeat();
+    const bool clicks = WallEvents::IsClick(*event);
     event->setAccepted(clicks);
     if (clicks)
         m_pWindow->ClickButton(m_kind);

@@ -24,8 +24,6 @@ QRect KvTVWallNormalFrame::Inside(const QSize& size)
 
 void KvTVWallNormalFrame::FitTo(const QSize& size)
 {
-    if (m_size == size)
-        return;
     prepareGeometryChange();
     m_size = size;
 }

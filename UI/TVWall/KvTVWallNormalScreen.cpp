@@ -61,7 +61,6 @@ KvTVWallNormalScreen::~KvTVWallNormalScreen() { delete m_pCover; }
 
 void KvTVWallNormalScreen::Remove()
 {
-    disconnect();
     DeleteAllWindows();
     CancelDrawing();
     if (m_pCover != nullptr)
@@ -319,10 +318,11 @@ void KvTVWallNormalScreen::HandleWindowEvent(KvTVWallNormalWindow* window, QEven
 {
     if (IndexOf(window) == NoWindow)
         return; // removed, but the mouse is still held
+    const QPointer<KvTVWallNormalScreen> alive(this);
     window->HandleEvent(event);
-    if (IndexOf(window) != NoWindow)
+    if (alive && IndexOf(window) != NoWindow)
         m_gestures.HandleWindowEvent(window, event);
-    const int index = IndexOf(window);
+    const int index = alive ? IndexOf(window) : NoWindow;
     if (index != NoWindow)
         Q_EMIT SignalWindowEvent(index, event);
 }
@@ -366,11 +366,8 @@ void KvTVWallNormalScreen::HandleEvent(QEvent* event)
     case QEvent::ContextMenu:
         Q_EMIT SignalRightClick();
         break;
-    case QEvent::DragEnter:
-    case QEvent::Drop:
+    default: // a drag that enters, or a drop
         Q_EMIT SignalScreenDropEvent(event);
-        break;
-    default:
         break;
     }
 }

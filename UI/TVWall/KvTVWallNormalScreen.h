@@ -67,7 +67,7 @@ public:
     void UpdateLook(); ///< in the view's present colours
     void UpdateTexts(); ///< in the present language
     WallMiniature::Screen Miniature() const;
-    void Remove(); ///< takes it off the wall; it emits nothing more and is deleted later
+    void Remove(); ///< takes it off the wall, disconnected already; it is deleted later
     /// @}
 
     /// @name Windows by index; a wrong index gives null or false
@@ -88,7 +88,9 @@ public:
     /// @name Events that the view brings; a slot may remove the screen or the wall
     /// @{
     void HandleWindowEvent(KvTVWallNormalWindow* window, QEvent* event); ///< positions in the window
-    void HandleEvent(QEvent* event); ///< on the empty part, positions in the screen
+    /// On the empty part, positions in the screen: of the mouse, a context menu, a drag that enters or a
+    /// drop.
+    void HandleEvent(QEvent* event);
     bool CancelDrawing(); ///< @return whether there was something to cancel
     /// @}
 

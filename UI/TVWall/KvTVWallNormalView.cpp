@@ -67,9 +67,9 @@ void KvTVWallNormalView::DeleteWithWall()
         delete this;
         return;
     }
+    m_bOrphaned = true;
     CancelMouse();
     setParent(nullptr); // hides it too
-    deleteLater();
 }
 
 // ---- What the items share
@@ -83,8 +83,9 @@ void KvTVWallNormalView::AddScreen(KvTVWallNormalScreen* screen)
 // A screen may be the one that is emitting, so it only leaves the list now.
 void KvTVWallNormalView::DeleteAllScreens()
 {
-    const QList<KvTVWallNormalScreen*> removed = m_screens;
-    m_screens.clear();
+    for (KvTVWallNormalScreen* screen : qAsConst(m_screens))
+        screen->disconnect();
+    const QList<KvTVWallNormalScreen*> removed = std::exchange(m_screens, {});
     for (KvTVWallNormalScreen* screen : removed)
         screen->Remove();
 }
@@ -149,8 +150,6 @@ void KvTVWallNormalView::resizeEvent(QResizeEvent* event)
     scene()->setSceneRect(QRectF(QPointF(0, 0), viewport()->size()));
 }
 
-void KvTVWallNormalView::scrollContentsBy(int, int) { }
-
 // ---- The mouse
 
 KvTVWallNormalView::Target KvTVWallNormalView::TargetOf(QGraphicsItem* item)
@@ -178,7 +177,7 @@ void KvTVWallNormalView::Target::Deliver(QEvent* event) const
 {
     if (window != nullptr)
         screen->HandleWindowEvent(window, event);
-    else if (screen != nullptr)
+    else
         screen->HandleEvent(event);
 }
 
@@ -436,9 +435,10 @@ bool KvTVWallNormalView::event(QEvent* event)
         CancelMouse(); // a modal dialog gets the release
     if (event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        const bool tab = key->key() == Qt::Key_Tab && !(key->modifiers() & ~Qt::ShiftModifier);
-        const bool backtab = key->key() == Qt::Key_Backtab || (tab && (key->modifiers() & Qt::ShiftModifier));
-        if ((tab || backtab) && MoveFocus(!backtab)) {
+        const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+        const bool others = key->modifiers() & (Qt::ControlModifier | Qt::AltModifier); // as of a tab bar
+        const bool back = key->key() == Qt::Key_Backtab || (key->modifiers() & Qt::ShiftModifier);
+        if (tab && !others && MoveFocus(!back)) {
             event->accept();
             return true;
         }

@@ -44,8 +44,9 @@ class KvTVWallNormalView : public QGraphicsView, private NormalWallLook
     Q_PROPERTY(QString closeHoverIcon MEMBER closeHoverIcon)
 
 public:
-    /// Lives while the view handles an event of Qt's, and keeps it alive: DeleteWithWall() defers. Only the
-    /// deferred deletion itself ends the view.
+    /// Lives while the view handles an event of Qt's, and keeps it alive: the wall's end waits, also in the
+    /// event loop of a dialog that a slot opens. Only the deferred deletion itself, an event too, ends the
+    /// view.
     class Handling
     {
     public:
@@ -56,8 +57,8 @@ public:
         }
         ~Handling()
         {
-            if (m_pView)
-                --m_pView->m_iHandling;
+            if (m_pView && --m_pView->m_iHandling == 0 && m_pView->m_bOrphaned)
+                m_pView->deleteLater();
         }
         Q_DISABLE_COPY(Handling)
 
@@ -110,7 +111,6 @@ protected:
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    void scrollContentsBy(int dx, int dy) override;
 
 private:
     /// What lies at a point, or holds the mouse; a window comes with its screen.
@@ -145,6 +145,7 @@ private:
     int m_iSelectionMode = 0;
     bool m_bAudioButtons = true;
     int m_iHandling = 0; // events of Qt's on the stack
+    bool m_bOrphaned = false;
     Target m_held; // has the mouse until all buttons are released
     bool m_bOwnCursor = false;
     Target m_dragOver; // below something that is dragged from elsewhere

@@ -165,8 +165,6 @@ void KvTVWallNormalWindow::AddFocusStops(QVector<QGraphicsItem*>& stops)
 
 // ---- The video area
 
-bool KvTVWallNormalWindow::HasVideo() const { return !m_bVideoDeleted && (m_pProxy == nullptr || m_pVideo); }
-
 KvTVWallDisplayVideo* KvTVWallNormalWindow::GetVideo()
 {
     if (m_pVideo || m_bVideoDeleted)
@@ -364,7 +362,7 @@ void KvTVWallNormalWindow::keyReleaseEvent(QKeyEvent* event) { m_pScreen->Handle
 
 void KvTVWallNormalWindow::focusInEvent(QFocusEvent* event)
 {
-    m_bKeyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    m_bKeyboardFocus = WallEvents::IsByTab(*event);
     update();
 }
 
@@ -380,7 +378,8 @@ void KvTVWallNormalWindow::paint(QPainter* painter, const QStyleOptionGraphicsIt
 {
     const NormalWallLook& look = m_pView->Look();
     const QRect whole(QPoint(0, 0), m_size);
-    const QRect video = HasVideo() ? WindowTitle::VideoRect(m_size) & whole : QRect(0, m_size.height(), 0, 0);
+    const QRect video
+        = m_bVideoDeleted ? QRect(0, m_size.height(), 0, 0) : WindowTitle::VideoRect(m_size) & whole;
     // Not below the video, which covers it: on a full wall that would be every pixel once more.
     painter->fillRect(QRect(0, 0, whole.width(), video.top()) & whole, look.windowColor);
     painter->fillRect(QRect(0, video.top(), video.left(), whole.height()) & whole, look.windowColor);
@@ -390,7 +389,7 @@ void KvTVWallNormalWindow::paint(QPainter* painter, const QStyleOptionGraphicsIt
     if (m_bKeyboardFocus)
         painter->setPen(QPen(look.bandColor, 1, Qt::DashLine));
     painter->drawRect(whole.adjusted(0, 0, -1, -1));
-    if (!HasVideo() || m_pVideo)
+    if (m_bVideoDeleted || m_pVideo)
         return;
     painter->fillRect(video, look.videoColor);
     if (m_strVideoText.isEmpty())

@@ -97,7 +97,6 @@ private:
     void ShowPlacement(bool changed);
     void SetGeometry(const QRect& geometry);
     void UpdateTitle();
-    bool HasVideo() const;
     void PlaceVideo();
     void ColorVideo();
     Qt::Edges EdgesForMouse(const QPoint& pos) const;

@@ -10,7 +10,6 @@
 #include <Common/CommonFun.h>
 
 #include <QGraphicsScene>
-#include <functional>
 
 namespace UICommonMdl {
 
@@ -30,18 +29,6 @@ KvTVWallNormalWndPrivate::KvTVWallNormalWndPrivate(KvTVWallNormalWnd* wall)
     connect(view, &KvTVWallNormalView::SignalWheel, this, &KvTVWallNormalWndPrivate::OnWheel);
 }
 
-template <typename... Args>
-void KvTVWallNormalWndPrivate::Relay(
-    KvTVWallNormalScreen* screen, void (KvTVWallNormalScreen::*from)(Args...),
-    void (KvTVWallNormalWnd::*to)(int, Args...))
-{
-    connect(screen, from, this, [this, screen, to](Args... args) {
-        const int index = view->Screens().indexOf(screen);
-        if (index != NoIndex)
-            std::invoke(to, q, index, args...);
-    });
-}
-
 KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructScaleRect& rect)
 {
     using Screen = KvTVWallNormalScreen;
@@ -51,20 +38,21 @@ KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructSca
         WallGeometry::CellSpan(q->GetColumnCount(), rect.dLeft, rect.dRight), rect);
     view->AddScreen(screen);
     LayOut(); // a hidden wall hears of its size when it is shown
-    Relay(screen, &Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
-    Relay(screen, &Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
-    Relay(screen, &Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
-    Relay(screen, &Screen::SignalLabelEvent, &Wall::SignalLabelEvent);
-    Relay(screen, &Screen::SignalRightClick, &Wall::SignalScreenRightClick);
-    Relay(screen, &Screen::SignalWindowSelectedChanged, &Wall::SignalWindowSelectedChanged);
-    Relay(screen, &Screen::SignalDrawAreaOpenWindow, &Wall::SignalDrawAreaOpenWindow);
-    Relay(screen, &Screen::SignalScreenDropEvent, &Wall::SignalScreenEvent);
-    Relay(screen, &Screen::SignalWindowVolumeBtnClicked, &Wall::SignalWindowVolumeBtnClicked);
-    Relay(screen, &Screen::SignalWindowDoubleClicked, &Wall::SignalWindowDoubleClicked);
-    Relay(screen, &Screen::Signal3DSite, &Wall::SignalWindow3DSite);
+    const auto relay = [this, screen](auto from, auto to) { Relay(view->Screens(), screen, from, q, to); };
+    relay(&Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
+    relay(&Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
+    relay(&Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
+    relay(&Screen::SignalLabelEvent, &Wall::SignalLabelEvent);
+    relay(&Screen::SignalRightClick, &Wall::SignalScreenRightClick);
+    relay(&Screen::SignalWindowSelectedChanged, &Wall::SignalWindowSelectedChanged);
+    relay(&Screen::SignalDrawAreaOpenWindow, &Wall::SignalDrawAreaOpenWindow);
+    relay(&Screen::SignalScreenDropEvent, &Wall::SignalScreenEvent);
+    relay(&Screen::SignalWindowVolumeBtnClicked, &Wall::SignalWindowVolumeBtnClicked);
+    relay(&Screen::SignalWindowDoubleClicked, &Wall::SignalWindowDoubleClicked);
+    relay(&Screen::Signal3DSite, &Wall::SignalWindow3DSite);
     connect(screen, &Screen::SignalWindowClicked, q, &Wall::SignalWindowClicked);
     connect(screen, &Screen::SignalSelected, this, [this, screen] { SelectScreen(screen); });
-    Relay(screen, &Screen::SignalSelected, &Wall::SignalScreenSelectedChanged);
+    relay(&Screen::SignalSelected, &Wall::SignalScreenSelectedChanged);
     connect(screen, &Screen::SignalArrangementChanged, this, &WallArrangement::SignalArrangementChanged);
     Q_EMIT SignalArrangementChanged();
     return screen;

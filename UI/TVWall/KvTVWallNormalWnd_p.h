@@ -11,8 +11,7 @@ class KvTVWallNormalScreen;
 class KvTVWallNormalView;
 class KvTVWallNormalWindow;
 
-/// State of the normal wall, its zoom, and the relay of its screens' signals, to which it adds the sending
-/// screen's present index.
+/// State of the normal wall, and its zoom.
 class KvTVWallNormalWndPrivate : public WallArrangement
 {
     Q_OBJECT
@@ -37,11 +36,6 @@ public:
     bool titleShow = false;
 
 private:
-    /// Emits @p to of the wall, with the screen's index in front, whenever @p screen emits @p from.
-    template <typename... Args>
-    void Relay(
-        KvTVWallNormalScreen* screen, void (KvTVWallNormalScreen::*from)(Args...),
-        void (KvTVWallNormalWnd::*to)(int, Args...));
     void PlaceScreens();
     void ShowOverview();
     void PlaceOverview();

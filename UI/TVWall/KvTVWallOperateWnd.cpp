@@ -30,11 +30,11 @@ const char* const SignalsOfTheDisplayFamily[] = {
     SIGNAL(SignalLabelEvent(int, int, QEvent*)),
 };
 
-/// The normal family's z-value without its fraction.
+/// The normal family's z-value, which is never NaN, without its fraction.
 int Truncated(double z)
 {
     using Limits = std::numeric_limits<int>;
-    return z != z ? 0 : int(qBound(double(Limits::min()), z, double(Limits::max())));
+    return int(qBound(double(Limits::min()), z, double(Limits::max())));
 }
 
 } // namespace
@@ -68,6 +68,7 @@ void KvTVWallOperateWndPrivate::MakeDisplayWall()
         horizontal = WallZoom::Axis();
         vertical = WallZoom::Axis();
         displayWall->show();
+        delete eagleEye; // of a wall that the client has deleted
     }
     if (!eagleEye) {
         eagleEye = new KvTVWallDisplayEagleEye(displayWall, q);
@@ -78,31 +79,30 @@ void KvTVWallOperateWndPrivate::MakeDisplayWall()
     eagleEye->raise();
 }
 
-// What goes with the child may call back, so it is out of reach first: not by disconnect(), after which
-// nobody would learn of its end, the table of what assistive technology knows among them.
-template <typename Widget>
-void KvTVWallOperateWndPrivate::Delete(QPointer<Widget>& child)
+// What goes with a child may call back, so all of them are out of reach first: not by disconnect(), after
+// which nobody would learn of their end, the table of what assistive technology knows among them.
+void KvTVWallOperateWndPrivate::Delete(const QVector<QPointer<QWidget>>& children)
 {
-    Widget* const gone = child;
-    if (gone == nullptr)
-        return;
-    child.clear();
-    gone->blockSignals(true);
-    going << gone;
+    for (QWidget* child : children) {
+        if (child != nullptr)
+            child->blockSignals(true);
+    }
     const QPointer<KvTVWallOperateWndPrivate> alive(this);
-    delete gone;
-    if (alive)
-        going.removeOne(gone);
+    for (QWidget* child : children) {
+        if (child == nullptr) // there was none, or it went with the operate wall
+            continue;
+        going << child;
+        delete child;
+        if (alive)
+            going.removeOne(child);
+    }
 }
 
-void KvTVWallOperateWndPrivate::DeleteNormalWall() { Delete(normalWall); }
+void KvTVWallOperateWndPrivate::DeleteNormalWall() { Delete({std::exchange(normalWall, nullptr).data()}); }
 
 void KvTVWallOperateWndPrivate::DeleteDisplayWall()
 {
-    const QPointer<KvTVWallOperateWndPrivate> alive(this);
-    Delete(eagleEye);
-    if (alive)
-        Delete(displayWall);
+    Delete({std::exchange(eagleEye, nullptr).data(), std::exchange(displayWall, nullptr).data()});
 }
 
 void KvTVWallOperateWndPrivate::LayOut()
@@ -189,11 +189,7 @@ void KvTVWallOperateWnd::OnWheelEvent(int iDelta, const QPoint& pos)
     d->PlaceDisplayWall();
 }
 
-void KvTVWallOperateWnd::OnEagleEyeAreaChanged()
-{
-    if (d_func()->Display() != nullptr)
-        d_func()->PlaceEagleEye();
-}
+void KvTVWallOperateWnd::OnEagleEyeAreaChanged() { d_func()->PlaceEagleEye(); }
 
 void KvTVWallOperateWnd::OnEagleEyeLocated(float fX, float fY)
 {

@@ -68,8 +68,7 @@ public:
     QList<QWidget*> going; // children that are being deleted further down the stack
 
 private:
-    template <typename Widget>
-    void Delete(QPointer<Widget>& child);
+    void Delete(const QVector<QPointer<QWidget>>& children);
 };
 
 } // namespace UICommonMdl

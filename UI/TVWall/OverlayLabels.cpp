@@ -6,7 +6,6 @@
 
 #include <QLabel>
 #include <QPointer>
-#include <QTimerEvent>
 #include <algorithm>
 
 namespace UICommonMdl {
@@ -22,8 +21,6 @@ void SetFace(QLabel* label, const ScreenOverlay::Face& face)
     font.setBold(face.bold);
     label->setFont(font);
 }
-
-bool IsShown(const QLabel* label) { return label != nullptr && !label->isHidden(); }
 
 } // namespace
 
@@ -72,8 +69,7 @@ OverlayLabels::MakeRolling(const KvGUI::StructOSDInfo& info, const ScreenOverlay
     label->setGeometry(WallGeometry::Displayable(placement.geometry));
     label->SetContent(
         {ScreenOverlay::Text(info), placement.fontPixelSize, ScreenOverlay::TextColor(info),
-         ScreenOverlay::BackColor(info), info.bRoll, ScreenOverlay::AlignmentOf(info.iAlign),
-         info.iRollMode});
+         ScreenOverlay::BackColor(info), ScreenOverlay::AlignmentOf(info.iAlign), info.iRollMode});
     return label;
 }
 
@@ -101,7 +97,7 @@ void OverlayLabels::Hide()
 void OverlayLabels::Raise()
 {
     const auto raise = [](QLabel* label) {
-        if (IsShown(label))
+        if (label != nullptr)
             label->raise();
     };
     // The rolling ones lie over the plain ones.
@@ -113,7 +109,7 @@ QRegion OverlayLabels::Region() const
 {
     QRegion region;
     for (const QLabel* label : m_labels) {
-        if (IsShown(label))
+        if (label != nullptr)
             region += label->geometry();
     }
     return region;
@@ -136,10 +132,8 @@ void OverlayLabels::KeepRolling()
 }
 
 // What is not painted (hidden, covered, minimised, on another desktop) waits for it with the next step.
-void OverlayLabels::timerEvent(QTimerEvent* event)
+void OverlayLabels::timerEvent(QTimerEvent*)
 {
-    if (event->timerId() != m_rollTimer.timerId())
-        return QObject::timerEvent(event);
     if (!m_bPainted) {
         m_rollTimer.stop();
         return;

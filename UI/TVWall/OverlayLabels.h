@@ -30,8 +30,8 @@ public:
     /// other children.
     void Show(const std::vector<KvGUI::StructOSDInfo>& infos, const QSize& screen);
     void Hide(); ///< hides all until the next Show()
-    void Raise(); ///< brings those shown over the canvas's other children
-    QRegion Region() const; ///< what those shown cover of the canvas
+    void Raise(); ///< brings them over the canvas's other children
+    QRegion Region() const; ///< what they cover of the canvas
 
 Q_SIGNALS:
     /// A mouse, wheel, key or context-menu event of an overlay: the rolling ones are 0 ... 7, the plain ones

@@ -43,7 +43,7 @@ void ScreenBackdrop::SetPicture(const std::string& file, bool show)
 void ScreenBackdrop::Paint(
     QPainter& painter, const QSize& size, const QRect& exposed, qreal density, const QColor& textColor)
 {
-    if (size.isEmpty() || exposed.isEmpty())
+    if (exposed.isEmpty())
         return;
     painter.fillRect(exposed, QColor(ScreenColor));
     if (m_bShowBackground)
@@ -108,7 +108,7 @@ void ScreenBackdrop::PaintPicture(QPainter& painter, const QSize& size, qreal de
     const QRect whole(QPoint(0, 0), size);
     const QSize wanted = size * density;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (wanted.width() > m_picture.width() || wanted.height() > m_picture.height()) {
+    if (wanted.boundedTo(m_picture.size()) != wanted) {
         painter.drawPixmap(whole, m_picture);
         return;
     }

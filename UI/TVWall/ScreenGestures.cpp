@@ -1,6 +1,7 @@
 #include "ScreenGestures.h"
 
 #include "KvTVWallDisplayBand.h"
+#include "WallEvents.h"
 #include "WallGeometry.h"
 #include "WallSelection.h"
 
@@ -46,8 +47,7 @@ void ScreenGestures::HandleWindowEvent(QObject* window, QEvent* event)
         break;
     case QEvent::KeyPress: {
         const auto& key = *static_cast<QKeyEvent*>(event);
-        const bool clicks = key.key() == Qt::Key_Space && !key.isAutoRepeat();
-        if (clicks && IsSelectable(window, Qt::LeftButton)) {
+        if (WallEvents::IsClick(key) && IsSelectable(window, Qt::LeftButton)) {
             event->accept();
             Click(window);
         }
@@ -65,9 +65,8 @@ QPoint ScreenGestures::OnScreen(const QMouseEvent& event) const
 
 bool ScreenGestures::IsSelectable(const QObject* window, Qt::MouseButton button) const
 {
-    const int index = m_screen.IndexOf(window);
-    return index >= 0
-        && WallSelection::TakesPart(m_screen.SelectionMode(), button, m_screen.IsWindowSelected(index));
+    const bool selected = m_screen.IsWindowSelected(m_screen.IndexOf(window));
+    return WallSelection::TakesPart(m_screen.SelectionMode(), button, selected);
 }
 
 void ScreenGestures::PressWindow(QObject* window, const QPoint& pos, Qt::MouseButton button)

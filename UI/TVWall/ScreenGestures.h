@@ -61,9 +61,9 @@ public:
     ~ScreenGestures();
     Q_DISABLE_COPY(ScreenGestures)
 
-    /// Selects and draws as an event of a window wants it: the mouse, or the Space key, which clicks. The
-    /// event is accepted when a key was used. Mouse events are taken by their place on the desktop, because
-    /// the window itself may just have moved.
+    /// Selects and draws as an event of a window of the list wants it: the mouse, or the Space key, which
+    /// clicks. The event is accepted when a key was used. Mouse events are taken by their place on the
+    /// desktop, because the window itself may just have moved.
     void HandleWindowEvent(QObject* window, QEvent* event);
 
     /// @name The mouse on the empty part of the screen

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
 
-/// Which events of its windows and overlays a wall reports.
+/// Which events of its windows and overlays a wall reports, and what some of them mean.
 namespace UICommonMdl::WallEvents {
 
 inline bool IsMouse(QEvent::Type type)
@@ -27,5 +29,14 @@ inline bool IsReported(QEvent::Type type)
         return IsMouse(type);
     }
 }
+
+/// The focus comes by the Tab key, and is marked: after a click everybody knows where it is.
+inline bool IsByTab(const QFocusEvent& event)
+{
+    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+}
+
+/// A key that clicks what has the focus: the Space key, once however long it is held.
+inline bool IsClick(const QKeyEvent& event) { return event.key() == Qt::Key_Space && !event.isAutoRepeat(); }
 
 } // namespace UICommonMdl::WallEvents

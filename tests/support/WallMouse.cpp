@@ -47,10 +47,10 @@ void WallMouse::Click(const QPoint& at, Qt::MouseButton button)
     Release(at, button);
 }
 
-void WallMouse::DoubleClick(const QPoint& at)
+void WallMouse::DoubleClick(const QPoint& at, Qt::MouseButton button)
 {
     if (Window())
-        QTest::mouseDClick(Window(), Qt::LeftButton, {}, InWindow(at));
+        QTest::mouseDClick(Window(), button, {}, InWindow(at));
 }
 
 void WallMouse::Drag(const QPoint& from, const QPoint& to, Qt::KeyboardModifiers keys)
@@ -59,6 +59,12 @@ void WallMouse::Drag(const QPoint& from, const QPoint& to, Qt::KeyboardModifiers
     Move((from + to) / 2, keys);
     Move(to, keys);
     Release(to, Qt::LeftButton, keys);
+}
+
+void WallMouse::LoseRelease(const QPoint& at)
+{
+    QTestPrivate::qtestMouseButtons = Qt::NoButton;
+    Move(at);
 }
 
 void WallMouse::Wheel(const QPoint& at, int angle)

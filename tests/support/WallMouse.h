@@ -21,9 +21,11 @@ public:
     void Release(const QPoint& at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {});
     /// With the right button Qt adds the event that asks for a context menu.
     void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
-    void DoubleClick(const QPoint& at);
+    void DoubleClick(const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
     /// Presses the left button, moves half the way and all of it, and releases.
     void Drag(const QPoint& from, const QPoint& to, Qt::KeyboardModifiers keys = {});
+    /// The first move after all buttons were released elsewhere, as over the menu of another program.
+    void LoseRelease(const QPoint& at);
     void Wheel(const QPoint& at, int angle);
     bool DragEnter(const QPoint& at, const QMimeData& data); ///< @return whether it was accepted
     void DragLeave();
