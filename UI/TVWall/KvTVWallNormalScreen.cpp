@@ -66,7 +66,7 @@ void KvTVWallNormalScreen::Remove()
     if (m_pCover != nullptr)
         m_pCover->hide();
     hide();
-    deleteLater();
+    m_pView->DeleteWhenDone(this);
 }
 
 // ---- The screen itself
@@ -263,7 +263,7 @@ bool KvTVWallNormalScreen::DeleteWindow(int index)
     m_gestures.CancelSite(); // its release may never come
     disconnect(window, nullptr, this, nullptr);
     Q_EMIT SignalArrangementChanged();
-    window->deleteLater();
+    m_pView->DeleteWhenDone(window);
     window->hide(); // moves the focus on, of which the client may hear
     return true;
 }
@@ -318,11 +318,10 @@ void KvTVWallNormalScreen::HandleWindowEvent(KvTVWallNormalWindow* window, QEven
 {
     if (IndexOf(window) == NoWindow)
         return; // removed, but the mouse is still held
-    const QPointer<KvTVWallNormalScreen> alive(this);
     window->HandleEvent(event);
-    if (alive && IndexOf(window) != NoWindow)
+    if (IndexOf(window) != NoWindow)
         m_gestures.HandleWindowEvent(window, event);
-    const int index = alive ? IndexOf(window) : NoWindow;
+    const int index = IndexOf(window);
     if (index != NoWindow)
         Q_EMIT SignalWindowEvent(index, event);
 }

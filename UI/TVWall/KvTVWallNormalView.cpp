@@ -67,9 +67,19 @@ void KvTVWallNormalView::DeleteWithWall()
         delete this;
         return;
     }
-    m_bOrphaned = true;
     CancelMouse();
     setParent(nullptr); // hides it too
+    DeleteWhenDone(this);
+}
+
+// A slot that opens a dialog runs an event loop of its own, in which what is deleted for later goes: while Qt
+// is still handling an event that would be too soon.
+void KvTVWallNormalView::DeleteWhenDone(QObject* removed)
+{
+    if (m_iHandling > 0)
+        m_removed << removed;
+    else
+        removed->deleteLater();
 }
 
 // ---- What the items share

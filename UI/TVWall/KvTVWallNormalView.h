@@ -9,6 +9,7 @@
 #include <QPair>
 #include <QPixmap>
 #include <QPointer>
+#include <utility>
 
 namespace UICommonMdl {
 
@@ -44,9 +45,8 @@ class KvTVWallNormalView : public QGraphicsView, private NormalWallLook
     Q_PROPERTY(QString closeHoverIcon MEMBER closeHoverIcon)
 
 public:
-    /// Lives while the view handles an event of Qt's, and keeps it alive: the wall's end waits, also in the
-    /// event loop of a dialog that a slot opens. Only the deferred deletion itself, an event too, ends the
-    /// view.
+    /// Lives while the view handles an event of Qt's: what is removed stays until it is done, the view of a
+    /// wall that ends as well. Only the deferred deletion itself, an event too, ends the view meanwhile.
     class Handling
     {
     public:
@@ -57,8 +57,10 @@ public:
         }
         ~Handling()
         {
-            if (m_pView && --m_pView->m_iHandling == 0 && m_pView->m_bOrphaned)
-                m_pView->deleteLater();
+            if (!m_pView || --m_pView->m_iHandling > 0)
+                return;
+            for (QObject* removed : std::exchange(m_pView->m_removed, {}))
+                removed->deleteLater();
         }
         Q_DISABLE_COPY(Handling)
 
@@ -68,8 +70,9 @@ public:
 
     explicit KvTVWallNormalView(QWidget* parent);
 
-    /// The wall ends: the view goes with it, or, when a slot of the wall's signals has deleted it, as soon
-    /// as Qt is done with the event that is being handled.
+    /// Deletes an item, or the view, as soon as Qt is done with the event that is being handled.
+    void DeleteWhenDone(QObject* removed);
+    /// The wall ends: the view goes with it, or, when a slot of the wall's signals has deleted it, when done.
     void DeleteWithWall();
 
     const QList<KvTVWallNormalScreen*>& Screens() const { return m_screens; } ///< by index
@@ -145,7 +148,7 @@ private:
     int m_iSelectionMode = 0;
     bool m_bAudioButtons = true;
     int m_iHandling = 0; // events of Qt's on the stack
-    bool m_bOrphaned = false;
+    QVector<QObject*> m_removed; // windows and screens, or the view itself, that go when it is done with them
     Target m_held; // has the mouse until all buttons are released
     bool m_bOwnCursor = false;
     Target m_dragOver; // below something that is dragged from elsewhere
