@@ -1,5 +1,6 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
+#include "support/Text.h"
 #include "support/WriteFaults.h"
 
 #include <Common/CIniFile.h>
@@ -16,6 +17,7 @@
 #include <type_traits>
 #include <unistd.h>
 
+using namespace TestSupport;
 using UICommonMdl::CIniFile;
 using UICommonMdl::CLocalIniFile;
 using UICommonMdl::CommonFun;
@@ -23,8 +25,8 @@ using XCM::QIniFile;
 
 namespace {
 
-const QString kSection = QStringLiteral("Wall");
-const QString kKey = QStringLiteral("Layout");
+const QString kSection = "Wall"_s;
+const QString kKey = "Layout"_s;
 
 template <typename File>
 constexpr bool IsCopied = std::is_copy_constructible<File>::value || std::is_copy_assignable<File>::value;
@@ -57,12 +59,12 @@ private slots:
 
     void ListsComeBackAsOneText_data()
     {
-        TestSupport::Columns<QByteArray, QString>("line", "value");
-        QTest::newRow("numbers") << QByteArray("Layout=1,2,3") << QStringLiteral("1,2,3");
-        QTest::newRow("blanks around") << QByteArray("Layout=10, 20 ,30") << QStringLiteral("10,20,30");
-        QTest::newRow("empty parts") << QByteArray("Layout=,,") << QStringLiteral(",,");
-        QTest::newRow("quoted") << QByteArray("Layout=\"a,b\"") << QStringLiteral("a,b");
-        QTest::newRow("plain") << QByteArray("Layout=abc") << QStringLiteral("abc");
+        Columns<QByteArray, QString>("line", "value");
+        QTest::newRow("numbers") << QByteArray("Layout=1,2,3") << "1,2,3"_s;
+        QTest::newRow("blanks around") << QByteArray("Layout=10, 20 ,30") << "10,20,30"_s;
+        QTest::newRow("empty parts") << QByteArray("Layout=,,") << ",,"_s;
+        QTest::newRow("quoted") << QByteArray("Layout=\"a,b\"") << "a,b"_s;
+        QTest::newRow("plain") << QByteArray("Layout=abc") << "abc"_s;
     }
 
     /// Catches a comma-separated line that reads as a list, and a difference between the two classes.
@@ -83,8 +85,8 @@ private slots:
     void DefaultsAndOtherTypes()
     {
         CIniFile file(Path());
-        const QStringList list{QStringLiteral("a"), QStringLiteral("b")};
-        QCOMPARE(file.ReadValue(kSection, kKey, list), QVariant(QStringLiteral("a,b")));
+        const QStringList list{"a"_s, "b"_s};
+        QCOMPARE(file.ReadValue(kSection, kKey, list), QVariant("a,b"_s));
         QCOMPARE(file.ReadValue(kSection, kKey, QStringList()), QVariant(QString()));
         QCOMPARE(file.ReadValue(kSection, kKey, QVariantList{1, 2}), QVariant(QVariantList{1, 2}));
         QCOMPARE(file.ReadValue(kSection, kKey, 42), QVariant(42));
@@ -98,23 +100,23 @@ private slots:
     /// for the object's end, and a written text that reads back as a list.
     void FileIsUtf8()
     {
-        const QString text = QStringLiteral("\u4E2D\u6587,\u00E9");
+        const QString text = "\u4E2D\u6587,\u00E9"_s;
         CIniFile file(Path());
         file.WriteValue(kSection, kKey, text);
         QVERIFY(Read(Path()).contains(text.toUtf8()));
         QCOMPARE(file.ReadValue(kSection, kKey, QVariant()), QVariant(text));
         QIniFile small(Path());
-        small.WriteValue(kSection, QStringLiteral("Other"), 7);
+        small.WriteValue(kSection, "Other"_s, 7);
         QVERIFY(Read(Path()).contains("Other=7"));
-        Write(m_folder->filePath(QStringLiteral("other.ini")), "[Wall]\nLayout=\xE4\xB8\xAD\n");
-        QIniFile other(m_folder->filePath(QStringLiteral("other.ini")));
-        QCOMPARE(other.ReadValue(kSection, kKey).toString(), QStringLiteral("\u4E2D"));
+        Write(m_folder->filePath("other.ini"_s), "[Wall]\nLayout=\xE4\xB8\xAD\n");
+        QIniFile other(m_folder->filePath("other.ini"_s));
+        QCOMPARE(other.ReadValue(kSection, kKey).toString(), "\u4E2D"_s);
     }
 
     /// Catches a key that is built in two steps, so that the key goes into the section's place mark.
     void PlaceMarksInNames()
     {
-        const QString section = QStringLiteral("100%2");
+        const QString section = "100%2"_s;
         CIniFile file(Path());
         file.WriteValue(section, kKey, 1);
         QCOMPARE(file.ReadAllSecName(), QStringList{section});
@@ -128,14 +130,14 @@ private slots:
         file.RemoveValue(kSection, kKey);
         QVERIFY(!Read(Path()).contains("Layout"));
         {
-            const auto fault = TestSupport::FullDisk(10);
+            const auto fault = FullDisk(10);
             const QByteArray whole = Read(Path());
-            file.RemoveValue(QStringLiteral("Users"), QStringLiteral("admin"));
+            file.RemoveValue("Users"_s, "admin"_s);
             QCOMPARE(Read(Path()), whole);
         }
-        QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), 2);
-        file.RemoveValue(QStringLiteral("Screens"), QString());
-        QCOMPARE(file.ReadAllSecName(), (QStringList{QStringLiteral("Users"), kSection}));
+        QCOMPARE(file.ReadValue(kSection, "Rows"_s, 0).toInt(), 2);
+        file.RemoveValue("Screens"_s, QString());
+        QCOMPARE(file.ReadAllSecName(), (QStringList{"Users"_s, kSection}));
     }
 
     /// Catches an empty name that clears the whole file, which is what the settings class makes of it.
@@ -145,7 +147,7 @@ private slots:
         Write(Path(), text);
         CIniFile file(Path());
         file.RemoveValue(QString(), QString());
-        file.RemoveValue(QStringLiteral("/"), QStringLiteral("//"));
+        file.RemoveValue("/"_s, "//"_s);
         file.WriteValue(QString(), QString(), 5);
         QCOMPARE(file.ReadValue(QString(), QString(), 6), QVariant(6));
         QCOMPARE(Read(Path()), text);
@@ -153,7 +155,7 @@ private slots:
 
     void DamagedValues_data()
     {
-        TestSupport::Columns<QByteArray, bool>("value", "safe");
+        Columns<QByteArray, bool>("value", "safe");
         const auto deep = [](int depth) {
             return "@Variant(" + QByteArray("\\0\\0\\0\\x9\\0\\0\\0\\x1").repeated(depth)
                 + "\\0\\0\\0\\x2\\0\\0\\0\\x5)";
@@ -207,11 +209,11 @@ private slots:
         Write(Path(), text);
         Write(BackupPath(), "[Wall]\nRows=3\n");
         CIniFile file(Path());
-        QCOMPARE(file.ReadValue(kSection, QStringLiteral("Rows"), 0).toInt(), safe ? 2 : 3);
+        QCOMPARE(file.ReadValue(kSection, "Rows"_s, 0).toInt(), safe ? 2 : 3);
         QCOMPARE(file.ReadValue(kSection, kKey, QVariant()).isValid(), safe);
         file.WriteValue(kSection, kKey, 7);
         QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 6).toInt(), 7);
-        QCOMPARE(Read(Path() + QStringLiteral(".damaged")), safe ? QByteArray("no such file") : text);
+        QCOMPARE(Read(Path() + ".damaged"_s), safe ? QByteArray("no such file") : text);
     }
 
     /// Catches a damaged value that is read after all because its file cannot be put aside, or that comes
@@ -219,10 +221,10 @@ private slots:
     void DamageThatStays()
     {
         const QByteArray text = "[Wall]\nRows=2\nLayout=@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\n";
-        const auto rows = [this] { return CIniFile(Path()).ReadValue(kSection, QStringLiteral("Rows"), 7); };
+        const auto rows = [this] { return CIniFile(Path()).ReadValue(kSection, "Rows"_s, 7); };
         Write(Path(), text);
         {
-            const auto fault = TestSupport::ReadOnlyFolder(m_folder->path());
+            const auto fault = ReadOnlyFolder(m_folder->path());
             QCOMPARE(rows(), QVariant(7));
         }
         Write(BackupPath(), text);
@@ -234,10 +236,10 @@ private slots:
     {
         const QVariant plain[]
             = {QRectF(1, 2, 3, 4),
-               QUrl(QStringLiteral("http://a/b")),
+               QUrl("http://a/b"_s),
                QDateTime::currentDateTime(),
                QColor(Qt::red),
-               QVariantMap{{QStringLiteral("a"), QVariantList{1, QSize(2, 3), 'c'}}},
+               QVariantMap{{"a"_s, QVariantList{1, QSize(2, 3), 'c'}}},
                QLocale(QLocale::German)};
         for (const QVariant& value : plain) {
             CIniFile(Path()).WriteValue(kSection, kKey, value);
@@ -251,7 +253,7 @@ private slots:
     /// lock, and one that takes the lock of a writer that lives.
     void LocksOfOtherWriters()
     {
-        const QString lock = Path() + QStringLiteral(".lock");
+        const QString lock = Path() + ".lock"_s;
         for (const QByteArray& signature : {QByteArray(""), QByteArray("2147483647\nclient\n\n")}) {
             Write(lock, signature);
             QElapsedTimer timer;
@@ -292,17 +294,17 @@ private slots:
     void LocalFileLiesInTheCurrentFolder()
     {
         KvGUI::KvDir::SetCurrentPath(m_folder->path());
-        const QString name = QStringLiteral("client.ini");
+        const QString name = "client.ini"_s;
         QVERIFY(!CLocalIniFile::ReadValue(kSection, kKey, name).isValid());
-        CLocalIniFile::WriteValue(kSection, kKey, QStringLiteral("a,b"), name);
-        QCOMPARE(CLocalIniFile::ReadValue(kSection, kKey, name), QVariant(QStringLiteral("a,b")));
+        CLocalIniFile::WriteValue(kSection, kKey, "a,b"_s, name);
+        QCOMPARE(CLocalIniFile::ReadValue(kSection, kKey, name), QVariant("a,b"_s));
         QVERIFY(QFile::exists(Path()));
         KvGUI::KvDir::SetCurrentPath(QString());
     }
 
     void FileHasData_data()
     {
-        TestSupport::Columns<QByteArray, bool>("bytes", "hasData");
+        Columns<QByteArray, bool>("bytes", "hasData");
         QTest::newRow("empty") << QByteArray("") << false;
         QTest::newRow("text") << QByteArray("[Wall]\nRows=2\n") << true;
         QTest::newRow("no line ending") << QByteArray("a") << true;
@@ -332,28 +334,21 @@ private slots:
         QCOMPARE(CommonFun::CheckFileHasData(Path()), hasData);
     }
 
-    void DamagedFileComesBack_data()
-    {
-        TestSupport::Columns<bool, QByteArray>("exists", "bytes");
-        QTest::newRow("gone") << false << QByteArray();
-        QTest::newRow("emptied") << true << QByteArray();
-        QTest::newRow("zeroed") << true << QByteArray(4096, '\0');
-    }
-
-    /// Catches a damaged file that overwrites the good backup or is not restored, and a returned name that is
-    /// that of the backup.
+    /// Catches a damaged or missing file that overwrites the good backup or is not restored, and a returned
+    /// name that is that of the backup.
     void DamagedFileComesBack()
     {
-        QFETCH(bool, exists);
-        QFETCH(QByteArray, bytes);
         const QByteArray good = "[Wall]\nRows=2\n";
         Write(BackupPath(), good);
-        if (exists)
-            Write(Path(), bytes);
-        CommonFun::BackupConfigFile(Path());
-        QCOMPARE(CommonFun::GetHasBackupConfigFileName(Path()), Path());
-        QCOMPARE(Read(Path()), good);
-        QCOMPARE(Read(BackupPath()), good);
+        for (const int size : {-1, 0, 4096}) {
+            QFile::remove(Path());
+            if (size >= 0)
+                Write(Path(), QByteArray(size, '\0'));
+            CommonFun::BackupConfigFile(Path());
+            QCOMPARE(CommonFun::GetHasBackupConfigFileName(Path()), Path());
+            QCOMPARE(Read(Path()), good);
+            QCOMPARE(Read(BackupPath()), good);
+        }
     }
 
     /// Catches a second backup that does not replace the first (also a read-only one), a backup that can be
@@ -414,17 +409,17 @@ private slots:
     }
 
 private:
-    QString Path() const { return m_folder->filePath(QStringLiteral("client.ini")); }
-    QString BackupPath() const { return Path() + QStringLiteral(".usertmp"); }
+    QString Path() const { return m_folder->filePath("client.ini"_s); }
+    QString BackupPath() const { return Path() + ".usertmp"_s; }
 
     QScopedPointer<QTemporaryDir> m_folder;
 };
 
 int main(int argc, char** argv)
 {
-    TestSupport::PrepareEnvironment();
+    PrepareEnvironment();
     const QGuiApplication application(argc, argv);
     TestIniFiles test;
-    return TestSupport::RunStrictly(test, argc, argv);
+    return RunStrictly(test, argc, argv);
 }
 #include "tst_inifiles.moc"

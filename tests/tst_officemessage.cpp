@@ -2,12 +2,14 @@
 
 #include "support/Columns.h"
 #include "support/StrictMain.h"
+#include "support/Text.h"
 
 #include <Platform/Automation/Office/Host/RowRuns.h>
 #include <Platform/Automation/Office/OfficeMessage.h>
 
 #include <QtTest>
 
+using namespace TestSupport;
 using namespace Office;
 
 namespace {
@@ -44,7 +46,7 @@ private Q_SLOTS:
     {
         const QDateTime local(QDate(2026, 3, 14), QTime(10, 24, 36, 789));
         const QDateTime utc(QDate(2026, 3, 29), QTime(2, 30), Qt::UTC);
-        TestSupport::Columns<QVariant, QVariant>("sent", "received");
+        Columns<QVariant, QVariant>("sent", "received");
         const auto same
             = [](const char* name, const QVariant& value) { QTest::newRow(name) << value << value; };
         same("nothing", QVariant());
@@ -52,16 +54,15 @@ private Q_SLOTS:
         same("smallest", std::numeric_limits<qlonglong>::min());
         same("largest", std::numeric_limits<qulonglong>::max());
         same("double", -0.1);
-        same("text", QStringLiteral("\u4E2D \U0001F600 ") + QString(QChar(0)) + QChar(0xD800));
+        same("text", "\u4E2D \U0001F600 "_s + QString(QChar(0)) + QChar(0xD800));
         same("date", QDate(1900, 2, 28));
         same("moment", local);
         same("moment of UTC", utc);
         same("colour", QColor(1, 2, 3));
         same("block", QVariantList{QVariantList{QVariantList{1.5, QVariant()}, QVariantList{}}});
         QTest::newRow("int") << QVariant(-7) << QVariant(qlonglong(-7));
-        QTest::newRow("texts") << QVariant(QStringList{QStringLiteral("a")})
-                               << QVariant(QVariantList{QStringLiteral("a")});
-        QTest::newRow("bytes") << QVariant(QByteArray("abc")) << QVariant(QStringLiteral("abc"));
+        QTest::newRow("texts") << QVariant(QStringList{"a"_s}) << QVariant(QVariantList{"a"_s});
+        QTest::newRow("bytes") << QVariant(QByteArray("abc")) << QVariant("abc"_s);
         QTest::newRow("invalid colour") << QVariant(QColor()) << QVariant();
         QTest::newRow("no value of cells") << QVariant(QPoint(1, 2)) << QVariant(QString());
         QTest::newRow("too deep") << ListIn(1.0, 6) << ListIn(QVariant(), 4);
@@ -119,8 +120,8 @@ private Q_SLOTS:
         Request request;
         request.kind = Request::Write;
         request.object = 3;
-        request.member = QStringLiteral("Name");
-        request.arguments = {QStringLiteral("x")};
+        request.member = "Name"_s;
+        request.arguments = {"x"_s};
         const QByteArray frames = ToFrame(request) + ToFrame(Request());
         FrameBuffer buffer;
         QList<Request> requests;
@@ -148,26 +149,26 @@ private Q_SLOTS:
             QString text;
             const auto found = runs.Gaps(last);
             for (const RowRuns::Run& gap : found)
-                text += QStringLiteral("%1-%2 ").arg(gap.first).arg(gap.last);
+                text += "%1-%2 "_s.arg(gap.first).arg(gap.last);
             return text;
         };
-        QCOMPARE(gaps(3), QStringLiteral("0-3 "));
+        QCOMPARE(gaps(3), "0-3 "_s);
         runs.Add(5, 6);
         runs.Add(1, 2);
         runs.Add(9, 9);
-        QCOMPARE(gaps(10), QStringLiteral("0-0 3-4 7-8 10-10 "));
-        QCOMPARE(gaps(4), QStringLiteral("0-0 3-4 "));
+        QCOMPARE(gaps(10), "0-0 3-4 7-8 10-10 "_s);
+        QCOMPARE(gaps(4), "0-0 3-4 "_s);
         runs.Add(2, 4); // touches two of them
-        QCOMPARE(gaps(9), QStringLiteral("0-0 7-8 "));
+        QCOMPARE(gaps(9), "0-0 7-8 "_s);
     }
 };
 
 int main(int argc, char** argv)
 {
-    TestSupport::PrepareEnvironment();
+    PrepareEnvironment();
     const QGuiApplication application(argc, argv);
     TestOfficeMessage test;
-    return TestSupport::RunStrictly(test, argc, argv);
+    return RunStrictly(test, argc, argv);
 }
 
 #include "tst_officemessage.moc"

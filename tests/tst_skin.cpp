@@ -349,10 +349,10 @@ private slots:
         const auto read = KvGUI::KvFile::ReadAll;
         const QByteArray night("QWidget { color: #d0e0f0; }\n");
         const QString folder = QStringLiteral(SKIN_SOURCES);
-        QCOMPARE(read("night.css"_s, folder), night);
-        QCOMPARE(read("night.css"_s, folder + "//"_s), night);
-        QCOMPARE(read("/night.css"_s, folder), night);
-        QCOMPARE(read("/night.css"_s, folder + "/"_s), night);
+        for (const char* behind : {"", "/", "//"}) {
+            for (const char* before : {"", "/"})
+                QCOMPARE(read(QLatin1String(before) + "night.css"_s, folder + QLatin1String(behind)), night);
+        }
         QCOMPARE(read(folder + "/night.css"_s, QString()), night);
         QVERIFY(read("none.css"_s, folder).isNull());
         QVERIFY(read(QString(), folder).isNull());

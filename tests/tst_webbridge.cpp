@@ -1,5 +1,6 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
+#include "support/Text.h"
 
 #include <Platform/Automation/WebEngine/Allowances.h>
 #include <Platform/Automation/WebEngine/PageBridge.h>
@@ -8,6 +9,7 @@
 #include <QtWidgets>
 #include <memory>
 
+using namespace TestSupport;
 using WebEngine::Allowances;
 using WebEngine::PageBridge;
 
@@ -18,7 +20,7 @@ class tst_webbridge : public QObject
 private slots:
     void MayGoTo_data()
     {
-        TestSupport::Columns<QString, QStringList, bool>("url", "words", "allowed");
+        Columns<QString, QStringList, bool>("url", "words", "allowed");
         const QStringList none;
         for (const char* usual :
              {"http://a/", "https://a/", "HTTPS://a/", "file:///a", "data:text/html,a", "qrc:/a",
@@ -28,12 +30,10 @@ private slots:
              {"ftp://a/", "about:config", "chrome://gpu", "view-source:http://a/", "javascript:alert(1)",
               "blob:http://a/1", "mailto:a@b", "httpx://a", "", "//a/b"})
             QTest::newRow(*other ? other : "empty") << QString::fromLatin1(other) << none << false;
-        const QStringList words{
-            QStringLiteral("scheme:FTP"), QStringLiteral("downloads"), QStringLiteral("scheme:"),
-            QStringLiteral("something else")};
-        QTest::newRow("allowed") << QStringLiteral("ftp://a/") << words << true;
-        QTest::newRow("not the one allowed") << QStringLiteral("mailto:a@b") << words << false;
-        QTest::newRow("another word") << QStringLiteral("downloads:x") << words << false;
+        const QStringList words{"scheme:FTP"_s, "downloads"_s, "scheme:"_s, "something else"_s};
+        QTest::newRow("allowed") << "ftp://a/"_s << words << true;
+        QTest::newRow("not the one allowed") << "mailto:a@b"_s << words << false;
+        QTest::newRow("another word") << "downloads:x"_s << words << false;
     }
 
     // Catches a scheme that passes for a likeness, and one that the application cannot allow.
@@ -53,19 +53,17 @@ private slots:
         QStringList seen;
         connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) {
             seen << name;
-            QTimer::singleShot(0, this, [&] { seen << QStringLiteral("turn"); });
+            QTimer::singleShot(0, this, [&] { seen << "turn"_s; });
         });
         int taken = 0;
         connect(&bridge, &PageBridge::SignalTaken, this, [&](int count) { taken += count; });
-        bridge.Call(QStringLiteral("a"), QString());
-        bridge.Call(QStringLiteral("b"), QString());
-        bridge.Report(QStringLiteral("c"), QString());
+        bridge.Call("a"_s, QString());
+        bridge.Call("b"_s, QString());
+        bridge.Report("c"_s, QString());
         QVERIFY(seen.isEmpty());
         QTRY_COMPARE(seen.size(), 6);
-        const QString turn = QStringLiteral("turn");
-        QCOMPARE(
-            seen,
-            QStringList({QStringLiteral("a"), turn, QStringLiteral("b"), turn, QStringLiteral("c"), turn}));
+        const QString turn = "turn"_s;
+        QCOMPARE(seen, QStringList({"a"_s, turn, "b"_s, turn, "c"_s, turn}));
         // The page is not told of the provider's own report.
         QCOMPARE(taken, 2);
     }
@@ -77,19 +75,17 @@ private slots:
         QStringList seen;
         connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) {
             seen << name + QLatin1Char('(');
-            bridge.Call(QStringLiteral("inner"), QString());
+            bridge.Call("inner"_s, QString());
             if (seen.size() > 2)
                 return;
             QEventLoop dialog;
             QTimer::singleShot(20, &dialog, &QEventLoop::quit);
             dialog.exec();
-            seen << QStringLiteral(")");
+            seen << ")"_s;
         });
-        bridge.Call(QStringLiteral("outer"), QString());
+        bridge.Call("outer"_s, QString());
         QTRY_VERIFY(seen.size() >= 3);
-        QCOMPARE(
-            seen.mid(0, 3),
-            QStringList({QStringLiteral("outer("), QStringLiteral(")"), QStringLiteral("inner(")}));
+        QCOMPARE(seen.mid(0, 3), QStringList({"outer("_s, ")"_s, "inner("_s}));
     }
 
     // Catches a render process that has been taken over and fills the client's memory.
@@ -99,11 +95,11 @@ private slots:
         int calls = 0;
         connect(&bridge, &PageBridge::SignalCalled, this, [&] { ++calls; });
         for (int i = 0; i < 100000; ++i)
-            bridge.Call(QStringLiteral("a"), QString());
-        bridge.Report(QStringLiteral("last"), QString());
+            bridge.Call("a"_s, QString());
+        bridge.Report("last"_s, QString());
         QString last;
         connect(&bridge, &PageBridge::SignalCalled, this, [&](const QString& name) { last = name; });
-        QTRY_COMPARE(last, QStringLiteral("last"));
+        QTRY_COMPARE(last, "last"_s);
         QVERIFY(calls >= 8 && calls < 1000);
     }
 
@@ -117,8 +113,8 @@ private slots:
             ++calls;
             bridge.reset();
         });
-        bridge->Call(QStringLiteral("initComplete"), QString());
-        bridge->Call(QStringLiteral("b"), QString());
+        bridge->Call("initComplete"_s, QString());
+        bridge->Call("b"_s, QString());
         QTRY_VERIFY(!alive);
         QCoreApplication::processEvents();
         QCOMPARE(calls, 1);

@@ -1,5 +1,6 @@
 #include "support/Columns.h"
 #include "support/StrictMain.h"
+#include "support/Text.h"
 #include "support/VirtualDisplay.h"
 #include "web/RenderProcesses.h"
 #include "web/WebServer.h"
@@ -14,6 +15,7 @@
 #include <functional>
 #include <unistd.h>
 
+using namespace TestSupport;
 using UICommonMdl::CActiveXLinkWebCtrl;
 
 namespace {
@@ -31,12 +33,12 @@ QString Literal(const QString& text)
 
 QString CallOf(const QString& name, const QString& param = QString())
 {
-    return QStringLiteral("window.external.CallBack(%1, %2);").arg(Literal(name), Literal(param));
+    return "window.external.CallBack(%1, %2);"_s.arg(Literal(name), Literal(param));
 }
 
 QString ScriptPage(const QString& script)
 {
-    return QStringLiteral("<!DOCTYPE html><meta charset='utf-8'><script>%1</script>").arg(script);
+    return "<!DOCTYPE html><meta charset='utf-8'><script>%1</script>"_s.arg(script);
 }
 
 /// Runs the event loop until @p reached is true. (QTest::qWaitFor() runs it too seldom for the engine, which
@@ -79,7 +81,7 @@ struct Client
         names.clear();
         params.clear();
         web->SetUrl(url);
-        return WaitFor(Name("initComplete"));
+        return WaitFor("initComplete"_s);
     }
 
     bool WaitFor(const QString& name) const
@@ -92,11 +94,10 @@ struct Client
     /// The value of an expression in the page. Everything that the page called before has arrived then.
     QString Value(const QString& expression)
     {
-        const QString mark = QStringLiteral("value %1").arg(++values);
-        web->ExecuteJavaScript(
-            QStringLiteral("window.external.CallBack('%1', '' + (%2))").arg(mark, expression));
+        const QString mark = "value %1"_s.arg(++values);
+        web->ExecuteJavaScript("window.external.CallBack('%1', '' + (%2))"_s.arg(mark, expression));
         if (!WaitFor(mark))
-            return QStringLiteral("no answer");
+            return "no answer"_s;
         const int at = names.indexOf(mark);
         names.removeAt(at);
         return params.takeAt(at);
@@ -174,17 +175,16 @@ private slots:
 
     void LoadReport_data()
     {
-        TestSupport::Columns<QString, QStringList>("html", "calls");
-        const QString own = Name("initComplete");
-        QTest::newRow("page without script") << QStringLiteral("<p>Plan</p>") << QStringList{own};
+        Columns<QString, QStringList>("html", "calls");
+        const QString own = "initComplete"_s;
+        QTest::newRow("page without script") << "<p>Plan</p>"_s << QStringList{own};
         QTest::newRow("empty page") << QString() << QStringList{own};
         QTest::newRow("page that reports itself")
-            << ScriptPage(QStringLiteral("onload = () => { %1 }").arg(CallOf(own, Name("own"))))
-            << QStringList{own};
+            << ScriptPage("onload = () => { %1 }"_s.arg(CallOf(own, "own"_s))) << QStringList{own};
         QTest::newRow("page that reports itself early")
-            << ScriptPage(CallOf(Name("initMComplete"))) << QStringList{Name("initMComplete")};
+            << ScriptPage(CallOf("initMComplete"_s)) << QStringList{"initMComplete"_s};
         QTest::newRow("page that calls something else")
-            << ScriptPage(CallOf(Name("hello"))) << QStringList{Name("hello"), own};
+            << ScriptPage(CallOf("hello"_s)) << QStringList{"hello"_s, own};
     }
 
     // Catches a page that is never reported, or reported beside its own report.
@@ -195,19 +195,19 @@ private slots:
         Client client;
         client.web->SetUrl(Page(html));
         QVERIFY(client.WaitFor(calls.last()));
-        QCOMPARE(client.Value(Name("document.readyState")), Name("complete"));
+        QCOMPARE(client.Value("document.readyState"_s), "complete"_s);
         QCOMPARE(client.names, calls);
         // Again, for another page, without a scheme.
         QVERIFY(client.Open(QUrl(Page(QString())).toLocalFile()));
-        QCOMPARE(client.Value(Name("1")), Name("1"));
-        QCOMPARE(client.names, QStringList{Name("initComplete")});
+        QCOMPARE(client.Value("1"_s), "1"_s);
+        QCOMPARE(client.names, QStringList{"initComplete"_s});
     }
 
     // Catches a page that loads and is not seen.
     void PageIsPainted()
     {
         Client client;
-        QVERIFY(client.Open(Page(QStringLiteral("<body style='background: #2468ac'>"))));
+        QVERIFY(client.Open(Page("<body style='background: #2468ac'>"_s)));
         const auto colour = [&] { return client.web->grab().toImage().pixelColor(200, 150); };
         QTRY_COMPARE_WITH_TIMEOUT(colour(), QColor(0x24, 0x68, 0xac), Patience);
     }
@@ -216,23 +216,23 @@ private slots:
     void Resize()
     {
         Client client;
-        QVERIFY(client.Open(Page(ScriptPage(QStringLiteral(
+        QVERIFY(client.Open(Page(ScriptPage(
             "function zoomChange() { window.external.CallBack('zoom', '') }"
-            "onresize = () => window.external.CallBack('size', innerWidth + 'x' + innerHeight)")))));
+            "onresize = () => window.external.CallBack('size', innerWidth + 'x' + innerHeight)"_s))));
         client.web->resize(640, 480);
-        QVERIFY(client.WaitFor(Name("zoom")));
+        QVERIFY(client.WaitFor("zoom"_s));
         QTRY_COMPARE_WITH_TIMEOUT(
-            client.params.value(client.names.lastIndexOf(Name("size"))), Name("640x480"), Patience);
+            client.params.value(client.names.lastIndexOf("size"_s)), "640x480"_s, Patience);
     }
 
     void Texts_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("chinese") << QStringLiteral("\u76d1\u63a7\u4e2d\u5fc3 3\u53f7\u6444\u50cf\u673a");
-        QTest::newRow("beyond the basic plane") << QStringLiteral("\U0001F4F7\U0001F6A8");
-        QTest::newRow("right to left") << QStringLiteral("\u0643\u0627\u0645\u064a\u0631\u0627 \u200f7");
-        QTest::newRow("quotes and lines") << QStringLiteral("'\"`\\ ${x}\r\n\u2028 </script>");
-        QTest::newRow("a long text") << QStringLiteral("\u955c\u5934").repeated(300000);
+        QTest::newRow("chinese") << "\u76d1\u63a7\u4e2d\u5fc3 3\u53f7\u6444\u50cf\u673a"_s;
+        QTest::newRow("beyond the basic plane") << "\U0001F4F7\U0001F6A8"_s;
+        QTest::newRow("right to left") << "\u0643\u0627\u0645\u064a\u0631\u0627 \u200f7"_s;
+        QTest::newRow("quotes and lines") << "'\"`\\ ${x}\r\n\u2028 </script>"_s;
+        QTest::newRow("a long text") << "\u955c\u5934"_s.repeated(300000);
     }
 
     // Catches texts that are altered on their way to the page or back, in the name or in the parameter.
@@ -241,7 +241,7 @@ private slots:
         QFETCH(QString, text);
         Client client;
         QVERIFY(client.Open(Page(QString())));
-        QCOMPARE(client.Value(QStringLiteral("%1.length").arg(Literal(text))), QString::number(text.size()));
+        QCOMPARE(client.Value("%1.length"_s.arg(Literal(text))), QString::number(text.size()));
         QCOMPARE(client.Value(Literal(text)), text);
         const QString name = text.left(100);
         client.web->ExecuteJavaScript(CallOf(name, text));
@@ -251,18 +251,22 @@ private slots:
 
     void WordlessArguments_data()
     {
-        TestSupport::Columns<QString, QString, QString>("call", "name", "param");
-        QTest::newRow("none") << QStringLiteral("window.external.CallBack()") << QString() << QString();
-        QTest::newRow("null") << QStringLiteral("window.external.CallBack('n', null)") << Name("n")
-                              << QString();
-        QTest::newRow("number") << QStringLiteral("window.external.CallBack(3, 4.5)") << Name("3")
-                                << Name("4.5");
-        QTest::newRow("object") << QStringLiteral("linkWeb.CallBack('n', [1, 2])") << Name("n")
-                                << Name("1,2");
-        QTest::newRow("by itself") << QStringLiteral("(0, linkWeb.CallBack)('n', 'p')") << Name("n")
-                                   << Name("p");
-        QTest::newRow("zero character")
-            << QStringLiteral("linkWeb.CallBack('n', 'a\\0b')") << Name("n") << Name("a");
+        Columns<QString, QString, QString>("call", "name", "param");
+        QTest::newRow("none") << "window.external.CallBack()"_s << QString() << QString();
+        QTest::newRow("null") << "window.external.CallBack('n', null)"_s
+                              << "n"_s << QString();
+        QTest::newRow("number") << "window.external.CallBack(3, 4.5)"_s
+                                << "3"_s
+                                << "4.5"_s;
+        QTest::newRow("object") << "linkWeb.CallBack('n', [1, 2])"_s
+                                << "n"_s
+                                << "1,2"_s;
+        QTest::newRow("by itself") << "(0, linkWeb.CallBack)('n', 'p')"_s
+                                   << "n"_s
+                                   << "p"_s;
+        QTest::newRow("zero character") << "linkWeb.CallBack('n', 'a\\0b')"_s
+                                        << "n"_s
+                                        << "a"_s;
     }
 
     // Catches arguments that are no texts and come as "undefined", or stop the call.
@@ -273,7 +277,7 @@ private slots:
         QFETCH(QString, param);
         Client client;
         QVERIFY(client.Open(Page(QString())));
-        QCOMPARE(client.Value(call), Name("0"));
+        QCOMPARE(client.Value(call), "0"_s);
         QCOMPARE(client.names.last(), name);
         QCOMPARE(client.params.last(), param);
     }
@@ -284,19 +288,17 @@ private slots:
     {
         WebServer server;
         server.Answer(
-            QStringLiteral("/page"),
-            ScriptPage(
-                QStringLiteral("onload = () => { window.say = text => linkWeb.CallBack('said', text) }"))
-                .toUtf8());
+            "/page"_s,
+            ScriptPage("onload = () => { window.say = text => linkWeb.CallBack('said', text) }"_s).toUtf8());
         Client client;
-        client.web->SetUrl(server.Url(QStringLiteral("/page")));
+        client.web->SetUrl(server.Url("/page"_s));
         for (const char* text : {"one", "two", "three"})
-            client.web->ExecuteJavaScript(QStringLiteral("say('%1')").arg(Name(text)));
+            client.web->ExecuteJavaScript("say('%1')"_s.arg(Name(text)));
         for (int i = 0; i < 2000; ++i)
-            client.web->ExecuteJavaScript(QStringLiteral("window.n = (window.n || 0) + 1"));
-        QVERIFY(client.WaitFor(Name("said")));
-        QCOMPARE(client.Value(Name("document.readyState + n")), Name("complete997"));
-        QCOMPARE(client.params, QStringList({QString(), Name("one"), Name("two"), Name("three")}));
+            client.web->ExecuteJavaScript("window.n = (window.n || 0) + 1"_s);
+        QVERIFY(client.WaitFor("said"_s));
+        QCOMPARE(client.Value("document.readyState + n"_s), "complete997"_s);
+        QCOMPARE(client.params, QStringList({QString(), "one"_s, "two"_s, "three"_s}));
     }
 
     // Catches a bridge that lies in the document, which a page may replace.
@@ -304,9 +306,8 @@ private slots:
     {
         Client client;
         QVERIFY(client.Open(Page(QString())));
-        client.web->ExecuteJavaScript(
-            QStringLiteral("document.open(); document.write('<p>new'); document.close()"));
-        QCOMPARE(client.Value(Name("document.body.innerText")), Name("new"));
+        client.web->ExecuteJavaScript("document.open(); document.write('<p>new'); document.close()"_s);
+        QCOMPARE(client.Value("document.body.innerText"_s), "new"_s);
     }
 
     // Catches a frame, which may be from anywhere, that can call the client.
@@ -317,16 +318,14 @@ private slots:
             = "<script>try { window.external.CallBack('frame', '') } catch (e) { }"
               "try { linkWeb.CallBack('frame', '') } catch (e) { }"
               "top.postMessage([typeof linkWeb, typeof external.CallBack].join(), '*')</script>";
-        server.Answer(QStringLiteral("/frame"), tries);
+        server.Answer("/frame"_s, tries);
         Client client;
-        QVERIFY(client.Open(
-            Page(QStringLiteral("<script>let seen = []; onmessage = e => { seen.push(e.data) }</script>"
-                                "<iframe src='%1'></iframe><iframe srcdoc=\"%2\"></iframe>")
-                     .arg(server.Url(QStringLiteral("/frame")), QString::fromLatin1(tries)))));
-        const QString none = Name("undefined,undefined");
-        QTRY_COMPARE_WITH_TIMEOUT(
-            client.Value(Name("seen.join(' ')")), none + QLatin1Char(' ') + none, Patience);
-        QCOMPARE(client.names, QStringList{Name("initComplete")});
+        QVERIFY(client.Open(Page("<script>let seen = []; onmessage = e => { seen.push(e.data) }</script>"
+                                 "<iframe src='%1'></iframe><iframe srcdoc=\"%2\"></iframe>"_s.arg(
+                                     server.Url("/frame"_s), QString::fromLatin1(tries)))));
+        const QString none = "undefined,undefined"_s;
+        QTRY_COMPARE_WITH_TIMEOUT(client.Value("seen.join(' ')"_s), none + QLatin1Char(' ') + none, Patience);
+        QCOMPARE(client.names, QStringList{"initComplete"_s});
     }
 
     // Catches a page that gets hold of the channel behind the call, and with it of objects of the client.
@@ -334,19 +333,19 @@ private slots:
     {
         Client client;
         QVERIFY(client.Open(Page(QString())));
-        QCOMPARE(client.Value(Name("typeof qt + typeof linkWebClient")), Name("undefinedundefined"));
+        QCOMPARE(client.Value("typeof qt + typeof linkWebClient"_s), "undefinedundefined"_s);
         QCOMPARE(
-            client.Value(Name("Object.keys(linkWeb).concat(Object.keys(external)).join()")),
-            Name("CallBack,CallBack"));
+            client.Value("Object.keys(linkWeb).concat(Object.keys(external)).join()"_s),
+            "CallBack,CallBack"_s);
         // Neither by the events between the two ends, nor by things of the language that the page replaces.
-        client.web->ExecuteJavaScript(QStringLiteral(
+        client.web->ExecuteJavaScript(
             "let got = 'nothing'; addEventListener('linkWebHello', e => { got = e.relatedTarget });"
             "dispatchEvent(new Event('linkWebAsk'));"
             "JSON.stringify = Array.prototype.push = Map.prototype.get = window.CustomEvent = window.String "
             "= () "
             "=> 'x';"
-            "EventTarget.prototype.dispatchEvent = () => false"));
-        QCOMPARE(client.Value(Name("(got, 'sound')")), Name("sound"));
+            "EventTarget.prototype.dispatchEvent = () => false"_s);
+        QCOMPARE(client.Value("(got, 'sound')"_s), "sound"_s);
     }
 
     // Catches a flood that stops the client, fills its memory, or mixes up the calls.
@@ -354,19 +353,19 @@ private slots:
     {
         Client client;
         const Pulse pulse;
-        QVERIFY(client.Open(Page(ScriptPage(
-            QStringLiteral("window.taken = 0; window.refused = 0; window.flood = true;"
-                           "function pour() { for (let i = 0; i < 20000; ++i) {"
-                           "  if (linkWeb.CallBack('drop', String(taken)) === 0) ++taken; else ++refused; }"
-                           "  if (flood) setTimeout(pour, 0) }"
-                           "onload = () => { linkWeb.CallBack('initComplete', ''); pour() }")))));
+        QVERIFY(client.Open(
+            Page(ScriptPage("window.taken = 0; window.refused = 0; window.flood = true;"
+                            "function pour() { for (let i = 0; i < 20000; ++i) {"
+                            "  if (linkWeb.CallBack('drop', String(taken)) === 0) ++taken; else ++refused; }"
+                            "  if (flood) setTimeout(pour, 0) }"
+                            "onload = () => { linkWeb.CallBack('initComplete', ''); pour() }"_s))));
         QVERIFY(pulse.Beats(20));
-        client.web->ExecuteJavaScript(Name("flood = false"));
+        client.web->ExecuteJavaScript("flood = false"_s);
         QTRY_VERIFY_WITH_TIMEOUT(client.names.size() > 4096, Patience);
         for (int i = 1; i < client.names.size(); ++i)
             QCOMPARE(client.params.at(i), QString::number(i - 1));
         // The page can call again when the client has caught up.
-        QTRY_VERIFY_WITH_TIMEOUT(client.Value(Name("refused > 0")) == Name("true"), Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(client.Value("refused > 0"_s) == "true"_s, Patience);
     }
 
     // Catches huge arguments that reach the client, and large ones that do not.
@@ -374,11 +373,11 @@ private slots:
     {
         Client client;
         QVERIFY(client.Open(Page(QString())));
-        QCOMPARE(client.Value(Name("linkWeb.CallBack('n'.repeat(1025), '')")), Name("-1"));
-        QCOMPARE(client.Value(Name("linkWeb.CallBack('n', 'p'.repeat(4194305))")), Name("-1"));
-        QCOMPARE(client.Value(Name("linkWeb.CallBack('n', 'p'.repeat(1 << 28))")), Name("-1"));
+        QCOMPARE(client.Value("linkWeb.CallBack('n'.repeat(1025), '')"_s), "-1"_s);
+        QCOMPARE(client.Value("linkWeb.CallBack('n', 'p'.repeat(4194305))"_s), "-1"_s);
+        QCOMPARE(client.Value("linkWeb.CallBack('n', 'p'.repeat(1 << 28))"_s), "-1"_s);
         QCOMPARE(client.names.size(), 1);
-        QCOMPARE(client.Value(Name("linkWeb.CallBack('n'.repeat(1024), 'p'.repeat(4194304))")), Name("0"));
+        QCOMPARE(client.Value("linkWeb.CallBack('n'.repeat(1024), 'p'.repeat(4194304))"_s), "0"_s);
         QCOMPARE(client.names.value(1).size(), 1024);
         QCOMPARE(client.params.value(1).size(), 4194304);
     }
@@ -387,69 +386,68 @@ private slots:
     void NameFollowsTheLanguage()
     {
         const auto control = Automation::AutomationRegistry::CreateControl(nullptr);
-        QVERIFY(control && control->setControl(Name("LinkWeb.PageControl")));
-        QCOMPARE(control->widget()->accessibleName(), Name("Web page"));
-        QVERIFY(KvGUI::SetLanguage(Name("zh_CN")));
-        QTRY_COMPARE(control->widget()->accessibleName(), QStringLiteral("\u7f51\u9875"));
-        QVERIFY(KvGUI::SetLanguage(Name("en")));
-        QTRY_COMPARE(control->widget()->accessibleName(), Name("Web page"));
+        QVERIFY(control && control->setControl("LinkWeb.PageControl"_s));
+        QCOMPARE(control->widget()->accessibleName(), "Web page"_s);
+        QVERIFY(KvGUI::SetLanguage("zh_CN"_s));
+        QTRY_COMPARE(control->widget()->accessibleName(), "\u7f51\u9875"_s);
+        QVERIFY(KvGUI::SetLanguage("en"_s));
+        QTRY_COMPARE(control->widget()->accessibleName(), "Web page"_s);
     }
 
     // Catches calls that reach a listener that was taken away.
     void CallsAfterRemoval()
     {
-        const QString add = Name("AddLinster(ULONGLONG)");
-        const QString run = Name("CallJavaScritp(string)");
+        const QString add = "AddLinster(ULONGLONG)"_s;
+        const QString run = "CallJavaScritp(string)"_s;
         QWidget window;
         window.resize(300, 200);
         window.show();
         const auto control = Automation::AutomationRegistry::CreateControl(&window);
         QVERIFY(control);
-        QVERIFY(!control->setControl(Name("Some.OtherControl")));
-        QVERIFY(control->setControl(Name("LinkWeb.PageControl")));
+        QVERIFY(!control->setControl("Some.OtherControl"_s));
+        QVERIFY(control->setControl("LinkWeb.PageControl"_s));
         Listener first;
         Listener second;
         control->dynamicCall(add, {first.Address()});
-        control->dynamicCall(
-            Name("init(string,long,string,string)"), {Page(QString()), 0, QString(), QString()});
+        control->dynamicCall("init(string,long,string,string)"_s, {Page(QString()), 0, QString(), QString()});
         control->show();
-        QTRY_VERIFY_WITH_TIMEOUT(first.names.contains(Name("initComplete")), Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(first.names.contains("initComplete"_s), Patience);
 
         control->dynamicCall(add, {qulonglong(0)});
         // More calls than may be on their way at once: the last is sent when the others have been taken.
         control->dynamicCall(
             run,
-            {QStringLiteral("let n = 0; function call() { linkWeb.CallBack('late', '');"
-                            " if (++n < 40) setTimeout(call, 1); else document.title = 'done' } call()")});
-        QTRY_COMPARE_WITH_TIMEOUT(control->widget()->accessibleName(), Name("done"), Patience);
+            {"let n = 0; function call() { linkWeb.CallBack('late', '');"
+             " if (++n < 40) setTimeout(call, 1); else document.title = 'done' } call()"_s});
+        QTRY_COMPARE_WITH_TIMEOUT(control->widget()->accessibleName(), "done"_s, Patience);
         QCOMPARE(first.names.size(), 1);
-        QVERIFY(KvGUI::SetLanguage(Name("zh_CN")));
+        QVERIFY(KvGUI::SetLanguage("zh_CN"_s));
         QCoreApplication::processEvents();
-        QVERIFY(KvGUI::SetLanguage(Name("en")));
-        QCOMPARE(control->widget()->accessibleName(), Name("done"));
+        QVERIFY(KvGUI::SetLanguage("en"_s));
+        QCOMPARE(control->widget()->accessibleName(), "done"_s);
 
-        control->dynamicCall(Name("Explode"));
+        control->dynamicCall("Explode"_s);
         control->dynamicCall(add, {second.Address()});
-        control->dynamicCall(run, {CallOf(Name("again"))});
-        QTRY_VERIFY_WITH_TIMEOUT(second.names.contains(Name("again")), Patience);
+        control->dynamicCall(run, {CallOf("again"_s)});
+        QTRY_VERIFY_WITH_TIMEOUT(second.names.contains("again"_s), Patience);
         QCOMPARE(first.names.size(), 1);
 
         control->clear();
-        control->dynamicCall(run, {CallOf(Name("cleared"))});
+        control->dynamicCall(run, {CallOf("cleared"_s)});
         control->dynamicCall(add, {second.Address()});
-        QVERIFY(!second.names.contains(Name("cleared")));
+        QVERIFY(!second.names.contains("cleared"_s));
     }
 
     // Catches calls on a control whose view the client has deleted.
     void ViewGoneFirst()
     {
         const auto control = Automation::AutomationRegistry::CreateControl(nullptr);
-        QVERIFY(control && control->setControl(Name("LinkWeb.PageControl")));
+        QVERIFY(control && control->setControl("LinkWeb.PageControl"_s));
         delete control->widget();
-        control->dynamicCall(Name("init(string,long,string,string)"), {Page(QString())});
+        control->dynamicCall("init(string,long,string,string)"_s, {Page(QString())});
         control->show();
         QCOMPARE(control->winId(), WId(0));
-        QVERIFY(!control->setControl(Name("LinkWeb.PageControl")));
+        QVERIFY(!control->setControl("LinkWeb.PageControl"_s));
     }
 
     // Catches a dialog of a page that stops the client, or a page that stops for its own dialog.
@@ -457,17 +455,17 @@ private slots:
     {
         Client client;
         QVERIFY(client.Open(Page(QString())));
-        QCOMPARE(client.Value(Name("[alert('x'), confirm('x'), prompt('x', 'y')].join()")), Name(",false,"));
+        QCOMPARE(client.Value("[alert('x'), confirm('x'), prompt('x', 'y')].join()"_s), ",false,"_s);
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
     }
 
     void Hanging_data()
     {
         QTest::addColumn<QString>("script");
-        QTest::newRow("alert loop") << QStringLiteral("for (;;) alert('again')");
-        QTest::newRow("endless loop") << QStringLiteral("for (;;) { }");
-        QTest::newRow("reload loop") << QStringLiteral("location.reload()");
-        QTest::newRow("leaving guard") << QStringLiteral("onbeforeunload = e => { e.returnValue = 'stay' }");
+        QTest::newRow("alert loop") << "for (;;) alert('again')"_s;
+        QTest::newRow("endless loop") << "for (;;) { }"_s;
+        QTest::newRow("reload loop") << "location.reload()"_s;
+        QTest::newRow("leaving guard") << "onbeforeunload = e => { e.returnValue = 'stay' }"_s;
     }
 
     // Catches a page that stops the client, or that the client cannot leave for another.
@@ -475,40 +473,39 @@ private slots:
     {
         QFETCH(QString, script);
         Client client;
-        client.web->SetUrl(Page(
-            ScriptPage(CallOf(Name("started")) + QStringLiteral("setTimeout(() => { %1 }, 0)").arg(script))));
-        QVERIFY(client.WaitFor(Name("started")));
+        client.web->SetUrl(
+            Page(ScriptPage(CallOf("started"_s) + "setTimeout(() => { %1 }, 0)"_s.arg(script))));
+        QVERIFY(client.WaitFor("started"_s));
         const Pulse pulse;
         QVERIFY(pulse.Beats(20));
         QVERIFY(client.Open(Page(QString())));
-        QCOMPARE(client.Value(Name("1 + 1")), Name("2"));
+        QCOMPARE(client.Value("1 + 1"_s), "2"_s);
     }
 
     // Catches a page that takes the bridge or scripts of the client along in an unready state.
     void NavigationAway()
     {
         Client client;
-        const QString second = Page(ScriptPage(QStringLiteral("window.page = 'second'")));
+        const QString second = Page(ScriptPage("window.page = 'second'"_s));
         QVERIFY(client.Open(Page(QString())));
         client.names.clear();
         client.params.clear();
-        client.web->ExecuteJavaScript(QStringLiteral("location = %1").arg(Literal(second)));
-        QVERIFY(client.WaitFor(Name("initComplete")));
-        QCOMPARE(client.Value(Name("page")), Name("second"));
-        QCOMPARE(client.web->GetUrl().contains(Name("page")), true);
+        client.web->ExecuteJavaScript("location = %1"_s.arg(Literal(second)));
+        QVERIFY(client.WaitFor("initComplete"_s));
+        QCOMPARE(client.Value("page"_s), "second"_s);
+        QCOMPARE(client.web->GetUrl().contains("page"_s), true);
     }
 
     void RefusedRequests_data()
     {
-        TestSupport::Columns<QString, QByteArray>("script", "refused");
+        Columns<QString, QByteArray>("script", "refused");
         const QByteArray scheme = "The way to another scheme was refused to a page: (rtsp-map|mailto):";
-        QTest::newRow("location") << QStringLiteral("location = 'rtsp-map://somewhere/'") << scheme;
-        QTest::newRow("mail") << QStringLiteral("location = 'mailto:someone@example.org'") << scheme;
+        QTest::newRow("location") << "location = 'rtsp-map://somewhere/'"_s << scheme;
+        QTest::newRow("mail") << "location = 'mailto:someone@example.org'"_s << scheme;
         const auto element = [](const char* row, const char* tag, const char* script,
                                 const QByteArray& refused) {
-            const QString made
-                = QStringLiteral("{ const e = document.createElement('%1'); %2; document.body.append(e);"
-                                 " e.click() }");
+            const QString made = "{ const e = document.createElement('%1'); %2; document.body.append(e);"
+                                 " e.click() }"_s;
             QTest::newRow(row) << made.arg(Name(tag), Name(script)) << refused;
         };
         element("link", "a", "e.href = 'rtsp-map:x'", scheme);
@@ -517,9 +514,9 @@ private slots:
             "file", "input",
             "e.type = 'file'; e.style = 'position: fixed; left: 0; top: 0; width: 100%; height: 100%'",
             "The choice of a file was refused");
-        QTest::newRow("window, twice") << QStringLiteral("open('about:blank'); open('about:blank')")
-                                       << QByteArray("A new window was refused");
-        QTest::newRow("place") << QStringLiteral("navigator.geolocation.getCurrentPosition(() => { })")
+        QTest::newRow("window, twice")
+            << "open('about:blank'); open('about:blank')"_s << QByteArray("A new window was refused");
+        QTest::newRow("place") << "navigator.geolocation.getCurrentPosition(() => { })"_s
                                << QByteArray("The use of a device was refused");
     }
 
@@ -530,14 +527,14 @@ private slots:
         QFETCH(QString, script);
         QFETCH(QByteArray, refused);
         Client client;
-        QVERIFY(client.Open(Page(QStringLiteral("<body>"))));
+        QVERIFY(client.Open(Page("<body>"_s)));
         const int windows = QApplication::topLevelWidgets().size();
         ExpectWarning(refused.constData());
         client.web->ExecuteJavaScript(script);
-        QCOMPARE(client.Value(Name("document.readyState")), Name("complete"));
+        QCOMPARE(client.Value("document.readyState"_s), "complete"_s);
         // Some of it takes a user who clicks.
         QTest::mouseClick(client.web->findChild<QWidget*>()->focusProxy(), Qt::LeftButton, {}, {200, 150});
-        QCOMPARE(client.Value(Name("location.protocol")), Name("file:"));
+        QCOMPARE(client.Value("location.protocol"_s), "file:"_s);
         QCOMPARE(QApplication::topLevelWidgets().size(), windows);
     }
 
@@ -545,38 +542,37 @@ private slots:
     void LocalFiles()
     {
         WebServer server;
-        server.Answer(QStringLiteral("/page"), "<body>");
-        const QString secret = Page(QStringLiteral("secret"));
+        server.Answer("/page"_s, "<body>");
+        const QString secret = Page("secret"_s);
         const QString read
-            = QStringLiteral("{ const r = new XMLHttpRequest; r.open('GET', %1);"
-                             " r.onloadend = () => linkWeb.CallBack('read', r.responseText); r.send() }")
-                  .arg(Literal(secret));
+            = "{ const r = new XMLHttpRequest; r.open('GET', %1);"
+              " r.onloadend = () => linkWeb.CallBack('read', r.responseText); r.send() }"_s.arg(
+                  Literal(secret));
         Client client;
-        for (const QString& url : {Page(QStringLiteral("<body>")), server.Url(QStringLiteral("/page"))}) {
+        for (const QString& url : {Page("<body>"_s), server.Url("/page"_s)}) {
             QVERIFY(client.Open(url));
             client.web->ExecuteJavaScript(read);
-            QVERIFY(client.WaitFor(Name("read")));
-            QCOMPARE(client.Param(Name("read")), QString());
+            QVERIFY(client.WaitFor("read"_s));
+            QCOMPARE(client.Param("read"_s), QString());
         }
-        const Allowed allowed({Name("file-access")});
-        QVERIFY(client.Open(Page(QStringLiteral("<body>"))));
+        const Allowed allowed({"file-access"_s});
+        QVERIFY(client.Open(Page("<body>"_s)));
         client.web->ExecuteJavaScript(read);
-        QVERIFY(client.WaitFor(Name("read")));
-        QCOMPARE(client.Param(Name("read")), Name("secret"));
+        QVERIFY(client.WaitFor("read"_s));
+        QCOMPARE(client.Param("read"_s), "secret"_s);
     }
 
     // Catches windows that can call the client.
     void NewWindows()
     {
-        const QString other = Page(ScriptPage(QStringLiteral("opener.postMessage(typeof linkWeb, '*')")));
-        const QString open = QStringLiteral("window.open(%1)").arg(Literal(other));
+        const QString other = Page(ScriptPage("opener.postMessage(typeof linkWeb, '*')"_s));
+        const QString open = "window.open(%1)"_s.arg(Literal(other));
         Client client;
-        const Allowed allowed({Name("new-windows")});
-        QVERIFY(client.Open(
-            Page(ScriptPage(QStringLiteral("onmessage = e => linkWeb.CallBack('seen', e.data)")))));
+        const Allowed allowed({"new-windows"_s});
+        QVERIFY(client.Open(Page(ScriptPage("onmessage = e => linkWeb.CallBack('seen', e.data)"_s))));
         client.web->ExecuteJavaScript(open);
-        QVERIFY(client.WaitFor(Name("seen")));
-        QCOMPARE(client.Param(Name("seen")), Name("undefined"));
+        QVERIFY(client.WaitFor("seen"_s));
+        QCOMPARE(client.Param("seen"_s), "undefined"_s);
         QCOMPARE(client.web->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).size(), 2);
     }
 
@@ -585,9 +581,8 @@ private slots:
     {
         WebServer server;
         const QByteArray attached = "Content-Disposition: attachment; filename=plan.bin\r\n";
-        server.Answer(QStringLiteral("/plan"), "12345", attached);
-        const QString fetch
-            = QStringLiteral("location = %1").arg(Literal(server.Url(QStringLiteral("/plan"))));
+        server.Answer("/plan"_s, "12345", attached);
+        const QString fetch = "location = %1"_s.arg(Literal(server.Url("/plan"_s)));
         const auto saved = [] {
             QFile file(
                 QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)
@@ -599,14 +594,14 @@ private slots:
         ExpectWarning("A download was refused");
         client.web->ExecuteJavaScript(fetch);
         QVERIFY(WaitUntil([&] { return server.Asked().size() == 1; }));
-        QCOMPARE(client.Value(Name("1 + 1")), Name("2"));
+        QCOMPARE(client.Value("1 + 1"_s), "2"_s);
 
-        const Allowed allowed({Name("downloads")});
+        const Allowed allowed({"downloads"_s});
         Client other;
         QVERIFY(other.Open(Page(QString())));
         other.web->ExecuteJavaScript(fetch);
         QVERIFY(WaitUntil([&] { return saved() == "12345"; }));
-        QCOMPARE(other.Value(Name("1 + 1")), Name("2"));
+        QCOMPARE(other.Value("1 + 1"_s), "2"_s);
     }
 
     // Catches a page that cannot be loaded and is reported as loaded, or that stops what comes after it.
@@ -614,15 +609,15 @@ private slots:
     {
         Client client;
         ExpectWarning("A page did not load: file:///no/such/page.html");
-        client.web->SetUrl(QStringLiteral("file:///no/such/page.html"));
-        client.web->ExecuteJavaScript(CallOf(Name("lost")));
+        client.web->SetUrl("file:///no/such/page.html"_s);
+        client.web->ExecuteJavaScript(CallOf("lost"_s));
         ExpectWarning("The way to another scheme was refused to a page: rtsp-map:");
-        CActiveXLinkWebCtrl().SetUrl(Name("rtsp-map:x"));
+        CActiveXLinkWebCtrl().SetUrl("rtsp-map:x"_s);
         const QSignalSpy finished(client.web->findChild<QWidget*>(), SIGNAL(loadFinished(bool)));
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, Patience);
         QVERIFY(client.names.isEmpty());
         QVERIFY(client.Open(Page(QString())));
-        QVERIFY(!client.names.contains(Name("lost")));
+        QVERIFY(!client.names.contains("lost"_s));
     }
 
     // Catches a page that is used after a slot of the client deleted the widget.
@@ -632,7 +627,7 @@ private slots:
         web->show();
         const QPointer<CActiveXLinkWebCtrl> alive(web);
         connect(web, &CActiveXLinkWebCtrl::sgnMainCall, this, [&] { delete web; });
-        web->SetUrl(Page(ScriptPage(CallOf(Name("first")) + CallOf(Name("second")))));
+        web->SetUrl(Page(ScriptPage(CallOf("first"_s) + CallOf("second"_s))));
         QTRY_VERIFY_WITH_TIMEOUT(!alive, Patience);
     }
 
@@ -640,11 +635,11 @@ private slots:
     void DestructionWhileLoading()
     {
         WebServer server; // never answers
-        const QString call = Page(ScriptPage(CallOf(Name("late")).repeated(50)));
+        const QString call = Page(ScriptPage(CallOf("late"_s).repeated(50)));
         for (int turns = 0; turns < 24; ++turns) {
             Client client;
-            client.web->SetUrl(turns % 2 == 0 ? call : server.Url(QStringLiteral("/never")));
-            client.web->ExecuteJavaScript(CallOf(Name("script")));
+            client.web->SetUrl(turns % 2 == 0 ? call : server.Url("/never"_s));
+            client.web->ExecuteJavaScript(CallOf("script"_s));
             QTest::qWait(5 * turns); // another point of the load each time
         }
         Client client;
@@ -655,24 +650,24 @@ private slots:
     void NewAddressWhileLoading()
     {
         WebServer server;
-        const QString page = Page(ScriptPage(CallOf(Name("from the old page")).repeated(50)));
+        const QString page = Page(ScriptPage(CallOf("from the old page"_s).repeated(50)));
         const QString last = Page(QString());
         for (int turns = 0; turns < 12; ++turns) {
             Client client;
-            client.web->SetUrl(turns % 3 == 0 ? server.Url(QStringLiteral("/never")) : page);
-            client.web->ExecuteJavaScript(CallOf(Name("for the old page")));
+            client.web->SetUrl(turns % 3 == 0 ? server.Url("/never"_s) : page);
+            client.web->ExecuteJavaScript(CallOf("for the old page"_s));
             QTest::qWait(5 * turns); // another point of the load each time
             QVERIFY(client.Open(last));
-            QCOMPARE(client.Value(Name("1")), Name("1"));
-            QCOMPARE(client.names, QStringList{Name("initComplete")});
+            QCOMPARE(client.Value("1"_s), "1"_s);
+            QCOMPARE(client.names, QStringList{"initComplete"_s});
         }
     }
 
     void ProcessKilled_data()
     {
-        TestSupport::Columns<int, QString>("signal", "end");
-        QTest::newRow("killed") << SIGKILL << Name("killed");
-        QTest::newRow("crashed") << SIGSEGV << Name("crashed");
+        Columns<int, QString>("signal", "end");
+        QTest::newRow("killed") << SIGKILL << "killed"_s;
+        QTest::newRow("crashed") << SIGSEGV << "crashed"_s;
     }
 
     // Catches a dead page that nobody hears of, takes the client along, or stays dead.
@@ -687,14 +682,14 @@ private slots:
         ExpectWarning(("The render process of a page has ended: " + end.toLatin1()).constData());
         for (const int process : processes)
             ::kill(process, signal);
-        QVERIFY(client.WaitFor(Name("webTerminated")));
-        QCOMPARE(client.Param(Name("webTerminated")), end);
-        client.web->ExecuteJavaScript(CallOf(Name("lost")));
+        QVERIFY(client.WaitFor("webTerminated"_s));
+        QCOMPARE(client.Param("webTerminated"_s), end);
+        client.web->ExecuteJavaScript(CallOf("lost"_s));
         client.web->resize(500, 400);
 
         QVERIFY(client.Open(Page(QString())));
-        QCOMPARE(client.Value(Name("innerWidth")), Name("500"));
-        QVERIFY(!client.names.contains(Name("lost")));
+        QCOMPARE(client.Value("innerWidth"_s), "500"_s);
+        QVERIFY(!client.names.contains("lost"_s));
     }
 
     // Catches a client that waits for a page whose process is stopped, or that cannot leave it for another.
@@ -706,22 +701,22 @@ private slots:
         QVERIFY(!processes.isEmpty());
         for (const int process : processes)
             ::kill(process, SIGSTOP);
-        client.web->ExecuteJavaScript(CallOf(Name("lost")));
+        client.web->ExecuteJavaScript(CallOf("lost"_s));
         client.web->resize(500, 400);
         const Pulse pulse;
         QVERIFY(pulse.Beats(20));
-        const bool left = client.Open(Page(QString())) && client.Value(Name("innerWidth")) == Name("500");
+        const bool left = client.Open(Page(QString())) && client.Value("innerWidth"_s) == "500"_s;
         for (const int process : processes)
             ::kill(process, SIGCONT);
         QVERIFY(left);
-        QVERIFY(!client.names.contains(Name("lost")));
+        QVERIFY(!client.names.contains("lost"_s));
     }
 
 private:
     /// The address of a local page.
     QString Page(const QString& html)
     {
-        QFile file(m_folder.filePath(QStringLiteral("page %1.html").arg(++m_iPages)));
+        QFile file(m_folder.filePath("page %1.html"_s.arg(++m_iPages)));
         if (!file.open(QIODevice::WriteOnly) || file.write(html.toUtf8()) < 0)
             return QString();
         return QUrl::fromLocalFile(file.fileName()).toString();
@@ -733,14 +728,14 @@ private:
 
 int main(int argc, char** argv)
 {
-    TestSupport::PrepareEnvironment();
-    const TestSupport::VirtualDisplay display;
+    PrepareEnvironment();
+    const VirtualDisplay display;
     const QTemporaryDir home; // for downloads
     qputenv("HOME", QFile::encodeName(home.path()));
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication application(argc, argv);
     tst_webengine test;
-    return TestSupport::RunStrictly(test, argc, argv);
+    return RunStrictly(test, argc, argv);
 }
 
 #include "tst_webengine.moc"
