@@ -137,9 +137,12 @@ class TestCropPicture : public QObject
     Q_OBJECT
 
 private slots:
-    // Catches ratios in double precision, products that are rounded, and a division by an empty photo.
+    // Catches a photo beside the middle, ratios in double precision, products that are rounded, and a
+    // division by an empty photo.
     void FramesFollowAResizedPhoto()
     {
+        QCOMPARE(CropPicture::PhotoRect({301, 200}, {100, 300}), QRect(100, 0, 100, 300));
+        QCOMPARE(CropPicture::PhotoRect({300, 203}, {300, 100}), QRect(0, 51, 300, 100));
         const auto followed = CropPicture::FollowedCrop; // crop, photo before, photo now
         const QRect photo(0, 0, 300, 200);
         QCOMPARE(followed({10, 20, 30, 40}, photo, {0, 0, 600, 400}), QRect(20, 40, 60, 80));

@@ -333,6 +333,8 @@ private Q_SLOTS:
         const WallSelection::State after = WallSelection::Clicked(before, 0, click);
         QTEST(after.selected, "selected");
         QTEST(after.selectOnly, "selectOnlyAfter");
+        for (const int nobody : {-1, 2})
+            QCOMPARE(WallSelection::Clicked(before, nobody, click).selected, before.selected);
         // A right click takes no selection away.
         QVERIFY(WallSelection::TakesPart(2, Qt::LeftButton, true));
         QVERIFY(WallSelection::TakesPart(1, Qt::RightButton, false));

@@ -80,7 +80,9 @@ QImage CCutDetailPhoto::ChanageImageByAspectRatio(const QImage& image) const
 void CCutDetailPhoto::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
-    const CropState& state = d_func()->state;
+    CropState& state = d_func()->state;
+    if (state.photo.width() == 0 || state.photo.height() == 0)
+        state.CalculationPhotoRect(size());
     QPainter painter(this);
     painter.drawPixmap(state.photo.topLeft(), state.display);
     if (state.crop.width() != 0 && state.crop.height() != 0)

@@ -415,6 +415,8 @@ void CCutPhotoWithZoom::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
     CCutPhotoWithZoomPrivate* const d = d_func();
+    if (d->state.photo.width() == 0 || d->state.photo.height() == 0)
+        d->state.CalculationPhotoRect(size());
     QPainter painter(this);
     painter.drawPixmap(d->state.photo.topLeft(), d->state.display);
     if (!d->pressed)

@@ -59,9 +59,16 @@ QImage ReadPicture(QIODevice& file)
     return image;
 }
 
+QRect PhotoRect(const QSize& widget, const QSize& display)
+{
+    const int x = display.width() < widget.width() ? (widget.width() - display.width()) / 2 : 0;
+    const int y = display.height() < widget.height() ? (widget.height() - display.height()) / 2 : 0;
+    return QRect(QPoint(x, y), display);
+}
+
 QRect FollowedCrop(const QRect& crop, const QRect& before, const QRect& now)
 {
-    if (before.isEmpty())
+    if (before.width() == 0 || before.height() == 0)
         return crop;
     const float xRatio = Ratio(now.width(), before.width());
     const float yRatio = Ratio(now.height(), before.height());

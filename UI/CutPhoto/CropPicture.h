@@ -23,8 +23,12 @@ QImage ReadPicture(const QString& path);
 /// The same of what @p file, which is open, holds from its position on.
 QImage ReadPicture(QIODevice& file);
 
-/// The frame @p crop on the photo @p before, carried over to the photo @p now; unchanged when @p before is
-/// empty.
+/// Where a picture shown with @p display pixels stands in a widget of @p widget pixels: in its middle, or at
+/// the upper left edge in a direction in which it is not smaller.
+QRect PhotoRect(const QSize& widget, const QSize& display);
+
+/// The frame @p crop on the photo @p before, carried over to the photo @p now; unchanged when @p before has
+/// no width or no height.
 QRect FollowedCrop(const QRect& crop, const QRect& before, const QRect& now);
 
 /// The pixels of a source picture of @p source pixels, shown with @p display pixels at @p photo, that the

@@ -41,13 +41,13 @@ void CropState::ShowSource(const QImage& image, const QWidget& canvas)
     cutInfo.bHasImage = true;
     display = CropPainting::Stretched(image, canvas.size(), canvas.devicePixelRatioF());
     displaySize = display.isNull() ? QSize(0, 0) : canvas.size();
-    CalculationPhotoRect();
+    CalculationPhotoRect(canvas.size());
 }
 
-void CropState::CalculationPhotoRect()
+void CropState::CalculationPhotoRect(const QSize& widget)
 {
     if (!displaySize.isEmpty())
-        photo = QRect(QPoint(0, 0), displaySize);
+        photo = CropPicture::PhotoRect(widget, displaySize);
 }
 
 bool CropState::Covers(const QWidget& canvas) const

@@ -28,8 +28,8 @@ struct CropState
     /// Makes @p image the picture of cutInfo and stretches it over @p canvas.
     void ShowSource(const QImage& image, const QWidget& canvas);
 
-    /// Puts the photo where it is painted: stretched, it fills the widget. Nothing without a picture.
-    void CalculationPhotoRect();
+    /// Puts the photo into the middle of a widget of @p widget pixels; nothing without a picture.
+    void CalculationPhotoRect(const QSize& widget);
 
     /// Whether @p canvas is covered by opaque pixels of the photo.
     bool Covers(const QWidget& canvas) const;

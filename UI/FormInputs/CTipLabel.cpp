@@ -14,6 +14,7 @@
 #include <QTextEdit>
 #include <QTextFrame>
 #include <QTextLayout>
+#include <QTimerEvent>
 #include <QWindow>
 #include <cmath>
 
@@ -239,8 +240,12 @@ void CTipLabel::SetDisplayTime(int milliseconds)
 
 void CTipLabel::OnFadeOutFinished() { HideTip(); }
 
-void CTipLabel::timerEvent(QTimerEvent*)
+void CTipLabel::timerEvent(QTimerEvent* event)
 {
+    if (event->timerId() != m_hideTimer.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
     m_hideTimer.stop();
     m_pFadeIn->stop();
     m_pFadeOut->start();

@@ -69,7 +69,8 @@ OverlayLabels::MakeRolling(const KvGUI::StructOSDInfo& info, const ScreenOverlay
     label->setGeometry(WallGeometry::Displayable(placement.geometry));
     label->SetContent(
         {ScreenOverlay::Text(info), placement.fontPixelSize, ScreenOverlay::TextColor(info),
-         ScreenOverlay::BackColor(info), ScreenOverlay::AlignmentOf(info.iAlign), info.iRollMode});
+         ScreenOverlay::BackColor(info), info.bRoll, ScreenOverlay::AlignmentOf(info.iAlign),
+         info.iRollMode});
     return label;
 }
 

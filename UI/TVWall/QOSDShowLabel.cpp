@@ -40,7 +40,7 @@ void QOSDShowLabel::SetContent(const Content& content)
         m_lines << ScreenOverlay::PaddedToWidth(line, lineWidth, spaceWidth, width());
     }
     // A text that swings takes its own width, so that it turns where it touches the label's edges.
-    const bool swings = content.rollMode == BackAndForth;
+    const bool swings = content.roll && content.rollMode == BackAndForth;
     m_textSize = QSize(swings ? widest : qMax(widest, width()), metrics.lineSpacing() * m_lines.size());
     setAlignment(content.alignment);
     setText(content.text); // what assistive technology reads
@@ -55,7 +55,7 @@ QFont QOSDShowLabel::TextFont() const
 }
 
 // A text that swings and fills its label exactly has nowhere to go.
-bool QOSDShowLabel::IsRolling() const { return WayLength() >= 1.0; }
+bool QOSDShowLabel::IsRolling() const { return m_content.roll && WayLength() >= 1.0; }
 
 // Pixels of one round. A text leaves the label wholly before it comes in again from the other side; back
 // and forth it moves as far as it sticks out of the label, or as it has room in it.
@@ -70,7 +70,7 @@ double QOSDShowLabel::WayLength() const
 
 void QOSDShowLabel::Advance(int milliseconds)
 {
-    if (!IsRolling())
+    if (!IsRolling() || milliseconds <= 0)
         return;
     m_way = std::fmod(m_way + PixelsPerSecond * milliseconds / 1000.0, WayLength());
     update();
@@ -78,6 +78,8 @@ void QOSDShowLabel::Advance(int milliseconds)
 
 QPoint QOSDShowLabel::TextOffset() const
 {
+    if (!m_content.roll)
+        return {};
     const int way = static_cast<int>(m_way);
     // The first round starts at rest; past the length that takes it out of the label, the text comes in
     // again from the other side.

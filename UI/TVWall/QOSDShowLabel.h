@@ -32,6 +32,7 @@ public:
         int fontPixelSize = 1; ///< whatever an application's sheet says about labels
         QColor textColor;
         QColor backColor;
+        bool roll = true; ///< false: the text stands still
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
         int rollMode = RightToLeft;
     };

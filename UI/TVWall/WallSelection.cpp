@@ -4,6 +4,8 @@ namespace UICommonMdl::WallSelection {
 
 State Clicked(State state, int target, const Click& click)
 {
+    if (target < 0 || target >= state.selected.size())
+        return state;
     const bool wasSelected = state.selected.at(target);
     if (click.mode == SingleMode) {
         state.selected.fill(false);
