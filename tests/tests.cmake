@@ -92,7 +92,8 @@ uicomponents_test(tst_webbridge tst_webbridge.cpp "${web_engine}/Allowances.cpp"
 if(TARGET WebEngineProvider AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
     find_package(Qt5 5.15 REQUIRED COMPONENTS Network)
     uicomponents_test(tst_webengine tst_webengine.cpp support/VirtualDisplay.cpp support/VirtualDisplay.h
-        web/RenderProcesses.cpp web/RenderProcesses.h web/WebServer.cpp web/WebServer.h)
+        office/Processes.cpp office/Processes.h web/RenderProcesses.cpp web/RenderProcesses.h web/WebServer.cpp
+        web/WebServer.h)
     target_link_libraries(tst_webengine PRIVATE Qt5::Network)
     # Qt5::Network brings a definition that the shared precompiled headers have not.
     set_target_properties(tst_webengine PROPERTIES DISABLE_PRECOMPILE_HEADERS ON)

@@ -60,11 +60,11 @@ private slots:
     void ListsComeBackAsOneText_data()
     {
         Columns<QByteArray, QString>("line", "value");
-        QTest::newRow("numbers") << QByteArray("Layout=1,2,3") << "1,2,3"_s;
-        QTest::newRow("blanks around") << QByteArray("Layout=10, 20 ,30") << "10,20,30"_s;
-        QTest::newRow("empty parts") << QByteArray("Layout=,,") << ",,"_s;
-        QTest::newRow("quoted") << QByteArray("Layout=\"a,b\"") << "a,b"_s;
-        QTest::newRow("plain") << QByteArray("Layout=abc") << "abc"_s;
+        Row("numbers", QByteArray("Layout=1,2,3"), "1,2,3"_s);
+        Row("blanks around", QByteArray("Layout=10, 20 ,30"), "10,20,30"_s);
+        Row("empty parts", QByteArray("Layout=,,"), ",,"_s);
+        Row("quoted", QByteArray("Layout=\"a,b\""), "a,b"_s);
+        Row("plain", QByteArray("Layout=abc"), "abc"_s);
     }
 
     /// Catches a comma-separated line that reads as a list, and a difference between the two classes.
@@ -160,42 +160,35 @@ private slots:
             return "@Variant(" + QByteArray("\\0\\0\\0\\x9\\0\\0\\0\\x1").repeated(depth)
                 + "\\0\\0\\0\\x2\\0\\0\\0\\x5)";
         };
-        QTest::newRow("number") << QByteArray("@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)") << true;
-        QTest::newRow("colour") << QByteArray(
-            "@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)")
-                                << true;
-        QTest::newRow("list") << deep(3) << true;
-        QTest::newRow("a text") << QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << true;
-        QTest::newRow("font") << QByteArray("@Variant(\\0\\0\\0\\x40)") << true;
-        QTest::newRow("texts") << QByteArray("@Variant(\\0\\0\\0\\v\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61)")
-                               << true;
-        QTest::newRow("nothing in a list") << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1"
-                                                         "\\0\\0\\0\\0\\0\\0\\0\\0)")
-                                           << true;
-        QTest::newRow("list without its things")
-            << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1)") << true;
-        QTest::newRow("list cut off") << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1") << true;
-        QTest::newRow("texts cut off") << QByteArray("@Variant(\\0\\0\\0\\v\\0\\0\\0\\x1") << true;
-        QTest::newRow("number cut off") << QByteArray("@\\x") << true;
-        QTest::newRow("escape cut off") << QByteArray("@\\") << true;
-        QTest::newRow("octal") << QByteArray("a\\101") << true;
-        QTest::newRow("numbers without digits") << QByteArray("@\\xg") << true;
-        QTest::newRow("font in a list")
-            << QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1\\0\\0\\0\\x40)") << false;
-        QTest::newRow("maps without end")
-            << "@Variant(" + QByteArray("\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\0").repeated(100000) + ")"
-            << false;
-        QTest::newRow("list without end")
-            << QByteArray("@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
-        QTest::newRow("map without end") << QByteArray("@Variant(\\0\\0\\0\\b\\x10\\0\\0\\0)") << false;
-        QTest::newRow("texts without end") << QByteArray("\"@Variant(\\0\\0\\0\\v\\x1f\\0\\0\\0)\"") << false;
-        QTest::newRow("nested without end") << deep(100000) << false;
-        QTest::newRow("points without end") << QByteArray("@Variant(\\0\\0\\0GB231)") << false;
-        QTest::newRow("in a list") << QByteArray("a, @Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)") << false;
-        QTest::newRow("in a moment") << QByteArray("@DateTime(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)")
-                                     << false;
-        QTest::newRow("written otherwise")
-            << QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\"") << false;
+        Row("number", QByteArray("@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)"), true);
+        Row("colour", QByteArray("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)"), true);
+        Row("list", deep(3), true);
+        Row("a text", QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\""), true);
+        Row("font", QByteArray("@Variant(\\0\\0\\0\\x40)"), true);
+        Row("texts", QByteArray("@Variant(\\0\\0\\0\\v\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61)"), true);
+        Row("nothing in a list",
+            QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1"
+                       "\\0\\0\\0\\0\\0\\0\\0\\0)"),
+            true);
+        Row("list without its things", QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1)"), true);
+        Row("list cut off", QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1"), true);
+        Row("texts cut off", QByteArray("@Variant(\\0\\0\\0\\v\\0\\0\\0\\x1"), true);
+        Row("number cut off", QByteArray("@\\x"), true);
+        Row("escape cut off", QByteArray("@\\"), true);
+        Row("octal", QByteArray("a\\101"), true);
+        Row("numbers without digits", QByteArray("@\\xg"), true);
+        Row("font in a list", QByteArray("@Variant(\\0\\0\\0\\x9\\0\\0\\0\\x1\\0\\0\\0\\x40)"), false);
+        Row("maps without end",
+            "@Variant(" + QByteArray("\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\0").repeated(100000) + ")", false);
+        Row("list without end", QByteArray("@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)"), false);
+        Row("map without end", QByteArray("@Variant(\\0\\0\\0\\b\\x10\\0\\0\\0)"), false);
+        Row("texts without end", QByteArray("\"@Variant(\\0\\0\\0\\v\\x1f\\0\\0\\0)\""), false);
+        Row("nested without end", deep(100000), false);
+        Row("points without end", QByteArray("@Variant(\\0\\0\\0GB231)"), false);
+        Row("in a list", QByteArray("a, @Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)"), false);
+        Row("in a moment", QByteArray("@DateTime(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)"), false);
+        Row("written otherwise", QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\""),
+            false);
     }
 
     /// Catches a damaged value that ends the client, or takes all memory or the stack, and one that costs the
@@ -305,23 +298,22 @@ private slots:
     void FileHasData_data()
     {
         Columns<QByteArray, bool>("bytes", "hasData");
-        QTest::newRow("empty") << QByteArray("") << false;
-        QTest::newRow("text") << QByteArray("[Wall]\nRows=2\n") << true;
-        QTest::newRow("no line ending") << QByteArray("a") << true;
-        QTest::newRow("blank") << QByteArray(" \n") << true;
-        QTest::newRow("first line empty") << QByteArray("\n[Wall]\n") << false;
-        QTest::newRow("first line empty, CR LF") << QByteArray("\r\n[Wall]\r\n") << false;
-        QTest::newRow("a CR that ends nothing") << QByteArray("\r[Wall]\n") << true;
-        QTest::newRow("zeros") << QByteArray(512, '\0') << false;
-        QTest::newRow("ones") << QByteArray(10, '\1') << false;
-        QTest::newRow("smallest data") << QByteArray(9, '\0') + "\2" << true;
-        QTest::newRow("data after zeros") << QByteArray("\0\0\0\0[Wall]\n", 11) << true;
-        QTest::newRow("data too late") << QByteArray(10, '\0') + "[Wall]\n" << false;
-        QTest::newRow("CR LF after zeros") << QByteArray(9, '\0') + "\r\n" << false;
-        QTest::newRow("not ASCII") << QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD\xE4[Wall]\n") << false;
-        QTest::newRow("ASCII as tenth byte")
-            << QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD=1\n") << true;
-        QTest::newRow("data behind the line") << QByteArray("\0\0\n[Wall]\n", 9) << false;
+        Row("empty", QByteArray(""), false);
+        Row("text", QByteArray("[Wall]\nRows=2\n"), true);
+        Row("no line ending", QByteArray("a"), true);
+        Row("blank", QByteArray(" \n"), true);
+        Row("first line empty", QByteArray("\n[Wall]\n"), false);
+        Row("first line empty, CR LF", QByteArray("\r\n[Wall]\r\n"), false);
+        Row("a CR that ends nothing", QByteArray("\r[Wall]\n"), true);
+        Row("zeros", QByteArray(512, '\0'), false);
+        Row("ones", QByteArray(10, '\1'), false);
+        Row("smallest data", QByteArray(9, '\0') + "\2", true);
+        Row("data after zeros", QByteArray("\0\0\0\0[Wall]\n", 11), true);
+        Row("data too late", QByteArray(10, '\0') + "[Wall]\n", false);
+        Row("CR LF after zeros", QByteArray(9, '\0') + "\r\n", false);
+        Row("not ASCII", QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD\xE4[Wall]\n"), false);
+        Row("ASCII as tenth byte", QByteArray("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD=1\n"), true);
+        Row("data behind the line", QByteArray("\0\0\n[Wall]\n", 9), false);
     }
 
     /// Catches bytes read as unsigned, a line that ends at a zero byte, a line ending that counts as data,

@@ -236,8 +236,8 @@ private Q_SLOTS:
     void StoresOtherFormats_data()
     {
         Columns<QString, bool>("name", "mark");
-        QTest::newRow("xls") << "table.xls" << false;
-        QTest::newRow("csv") << "table.csv" << true;
+        Row("xls", "table.xls", false);
+        Row("csv", "table.csv", true);
     }
 
     // Catches a file that other programs open with wrong letters, split cells or lost zeros, and a text that
@@ -316,12 +316,12 @@ private Q_SLOTS:
     void ReadsWhatItCannotReadAsNothing_data()
     {
         Columns<QString, QByteArray, bool>("name", "content", "opens");
-        QTest::newRow("damaged xlsx") << "damaged.xlsx" << QByteArray("PK\x03\x04 not a zip") << false;
-        QTest::newRow("empty csv") << "empty.csv" << QByteArray() << true;
-        QTest::newRow("one row") << "one.csv"
-                                 << QByteArray("\xEF\xBB\xBF"
-                                               "a,b\n")
-                                 << true;
+        Row("damaged xlsx", "damaged.xlsx", QByteArray("PK\x03\x04 not a zip"), false);
+        Row("empty csv", "empty.csv", QByteArray(), true);
+        Row("one row", "one.csv",
+            QByteArray("\xEF\xBB\xBF"
+                       "a,b\n"),
+            true);
     }
 
     // Catches rows made up for a file without any, and an office that a damaged file leaves unusable.
@@ -402,10 +402,10 @@ private Q_SLOTS:
     void CopesWithUnusualPaths_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("spaces") << "my table .xlsx";
-        QTest::newRow("hash and percent") << "50%#1%20.xlsx";
-        QTest::newRow("question mark and quotes") << "what?'\"&;.xlsx";
-        QTest::newRow("unicode") << Unicode + ".xlsx"_s;
+        Row("spaces", "my table .xlsx");
+        Row("hash and percent", "50%#1%20.xlsx");
+        Row("question mark and quotes", "what?'\"&;.xlsx");
+        Row("unicode", Unicode + ".xlsx"_s);
     }
 
     // Catches a path that is cut or decoded on its way into an address.
@@ -428,9 +428,9 @@ private Q_SLOTS:
     void ReportsUnwritablePlaces_data()
     {
         QTest::addColumn<QString>("path");
-        QTest::newRow("read-only folder") << "/proc/self/table.xlsx"; // also for root
-        QTest::newRow("no folder") << Path("missing/table.csv"_s);
-        QTest::newRow("a file for a folder") << QStringLiteral(OFFICE_READER) + "/table.pdf"_s;
+        Row("read-only folder", "/proc/self/table.xlsx"); // also for root
+        Row("no folder", Path("missing/table.csv"_s));
+        Row("a file for a folder", QStringLiteral(OFFICE_READER) + "/table.pdf"_s);
     }
 
     // Catches a table that is told to be stored and is not.
@@ -458,23 +458,26 @@ private Q_SLOTS:
         QCOMPARE(sheet->property(name), QVariant(Unicode));
     }
 
-    // Catches a workbook that is written into, or closed by, the other's user.
+    // Catches a workbook that is written into, or closed by, the other's user, and a second office for the
+    // second workbook or for the version probe, which would cost seconds each.
     void KeepsTwoWorkbooksApart()
     {
-        AxExcelFunction first;
-        AxExcelFunction second;
+        const pid_t office = Processes::Office(getpid());
+        QVERIFY(office);
+        AxExcelFunction books[2];
         const QString paths[] = {Path("first.csv"_s), Path("second.csv"_s)};
-        QVERIFY(first.OpenExcel(paths[0], true));
-        QVERIFY(second.OpenExcel(paths[1], true));
-        QVERIFY(first.SetMultiCellValue(1, 1, {{"one"_s}}));
-        QVERIFY(second.SetMultiCellValue(1, 1, {{"two"_s}}));
-        QVERIFY(second.SaveExcel());
-        second.FreeExcel();
-        QVERIFY(first.SaveExcel());
-        for (int i = 0; i < 2; ++i) {
-            const QJsonArray rows = ReadWorkbook(paths[i]).value("rows"_s).toArray();
-            QCOMPARE(Texts(rows.at(0)), QStringList{i == 0 ? "one"_s : "two"_s});
-        }
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(books[i].OpenExcel(paths[i], true));
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(books[i].SetMultiCellValue(1, 1, {{paths[i]}}));
+        QVERIFY(books[1].SaveExcel());
+        books[1].FreeExcel();
+        QVERIFY(books[0].SaveExcel());
+        for (const QString& path : paths)
+            QCOMPARE(Texts(ReadWorkbook(path).value("rows"_s).toArray().at(0)), QStringList{path});
+        AxExcelFunction::GetExcelFileFilter(true);
+        QCOMPARE(Processes::Office(getpid()), office);
+        QCOMPARE(Profiles().size(), 1);
     }
 
     // Catches an unknown member that ends the office, and objects that work on after their application has
@@ -534,25 +537,13 @@ private Q_SLOTS:
         QVERIFY(cell->isNull());
     }
 
-    // Catches a second office for a second workbook or for the version probe, which would cost seconds each.
-    void SharesOneOffice()
-    {
-        const pid_t office = Processes::Office(getpid());
-        QVERIFY(office);
-        AxExcelFunction excel;
-        QVERIFY(excel.OpenExcel(Path("shared.xlsx"_s), true));
-        AxExcelFunction::GetExcelFileFilter(true);
-        QCOMPARE(Processes::Office(getpid()), office);
-        QCOMPARE(Profiles().size(), 1);
-    }
-
     void OutlivesItsOffice_data()
     {
         Columns<bool, int>("host", "signal");
-        QTest::newRow("killed office") << false << SIGKILL;
-        QTest::newRow("hung office") << false << SIGSTOP;
-        QTest::newRow("killed host") << true << SIGKILL;
-        QTest::newRow("hung host") << true << SIGSTOP;
+        Row("killed office", false, SIGKILL);
+        Row("hung office", false, SIGSTOP);
+        Row("killed host", true, SIGKILL);
+        Row("hung host", true, SIGSTOP);
     }
 
     // Catches a client that freezes or crashes with its office, and processes, profiles and pipes that are
@@ -641,7 +632,7 @@ private Q_SLOTS:
     {
         Columns<QString, QString, QByteArray>("disk", "size", "told");
         const auto row = [](const char* name, const char* disk, const char* size, const char* told) {
-            QTest::newRow(name) << QString::fromLatin1(disk) << QString::fromLatin1(size) << QByteArray(told);
+            Row(name, QString::fromLatin1(disk), QString::fromLatin1(size), QByteArray(told));
         };
         row("target", "target", "64k", "110 [] [] 111\n");
         row("no room for the profile", "tmp", "64k", "000 [] [] 000\n");
@@ -696,11 +687,11 @@ private Q_SLOTS:
     {
         Columns<QByteArray, QByteArray>("script", "temporary");
         const QByteArray temporary = qgetenv("TMPDIR");
-        QTest::newRow("none") << QByteArray() << temporary;
-        QTest::newRow("ends at once") << QByteArray("#!/bin/sh\nexit 1\n") << temporary;
-        QTest::newRow("never listens") << QByteArray("#!/bin/sh\nexec sleep 1000\n") << temporary;
-        QTest::newRow("starts again and again") << QByteArray("#!/bin/sh\nexit 81\n") << temporary;
-        QTest::newRow("has no place") << QByteArray("#!/bin/sh\nexit 1\n") << QByteArray("/nonexistent");
+        Row("none", QByteArray(), temporary);
+        Row("ends at once", QByteArray("#!/bin/sh\nexit 1\n"), temporary);
+        Row("never listens", QByteArray("#!/bin/sh\nexec sleep 1000\n"), temporary);
+        Row("starts again and again", QByteArray("#!/bin/sh\nexit 81\n"), temporary);
+        Row("has no place", QByteArray("#!/bin/sh\nexit 1\n"), QByteArray("/nonexistent"));
     }
 
     // Catches a client that waits for ever for an office that is missing or does not start.
@@ -777,9 +768,9 @@ private Q_SLOTS:
     void EndsWithTheClient_data()
     {
         Columns<bool, bool>("killed", "withHost");
-        QTest::newRow("killed") << true << false;
-        QTest::newRow("killed with its host") << true << true;
-        QTest::newRow("left") << false << false;
+        Row("killed", true, false);
+        Row("killed with its host", true, true);
+        Row("left", false, false);
     }
 
     // Catches offices and profiles that pile up behind clients that crash or simply end.

@@ -47,8 +47,7 @@ private Q_SLOTS:
         const QDateTime local(QDate(2026, 3, 14), QTime(10, 24, 36, 789));
         const QDateTime utc(QDate(2026, 3, 29), QTime(2, 30), Qt::UTC);
         Columns<QVariant, QVariant>("sent", "received");
-        const auto same
-            = [](const char* name, const QVariant& value) { QTest::newRow(name) << value << value; };
+        const auto same = [](const char* name, const QVariant& value) { Row(name, value, value); };
         same("nothing", QVariant());
         same("true", true);
         same("smallest", std::numeric_limits<qlonglong>::min());
@@ -60,12 +59,12 @@ private Q_SLOTS:
         same("moment of UTC", utc);
         same("colour", QColor(1, 2, 3));
         same("block", QVariantList{QVariantList{QVariantList{1.5, QVariant()}, QVariantList{}}});
-        QTest::newRow("int") << QVariant(-7) << QVariant(qlonglong(-7));
-        QTest::newRow("texts") << QVariant(QStringList{"a"_s}) << QVariant(QVariantList{"a"_s});
-        QTest::newRow("bytes") << QVariant(QByteArray("abc")) << QVariant("abc"_s);
-        QTest::newRow("invalid colour") << QVariant(QColor()) << QVariant();
-        QTest::newRow("no value of cells") << QVariant(QPoint(1, 2)) << QVariant(QString());
-        QTest::newRow("too deep") << ListIn(1.0, 6) << ListIn(QVariant(), 4);
+        Row("int", QVariant(-7), QVariant(qlonglong(-7)));
+        Row("texts", QVariant(QStringList{"a"_s}), QVariant(QVariantList{"a"_s}));
+        Row("bytes", QVariant(QByteArray("abc")), QVariant("abc"_s));
+        Row("invalid colour", QVariant(QColor()), QVariant());
+        Row("no value of cells", QVariant(QPoint(1, 2)), QVariant(QString()));
+        Row("too deep", ListIn(1.0, 6), ListIn(QVariant(), 4));
     }
 
     // Catches a value that arrives as another, and one of a client's that the other end would refuse with the
@@ -90,19 +89,20 @@ private Q_SLOTS:
     void RefusesWhatIsNoMessage_data()
     {
         QTest::addColumn<QByteArray>("message");
-        QTest::newRow("nothing") << QByteArray();
-        QTest::newRow("cut") << ResultWith("\5\0\0");
-        QTest::newRow("more than one") << ResultWith(QByteArray("\0\0", 2));
-        QTest::newRow("unknown kind") << ResultWith(QByteArray(1, '\0')).replace(0, 1, "\7");
-        QTest::newRow("unknown status") << ResultWith(QByteArray(1, '\0')).replace(1, 1, "\3");
-        QTest::newRow("unknown request") << ToFrame(Request()).mid(4).replace(0, 1, "\6");
-        QTest::newRow("member without a name") << QByteArray(7, '\0');
-        QTest::newRow("arguments that are none") << QByteArray(5, '\0') + QByteArray("\6\0\0\0\0\0", 6);
-        QTest::newRow("unknown value") << ResultWith("\x0b");
-        QTest::newRow("list without end") << ResultWith("\x0a\xff\xff\xff\xff");
-        QTest::newRow("text without end") << ResultWith("\x06\x7f\xff\xff\xff"
-                                                        "abcd");
-        QTest::newRow("nested without end") << ResultWith(Nested(100000));
+        Row("nothing", QByteArray());
+        Row("cut", ResultWith("\5\0\0"));
+        Row("more than one", ResultWith(QByteArray("\0\0", 2)));
+        Row("unknown kind", ResultWith(QByteArray(1, '\0')).replace(0, 1, "\7"));
+        Row("unknown status", ResultWith(QByteArray(1, '\0')).replace(1, 1, "\3"));
+        Row("unknown request", ToFrame(Request()).mid(4).replace(0, 1, "\6"));
+        Row("member without a name", QByteArray(7, '\0'));
+        Row("arguments that are none", QByteArray(5, '\0') + QByteArray("\6\0\0\0\0\0", 6));
+        Row("unknown value", ResultWith("\x0b"));
+        Row("list without end", ResultWith("\x0a\xff\xff\xff\xff"));
+        Row("text without end",
+            ResultWith("\x06\x7f\xff\xff\xff"
+                       "abcd"));
+        Row("nested without end", ResultWith(Nested(100000)));
     }
 
     // Catches memory or stack that is taken for what a message only claims, and values outside of an

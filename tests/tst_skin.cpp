@@ -98,22 +98,13 @@ private slots:
     {
         Columns<QString, QString, QString, QString, QString>(
             "application", "skin", "module", "whole", "first");
-        QTest::newRow("plain") << "App"_s
-                               << "Skin2"_s
-                               << "Common"_s
-                               << ":/App/Common/Skin2/Common/%2.png"_s
-                               << ":/App/Common/Skin2/Common/%2.png"_s;
-        QTest::newRow("nested") << kApp << kDay << "Client/Maps"_s
-                                << ":/Test %2/Client/Maps/Day/Client/Maps/%2.png"_s
-                                << ":/Test %2/Client/Day/Client/Maps/%2.png"_s;
-        QTest::newRow("slash first") << kApp << kDay << "/a"_s
-                                     << ":/Test %2//a/Day//a/%2.png"_s
-                                     << ":/Test %2//Day//a/%2.png"_s;
-        QTest::newRow("place marks") << "%5%1"_s
-                                     << "100%3"_s
-                                     << "M%4"_s
-                                     << ":/%5%1/M%4/100%3/M%4/%2.png"_s
-                                     << ":/%5%1/M%4/100%3/M%4/%2.png"_s;
+        Row("plain", "App"_s, "Skin2"_s, "Common"_s, ":/App/Common/Skin2/Common/%2.png"_s,
+            ":/App/Common/Skin2/Common/%2.png"_s);
+        Row("nested", kApp, kDay, "Client/Maps"_s, ":/Test %2/Client/Maps/Day/Client/Maps/%2.png"_s,
+            ":/Test %2/Client/Day/Client/Maps/%2.png"_s);
+        Row("slash first", kApp, kDay, "/a"_s, ":/Test %2//a/Day//a/%2.png"_s, ":/Test %2//Day//a/%2.png"_s);
+        Row("place marks", "%5%1"_s, "100%3"_s, "M%4"_s, ":/%5%1/M%4/100%3/M%4/%2.png"_s,
+            ":/%5%1/M%4/100%3/M%4/%2.png"_s);
     }
 
     /// Catches path parts in the wrong order, the first part of a module path in place of the whole or the

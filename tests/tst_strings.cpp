@@ -77,17 +77,17 @@ private slots:
         Columns<QString, int, QString>("text", "maxBytes", "cut");
         const QString han = "ab\u4E2D"_s;
         const QString face = "ab\U0001F600"_s;
-        QTest::newRow("does not fit") << han << 4 << "ab"_s;
-        QTest::newRow("just fits") << han << 5 << han;
-        QTest::newRow("budget 0") << han << 0 << QString();
-        QTest::newRow("negative budget") << han << -3 << QString();
-        QTest::newRow("largest budget") << han << INT_MAX << han;
-        QTest::newRow("pair just fits") << face << 6 << face;
-        QTest::newRow("pair goes whole") << face << 5 << "ab"_s;
+        Row("does not fit", han, 4, "ab"_s);
+        Row("just fits", han, 5, han);
+        Row("budget 0", han, 0, QString());
+        Row("negative budget", han, -3, QString());
+        Row("largest budget", han, INT_MAX, han);
+        Row("pair just fits", face, 6, face);
+        Row("pair goes whole", face, 5, "ab"_s);
         // Half of the pair would be one "?" and would fit.
-        QTest::newRow("pair torn by the count of units") << face << 3 << "ab"_s;
-        QTest::newRow("nothing fits") << "\u4E2D"_s << 2 << QString();
-        QTest::newRow("empty") << QString() << 10 << QString();
+        Row("pair torn by the count of units", face, 3, "ab"_s);
+        Row("nothing fits", "\u4E2D"_s, 2, QString());
+        Row("empty", QString(), 10, QString());
     }
 
     /// Catches a budget that counts characters, is off by one, or tears a character.
@@ -106,7 +106,7 @@ private slots:
         for (const char* codec :
              {"UTF-8", "GBK", "GB18030", "Big5-HKSCS", "Shift_JIS", "ISO-8859-1", "ISO-2022-JP", "UTF-16",
               "UTF-7", "TSCII"})
-            QTest::newRow(codec) << QByteArray(codec);
+            Row(codec, QByteArray(codec));
     }
 
     /// Catches every way in which counting in blocks can differ from encoding the whole again and again:
@@ -149,15 +149,15 @@ private slots:
     {
         Columns<bool, int, int, int, int>("middle", "characters", "pixels", "before", "after");
         // The room beside "..." is so many widths of the character and so many pixels.
-        QTest::newRow("nothing but dots") << true << 0 << 0 << 0 << 0;
-        QTest::newRow("less than the dots") << true << -1 << 0 << 0 << 0;
-        QTest::newRow("half ends on a character") << true << 6 << 2 << 2 << 4;
-        QTest::newRow("half ends behind a character") << true << 6 << 4 << 3 << 3;
-        QTest::newRow("the one character tried stays counted") << true << 2 << 2 << 0 << 1;
-        QTest::newRow("at the end, less than the dots") << false << -1 << 0 << 0 << 0;
-        QTest::newRow("at the end, one character") << false << 1 << 2 << 1 << 0;
-        QTest::newRow("at the end, ends on a character") << false << 3 << 1 << 2 << 0;
-        QTest::newRow("at the end, ends behind a character") << false << 3 << 2 << 3 << 0;
+        Row("nothing but dots", true, 0, 0, 0, 0);
+        Row("less than the dots", true, -1, 0, 0, 0);
+        Row("half ends on a character", true, 6, 2, 2, 4);
+        Row("half ends behind a character", true, 6, 4, 3, 3);
+        Row("the one character tried stays counted", true, 2, 2, 0, 1);
+        Row("at the end, less than the dots", false, -1, 0, 0, 0);
+        Row("at the end, one character", false, 1, 2, 1, 0);
+        Row("at the end, ends on a character", false, 3, 1, 2, 0);
+        Row("at the end, ends behind a character", false, 3, 2, 3, 0);
     }
 
     /// Catches a side that is one character too long or short, and the width of a left part that is left out
@@ -235,7 +235,7 @@ private slots:
     {
         Columns<Reading, QString, QVariant>("read", "text", "said");
         const auto row = [](const Reading& read, const char* name, const QString& text,
-                            const QVariant& said) { QTest::newRow(name) << read << text << said; };
+                            const QVariant& said) { Row(name, read, text, said); };
         const Reading blank = [](const QString& text) { return CommonFun::IsQStrEmpty(text); };
         row(blank, "blank: empty", QString(), true);
         row(blank, "blank: all three", " \u3000\uFFFD "_s, true);
@@ -367,16 +367,11 @@ private slots:
     /// Catches a loop without end for base 1, and an overflow for the largest number.
     void Extracts()
     {
-        QCOMPARE(QCommon::GetExtract(10, 1000), 3);
-        QCOMPARE(QCommon::GetExtract(10, 999), 2);
-        QCOMPARE(QCommon::GetExtract(10, 9), 0);
-        QCOMPARE(QCommon::GetExtract(10, 0), 0);
-        QCOMPARE(QCommon::GetExtract(0, 5), 0);
-        QCOMPARE(QCommon::GetExtract(-2, 5), 0);
-        QCOMPARE(QCommon::GetExtract(2, -8), 0);
-        QCOMPARE(QCommon::GetExtract(1, 5), 0);
-        QCOMPARE(QCommon::GetExtract(2, INT_MAX), 30);
-        QCOMPARE(QCommon::GetExtract(INT_MAX, INT_MAX), 1);
+        constexpr int Cases[][3]
+            = {{10, 1000, 3}, {10, 999, 2}, {10, 9, 0}, {10, 0, 0},       {0, 5, 0},
+               {-2, 5, 0},    {2, -8, 0},   {1, 5, 0},  {2, INT_MAX, 30}, {INT_MAX, INT_MAX, 1}};
+        for (const auto& [base, number, count] : Cases)
+            QCOMPARE(QCommon::GetExtract(base, number), count);
     }
 
     /// Catches numbers cut to 32 bits, and keys that repeat.

@@ -25,15 +25,15 @@ private slots:
         for (const char* usual :
              {"http://a/", "https://a/", "HTTPS://a/", "file:///a", "data:text/html,a", "qrc:/a",
               "about:blank", "about:srcdoc"})
-            QTest::newRow(usual) << QString::fromLatin1(usual) << none << true;
+            Row(usual, QString::fromLatin1(usual), none, true);
         for (const char* other :
              {"ftp://a/", "about:config", "chrome://gpu", "view-source:http://a/", "javascript:alert(1)",
               "blob:http://a/1", "mailto:a@b", "httpx://a", "", "//a/b"})
-            QTest::newRow(*other ? other : "empty") << QString::fromLatin1(other) << none << false;
+            Row(*other ? other : "empty", QString::fromLatin1(other), none, false);
         const QStringList words{"scheme:FTP"_s, "downloads"_s, "scheme:"_s, "something else"_s};
-        QTest::newRow("allowed") << "ftp://a/"_s << words << true;
-        QTest::newRow("not the one allowed") << "mailto:a@b"_s << words << false;
-        QTest::newRow("another word") << "downloads:x"_s << words << false;
+        Row("allowed", "ftp://a/"_s, words, true);
+        Row("not the one allowed", "mailto:a@b"_s, words, false);
+        Row("another word", "downloads:x"_s, words, false);
     }
 
     // Catches a scheme that passes for a likeness, and one that the application cannot allow.

@@ -177,14 +177,13 @@ private slots:
     {
         Columns<QString, QStringList>("html", "calls");
         const QString own = "initComplete"_s;
-        QTest::newRow("page without script") << "<p>Plan</p>"_s << QStringList{own};
-        QTest::newRow("empty page") << QString() << QStringList{own};
-        QTest::newRow("page that reports itself")
-            << ScriptPage("onload = () => { %1 }"_s.arg(CallOf(own, "own"_s))) << QStringList{own};
-        QTest::newRow("page that reports itself early")
-            << ScriptPage(CallOf("initMComplete"_s)) << QStringList{"initMComplete"_s};
-        QTest::newRow("page that calls something else")
-            << ScriptPage(CallOf("hello"_s)) << QStringList{"hello"_s, own};
+        Row("page without script", "<p>Plan</p>"_s, QStringList{own});
+        Row("empty page", QString(), QStringList{own});
+        Row("page that reports itself", ScriptPage("onload = () => { %1 }"_s.arg(CallOf(own, "own"_s))),
+            QStringList{own});
+        Row("page that reports itself early", ScriptPage(CallOf("initMComplete"_s)),
+            QStringList{"initMComplete"_s});
+        Row("page that calls something else", ScriptPage(CallOf("hello"_s)), QStringList{"hello"_s, own});
     }
 
     // Catches a page that is never reported, or reported beside its own report.
@@ -203,36 +202,31 @@ private slots:
         QCOMPARE(client.names, QStringList{"initComplete"_s});
     }
 
-    // Catches a page that loads and is not seen.
+    // Catches a page that loads and is not seen, keeps its first size, or is not told of the new one.
     void PageIsPainted()
     {
         Client client;
-        QVERIFY(client.Open(Page("<body style='background: #2468ac'>"_s)));
-        const auto colour = [&] { return client.web->grab().toImage().pixelColor(200, 150); };
-        QTRY_COMPARE_WITH_TIMEOUT(colour(), QColor(0x24, 0x68, 0xac), Patience);
-    }
-
-    // Catches a page that keeps its first size, or is not told of the new one.
-    void Resize()
-    {
-        Client client;
-        QVERIFY(client.Open(Page(ScriptPage(
-            "function zoomChange() { window.external.CallBack('zoom', '') }"
-            "onresize = () => window.external.CallBack('size', innerWidth + 'x' + innerHeight)"_s))));
+        QVERIFY(client.Open(Page(
+            "<body style='background: #2468ac'>"_s
+            + ScriptPage(
+                "function zoomChange() { window.external.CallBack('zoom', '') }"
+                "onresize = () => window.external.CallBack('size', innerWidth + 'x' + innerHeight)"_s))));
         client.web->resize(640, 480);
         QVERIFY(client.WaitFor("zoom"_s));
         QTRY_COMPARE_WITH_TIMEOUT(
             client.params.value(client.names.lastIndexOf("size"_s)), "640x480"_s, Patience);
+        const auto colour = [&] { return client.web->grab().toImage().pixelColor(600, 450); };
+        QTRY_COMPARE_WITH_TIMEOUT(colour(), QColor(0x24, 0x68, 0xac), Patience);
     }
 
     void Texts_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("chinese") << "\u76d1\u63a7\u4e2d\u5fc3 3\u53f7\u6444\u50cf\u673a"_s;
-        QTest::newRow("beyond the basic plane") << "\U0001F4F7\U0001F6A8"_s;
-        QTest::newRow("right to left") << "\u0643\u0627\u0645\u064a\u0631\u0627 \u200f7"_s;
-        QTest::newRow("quotes and lines") << "'\"`\\ ${x}\r\n\u2028 </script>"_s;
-        QTest::newRow("a long text") << "\u955c\u5934"_s.repeated(300000);
+        Row("chinese", "\u76d1\u63a7\u4e2d\u5fc3 3\u53f7\u6444\u50cf\u673a"_s);
+        Row("beyond the basic plane", "\U0001F4F7\U0001F6A8"_s);
+        Row("right to left", "\u0643\u0627\u0645\u064a\u0631\u0627 \u200f7"_s);
+        Row("quotes and lines", "'\"`\\ ${x}\r\n\u2028 </script>"_s);
+        Row("a long text", "\u955c\u5934"_s.repeated(300000));
     }
 
     // Catches texts that are altered on their way to the page or back, in the name or in the parameter.
@@ -252,21 +246,12 @@ private slots:
     void WordlessArguments_data()
     {
         Columns<QString, QString, QString>("call", "name", "param");
-        QTest::newRow("none") << "window.external.CallBack()"_s << QString() << QString();
-        QTest::newRow("null") << "window.external.CallBack('n', null)"_s
-                              << "n"_s << QString();
-        QTest::newRow("number") << "window.external.CallBack(3, 4.5)"_s
-                                << "3"_s
-                                << "4.5"_s;
-        QTest::newRow("object") << "linkWeb.CallBack('n', [1, 2])"_s
-                                << "n"_s
-                                << "1,2"_s;
-        QTest::newRow("by itself") << "(0, linkWeb.CallBack)('n', 'p')"_s
-                                   << "n"_s
-                                   << "p"_s;
-        QTest::newRow("zero character") << "linkWeb.CallBack('n', 'a\\0b')"_s
-                                        << "n"_s
-                                        << "a"_s;
+        Row("none", "window.external.CallBack()"_s, QString(), QString());
+        Row("null", "window.external.CallBack('n', null)"_s, "n"_s, QString());
+        Row("number", "window.external.CallBack(3, 4.5)"_s, "3"_s, "4.5"_s);
+        Row("object", "linkWeb.CallBack('n', [1, 2])"_s, "n"_s, "1,2"_s);
+        Row("by itself", "(0, linkWeb.CallBack)('n', 'p')"_s, "n"_s, "p"_s);
+        Row("zero character", "linkWeb.CallBack('n', 'a\\0b')"_s, "n"_s, "a"_s);
     }
 
     // Catches arguments that are no texts and come as "undefined", or stop the call.
@@ -462,10 +447,10 @@ private slots:
     void Hanging_data()
     {
         QTest::addColumn<QString>("script");
-        QTest::newRow("alert loop") << "for (;;) alert('again')"_s;
-        QTest::newRow("endless loop") << "for (;;) { }"_s;
-        QTest::newRow("reload loop") << "location.reload()"_s;
-        QTest::newRow("leaving guard") << "onbeforeunload = e => { e.returnValue = 'stay' }"_s;
+        Row("alert loop", "for (;;) alert('again')"_s);
+        Row("endless loop", "for (;;) { }"_s);
+        Row("reload loop", "location.reload()"_s);
+        Row("leaving guard", "onbeforeunload = e => { e.returnValue = 'stay' }"_s);
     }
 
     // Catches a page that stops the client, or that the client cannot leave for another.
@@ -500,13 +485,13 @@ private slots:
     {
         Columns<QString, QByteArray>("script", "refused");
         const QByteArray scheme = "The way to another scheme was refused to a page: (rtsp-map|mailto):";
-        QTest::newRow("location") << "location = 'rtsp-map://somewhere/'"_s << scheme;
-        QTest::newRow("mail") << "location = 'mailto:someone@example.org'"_s << scheme;
+        Row("location", "location = 'rtsp-map://somewhere/'"_s, scheme);
+        Row("mail", "location = 'mailto:someone@example.org'"_s, scheme);
         const auto element = [](const char* row, const char* tag, const char* script,
                                 const QByteArray& refused) {
             const QString made = "{ const e = document.createElement('%1'); %2; document.body.append(e);"
                                  " e.click() }"_s;
-            QTest::newRow(row) << made.arg(Name(tag), Name(script)) << refused;
+            Row(row, made.arg(Name(tag), Name(script)), refused);
         };
         element("link", "a", "e.href = 'rtsp-map:x'", scheme);
         element("frame", "iframe", "e.src = 'rtsp-map:x'", scheme);
@@ -514,10 +499,10 @@ private slots:
             "file", "input",
             "e.type = 'file'; e.style = 'position: fixed; left: 0; top: 0; width: 100%; height: 100%'",
             "The choice of a file was refused");
-        QTest::newRow("window, twice")
-            << "open('about:blank'); open('about:blank')"_s << QByteArray("A new window was refused");
-        QTest::newRow("place") << "navigator.geolocation.getCurrentPosition(() => { })"_s
-                               << QByteArray("The use of a device was refused");
+        Row("window, twice", "open('about:blank'); open('about:blank')"_s,
+            QByteArray("A new window was refused"));
+        Row("place", "navigator.geolocation.getCurrentPosition(() => { })"_s,
+            QByteArray("The use of a device was refused"));
     }
 
     // Catches a page that starts another program, opens windows, reads files or uses devices without leave,
@@ -666,8 +651,8 @@ private slots:
     void ProcessKilled_data()
     {
         Columns<int, QString>("signal", "end");
-        QTest::newRow("killed") << SIGKILL << "killed"_s;
-        QTest::newRow("crashed") << SIGSEGV << "crashed"_s;
+        Row("killed", SIGKILL, "killed"_s);
+        Row("crashed", SIGSEGV, "crashed"_s);
     }
 
     // Catches a dead page that nobody hears of, takes the client along, or stays dead.
