@@ -480,8 +480,12 @@ private slots:
             JpegForecast forecast(image, Unlimited);
             for (int quality = 100; quality >= 0; quality = NextLowerQuality(quality))
                 QCOMPARE(forecast.Bytes(quality).value_or(-1), qint64(Encoded(image, quality).size()));
-            QVERIFY(!forecast.Bytes(50)); // upwards: details of it are forgotten
         }
+        QImage frame = Noise(QSize(256, 200), 128);
+        QPainter(&frame).fillRect(60, 30, 140, 140, Qt::gray); // with it all that is really encoded
+        JpegForecast upwards(frame, Unlimited);
+        QVERIFY(upwards.Bytes(10));
+        QVERIFY(!upwards.Bytes(50)); // details are forgotten
         QVERIFY(!JpegForecast(QImage(9000, 8000, QImage::Format_Mono), Unlimited).Bytes(100)); // memory
     }
 };
