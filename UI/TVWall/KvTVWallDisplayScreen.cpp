@@ -16,7 +16,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <utility>
 
 namespace UICommonMdl {
 
@@ -25,28 +24,6 @@ namespace {
 constexpr int NoWindow = -1;
 
 } // namespace
-
-/// Lives while the screen handles an event of Qt's.
-class KvTVWallDisplayScreen::Handling
-{
-public:
-    explicit Handling(KvTVWallDisplayScreen* screen)
-        : m_pScreen(screen)
-    {
-        ++m_pScreen->m_iHandling;
-    }
-    ~Handling()
-    {
-        if (--m_pScreen->m_iHandling > 0)
-            return;
-        for (QObject* removed : std::exchange(m_pScreen->m_removed, {}))
-            removed->deleteLater();
-    }
-    Q_DISABLE_COPY(Handling)
-
-private:
-    KvTVWallDisplayScreen* const m_pScreen;
-};
 
 class KvTVWallDisplayScreen::Watcher : public QObject
 {
@@ -101,22 +78,12 @@ void KvTVWallDisplayScreen::Remove()
 {
     DeleteAllWindows();
     hide();
-    DeleteWhenDone(this);
-}
-
-// A slot that opens a dialog runs an event loop of its own, in which what is deleted for later goes: while Qt
-// is still handling an event that would be too soon.
-void KvTVWallDisplayScreen::DeleteWhenDone(QObject* removed)
-{
-    if (m_iHandling > 0)
-        m_removed << removed;
-    else
-        removed->deleteLater();
+    m_handling.Delete(this);
 }
 
 void KvTVWallDisplayScreen::DeleteWithWall()
 {
-    if (m_iHandling == 0) {
+    if (!m_handling.IsActive()) {
         delete this;
         return;
     }
@@ -284,7 +251,7 @@ bool KvTVWallDisplayScreen::DeleteWindow(int index)
     if (window->IsSelected())
         viewport()->update();
     Q_EMIT SignalArrangementChanged();
-    DeleteWhenDone(window);
+    m_handling.Delete(window);
     window->hide(); // moves the focus on, of which the client may hear
     return true;
 }
@@ -348,7 +315,7 @@ int KvTVWallDisplayScreen::GetMaxWindowZValue() const
 
 void KvTVWallDisplayScreen::OnLabelEvent(int label, QEvent* event)
 {
-    const Handling handling(this);
+    const EventHandling::Scope scope(m_handling);
     Q_EMIT SignalLabelEvent(label, event);
 }
 
@@ -366,7 +333,7 @@ bool KvTVWallDisplayScreen::WatchWindow(KvTVWallDisplayWindow* window, QEvent* e
 {
     if (!window->isEnabled())
         return false;
-    const Handling handling(this);
+    const EventHandling::Scope scope(m_handling);
     static_cast<QObject*>(window)->event(event);
     if (IndexOf(window) != NoWindow)
         m_gestures.HandleWindowEvent(window, event);
@@ -444,7 +411,7 @@ bool KvTVWallDisplayScreen::event(QEvent* event)
 
 bool KvTVWallDisplayScreen::viewportEvent(QEvent* event)
 {
-    const Handling handling(this);
+    const EventHandling::Scope scope(m_handling);
     return QAbstractScrollArea::viewportEvent(event); // clazy:exclude=skipped-base-method
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EventHandling.h"
 #include "ScreenBackdrop.h"
 #include "ScreenGestures.h"
 #include "WallMiniature.h"
@@ -119,7 +120,6 @@ private:
     /// Watches windows. An object of its own: the screen itself is already the filter of its viewport, and
     /// every event shall be reported once.
     class Watcher;
-    class Handling;
 
     void Connect(KvTVWallDisplayWindow* window, bool editable);
     bool WatchWindow(KvTVWallDisplayWindow* window, QEvent* event);
@@ -143,11 +143,9 @@ private:
     void PlaceWindows();
     void RaiseWindow(KvTVWallDisplayWindow* window);
     void RaiseOverlays();
-    void DeleteWhenDone(QObject* removed);
 
     const KvTVWallDisplayWnd* m_pWall;
-    int m_iHandling = 0; // events of Qt's on the stack
-    QVector<QObject*> m_removed; // windows, or the screen itself, that go when it is done with them
+    EventHandling m_handling;
     const int m_iRowSpan;
     const int m_iColumnSpan;
     QVariant m_userData;

@@ -66,7 +66,7 @@ void KvTVWallNormalScreen::Remove()
     if (m_pCover != nullptr)
         m_pCover->hide();
     hide();
-    m_pView->DeleteWhenDone(this);
+    m_pView->Handling().Delete(this);
 }
 
 // ---- The screen itself
@@ -190,7 +190,7 @@ void KvTVWallNormalScreen::SetOSDInfo(const std::vector<KvGUI::StructOSDInfo>& i
         m_pCover = new QWidget(m_pView->viewport());
         m_pOverlays = new OverlayLabels(m_pCover);
         connect(m_pOverlays, &OverlayLabels::SignalLabelEvent, this, [this](int label, QEvent* event) {
-            const KvTVWallNormalView::Handling handling(m_pView);
+            const EventHandling::Scope scope(m_pView->Handling());
             Q_EMIT SignalLabelEvent(label, event);
         });
     }
@@ -263,7 +263,7 @@ bool KvTVWallNormalScreen::DeleteWindow(int index)
     m_gestures.CancelSite(); // its release may never come
     disconnect(window, nullptr, this, nullptr);
     Q_EMIT SignalArrangementChanged();
-    m_pView->DeleteWhenDone(window);
+    m_pView->Handling().Delete(window);
     window->hide(); // moves the focus on, of which the client may hear
     return true;
 }

@@ -63,23 +63,13 @@ KvTVWallNormalView::KvTVWallNormalView(QWidget* parent)
 
 void KvTVWallNormalView::DeleteWithWall()
 {
-    if (m_iHandling == 0) {
+    if (!m_handling.IsActive()) {
         delete this;
         return;
     }
     CancelMouse();
     setParent(nullptr); // hides it too
-    DeleteWhenDone(this);
-}
-
-// A slot that opens a dialog runs an event loop of its own, in which what is deleted for later goes: while Qt
-// is still handling an event that would be too soon.
-void KvTVWallNormalView::DeleteWhenDone(QObject* removed)
-{
-    if (m_iHandling > 0)
-        m_removed << removed;
-    else
-        removed->deleteLater();
+    m_handling.Delete(this);
 }
 
 // ---- What the items share
@@ -440,7 +430,7 @@ void KvTVWallNormalView::dropEvent(QDropEvent* event)
 
 bool KvTVWallNormalView::event(QEvent* event)
 {
-    const Handling handling(this);
+    const EventHandling::Scope scope(m_handling);
     if (event->type() == QEvent::WindowBlocked)
         CancelMouse(); // a modal dialog gets the release
     if (event->type() == QEvent::KeyPress) {
@@ -461,7 +451,7 @@ bool KvTVWallNormalView::event(QEvent* event)
 
 bool KvTVWallNormalView::viewportEvent(QEvent* event)
 {
-    const Handling handling(this);
+    const EventHandling::Scope scope(m_handling);
     return QGraphicsView::viewportEvent(event);
 }
 

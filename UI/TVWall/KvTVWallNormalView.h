@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EventHandling.h"
 #include "KvTVWallNormalScreen.h"
 #include "KvTVWallNormalWindow.h"
 #include "NormalWallLook.h"
@@ -9,7 +10,6 @@
 #include <QPair>
 #include <QPixmap>
 #include <QPointer>
-#include <utility>
 
 namespace UICommonMdl {
 
@@ -45,33 +45,9 @@ class KvTVWallNormalView : public QGraphicsView, private NormalWallLook
     Q_PROPERTY(QString closeHoverIcon MEMBER closeHoverIcon)
 
 public:
-    /// Lives while the view handles an event of Qt's: what is removed stays until it is done, the view of a
-    /// wall that ends as well. Only the deferred deletion itself, an event too, ends the view meanwhile.
-    class Handling
-    {
-    public:
-        explicit Handling(KvTVWallNormalView* view)
-            : m_pView(view)
-        {
-            ++m_pView->m_iHandling;
-        }
-        ~Handling()
-        {
-            if (!m_pView || --m_pView->m_iHandling > 0)
-                return;
-            for (QObject* removed : std::exchange(m_pView->m_removed, {}))
-                removed->deleteLater();
-        }
-        Q_DISABLE_COPY(Handling)
-
-    private:
-        const QPointer<KvTVWallNormalView> m_pView;
-    };
-
     explicit KvTVWallNormalView(QWidget* parent);
 
-    /// Deletes an item, or the view, as soon as Qt is done with the event that is being handled.
-    void DeleteWhenDone(QObject* removed);
+    EventHandling& Handling() { return m_handling; } ///< of the view's events, which the items get
     /// The wall ends: the view goes with it, or, when a slot of the wall's signals has deleted it, when done.
     void DeleteWithWall();
 
@@ -147,8 +123,7 @@ private:
     qreal m_dIconDensity = 1.0; // for which they were made
     int m_iSelectionMode = 0;
     bool m_bAudioButtons = true;
-    int m_iHandling = 0; // events of Qt's on the stack
-    QVector<QObject*> m_removed; // windows and screens, or the view itself, that go when it is done with them
+    EventHandling m_handling;
     Target m_held; // has the mouse until all buttons are released
     bool m_bOwnCursor = false;
     Target m_dragOver; // below something that is dragged from elsewhere

@@ -5,7 +5,6 @@
 #include "WallGeometry.h"
 
 #include <QLabel>
-#include <QPointer>
 #include <algorithm>
 
 namespace UICommonMdl {
@@ -81,7 +80,7 @@ void OverlayLabels::Drop()
         if (label == nullptr)
             continue;
         label->removeEventFilter(this); // it has no number any more
-        label->deleteLater(); // it may be the one that is emitting
+        m_handling.Delete(label);
     }
     m_labels.fill(nullptr);
 }
@@ -156,10 +155,8 @@ bool OverlayLabels::eventFilter(QObject* watched, QEvent* event)
     const int label = int(std::find(m_labels.begin(), m_labels.end(), watched) - m_labels.begin());
     // The wheel and keys are the wall's; a mouse event on an overlay is none on the window below.
     event->setAccepted(WallEvents::IsMouse(event->type()) || event->type() == QEvent::ContextMenu);
-    const QPointer<OverlayLabels> alive(this);
+    const EventHandling::Scope scope(m_handling);
     Q_EMIT SignalLabelEvent(label, event);
-    if (!alive)
-        event->accept(); // or it would go on to the parent of a widget that is gone
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EventHandling.h"
 #include "ScreenOverlay.h"
 
 #include <QBasicTimer>
@@ -35,7 +36,7 @@ public:
 
 Q_SIGNALS:
     /// A mouse, wheel, key or context-menu event of an overlay: the rolling ones are 0 ... 7, the plain ones
-    /// 8 ... 15. A slot may delete the labels.
+    /// 8 ... 15. A slot may show others, but not delete this object.
     void SignalLabelEvent(int label, QEvent* event);
 
 protected:
@@ -52,6 +53,7 @@ private:
     void KeepRolling();
 
     QWidget* const m_pCanvas;
+    EventHandling m_handling;
     std::array<QLabel*, 2 * PlainSlot> m_labels{}; // rolling ones, then plain ones
     QBasicTimer m_rollTimer;
     QElapsedTimer m_rollClock;
