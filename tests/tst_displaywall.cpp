@@ -111,6 +111,7 @@ private Q_SLOTS:
         QTest::newRow("image") << QStringLiteral("image: url(%1)");
         QTest::newRow("background") << QStringLiteral("background-image: url(%1)");
         QTest::newRow("icon") << QStringLiteral("qproperty-icon: url(%1)");
+        QTest::newRow("text") << QStringLiteral("color: #ff0000; font: bold 60px; qproperty-text: I");
     }
 
     // Catches a quicker painting of the title's buttons that leaves out the picture of a client's sheet.
@@ -123,7 +124,8 @@ private Q_SLOTS:
         red.fill(Qt::red);
         QVERIFY(red.save(file));
         Fixture f({LeftUpper});
-        f.wall->setStyleSheet(QStringLiteral("#pWindowCloseBtn { border: none; %1 }").arg(rule.arg(file)));
+        f.wall->setStyleSheet(QStringLiteral("#pWindowCloseBtn { border: none; %1 }")
+                                  .arg(QString(rule).replace(QLatin1String("%1"), file)));
         auto* button = f.Window(0)->findChild<QWidget*>(QStringLiteral("pWindowCloseBtn"));
         QCOMPARE(button->grab().toImage().pixelColor(button->rect().center()), QColor(Qt::red));
     }
@@ -215,6 +217,7 @@ private Q_SLOTS:
         delete f.wall->GetWindowWidget(0, 0);
         f.mouse.Release(OnTitle + QPoint(80, 80));
         QCOMPARE(window->geometry(), QRect(180, 140, 300, 240));
+        f.wall->SetWindowScale(0, 0, {0.1, 0.1, 0.6, 0.7, true});
         QCOMPARE(f.wall->GetWindowWidget(0, 0), nullptr);
         QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
         QCOMPARE(f.PixelAt({300, 300}), f.wall->WindowColor().rgb());
@@ -267,6 +270,10 @@ private Q_SLOTS:
         QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
         QTest::keyClick(f.Window(0), Qt::Key_Space);
         QVERIFY(f.wall->GetSelectedWindowIndexs().isEmpty());
+        f.wall->SetWindowSelectionMode(Wall::NoSelection);
+        QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, {});
+        QCoreApplication::sendEvent(f.Window(0), &space);
+        QVERIFY(!space.isAccepted()); // it is the client's
     }
 
     void overlaysAreShown()
@@ -277,12 +284,15 @@ private Q_SLOTS:
             infos.push_back(Overlay("<b>plain</b>", false));
             infos.push_back(Overlay("rolling", true));
         }
+        infos[0].strFontName = "simHei";
         QVERIFY(f.wall->SetScreenOSDInfo(0, infos));
         QCOMPARE(ShownOverlays(f).size(), 16); // the first eight of each kind
         QLabel* plain = ShownOverlays(f).first();
         QCOMPARE(plain->geometry(), QRect(99, 73, 500, 78));
         QCOMPARE(plain->textFormat(), Qt::PlainText);
-        QCOMPARE(plain->objectName(), QStringLiteral("SongStyle"));
+        QVERIFY(plain->font().bold() && plain->objectName().isEmpty());
+        QCOMPARE(plain->font().pixelSize(), 73);
+        QCOMPARE(ShownOverlays(f).at(1)->objectName(), QStringLiteral("SongStyle"));
         // Windows opened and raised later stay below the texts.
         f.wall->OpenWindow(0, Whole, QVariant());
         QCOMPARE(f.Empty()->childAt(300, 100)->inherits("QLabel"), true);
@@ -297,45 +307,6 @@ private Q_SLOTS:
         f.wall->SetScreenOSDInfo(0, infos);
         QTest::keyClick(plain, Qt::Key_A); // an event still under way to a removed overlay
         QCOMPARE(labels.size(), 4);
-    }
-
-    // Catches the look of the overlay that a label showed before.
-    void overlaysAreReused()
-    {
-        const Fixture f;
-        std::vector<KvGUI::StructOSDInfo> infos{Overlay("a", false), Overlay("b", false)};
-        infos[0].strFontName = "simHei";
-        infos[0].iFontPercent = 20;
-        infos[1].strFontName = "simKai";
-        f.wall->SetScreenOSDInfo(0, infos);
-        const QList<QLabel*> first = ShownOverlays(f);
-        QCOMPARE(first.size(), 2);
-        QVERIFY(first.at(0)->font().bold());
-        QCOMPARE(first.at(0)->objectName(), QString());
-        QCOMPARE(first.at(0)->font().pixelSize(), 14);
-        QCOMPARE(first.at(1)->objectName(), QStringLiteral("KaiStyle"));
-        infos = {Overlay("c", false)};
-        infos[0].strFontName = "other";
-        f.wall->SetScreenOSDInfo(0, infos);
-        const QList<QLabel*> second = ShownOverlays(f);
-        QCOMPARE(second.size(), 1);
-        QVERIFY(!second.at(0)->font().bold());
-        QCOMPARE(second.at(0)->font().pixelSize(), 73);
-        QCOMPARE(second.at(0)->objectName(), QStringLiteral("SongStyle"));
-    }
-
-    void overlaysRoll()
-    {
-        const Fixture f;
-        for (unsigned char mode = 0; mode < 6; ++mode) {
-            std::vector<KvGUI::StructOSDInfo> infos{Overlay("rolling text", true)};
-            infos[0].iRollMode = mode;
-            f.wall->SetScreenOSDInfo(0, infos);
-            QLabel* label = ShownOverlays(f).first();
-            const QImage before = label->grab().toImage();
-            QCOMPARE(before.pixel(1, 1), qRgb(0, 120, 0));
-            QTRY_VERIFY(label->grab().toImage() != before);
-        }
     }
 
     // Catches timers that run on for texts that nobody sees, and texts that stand still when they are back.

@@ -153,8 +153,10 @@ private Q_SLOTS:
         const QImage both = f.Picture();
         QCOMPARE(both.pixelColor(OnHeading), QColor(Qt::green));
         QVERIFY(Different(both, titled, area) > 50); // the text has moved aside
+        f.wall->SetScreenTitle(0, QString());
+        QCOMPARE(f.Picture().pixelColor(OnHeading), QColor(Qt::green));
         f.wall->OpenWindow(0, Whole, QVariant());
-        QVERIFY(f.Picture().pixelColor(OnHeading + QPoint(0, 30)) != QColor(Qt::green));
+        QVERIFY(f.Picture().pixelColor(OnHeading) != QColor(Qt::green));
     }
 
     // Catches a title that cannot be read once windows fill the screen, and one taken for rich text.
@@ -253,7 +255,7 @@ private Q_SLOTS:
         QCOMPARE(f.Video(0).topLeft(), QPoint(101, 146));
     }
 
-    // Catches a video that takes the clicks which are the window's, or does not get its own.
+    // Catches a video that takes the clicks which are the window's, does not get its own, or keeps the focus.
     void videosOfTheClient()
     {
         Fixture f;
@@ -272,6 +274,12 @@ private Q_SLOTS:
         QCOMPARE(clicked.count(), 1);
         QCOMPARE(f.wall->GetSelectedWindowIndexs(), QList<int>{0});
         QVERIFY(events.count() > 0);
+        button->setFocusPolicy(Qt::StrongFocus);
+        f.mouse.Click(OnLeftVideo);
+        const QSignalSpy volume(f.wall, &Wall::SignalWindowVolumeBtnClicked);
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_Tab); // on from the window
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_Space);
+        QCOMPARE(volume.count(), 1);
     }
 
     // Catches a proxy that is used after its widget.
@@ -368,7 +376,11 @@ private Q_SLOTS:
         f.mouse.Click(onButton);
         f.wall->OpenWindow(0, RightUpper, QVariant());
         f.mouse.Click(onButton + QPoint(400, 0));
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_Tab);
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_Space); // the next button
         QCOMPARE(volume.count(), 1);
+        QCOMPARE(f.Scale(1), (Rect{0.5, 0.0, 1.0, 1.0, true}));
+        f.wall->SetWindowScale(0, 1, RightUpper);
         QVERIFY(f.wall->SetWindowVolumeBtn(0, 0, true));
         f.wall->SetAudioBtnVisible(true);
         QVERIFY(f.wall->GetWindowVolumeBtnStatus(0, 0));
@@ -376,7 +388,8 @@ private Q_SLOTS:
         QCOMPARE(volume.count(), 2);
     }
 
-    // Catches a window that is closed by a press alone, or after the operator has thought better of it.
+    // Catches a window that is closed by a press alone, by another button, or after the operator has thought
+    // better of it.
     void buttonsNeedPressAndReleaseInside()
     {
         Fixture f({LeftUpper});
@@ -389,6 +402,7 @@ private Q_SLOTS:
         f.mouse.Drag(onClose + QPoint(0, 60), onClose);
         QCOMPARE(close.count(), 0);
         f.mouse.Press(onClose);
+        f.mouse.Click(onClose, Qt::RightButton);
         QCOMPARE(close.count(), 0);
         f.mouse.Move(onClose + QPoint(0, 60));
         f.mouse.Move(onClose);
@@ -462,7 +476,11 @@ private Q_SLOTS:
         for (int i = 0; i < 4; ++i)
             press(Qt::Key_Tab); // volume, snap, maximise, close
         QVERIFY(Different(focused, f.Picture(), QRect(378, 122, 20, 20)) > 10); // it is seen
+        for (const Qt::KeyboardModifier other : {Qt::ControlModifier, Qt::AltModifier}) // of a tab bar
+            QTest::keyClick(f.client.windowHandle(), Qt::Key_Backtab, other | Qt::ShiftModifier);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
         press(Qt::Key_Space);
+        QCoreApplication::sendEvent(f.Viewport()->parentWidget(), &held);
         QCOMPARE(close.count(), 1);
         QCOMPARE(close.at(0).at(1).toInt(), 0);
         press(Qt::Key_Tab);
@@ -485,7 +503,7 @@ private Q_SLOTS:
     {
         Fixture f({LeftUpper, RightUpper});
         QVector<QPair<int, QEvent::Type>> seen; // -1: the screen
-        const int takes = 1; // window that takes the drop
+        int takes = 1; // window that takes the drop, or -1
         connect(f.wall, &Wall::SignalWindowEvent, f.wall, [&](int, int window, QEvent* event) {
             seen << qMakePair(window, event->type());
             if (event->type() != QEvent::DragLeave)
@@ -493,7 +511,7 @@ private Q_SLOTS:
         });
         connect(f.wall, &Wall::SignalScreenEvent, f.wall, [&](int, QEvent* event) {
             seen << qMakePair(-1, event->type());
-            event->ignore();
+            event->setAccepted(takes < 0);
         });
         const QMimeData data;
         const auto move = [&](const QPoint& to) {
@@ -521,6 +539,14 @@ private Q_SLOTS:
         f.mouse.DragEnter(OnRightVideo, data);
         f.mouse.DragLeave();
         QCOMPARE(seen.last(), qMakePair(1, QEvent::DragLeave));
+        f.mouse.DragEnter(OnLeftVideo, data);
+        seen.clear();
+        f.mouse.Drop(OnLeftVideo, data); // which nobody takes
+        QVERIFY(seen.isEmpty());
+        takes = -1;
+        f.mouse.DragEnter({20, 580}, data);
+        QVERIFY(move({25, 580}));
+        QCOMPARE(seen, Seen({{-1, QEvent::DragEnter}})); // a screen hears of no moves
     }
 
     // Catches colours and pictures that are read once and kept.

@@ -200,21 +200,49 @@ private Q_SLOTS:
         }
     }
 
-    // Catches a mode set by what the client kept in a wall, as that wall goes, undone by the rest of the
-    // switch.
+    // Catches a mode set by what the client kept in a wall, or by who hears of the focus that the overview
+    // loses, as that wall goes, undone by the rest of the switch.
     void switchedByWhatGoes()
     {
-        Wall wall;
-        wall.SetShowMode(Wall::DisplayMode);
-        wall.SetTVWallGridCount(1, 1);
-        wall.AddScreen(Whole, QVariant());
-        wall.OpenWindow(0, Whole, QVariant());
-        auto* player = new QWidget(wall.GetWindowWidget(0, 0));
-        connect(player, &QObject::destroyed, &wall, [&wall] { wall.SetShowMode(Wall::DisplayMode); });
-        wall.SetShowMode(Wall::NormalMode);
-        QVERIFY(!NormalWall(wall));
-        QVERIFY(DisplayWall(wall) && EagleEye(wall));
-        QCOMPARE(wall.GetScreenCount(), 0);
+        for (const bool byFocus : {false, true}) {
+            Zoomable z;
+            z.wall.OpenWindow(0, Whole, QVariant());
+            const QPointer<QWidget> eye = z.Eye();
+            QApplication::setActiveWindow(&z.wall);
+            eye->setFocus();
+            auto* player = new QWidget(z.wall.GetWindowWidget(0, 0));
+            const auto back = [&] { z.wall.SetShowMode(Wall::DisplayMode); };
+            if (!byFocus)
+                connect(player, &QObject::destroyed, &z.wall, back);
+            else
+                connect(qApp, &QApplication::focusChanged, player, [&] { eye ? void() : back(); });
+            z.wall.SetShowMode(Wall::NormalMode);
+            QVERIFY(!NormalWall(z.wall));
+            QVERIFY(DisplayWall(z.wall) && z.Eye());
+            QCOMPARE(z.wall.GetScreenCount(), 0);
+        }
+    }
+
+    // Catches a crash after a client has deleted what it found inside, and an overview of a wall that is
+    // gone.
+    void innerWidgetsMayBeDeleted()
+    {
+        Zoomable z;
+        delete z.Eye();
+        z.mouse.Wheel({0, 0}, 120);
+        z.wall.resize(400, 300);
+        QTRY_COMPARE(z.Geometry().size(), QSize(600, 450));
+        z.wall.SetShowMode(Wall::DisplayMode);
+        QVERIFY(z.Eye() != nullptr);
+        delete DisplayWall(z.wall);
+        z.Eye()->grab();
+        QTest::keyClick(z.Eye(), Qt::Key_Right);
+        QCOMPARE(z.wall.GetScreenCount(), 0);
+        z.wall.SetShowMode(Wall::DisplayMode);
+        const QImage empty = z.Eye()->grab().toImage();
+        z.wall.SetTVWallGridCount(1, 1);
+        z.wall.AddScreen(Whole, QVariant());
+        QVERIFY(z.Eye()->grab().toImage() != empty);
     }
 
     // Catches a wall that goes by its mode and, deleted with the operate wall meanwhile, goes twice.
@@ -346,6 +374,15 @@ private Q_SLOTS:
         const QRect collapsed = z.Eye()->geometry();
         QVERIFY(collapsed.width() < expanded.width() / 2);
         QCOMPARE(collapsed.bottomRight(), QPoint(799, 599));
+        for (const QPoint& inside : {QPoint(4, 4), QPoint(collapsed.width() / 2, collapsed.height() / 2)}) {
+            z.mouse.Press(collapsed.bottomRight() - inside); // on the button, and on its smooth edge
+            z.mouse.Move({10, 10});
+            z.mouse.Release({10, 10});
+            QCOMPARE(z.Eye()->geometry(), collapsed);
+            QCOMPARE(z.Geometry(), wall);
+        }
+        z.mouse.Move(z.CornerButton());
+        QCOMPARE(z.Eye()->toolTip(), QStringLiteral("Show the overview"));
         // Beside the button's triangle lies the wall.
         z.mouse.Click(collapsed.topLeft() + QPoint(3, 3));
         QCOMPARE(z.Eye()->geometry(), collapsed);
@@ -363,7 +400,10 @@ private Q_SLOTS:
         Zoomable z;
         for (int i = 0; i < 2; ++i)
             z.mouse.Wheel({0, 0}, 120);
-        z.Eye()->setFocus(Qt::TabFocusReason);
+        QApplication::setActiveWindow(&z.wall);
+        const QImage plain = z.Eye()->grab().toImage();
+        z.Eye()->setFocus(Qt::BacktabFocusReason);
+        QVERIFY(z.Eye()->grab().toImage() != plain); // the focus is marked
         QTest::keyClick(z.Eye(), Qt::Key_Right);
         QTest::keyClick(z.Eye(), Qt::Key_Down);
         QCOMPARE(z.Geometry().topLeft(), QPoint(-199, -149)); // a quarter of the view
@@ -380,7 +420,8 @@ private Q_SLOTS:
         QVERIFY(!z.Eye()->accessibleName().isEmpty());
     }
 
-    // Catches pictures that stay those of the old skin, and a size that depends on the screen's density.
+    // Catches pictures that stay those of the old skin, a size that depends on the screen's density, and a
+    // division by the size of an overview without pictures.
     void overviewFollowsTheSkin()
     {
         const Zoomable z;
@@ -392,6 +433,13 @@ private Q_SLOTS:
         const QImage nowhere = z.Eye()->grab().toImage();
         KvGUI::SetSkinVersion(QStringLiteral("Black"));
         QVERIFY(qGray(white.pixel(2, 60)) > qGray(black.pixel(2, 60)) + 100);
+        KvGUI::SetSkinVersion(QStringLiteral("Nowhere"));
+        Zoomable none;
+        KvGUI::SetSkinVersion(QStringLiteral("Black"));
+        none.mouse.Wheel({799, 599}, 120);
+        const QRect zoomed = none.Geometry();
+        QTest::mouseClick(none.Eye(), Qt::LeftButton);
+        QCOMPARE(none.Geometry(), zoomed);
         QCOMPARE(nowhere.size(), white.size());
         QCOMPARE(z.Eye()->geometry(), place);
         QVERIFY(z.Eye()->grab().toImage() == black);

@@ -5,6 +5,7 @@
 #include "support/StrictMain.h"
 #include "support/Text.h"
 
+#include <UI/TVWall/QOSDShowLabel.h>
 #include <UI/TVWall/ScreenOverlay.h>
 #include <UI/TVWall/WallGeometry.h>
 #include <UI/TVWall/WallMiniature.h>
@@ -408,6 +409,50 @@ private Q_SLOTS:
         QCOMPARE(padded(92, 4), "text  "_s);
         QCOMPARE(padded(10, 0), "text"_s); // a font without a space
         QCOMPARE(padded(200, 4), "text"_s);
+    }
+
+    void rollingTexts_data()
+    {
+        TestSupport::Columns<int, int, int>(
+            "mode", "room", "milliseconds"); // room beside the text, in pixels
+        QTest::addColumn<QPoint>("offset");
+        using Label = QOSDShowLabel;
+        QTest::newRow("to the left") << int(Label::RightToLeft) << 100 << 1000 << QPoint(-60, 0);
+        QTest::newRow("an unknown mode") << 9 << 100 << 1000 << QPoint(-60, 0);
+        QTest::newRow("to the right") << int(Label::LeftToRight) << 100 << 1000 << QPoint(60, 0);
+        QTest::newRow("down") << int(Label::TopToBottom) << 100 << 500 << QPoint(0, 30);
+        QTest::newRow("up") << int(Label::BottomToTop) << 100 << 500 << QPoint(0, -30);
+        QTest::newRow("swinging") << int(Label::BackAndForth) << 100 << 1000 << QPoint(60, 0);
+        QTest::newRow("swinging back") << int(Label::BackAndForth) << 100 << 2000 << QPoint(80, 0);
+        QTest::newRow("swinging out") << int(Label::BackAndForth) << -100 << 1000 << QPoint(-60, 0);
+        QTest::newRow("nowhere to swing") << int(Label::BackAndForth) << 0 << 1000 << QPoint(0, 0);
+    }
+
+    // Catches a text that moves another way, jumps where it turns or comes in again, or makes the label
+    // repaint for nothing.
+    void rollingTexts()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, room);
+        QFETCH(int, milliseconds);
+        const QString text = QString(60, QLatin1Char('m'));
+        QOSDShowLabel label(nullptr);
+        QFont font = label.font();
+        font.setPixelSize(20);
+        label.resize(QFontMetrics(font).horizontalAdvance(text) + room, 100);
+        label.SetContent({text, 20, Qt::white, Qt::black, Qt::AlignLeft, mode});
+        QCOMPARE(label.IsRolling(), room != 0);
+        label.Advance(milliseconds);
+        QTEST(label.TextOffset(), "offset");
+        int longest = 0;
+        for (int i = 0; i < 4000; ++i) { // some rounds
+            const QPoint before = label.TextOffset();
+            label.Advance(40);
+            const QPoint step = label.TextOffset() - before;
+            if (std::abs(step.x()) + std::abs(step.y()) < 50) // not where it comes in again
+                longest = std::max({longest, std::abs(step.x()), std::abs(step.y())});
+        }
+        QCOMPARE(longest, room == 0 ? 0 : 3);
     }
 
     void baseMapFiles()
