@@ -17,7 +17,6 @@ namespace {
 
 constexpr Rect Whole{0.0, 0.0, 1.0, 1.0, true};
 constexpr Rect LeftUpper{0.1, 0.1, 0.4, 0.5, true}; // 300 x 240 pixels at 100, 60
-const QPoint OnVideo(160, 180);
 const QPoint OnTitle(140, 72);
 
 /// One wall of 1000 x 600 pixels, shown, with one screen of 2 x 2 cells over all of it.
@@ -130,23 +129,6 @@ private Q_SLOTS:
         QCOMPARE(button->grab().toImage().pixelColor(button->rect().center()), QColor(Qt::red));
     }
 
-    // Catches windows of a hidden wall that are placed when it is shown only, or a second time then.
-    void hiddenWallIsLaidOut()
-    {
-        Wall wall;
-        wall.resize(1000, 600);
-        wall.SetTVWallGridCount(1, 1);
-        wall.AddScreen(Whole, QVariant());
-        wall.OpenWindow(0, LeftUpper, QVariant());
-        wall.OpenWindow(0, LeftUpper, QVariant());
-        for (int shown = 0; shown < 2; ++shown) {
-            QCOMPARE(wall.GetWindowWidget(0, 1)->parentWidget()->geometry(), QRect(100, 60, 300, 240));
-            QCOMPARE(wall.GetWindowWidget(0, 1)->geometry(), QRect(1, 26, 296, 216)); // for a player made now
-            wall.show();
-            QApplication::processEvents();
-        }
-    }
-
     void windowsAreNumberedWhenOpened()
     {
         const Fixture f;
@@ -190,49 +172,6 @@ private Q_SLOTS:
         QCOMPARE(f.wall->GetWindowZValue(0, 1), 4);
         QCOMPARE(Stacking(f), (QList<int>{2, 3, 1, 0}));
         QCOMPARE(f.wall->GetMaxWindowZValue(0), 5);
-    }
-
-    // Catches a frame normalised on its way, which loses the direction that the camera shall turn.
-    void positioningFrame()
-    {
-        Fixture f({{0.1, 0.1, 0.9, 0.9, true}});
-        QSignalSpy spy(f.wall.get(), SIGNAL(SignalWindow3DSite(int, int, int, int, int)));
-        f.wall->SetPtzFrameSelectedEnable(true); // no screen is selected: nothing
-        f.mouse.Drag({500, 300}, {250, 150});
-        QCOMPARE(spy.count(), 0);
-        f.wall->SetSelectedScreenIndex(0);
-        f.wall->SetPtzFrameSelectedEnable(true);
-        f.mouse.Drag({500, 300}, {250, 150});
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0), (QVariantList{0, 4096, 4096, 2048, 2048}));
-        QCOMPARE(f.Window(0)->geometry(), QRect(100, 60, 800, 480)); // not dragged
-    }
-
-    void videoMayBeDeletedInADrag()
-    {
-        Fixture f({LeftUpper});
-        QWidget* window = f.Window(0);
-        f.mouse.Press(OnTitle);
-        f.mouse.Move(OnTitle + QPoint(80, 80));
-        delete f.wall->GetWindowWidget(0, 0);
-        f.mouse.Release(OnTitle + QPoint(80, 80));
-        QCOMPARE(window->geometry(), QRect(180, 140, 300, 240));
-        f.wall->SetWindowScale(0, 0, {0.1, 0.1, 0.6, 0.7, true});
-        QCOMPARE(f.wall->GetWindowWidget(0, 0), nullptr);
-        QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
-        QCOMPARE(f.PixelAt({300, 300}), f.wall->WindowColor().rgb());
-    }
-
-    // Catches a text that is not seen, and updates that are not held.
-    void videoIsSetByCall()
-    {
-        const Fixture f({LeftUpper});
-        const QWidget* video = f.wall->GetWindowWidget(0, 0);
-        const QImage without = f.wall->grab().toImage();
-        QVERIFY(f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("Connecting")));
-        QVERIFY(f.wall->grab().toImage() != without);
-        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, false));
-        QVERIFY(!video->updatesEnabled());
     }
 
     // Catches the conduct of MDI windows: closing by key or call while the list still holds the window,

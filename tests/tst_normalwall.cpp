@@ -202,27 +202,6 @@ private Q_SLOTS:
         QCOMPARE(f.Scale(0), (Rect{0.15, 0.2, 0.45, 0.6, true}));
     }
 
-    // Catches settings that are lost because they came before the widget, and a widget that does not follow.
-    void videoWidgets()
-    {
-        Fixture f({LeftUpper});
-        const QImage without = f.Picture();
-        QVERIFY(f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("Connecting")));
-        const QImage painted = f.Picture();
-        QVERIFY(Different(without, painted, QRect(110, 150, 280, 200)) > 50);
-        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, false));
-        QWidget* video = f.wall->GetWindowWidget(0, 0);
-        QVERIFY(video != nullptr && !video->updatesEnabled());
-        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, true));
-        QCOMPARE(f.Picture(), painted); // text and colours are the same in the widget
-        QCOMPARE(f.wall->GetWindowWidget(0, 0), video);
-        QCOMPARE(f.Video(0), QRect(101, 146, 296, 216));
-        f.wall->SetWindowScale(0, 0, RightUpper);
-        QCOMPARE(f.Video(0), QRect(501, 146, 296, 216));
-        f.wall->resize(500, 300);
-        QCOMPARE(f.Video(0), QRect(251, 86, 146, 96));
-    }
-
     // Catches a moving picture that stands still for good because the wall had no room for it once.
     void videosPaintWhenThereIsRoom()
     {
@@ -280,25 +259,6 @@ private Q_SLOTS:
         QTest::keyClick(f.client.windowHandle(), Qt::Key_Tab); // on from the window
         QTest::keyClick(f.client.windowHandle(), Qt::Key_Space);
         QCOMPARE(volume.count(), 1);
-    }
-
-    // Catches a proxy that is used after its widget.
-    void videoWidgetsDeletedByTheClient()
-    {
-        Fixture f({LeftUpper});
-        f.Fill(0, Qt::red);
-        QCOMPARE(f.Picture().pixelColor(OnLeftVideo), QColor(Qt::red));
-        delete f.wall->GetWindowWidget(0, 0);
-        QVERIFY(f.wall->GetWindowWidget(0, 0) == nullptr);
-        QVERIFY(!f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("text")));
-        QVERIFY(!f.wall->SetWindowUpdateEnable(0, 0, true));
-        QVERIFY(!f.wall->DeleteWindowWidget(0, 0));
-        QVERIFY(f.wall->SetWindowScale(0, 0, RightUpper));
-        QVERIFY(f.Picture().pixelColor(OnRightVideo) != QColor(Qt::red));
-        f.wall->OpenWindow(0, LeftUpper, QVariant());
-        QVERIFY(f.wall->DeleteWindowWidget(0, 1)); // though nobody has asked for it
-        QVERIFY(f.wall->GetWindowWidget(0, 1) == nullptr);
-        QVERIFY(!f.wall->DeleteWindowWidget(0, 1));
     }
 
     // Catches an overview in the way of an operator who sees the whole wall, and a way back that is none.
@@ -439,21 +399,6 @@ private Q_SLOTS:
         QCOMPARE(shapeAt({20, 580}), Qt::ArrowCursor);
     }
 
-    // Catches a frame that moves the window, and one normalised on its way or told in pixels.
-    void positioningFrame()
-    {
-        Fixture f({{0.1, 0.1, 0.9, 0.9, true}});
-        const QSignalSpy site(f.wall, &Wall::SignalWindow3DSite);
-        f.wall->SetSelectedScreenIndex(0);
-        f.wall->SetPtzFrameSelectedEnable(true);
-        f.mouse.Drag({500, 300}, {250, 150});
-        QCOMPARE(site, (QList<QVariantList>{{0, 4096, 4096, 2048, 2048}}));
-        QCOMPARE(f.Scale(0), (Rect{0.1, 0.1, 0.9, 0.9, true}));
-        f.wall->SetPtzFrameSelectedEnable(false);
-        f.mouse.Drag({500, 300}, {250, 150});
-        QCOMPARE(site.count(), 1);
-    }
-
     // Catches windows and buttons that only a mouse can reach, and a focus that never leaves the wall.
     void keyboard()
     {
@@ -567,24 +512,6 @@ private Q_SLOTS:
         QCOMPARE(styled.pixelColor(OnLeftVideo), QColor(Qt::green));
         QCOMPARE(styled.pixelColor(OnRightVideo), QColor(Qt::green)); // a widget
         QCOMPARE(styled.pixelColor(100, 240), QColor(Qt::blue));
-    }
-
-    // Catches overlays and windows placed on a wall that does not know its size yet.
-    void sizeBeforeShowing()
-    {
-        Wall wall;
-        wall.resize(1000, 600);
-        wall.SetTVWallGridCount(2, 2);
-        wall.AddScreen(Whole, QVariant());
-        wall.OpenWindow(0, LeftUpper, QVariant());
-        QCOMPARE(wall.GetWindowWidget(0, 0)->size(), QSize(296, 216));
-        KvGUI::StructOSDInfo info;
-        info.iRight = info.iBottom = 4096;
-        info.iBackG = 255;
-        info.iFontPercent = 10;
-        std::vector<KvGUI::StructOSDInfo> infos{info};
-        wall.SetScreenOSDInfo(0, infos);
-        QCOMPARE(wall.grab().toImage().pixelColor(50, 200), QColor(Qt::green));
     }
 };
 

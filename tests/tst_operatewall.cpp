@@ -207,7 +207,7 @@ private Q_SLOTS:
         for (const bool byFocus : {false, true}) {
             Zoomable z;
             z.wall.OpenWindow(0, Whole, QVariant());
-            const QPointer<QWidget> eye = z.Eye();
+            QWidget* const eye = z.Eye();
             QApplication::setActiveWindow(&z.wall);
             eye->setFocus();
             auto* player = new QWidget(z.wall.GetWindowWidget(0, 0));
@@ -215,7 +215,10 @@ private Q_SLOTS:
             if (!byFocus)
                 connect(player, &QObject::destroyed, &z.wall, back);
             else
-                connect(qApp, &QApplication::focusChanged, player, [&] { eye ? void() : back(); });
+                connect(qApp, &QApplication::focusChanged, player, [&](QWidget* old) {
+                    if (old == eye)
+                        back();
+                });
             z.wall.SetShowMode(Wall::NormalMode);
             QVERIFY(!NormalWall(z.wall));
             QVERIFY(DisplayWall(z.wall) && z.Eye());
@@ -402,6 +405,7 @@ private Q_SLOTS:
             z.mouse.Wheel({0, 0}, 120);
         QApplication::setActiveWindow(&z.wall);
         const QImage plain = z.Eye()->grab().toImage();
+        z.Eye()->clearFocus();
         z.Eye()->setFocus(Qt::BacktabFocusReason);
         QVERIFY(z.Eye()->grab().toImage() != plain); // the focus is marked
         QTest::keyClick(z.Eye(), Qt::Key_Right);

@@ -349,6 +349,60 @@ private Q_SLOTS:
         QCOMPARE(f.wall->GetMaxWindowZValue(0), 0);
     }
 
+    // Catches windows and overlays of a hidden wall that are placed when it is shown only, or anew then.
+    void hiddenWallsAreLaidOut()
+    {
+        QFETCH_GLOBAL(int, family);
+        Wall wall;
+        wall.resize(1000, 600);
+        wall.SetShowMode(family);
+        wall.SetTVWallGridCount(1, 1);
+        wall.AddScreen(Whole, QVariant());
+        wall.OpenWindow(0, LeftUpper, QVariant());
+        std::vector<KvGUI::StructOSDInfo> infos{Overlay(false)};
+        wall.SetScreenOSDInfo(0, infos);
+        for (int shown = 0; shown < 2; ++shown) {
+            QCOMPARE(wall.GetWindowWidget(0, 0)->size(), QSize(296, 216)); // for a player made now
+            QCOMPARE(wall.grab().toImage().pixel(OnOverlay), qRgb(0, 120, 0));
+            wall.show();
+            QApplication::processEvents();
+        }
+    }
+
+    // Catches a text or a state that is lost because it came before the widget, a widget that does not follow
+    // its window, and one that is used after the client has deleted it.
+    void videoWidgets()
+    {
+        Fixture f({LeftUpper});
+        const QImage without = f.client.grab().toImage();
+        QVERIFY(f.wall->SetWindowVideoWidgetText(0, 0, QStringLiteral("Connecting")));
+        const QImage painted = f.client.grab().toImage();
+        QVERIFY(painted != without);
+        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, false));
+        QPointer<QWidget> video = f.wall->GetWindowWidget(0, 0);
+        QVERIFY(!video->updatesEnabled());
+        QVERIFY(f.wall->SetWindowUpdateEnable(0, 0, true));
+        QCOMPARE(f.client.grab().toImage(), painted);
+        f.wall->SetWindowScale(0, 0, RightUpper);
+        QCOMPARE(f.Pixels(0), QRect(600, 60, 300, 240));
+        const QRgb shown = f.PixelAt({700, 280});
+        f.mouse.Press(f.OnTitle(0));
+        delete video;
+        f.mouse.Move({640, 172}); // 100 pixels down
+        f.mouse.Release({640, 172});
+        QCOMPARE(f.Scale(0).dTop, 0.1 + 100.0 / 600);
+        f.wall->SetWindowScale(0, 0, {0.6, 0.1, 0.9, 0.7, true});
+        QVERIFY(f.PixelAt({700, 280}) != shown);
+        f.wall->OpenWindow(0, LeftUpper, QVariant());
+        QVERIFY(f.wall->DeleteWindowWidget(0, 1)); // though nobody has asked for it
+        for (const int window : {0, 1}) {
+            QVERIFY(f.wall->GetWindowWidget(0, window) == nullptr);
+            QVERIFY(!f.wall->SetWindowVideoWidgetText(0, window, QStringLiteral("text")));
+            QVERIFY(!f.wall->SetWindowUpdateEnable(0, window, true));
+            QVERIFY(!f.wall->DeleteWindowWidget(0, window));
+        }
+    }
+
     // Catches pixels that are computed back into the rectangle.
     void windowsFollowTheirScreen()
     {
@@ -668,6 +722,25 @@ private Q_SLOTS:
             QCOMPARE(f.Pixels(0), start);
         }
         QCOMPARE(f.changed.count(), 0);
+    }
+
+    // Catches a frame that moves the window, and one normalised on its way, which loses the direction that
+    // the camera shall turn.
+    void positioningFrame()
+    {
+        const Rect start{0.1, 0.1, 0.9, 0.9, true};
+        Fixture f({start});
+        const QObject* reports // the operate wall passes on those of the display family only
+            = f.display ? f.wall.data() : f.wall->findChild<QGraphicsView*>()->parentWidget();
+        const QSignalSpy site(reports, SIGNAL(SignalWindow3DSite(int, int, int, int, int)));
+        for (const bool screenSelected : {false, true, true}) {
+            if (screenSelected)
+                f.mouse.Click({5, 5});
+            f.wall->SetPtzFrameSelectedEnable(site.isEmpty());
+            f.mouse.Drag({500, 300}, {250, 150});
+        }
+        QCOMPARE(site, (QList<QVariantList>{{0, 4096, 4096, 2048, 2048}}));
+        QCOMPARE(f.Scale(0), start);
     }
 
     // Catches a zoom about another point, and areas drawn on a zoomed wall as if it were not.
