@@ -19,16 +19,13 @@ QLabel* Caption(const WmPersonImage& panel)
     return panel.findChild<QLabel*>(QStringLiteral("m_lbAvatarOrFace"));
 }
 
-void SwitchAll(WmPersonImage& panel, bool on)
-{
-    panel.SetShowUpLoadButton(on);
-    panel.SetShowCaptureButton(on);
-    panel.SetShowVistorCaptureButton(on);
-    panel.SetShowIDCardButton(on);
-    panel.SetShowDeleteButton(on);
-    panel.SetShowTurnPageButton(on);
-    panel.SetShowAvatarOrFaceLabel(on, 1);
-}
+using Switch = void (WmPersonImage::*)(bool);
+const QVector<QPair<QString, Switch>> Switches{
+    {QStringLiteral("m_btnUpLoad"), &WmPersonImage::SetShowUpLoadButton},
+    {QStringLiteral("m_btnCapture"), &WmPersonImage::SetShowCaptureButton},
+    {QStringLiteral("m_btnVistorCapture"), &WmPersonImage::SetShowVistorCaptureButton},
+    {QStringLiteral("m_btnIDCard"), &WmPersonImage::SetShowIDCardButton},
+    {QStringLiteral("m_btnPhotoDelete"), &WmPersonImage::SetShowDeleteButton}};
 
 void Hover(WmPersonImage& panel, bool in)
 {
@@ -108,18 +105,17 @@ private slots:
         QTest::newRow("none") << QStringList{};
     }
 
-    /// Catches another order, room for buttons that are not in use, and buttons outside the panel.
+    /// Catches crossed switches, another order, room for buttons that are not in use, and buttons outside the
+    /// panel.
     void Stack()
     {
         QFETCH(QStringList, inUse);
         WmPersonImage panel;
         panel.resize(100, 120);
-        SwitchAll(panel, false);
-        for (const QString& name : inUse)
-            panel.findChild<QPushButton*>(name)->setEnabled(true);
-        panel.SetShowTurnPageButton(true);
-        panel.SetShowAvatarOrFaceLabel(true, 1);
+        for (const auto& [name, change] : Switches)
+            (panel.*change)(inUse.contains(name));
         Hover(panel, true);
+        QCOMPARE(Shown(panel).size(), inUse.size() + 2);
         for (int i = 0; i < inUse.size(); ++i)
             QCOMPARE(panel.findChild<QPushButton*>(inUse.at(i))->geometry(), QRect(1, 100 - 20 * i, 98, 20));
         QCOMPARE(Button(panel, "m_btnTurnPage")->geometry(), QRect(75, 0, 25, 20));
