@@ -289,10 +289,9 @@ private slots:
     void PicturesFollowTheDensity()
     {
         QTemporaryDir folder;
-        for (const char* name : {"both.png", "one.png", "both@2x.png"}) {
-            const int size = qstrlen(name) > 8 ? 8 : 4;
-            QVERIFY(QImage(size, size, QImage::Format_RGB32).save(folder.filePath(QLatin1String(name))));
-        }
+        for (const auto& [name, size] :
+             {qMakePair("both.png"_s, 4), qMakePair("one.png"_s, 4), qMakePair("both@2x.png"_s, 8)})
+            QVERIFY(QImage(size, size, QImage::Format_RGB32).save(folder.filePath(name)));
         const auto pixels = [&folder](const QString& name, qreal density) {
             return SkinPicture(folder.filePath(name), density).width();
         };
