@@ -88,7 +88,7 @@ set_target_properties(OtherProvider PROPERTIES OUTPUT_NAME 2-OtherProvider)
 uicomponents_test(tst_linkweb tst_linkweb.cpp)
 set(web_engine "${PROJECT_SOURCE_DIR}/Platform/Automation/WebEngine")
 uicomponents_test(tst_webbridge tst_webbridge.cpp "${web_engine}/Allowances.cpp" "${web_engine}/PageBridge.cpp"
-    "${web_engine}/PageBridge.h")
+    "${web_engine}/PageBridge.h" "${web_engine}/EngineStart.cpp" "${web_engine}/EngineLog.cpp")
 if(TARGET WebEngineProvider AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
     find_package(Qt5 5.15 REQUIRED COMPONENTS Network)
     uicomponents_test(tst_webengine tst_webengine.cpp support/VirtualDisplay.cpp support/VirtualDisplay.h

@@ -300,11 +300,11 @@ private slots:
     }
 
     /// Catches: for blanks, a trim in their place and brackets that count; for bytes, a budget that counts
-    /// characters, is off by one, or tears a character; for rectangles, sizes and colours,
-    /// the third and fourth number taken for a size, forgiven counts, an overflow and a warning; for digits,
-    /// other scripts and signs; for ASCII, bytes counted as unsigned or behind a zero; for paths, a folder
-    /// taken for a format; for devices, a third field that must be there, an id cut off at its limit, and a
-    /// failure that leaves the output as it was; for skins, a part for the whole.
+    /// characters, is off by one, or tears a character; for rectangles, sizes and colours, the third and
+    /// fourth number taken for a size, forgiven counts, an overflow and a warning; for digits, other scripts
+    /// and signs; for ASCII, bytes counted as unsigned or behind a zero; for paths, a folder taken for a
+    /// format; for devices, a third field that must be there, an id cut off at its limit, and a failure that
+    /// leaves the output as it was; for skins, a part for the whole.
     void WhatATextSays()
     {
         QFETCH(Reading, read);

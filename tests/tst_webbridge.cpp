@@ -3,6 +3,7 @@
 #include "support/Text.h"
 
 #include <Platform/Automation/WebEngine/Allowances.h>
+#include <Platform/Automation/WebEngine/EngineStart.h>
 #include <Platform/Automation/WebEngine/PageBridge.h>
 
 #include <QtTest>
@@ -43,6 +44,44 @@ private slots:
         QFETCH(QStringList, words);
         QFETCH(bool, allowed);
         QCOMPARE(Allowances::FromWords(words).MayGoTo(QUrl(url)), allowed);
+    }
+
+    void PreparesTheEngine_data()
+    {
+        Columns<QString, QByteArray>("command", "told");
+        const auto root = [](const char* flags) {
+            return "--map-root-user --mount sh -c 'mount -t tmpfs -o size=1m none /dev/shm && env %1 $0 --prepare'"_s
+                .arg(QLatin1String(flags));
+        };
+        Row("small shared memory", root(""), QByteArray("as root.\n1|--disable-dev-shm-usage|"));
+        Row("own flags", root("QTWEBENGINE_CHROMIUM_FLAGS=--a"),
+            QByteArray("as root.\n1|--a --disable-dev-shm-usage|"));
+        Row("own flag", root("\"QTWEBENGINE_CHROMIUM_FLAGS=--disable-dev-shm-usage --b\""),
+            QByteArray("as root.\n1|--disable-dev-shm-usage --b|"));
+        Row("flag against the sandbox", root("QTWEBENGINE_CHROMIUM_FLAGS=--no-sandbox"),
+            QByteArray("CHROMIUM_FLAGS says so.\n1|--no-sandbox"));
+        Row("no sandbox", root("QTWEBENGINE_DISABLE_SANDBOX=1"), QByteArray("SANDBOX is set.\n1|"));
+        Row("user", "--map-user=1000 --map-group=1000 sh -c '$0 --prepare'"_s, QByteArray("|"));
+        Row("user without rights", "sh -c '$0 --prepare'"_s, QByteArray("no user namespaces.\n1|"));
+    }
+
+    // Catches a sandbox that is off without a word or a need, pages that die where containers have little
+    // shared memory, and flags of the user's that are lost.
+    void PreparesTheEngine()
+    {
+        QFETCH(QString, command);
+        QFETCH(QByteArray, told);
+        QProcess child;
+        child.setProcessChannelMode(QProcess::MergedChannels);
+        child.start(
+            "sh"_s,
+            {"-c"_s, "unshare --user "_s + command + " $0"_s, QCoreApplication::applicationFilePath()});
+        QVERIFY(child.waitForFinished());
+        const QByteArray output = child.readAll();
+        if (child.exitCode() != 0)
+            QSKIP("this system lets no user be another one or mount a disk");
+        QVERIFY2(output.contains(told), output.constData());
+        QCOMPARE(output.contains("without its sandbox"), told != "|");
     }
 
     // Catches calls that are passed on in one go, so that nothing else gets a turn, and reports that
@@ -121,6 +160,19 @@ private slots:
     }
 };
 
-STRICT_TEST_MAIN(tst_webbridge)
+int main(int argc, char** argv)
+{
+    PrepareEnvironment();
+    if (argc == 2 && qstrcmp(argv[1], "--prepare") == 0) {
+        for (int time = 0; time < 2; ++time)
+            WebEngine::PrepareEngine();
+        for (const char* variable : {"QTWEBENGINE_DISABLE_SANDBOX", "QTWEBENGINE_CHROMIUM_FLAGS"})
+            std::printf("%s|", qgetenv(variable).constData());
+        return 0;
+    }
+    QApplication application(argc, argv);
+    tst_webbridge test;
+    return RunStrictly(test, argc, argv);
+}
 
 #include "tst_webbridge.moc"
