@@ -4,14 +4,13 @@
 
 #include "support/Columns.h"
 #include "support/StrictMain.h"
+#include "support/Text.h"
 #include "support/VirtualDisplay.h"
 #include "support/WriteFaults.h"
 
 #include <Common/CIniFile.h>
-#include <Common/CLocalIniFile.h>
 #include <Common/CommonFun.h>
 #include <Common/QIniFile.h>
-#include <Platform/BasicUIComponents/KvDir.h>
 #include <UI/TVWall/KvTVWallNormalWnd.h>
 #include <gallery/MainWindow.h>
 #include <gallery/Photo/PersonRecord.h>
@@ -34,9 +33,9 @@ namespace {
 constexpr int FewKills = 5;
 constexpr int LongestWait = 10000; // milliseconds, for a save that cannot succeed
 
-const QString Section = QStringLiteral("Wall");
-const QString Key = QStringLiteral("Layout");
-const QString IniName = QStringLiteral("client.ini");
+const QString Section = "Wall"_s;
+const QString Key = "Layout"_s;
+const QString IniName = "client.ini"_s;
 
 /// A text that tells of itself whether it is whole: "7:777...". Odd ones are written at once, even ones fit
 /// into the buffer of a file.
@@ -81,30 +80,6 @@ int SavedWithBackup(const QString& folder)
     const int number = read(CommonFun::GetHasBackupConfigFileName(IniPath(folder)));
     const int backup = read(IniPath(folder) + QLatin1String(".usertmp"));
     return backup > 0 && backup <= number ? number : -1;
-}
-
-bool SaveSmall(const QString& folder, int number)
-{
-    XCM::QIniFile(IniPath(folder)).WriteValue(Section, Key, NumberedText(number));
-    return true;
-}
-
-int SavedSmall(const QString& folder)
-{
-    return NumberOf(XCM::QIniFile(IniPath(folder)).ReadValue(Section, Key));
-}
-
-bool SaveLocal(const QString& folder, int number)
-{
-    KvGUI::KvDir::SetCurrentPath(folder);
-    UICommonMdl::CLocalIniFile::WriteValue(Section, Key, NumberedText(number), IniName);
-    return true;
-}
-
-int SavedLocal(const QString& folder)
-{
-    KvGUI::KvDir::SetCurrentPath(folder);
-    return NumberOf(UICommonMdl::CLocalIniFile::ReadValue(Section, Key, IniName));
 }
 
 bool SaveWall(const QString& folder, int number)
@@ -153,26 +128,24 @@ int SavedPerson(const QString& folder)
     return *ends.second <= *ends.first + 1 ? *ends.first : -1;
 }
 
-bool SaveCut(const QString& folder, int number)
-{
-    PhotoCut cut;
-    cut.jpeg = NumberedText(number).toUtf8();
-    return PhotoCrop::Save(cut, QDir(folder).filePath(QStringLiteral("cut.jpg")));
-}
-
-int SavedCut(const QString& folder)
-{
-    return NumberOf(QString::fromUtf8(FilesIn(folder).value(QStringLiteral("cut.jpg"))));
-}
-
-const Saver Savers[]
-    = {{"settings and backup", SaveWithBackup, SavedWithBackup},
-       {"small settings", SaveSmall, SavedSmall},
-       {"local settings", SaveLocal, SavedLocal},
-       {"wall", SaveWall, SavedWall},
-       {"person", SavePerson, SavedPerson},
-       {"cut", SaveCut, SavedCut}};
-constexpr int SettingsSavers = 3; // the first ones, which tell nothing of a failure
+const Saver Savers[] = {
+    {"settings and backup", SaveWithBackup, SavedWithBackup},
+    {"small settings",
+     [](const QString& folder, int number) {
+         XCM::QIniFile(IniPath(folder)).WriteValue(Section, Key, NumberedText(number));
+         return true;
+     },
+     [](const QString& folder) { return NumberOf(XCM::QIniFile(IniPath(folder)).ReadValue(Section, Key)); }},
+    {"wall", SaveWall, SavedWall},
+    {"person", SavePerson, SavedPerson},
+    {"cut",
+     [](const QString& folder, int number) {
+         PhotoCut cut;
+         cut.jpeg = NumberedText(number).toUtf8();
+         return PhotoCrop::Save(cut, QDir(folder).filePath("cut.jpg"_s));
+     },
+     [](const QString& folder) { return NumberOf(QString::fromUtf8(FilesIn(folder).value("cut.jpg"_s))); }}};
+constexpr int SettingsSavers = 2; // the first ones, which tell nothing of a failure
 
 /// The child process: saves without end, until it is killed.
 int SaveForEver(const Saver& saver, const QString& folder)
@@ -187,8 +160,7 @@ int SaveForEver(const Saver& saver, const QString& folder)
 void KillSaverAfter(int saver, const QString& folder, int milliseconds)
 {
     QProcess child;
-    child.start(
-        QCoreApplication::applicationFilePath(), {QStringLiteral("--save"), QString::number(saver), folder});
+    child.start(QCoreApplication::applicationFilePath(), {"--save"_s, QString::number(saver), folder});
     QVERIFY(child.waitForReadyRead(60000));
     QTest::qSleep(milliseconds);
     child.kill();
@@ -224,14 +196,13 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(Folder()));
         // For another user to read in.
         QVERIFY(QFile::setPermissions(m_folder->path(), QFileDevice::Permissions(0x7755)));
-        KvGUI::KvDir::SetCurrentPath(QString());
     }
 
     void SurvivesKills_data()
     {
         QTest::addColumn<int>("index");
         for (int i = 0; i < int(std::size(Savers)); ++i)
-            QTest::newRow(Savers[i].name) << i;
+            Row(Savers[i].name, i);
     }
 
     // Catches a save that goes through a half-written file, which a kill would leave like that, and a next
@@ -258,7 +229,7 @@ private Q_SLOTS:
 
     void LeavesNoHalf_data()
     {
-        TestSupport::Columns<int, QString>("index", "fault");
+        Columns<int, QString>("index", "fault");
         for (int i = 0; i < int(std::size(Savers)); ++i) {
             for (const char* fault : {"full", "fuller", "read-only", "no folder"})
                 QTest::addRow("%s, %s", Savers[i].name, fault) << i << QString::fromLatin1(fault);
@@ -332,8 +303,7 @@ private Q_SLOTS:
         const SourcePool pool;
         MainWindow window;
         window.AddPage(
-            {QStringLiteral("empty"), [] { return QString(); },
-             [](QWidget* parent) { return new Page(parent); }});
+            {"empty"_s, [] { return QString(); }, [](QWidget* parent) { return new Page(parent); }});
         bool saved = true;
         {
             const auto full = FullDisk(200);
@@ -356,7 +326,7 @@ private Q_SLOTS:
         {
             const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
             const VirtualDisplay display;
-            child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--show"), Folder()});
+            child.start(QCoreApplication::applicationFilePath(), {"--show"_s, Folder()});
             qputenv("QT_QPA_PLATFORM", platform);
             QVERIFY(child.waitForReadyRead(60000));
         }
@@ -366,14 +336,14 @@ private Q_SLOTS:
     }
 
 private:
-    QString Folder() const { return m_folder->filePath(QStringLiteral("data")); }
+    QString Folder() const { return m_folder->filePath("data"_s); }
 
     QScopedPointer<QTemporaryDir> m_folder;
 };
 
 int main(int argc, char** argv)
 {
-    TestSupport::PrepareEnvironment();
+    PrepareEnvironment();
     if (argc == 4 && qstrcmp(argv[1], "--save") == 0) {
         const QCoreApplication application(argc, argv);
         return SaveForEver(Savers[std::atoi(argv[2])], QString::fromLocal8Bit(argv[3]));
@@ -384,7 +354,7 @@ int main(int argc, char** argv)
     if (argc == 3 && qstrcmp(argv[1], "--show") == 0)
         return ShowWall(application, QString::fromLocal8Bit(argv[2]));
     TestFaults test;
-    return TestSupport::RunStrictly(test, argc, argv);
+    return RunStrictly(test, argc, argv);
 }
 
 #include "tst_faults.moc"

@@ -299,7 +299,6 @@ private slots:
     {
         Columns<QByteArray, bool>("bytes", "hasData");
         Row("empty", QByteArray(""), false);
-        Row("text", QByteArray("[Wall]\nRows=2\n"), true);
         Row("no line ending", QByteArray("a"), true);
         Row("blank", QByteArray(" \n"), true);
         Row("first line empty", QByteArray("\n[Wall]\n"), false);
@@ -407,11 +406,5 @@ private:
     QScopedPointer<QTemporaryDir> m_folder;
 };
 
-int main(int argc, char** argv)
-{
-    PrepareEnvironment();
-    const QGuiApplication application(argc, argv);
-    TestIniFiles test;
-    return RunStrictly(test, argc, argv);
-}
+STRICT_TEST_MAIN(TestIniFiles)
 #include "tst_inifiles.moc"

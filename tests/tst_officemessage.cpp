@@ -163,12 +163,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char** argv)
-{
-    PrepareEnvironment();
-    const QGuiApplication application(argc, argv);
-    TestOfficeMessage test;
-    return RunStrictly(test, argc, argv);
-}
-
+STRICT_TEST_MAIN(TestOfficeMessage)
 #include "tst_officemessage.moc"

@@ -232,7 +232,6 @@ private slots:
         // Half of the pair would be one "?" and would fit.
         row(bytes(3), "bytes: pair torn by the count of units", face, "ab"_s);
         row(bytes(2), "bytes: nothing fits", "\u4E2D"_s, QString());
-        row(bytes(10), "bytes: empty", QString(), QString());
 
         const Reading rect = [](const QString& text) { return QCommon::StringToRect(text); };
         row(rect, "rectangle: blanks around", " 10,20,110,70 "_s, QRect(10, 20, 100, 50));
@@ -268,7 +267,6 @@ private slots:
             = [](const QString& text) { return QCommon::GetAsciiCharNum(text.toStdString()); };
         row(ascii, "ASCII: negative bytes", "a\u4E2D\u007F\u0080"_s, 2);
         row(ascii, "ASCII: up to a zero byte", "ab\0cd"_s.left(5), 2);
-        row(ascii, "ASCII: empty", QString(), 0);
 
         const Reading patched = [](const QString& text) { return QCommon::PatchPath(text, "b.ini"_s); };
         row(patched, "path: slash added", "C:/a"_s, "C:/a/b.ini"_s);
@@ -296,7 +294,6 @@ private slots:
         const Reading webSkin = [](const QString& text) { return QCommon::HostToWebSkinName(text); };
         row(webSkin, "web skin: any case", "white"_s, "light"_s);
         row(webSkin, "web skin: a part", "White2"_s, "black"_s);
-        row(webSkin, "web skin: empty", QString(), "black"_s);
     }
 
     /// Catches: for blanks, a trim in their place and brackets that count; for bytes, a budget that counts
