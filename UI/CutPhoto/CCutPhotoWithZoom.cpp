@@ -27,7 +27,12 @@ constexpr int TipCorner = 4; // radius
 /// The product whose search menu this library shows, whatever skin it runs in.
 constexpr const char* Application = "Corvale";
 
-QString SkinFile(const char* name) { return QStringLiteral("CutPhotoWndWithZoom/") + QLatin1String(name); }
+/// A picture of the skin, drawn as finely as the screen is that it is painted on.
+QIcon LoadIcon(const char* name)
+{
+    const QString file = QStringLiteral("CutPhotoWndWithZoom/") + QLatin1String(name);
+    return QIcon(CommonFun::GetSkinPath(QStringLiteral("UICommonModule"), file));
+}
 
 QRect Square(const QPoint& middle, int size)
 {
@@ -55,27 +60,17 @@ void CCutPhotoWithZoomPrivate::LoadSkin()
 {
     const bool white = KvGUI::GetSkinVersion() == QLatin1String("White");
     background = white ? QColor(235, 235, 235, 255) : QColor(58, 62, 67, 255);
-    LoadIcons(q->devicePixelRatioF());
-}
-
-void CCutPhotoWithZoomPrivate::LoadIcons(qreal ratio)
-{
-    const QSize small(SmallIcon, SmallIcon);
-    moveIcon = CropPainting::SkinPicture(SkinFile("img_move.svg"), small, ratio);
-    scaleIcon = CropPainting::SkinPicture(SkinFile("img_scale.svg"), small, ratio);
-    searchIcon = CropPainting::SkinPicture(SkinFile("img_search.svg"), QSize(SearchIcon, SearchIcon), ratio);
-    iconRatio = ratio;
+    moveIcon = LoadIcon("img_move.svg");
+    scaleIcon = LoadIcon("img_scale.svg");
+    searchIcon = LoadIcon("img_search.svg");
 }
 
 void CCutPhotoWithZoomPrivate::PaintIcons(QPainter& painter)
 {
-    // The canvas may have come to another screen.
-    if (!qFuzzyCompare(iconRatio, q->devicePixelRatioF()))
-        LoadIcons(q->devicePixelRatioF());
     const QRect frame = CropFrame::Normalized(state.crop);
-    painter.drawPixmap(Square(CropFrame::MoveHandle(frame), SmallIcon).topLeft(), moveIcon);
-    painter.drawPixmap(Square(CropFrame::ScaleHandle(frame), SmallIcon).topLeft(), scaleIcon);
-    painter.drawPixmap(Square(CropFrame::SearchHandle(frame), SearchIcon).topLeft(), searchIcon);
+    moveIcon.paint(&painter, Square(CropFrame::MoveHandle(frame), SmallIcon));
+    scaleIcon.paint(&painter, Square(CropFrame::ScaleHandle(frame), SmallIcon));
+    searchIcon.paint(&painter, Square(CropFrame::SearchHandle(frame), SearchIcon));
 }
 
 QRegion CCutPhotoWithZoomPrivate::IconRegion(const QRect& crop) const
@@ -247,24 +242,23 @@ bool CCutPhotoWithZoomPrivate::PopupMenu()
     menu->setStyle(new SearchMenuIcons(menu));
     menu->setStyleSheet(SearchMenuStyle(QLatin1String(Application)));
     AddAction(
-        [] { return CCutPhotoWithZoom::tr("Vehicle Images Search"); }, SkinFile("Vehicle-n.png"),
+        [] { return CCutPhotoWithZoom::tr("Vehicle Images Search"); }, "Vehicle-n.png",
         SLOT(OnVehicleSearchPicture()));
     AddAction(
-        [] { return CCutPhotoWithZoom::tr("Face Image Search"); }, SkinFile("iconFace_n.png"),
+        [] { return CCutPhotoWithZoom::tr("Face Image Search"); }, "iconFace_n.png",
         SLOT(OnFaceSearchPicture()));
     menu->addSeparator();
     AddAction(
-        [] { return CCutPhotoWithZoom::tr("Human Body Image Search"); }, SkinFile("iconBody_n.png"),
+        [] { return CCutPhotoWithZoom::tr("Human Body Image Search"); }, "iconBody_n.png",
         SLOT(OnHumanSearchPicture()));
-    AddAction([] { return CCutPhotoWithZoom::tr("Cancel"); }, SkinFile("close.png"), SLOT(OnClose()));
+    AddAction([] { return CCutPhotoWithZoom::tr("Cancel"); }, "close.png", SLOT(OnClose()));
     return menu->exec(QCursor::pos()) != nullptr;
 }
 
 void CCutPhotoWithZoomPrivate::AddAction(
-    const KvGUI::KvTranslatedText::Source& text, const QString& picture, const char* slot)
+    const KvGUI::KvTranslatedText::Source& text, const char* picture, const char* slot)
 {
-    const QIcon icon(CommonFun::GetSkinPath(QStringLiteral("UICommonModule"), picture));
-    auto* action = new QAction(icon, QString(), menu);
+    auto* action = new QAction(LoadIcon(picture), QString(), menu);
     new KvGUI::KvTranslatedText(action, "text", text);
     // Queued, so that the menu has gone when the slot runs and may delete it.
     QObject::connect(action, SIGNAL(triggered(bool)), q, slot, Qt::QueuedConnection);

@@ -6,7 +6,7 @@
 #include <Platform/BasicUIComponents/KvMenu.h>
 #include <Platform/BasicUIComponents/KvTranslatedText.h>
 
-#include <QPixmap>
+#include <QIcon>
 #include <QPointer>
 #include <QRegion>
 
@@ -84,13 +84,11 @@ private:
     void ResizeCrop(const QPoint& pos);
     QRegion IconRegion(const QRect& crop) const;
     QRegion CoveredByTip() const;
-    void LoadIcons(qreal ratio);
-    void AddAction(const KvGUI::KvTranslatedText::Source& text, const QString& picture, const char* slot);
+    void AddAction(const KvGUI::KvTranslatedText::Source& text, const char* picture, const char* slot);
 
-    QPixmap moveIcon;
-    QPixmap scaleIcon;
-    QPixmap searchIcon;
-    qreal iconRatio = 0.0; ///< device pixels of the icons for each pixel
+    QIcon moveIcon;
+    QIcon scaleIcon;
+    QIcon searchIcon;
 };
 
 } // namespace UICommonMdl

@@ -2,9 +2,6 @@
 
 #include "CropFrame.h"
 
-#include <Common/CommonFun.h>
-
-#include <QImageReader>
 #include <QPainter>
 
 namespace UICommonMdl::CropPainting {
@@ -102,15 +99,6 @@ QPixmap Stretched(const QImage& image, const QSize& size, qreal ratio)
     QPixmap display = QPixmap::fromImage(image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::FastTransformation));
     display.setDevicePixelRatio(ratio);
     return display;
-}
-
-QPixmap SkinPicture(const QString& file, const QSize& size, qreal ratio)
-{
-    QImageReader reader(CommonFun::GetSkinPath(QStringLiteral("UICommonModule"), file));
-    reader.setScaledSize((QSizeF(size) * ratio).toSize());
-    QPixmap picture = QPixmap::fromImageReader(&reader);
-    picture.setDevicePixelRatio(ratio);
-    return picture;
 }
 
 void PaintFrame(QPainter& painter, const QRect& canvas, const QRect& photo, const QRect& crop)

@@ -15,10 +15,6 @@ namespace UICommonMdl::CropPainting {
 /// @p ratio device pixels for each. Null for a null image and for a size without an area.
 QPixmap Stretched(const QImage& image, const QSize& size, qreal ratio);
 
-/// The picture @p file of the current skin, in @p size device-independent pixels, as sharp as @p ratio
-/// allows. Null when the skin has none.
-QPixmap SkinPicture(const QString& file, const QSize& size, qreal ratio);
-
 /// Dims @p photo outside @p crop and draws the frame's dotted outline. A frame of negative size is painted
 /// turned around. Nothing needs to be painted outside @p canvas.
 void PaintFrame(QPainter& painter, const QRect& canvas, const QRect& photo, const QRect& crop);
