@@ -361,7 +361,9 @@ private Q_SLOTS:
         QCOMPARE(close.count(), 0);
         f.mouse.Drag(onClose + QPoint(0, 60), onClose);
         QCOMPARE(close.count(), 0);
+        const QImage idle = f.Picture();
         f.mouse.Press(onClose);
+        QVERIFY(Different(idle, f.Picture(), QRect(onClose - QPoint(10, 10), QSize(20, 20))) > 100);
         f.mouse.Click(onClose, Qt::RightButton);
         QCOMPARE(close.count(), 0);
         f.mouse.Move(onClose + QPoint(0, 60));
@@ -392,6 +394,7 @@ private Q_SLOTS:
         QCOMPARE(shapeAt({250, 358}), Qt::SizeVerCursor);
         QCOMPARE(shapeAt({101, 121}), Qt::SizeFDiagCursor);
         QCOMPARE(shapeAt({398, 121}), Qt::SizeBDiagCursor);
+        QCOMPARE(shapeAt({101, 358}), Qt::SizeBDiagCursor);
         QCOMPARE(shapeAt(OnLeftVideo), Qt::ArrowCursor);
         QCOMPARE(shapeAt({398, 240}), Qt::SizeHorCursor);
         QCOMPARE(shapeAt({396, 132}), Qt::ArrowCursor); // the close button, near the edge

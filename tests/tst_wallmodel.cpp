@@ -40,8 +40,10 @@ private Q_SLOTS:
     void equality()
     {
         const auto equal = [](const Rect& a, const Rect& b) {
-            const double precision = WallGeometry::DisplayPrecision;
-            return WallGeometry::IsEqual(a, b, precision) && WallGeometry::IsEqual(b, a, precision);
+            const bool forth = WallGeometry::IsEqual(a, b, WallGeometry::DisplayPrecision);
+            const bool back = WallGeometry::IsEqual(b, a, WallGeometry::DisplayPrecision);
+            QTest::qVerify(forth == back, "forth == back", "", __FILE__, __LINE__);
+            return forth;
         };
         const Rect base{0.5, 0.5, 1.0, 1.0};
         QVERIFY(equal(base, {0.501, 0.5, 1.0, 1.0}));
@@ -100,6 +102,7 @@ private Q_SLOTS:
         QCOMPARE(snapped({0.4998, 0.0, 1.0, 0.5}), (Rect{0.5, 0.0, 1.0, 0.5}));
         QCOMPARE(snapped({0.4992, 0.4992, 1.0, 1.0}), (Rect{0.0, 0.5, 1.0, 1.0}));
         QCOMPARE(snapped({0.0, 0.0, 0.502, 0.5}), (Rect{0.0, 0.0, 1.0, 0.5}));
+        QCOMPARE(snapped({-0.8, 0.0, -0.3, 0.5}), (Rect{-0.5, 0.0, 0.0, 0.5})); // towards zero, also below it
         QVERIFY(!WallGeometry::SnappedToCells({0.1, 0.1, 0.2, 0.2}, 0, 2, 0.001));
         QVERIFY(!WallGeometry::SnappedToCells({0.1, 0.1, 0.2, 0.2}, 2, -1, 0.001));
     }
@@ -114,6 +117,7 @@ private Q_SLOTS:
         QVERIFY(!drawn({10, 10}, {90, 8}));
         QCOMPARE(drawn({10, 10}, {13, 13}).value_or(Rect()), (Rect{0.1, 0.05, 0.13, 0.065, true}));
         QCOMPARE(drawn({50, 100}, {10, 20}).value_or(Rect()), (Rect{0.1, 0.1, 0.5, 0.5, true}));
+        QVERIFY(!WallGeometry::DrawnScale({10, 10}, {50, 50}, {0, 200}));
         QCOMPARE(WallGeometry::InSiteUnits({500, 150}, {1000, 600}), QPoint(4096, 2048));
         QCOMPARE(WallGeometry::InSiteUnits({5, 5}, {0, 600}), QPoint(0, 0));
     }
@@ -151,6 +155,7 @@ private Q_SLOTS:
         const Rect scale = WallGeometry::DraggedScale(
             {0.12345, 0.2, 0.54321, 0.6, true}, {123, 120, 420, 240}, {123, 120, 430, 240}, {1000, 600});
         QCOMPARE(scale, (Rect{0.12345, 0.2, 0.54321 + 0.01, 0.6, true}));
+        QCOMPARE(WallGeometry::DraggedScale(scale, start, small, {0, 600}), scale);
     }
 
     // Catches a restore to the wrong rectangle, and states that survive the client's own rectangle.
@@ -271,6 +276,7 @@ private Q_SLOTS:
         QCOMPARE(picture.pixel(50, 80), qRgb(33, 34, 37)); // the screen below its window
         QCOMPARE(picture.pixelColor(99, 20), QColor(Qt::transparent)); // the gutter
         QCOMPARE(picture.pixel(150, 50), qRgb(0, 255, 0));
+        QVERIFY(WallMiniature::Picture({left}, QSize(0, 50), 2.0, colors).isNull());
     }
 
     void stacking()
@@ -397,17 +403,19 @@ private Q_SLOTS:
     {
         TestSupport::Columns<int, int, int>(
             "mode", "room", "milliseconds"); // room beside the text, in pixels
-        QTest::addColumn<QPoint>("offset");
+        TestSupport::Columns<bool, QPoint>("roll", "offset");
         using Label = QOSDShowLabel;
-        QTest::newRow("to the left") << int(Label::RightToLeft) << 100 << 1000 << QPoint(-60, 0);
-        QTest::newRow("an unknown mode") << 9 << 100 << 1000 << QPoint(-60, 0);
-        QTest::newRow("to the right") << int(Label::LeftToRight) << 100 << 1000 << QPoint(60, 0);
-        QTest::newRow("down") << int(Label::TopToBottom) << 100 << 500 << QPoint(0, 30);
-        QTest::newRow("up") << int(Label::BottomToTop) << 100 << 500 << QPoint(0, -30);
-        QTest::newRow("swinging") << int(Label::BackAndForth) << 100 << 1000 << QPoint(60, 0);
-        QTest::newRow("swinging back") << int(Label::BackAndForth) << 100 << 2000 << QPoint(80, 0);
-        QTest::newRow("swinging out") << int(Label::BackAndForth) << -100 << 1000 << QPoint(-60, 0);
-        QTest::newRow("nowhere to swing") << int(Label::BackAndForth) << 0 << 1000 << QPoint(0, 0);
+        QTest::newRow("to the left") << int(Label::RightToLeft) << 100 << 1000 << true << QPoint(-60, 0);
+        QTest::newRow("an unknown mode") << 9 << 100 << 1000 << true << QPoint(-60, 0);
+        QTest::newRow("to the right") << int(Label::LeftToRight) << 100 << 1000 << true << QPoint(60, 0);
+        QTest::newRow("down") << int(Label::TopToBottom) << 100 << 500 << true << QPoint(0, 30);
+        QTest::newRow("up") << int(Label::BottomToTop) << 100 << 500 << true << QPoint(0, -30);
+        QTest::newRow("swinging") << int(Label::BackAndForth) << 100 << 1000 << true << QPoint(60, 0);
+        QTest::newRow("swinging back") << int(Label::BackAndForth) << 100 << 2000 << true << QPoint(80, 0);
+        QTest::newRow("swinging out") << int(Label::BackAndForth) << -100 << 1000 << true << QPoint(-60, 0);
+        QTest::newRow("nowhere to swing") << int(Label::BackAndForth) << 0 << 1000 << true << QPoint(0, 0);
+        QTest::newRow("at rest") << int(Label::LeftToRight) << 100 << 1000 << false << QPoint(0, 0);
+        QTest::newRow("back in time") << int(Label::LeftToRight) << 100 << -40 << true << QPoint(0, 0);
     }
 
     // Catches a text that moves another way, jumps where it turns, or makes its label repaint for nothing.
@@ -416,13 +424,14 @@ private Q_SLOTS:
         QFETCH(int, mode);
         QFETCH(int, room);
         QFETCH(int, milliseconds);
+        QFETCH(bool, roll);
         const QString text = QString(60, QLatin1Char('m'));
         QOSDShowLabel label(nullptr);
         QFont font = label.font();
         font.setPixelSize(20);
         label.resize(QFontMetrics(font).horizontalAdvance(text) + room, 100);
-        label.SetContent({text, 20, Qt::white, Qt::black, Qt::AlignLeft, mode});
-        QCOMPARE(label.IsRolling(), room != 0);
+        label.SetContent({text, 20, Qt::white, Qt::black, roll, Qt::AlignLeft, mode});
+        QCOMPARE(label.IsRolling(), roll && room != 0);
         label.Advance(milliseconds);
         QTEST(label.TextOffset(), "offset");
     }

@@ -551,6 +551,8 @@ private Q_SLOTS:
         f.selected.clear();
         f.screenSelected.clear();
         f.mouse.Drag(f.OnVideo(0), f.OnVideo(0) + QPoint(1, 0));
+        f.mouse.Press(f.OnVideo(0));
+        f.mouse.Release(f.OnVideo(0) + QPoint(1, 0));
         QCOMPARE(f.wall->GetSelectedWindowIndexs(), before);
         f.mouse.Click(f.OnVideo(0), button);
         QCOMPARE(f.wall->GetSelectedWindowIndexs(), selectedAfter);
@@ -642,6 +644,7 @@ private Q_SLOTS:
         const QPoint from(500, 360);
         for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
             f.mouse.Press(from, button);
+            f.mouse.Click(to, button == Qt::LeftButton ? Qt::RightButton : Qt::MiddleButton);
             f.mouse.Move(to);
             f.mouse.Release(to, button);
         }
@@ -712,7 +715,7 @@ private Q_SLOTS:
         for (const Action& end : Ends) {
             f.mouse.Press(press);
             f.mouse.Move(press + QPoint(50, 30));
-            f.mouse.Click(press + QPoint(50, 30), Qt::RightButton);
+            f.mouse.DoubleClick(press + QPoint(50, 30), Qt::RightButton);
             QVERIFY2(f.Pixels(0) == start.translated(50, 30), end.name);
             QCOMPARE(f.Scale(0), LeftUpper);
             end.act(f);
@@ -722,6 +725,9 @@ private Q_SLOTS:
             QCOMPARE(f.Pixels(0), start);
         }
         QCOMPARE(f.changed.count(), 0);
+        const TestSupport::AtEvent closes(&f.client, QEvent::KeyPress, [] {});
+        QTest::keyClick(f.client.windowHandle(), Qt::Key_Escape); // the client's now
+        QVERIFY(closes.HasActed());
     }
 
     // Catches a frame that moves the window, and one normalised on its way, which loses the direction that
@@ -733,13 +739,23 @@ private Q_SLOTS:
         const QObject* reports // the operate wall passes on those of the display family only
             = f.display ? f.wall.data() : f.wall->findChild<QGraphicsView*>()->parentWidget();
         const QSignalSpy site(reports, SIGNAL(SignalWindow3DSite(int, int, int, int, int)));
-        for (const bool screenSelected : {false, true, true}) {
-            if (screenSelected)
-                f.mouse.Click({5, 5});
-            f.wall->SetPtzFrameSelectedEnable(site.isEmpty());
-            f.mouse.Drag({500, 300}, {250, 150});
-        }
+        const auto draw = [&f](const std::function<void()>& meanwhile) {
+            f.mouse.Press({500, 300});
+            f.mouse.Move({300, 200});
+            meanwhile();
+            f.mouse.Move({250, 150});
+            f.mouse.Release({250, 150});
+        };
+        f.wall->SetPtzFrameSelectedEnable(true); // for no screen
+        draw([] {});
+        f.mouse.Click({5, 5});
+        f.wall->SetPtzFrameSelectedEnable(true);
+        f.mouse.Click({500, 300}, Qt::RightButton);
+        draw([&f] { f.mouse.DoubleClick({300, 200}, Qt::RightButton); });
         QCOMPARE(site, (QList<QVariantList>{{0, 4096, 4096, 2048, 2048}}));
+        draw([&f] { f.wall->SetPtzFrameSelectedEnable(false); });
+        draw([] {});
+        QCOMPARE(site.count(), 1);
         QCOMPARE(f.Scale(0), start);
     }
 

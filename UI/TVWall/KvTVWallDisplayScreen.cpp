@@ -58,7 +58,7 @@ KvTVWallDisplayScreen::KvTVWallDisplayScreen(
     , m_pWatcher(new Watcher(this))
     , m_pOverlays(new OverlayLabels(viewport()))
     , m_backdrop(rowSpan, columnSpan)
-    , m_gestures(*this, this)
+    , m_gestures(*this)
 {
     qApp->removeEventFilter(this); // the base class looks for window shortcuts in every event
     setFrameStyle(QFrame::NoFrame);

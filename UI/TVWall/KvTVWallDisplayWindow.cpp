@@ -261,15 +261,13 @@ void KvTVWallDisplayWindow::mouseDoubleClickEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     CancelDrag();
-    const QPointer<KvTVWallDisplayWindow> alive(this);
     if (GetScale().bEditable)
         OnShowMaxOrNormal();
-    if (!alive || isHidden()) // deleted, or removed, by a slot
+    if (isHidden()) // removed by a slot
         return;
     SetSelected(true);
     m_pScreen->SelectUnlessSelected();
-    if (alive)
-        Q_EMIT SignalDoubleClickedSelectedChanged();
+    Q_EMIT SignalDoubleClickedSelectedChanged();
 }
 
 void KvTVWallDisplayWindow::keyPressEvent(QKeyEvent* event)

@@ -51,7 +51,7 @@ KvTVWallNormalScreen::KvTVWallNormalScreen(
     , m_scale(scale)
     , m_pPane(new Pane(this))
     , m_backdrop(rowSpan, columnSpan)
-    , m_gestures(*this, this)
+    , m_gestures(*this)
 {
     setFlag(ItemUsesExtendedStyleOption); // paints what is exposed
     setAcceptedMouseButtons(Qt::NoButton);

@@ -291,15 +291,13 @@ void KvTVWallNormalWindow::DoubleClick(const QMouseEvent& event)
     if (event.button() != Qt::LeftButton)
         return;
     m_drag.End();
-    const QPointer<KvTVWallNormalWindow> alive(this);
     if (GetScale().bEditable)
         ShowPlacement(m_placement.MaximizeOrRestore());
-    if (!alive || !isVisible()) // deleted, or removed, by a slot
+    if (!isVisible()) // removed by a slot
         return;
     SetSelected(true);
     m_pScreen->SelectUnlessSelected();
-    if (alive)
-        Q_EMIT SignalDoubleClickedSelectedChanged();
+    Q_EMIT SignalDoubleClickedSelectedChanged();
 }
 
 void KvTVWallNormalWindow::HandleEvent(QEvent* event)

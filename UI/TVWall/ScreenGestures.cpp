@@ -10,9 +10,8 @@
 
 namespace UICommonMdl {
 
-ScreenGestures::ScreenGestures(Screen& screen, QObject* object)
+ScreenGestures::ScreenGestures(Screen& screen)
     : m_screen(screen)
-    , m_pObject(object)
 { }
 
 // The bands belong to the canvas, which may outlive the screen.
@@ -106,18 +105,14 @@ void ScreenGestures::ReleaseWindow(const QObject* window, const QPoint& pos, Qt:
 
 void ScreenGestures::Click(const QObject* window)
 {
-    const QPointer<QObject> alive(m_pObject);
-    const bool changed = Select({m_screen.IndexOf(window)}, false);
-    if (!alive)
-        return;
-    if (changed)
+    if (Select({m_screen.IndexOf(window)}, false))
         m_screen.ReportSelectionChanged();
     else
         m_screen.ReportClick();
 }
 
 // Runs the selection routine for each target in turn, then selects the screen, which is reported: a slot may
-// delete the screen. Returns whether any window's selection changed.
+// remove the screen. Returns whether any window's selection changed.
 bool ScreenGestures::Select(const QVector<int>& targets, bool fromPress)
 {
     if (targets.isEmpty())
@@ -171,10 +166,7 @@ void ScreenGestures::PressEmpty(const QPoint& pos, Qt::MouseButton button)
         return; // another button while the left one draws
     Cancel(); // whose release went elsewhere
     m_pressPoint = pos;
-    const QPointer<QObject> alive(m_pObject);
     m_screen.SelectByPress();
-    if (!alive)
-        return;
     DeselectWindows();
     if (button == Qt::LeftButton) {
         const bool band = m_screen.SelectionMode() == WallSelection::MultiMode;
@@ -263,10 +255,7 @@ void ScreenGestures::SelectInBand(const QPoint& from, const QPoint& to)
         if (m_screen.WindowGeometry(i).intersects(band))
             touched << i;
     }
-    const QPointer<QObject> alive(m_pObject);
     const bool changed = Select(touched, false);
-    if (!alive)
-        return;
     Cancel();
     if (changed)
         m_screen.ReportSelectionChanged();

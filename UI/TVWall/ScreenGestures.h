@@ -23,8 +23,8 @@ class KvTVWallDisplayBand;
 /// draws areas for new windows and 3D-positioning frames. The screen tells it where the mouse is and
 /// carries out what it finds.
 ///
-/// Positions are pixels of the screen. Any report may end the screen: after one, nothing of it is used
-/// without looking.
+/// Positions are pixels of the screen. Any report may remove windows and the screen itself, which lives on
+/// until the event is over.
 class ScreenGestures
 {
 public:
@@ -56,8 +56,7 @@ public:
         ~Screen() = default;
     };
 
-    /// @param object the screen as an object, whose end the gestures notice
-    ScreenGestures(Screen& screen, QObject* object);
+    explicit ScreenGestures(Screen& screen);
     ~ScreenGestures();
     Q_DISABLE_COPY(ScreenGestures)
 
@@ -107,7 +106,6 @@ private:
     QPoint InsideScreen(const QPoint& pos) const;
 
     Screen& m_screen;
-    QObject* const m_pObject;
     QPoint m_pressPoint;
     QPointer<QObject> m_pPressed; // the window that a click may end on
     Drawing m_drawing = Drawing::Nothing;
