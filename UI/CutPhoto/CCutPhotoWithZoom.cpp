@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QCursor>
+#include <QFile>
 #include <QMouseEvent>
 #include <QPainter>
 #include <utility>
@@ -27,11 +28,13 @@ constexpr int TipCorner = 4; // radius
 /// The product whose search menu this library shows, whatever skin it runs in.
 constexpr const char* Application = "Corvale";
 
-/// A picture of the skin, drawn as finely as the screen is that it is painted on.
+/// A picture of the skin, drawn as finely as the screen is that it is painted on; none where the skin has
+/// none, of which Qt would warn at each painting.
 QIcon LoadIcon(const char* name)
 {
     const QString file = QStringLiteral("CutPhotoWndWithZoom/") + QLatin1String(name);
-    return QIcon(CommonFun::GetSkinPath(QStringLiteral("UICommonModule"), file));
+    const QString path = CommonFun::GetSkinPath(QStringLiteral("UICommonModule"), file);
+    return QFile::exists(path) ? QIcon(path) : QIcon();
 }
 
 QRect Square(const QPoint& middle, int size)
