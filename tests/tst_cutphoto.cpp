@@ -590,13 +590,14 @@ private slots:
         KvGUI::KvMessageNotify::Instance()->CloseAll();
     }
 
-    // Catches a division by the size of a canvas that has none yet, and an event that a client's canvas
-    // passes on and that is none.
+    // Catches a division by the size of a canvas that has none yet, and events that a client's canvas passes
+    // on: one that is none, and a double-click that ends a drag.
     void CanvasesWithoutASizeWork()
     {
         struct OpenZoom : CCutPhotoWithZoom
         {
             using CCutPhotoWithZoom::mouseMoveEvent;
+            using CCutPhotoWithZoom::mouseReleaseEvent;
         };
         struct OpenPlain : CCutDetailPhoto
         {
@@ -607,6 +608,11 @@ private slots:
         OpenPlain plain;
         zoom.mouseMoveEvent(nullptr);
         plain.mouseMoveEvent(nullptr);
+        zoom.setCursor(Qt::WaitCursor);
+        QMouseEvent twice(
+            QEvent::MouseButtonDblClick, {1, 1}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        zoom.mouseReleaseEvent(&twice);
+        QCOMPARE(zoom.cursor().shape(), Qt::WaitCursor);
         zoom.resize(0, 0);
         plain.resize(0, 40);
         zoom.SetSrcImage(PlacePicture(Source));

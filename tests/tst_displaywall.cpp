@@ -215,6 +215,21 @@ private Q_SLOTS:
         QVERIFY(!space.isAccepted()); // it is the client's
     }
 
+    // Catches moves over a video that a client no longer hears of, though the video tracks the mouse, and
+    // those over the title, which are nobody's.
+    void movesWithoutAButton()
+    {
+        Fixture f({LeftUpper});
+        f.wall->GetWindowWidget(0, 0)->setMouseTracking(true);
+        f.mouse.Drag(OnTitle, OnTitle + QPoint(50, 30));
+        int moves = 0;
+        connect(f.wall.get(), &Wall::SignalWindowEvent, [&moves] { ++moves; });
+        f.mouse.Move(OnTitle + QPoint(60, 30));
+        QCOMPARE(moves, 0);
+        f.mouse.Move(OnTitle + QPoint(60, 130));
+        QCOMPARE(moves, 1);
+    }
+
     void overlaysAreShown()
     {
         const Fixture f({Whole});

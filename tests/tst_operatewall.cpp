@@ -422,6 +422,10 @@ private Q_SLOTS:
         QTest::keyClick(z.Eye(), Qt::Key_Return);
         QCOMPARE(z.Eye()->size(), expanded);
         QVERIFY(!z.Eye()->accessibleName().isEmpty());
+        const QPoint corner = z.Eye()->pos();
+        z.wall.SetShowMode(NoMode); // which has no zoom
+        QTest::keyClick(z.Eye(), Qt::Key_Space);
+        QCOMPARE(z.Eye()->pos(), corner);
     }
 
     // Catches pictures that stay those of the old skin, a size that depends on the screen's density, and a

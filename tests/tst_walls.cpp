@@ -158,6 +158,13 @@ const QVector<Action> Changes = {
     {"the operate wall goes", [](Fixture& f) { delete f.wall; }},
     {"all screens go in a dialog", [](Fixture& f) { InADialog([&f] { f.wall->DeleteAllScreen(); }); }},
     {"the operate wall goes in a dialog", [](Fixture& f) { InADialog([&f] { delete f.wall; }); }},
+    {"the operate wall goes and the mouse draws on",
+     [](Fixture& f) {
+         InADialog([&f] {
+             delete f.wall;
+             f.mouse.Drag(OnEmpty, OnEmpty + QPoint(50, 30));
+         });
+     }},
 };
 constexpr int FirstOfWindows = 1;
 constexpr int FirstOfScreens = 3;

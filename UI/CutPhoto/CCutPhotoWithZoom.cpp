@@ -439,7 +439,8 @@ void CCutPhotoWithZoom::mousePressEvent(QMouseEvent* event)
 void CCutPhotoWithZoom::mouseReleaseEvent(QMouseEvent* event)
 {
     QWidget::mousePressEvent(event); // as a press: the canvas treats both ends of a click alike
-    if (event->button() == Qt::LeftButton)
+    // A derived class may pass other events on to here.
+    if (event->type() == QEvent::MouseButtonRelease && event->button() == Qt::LeftButton)
         d_func()->FinishCrop();
 }
 

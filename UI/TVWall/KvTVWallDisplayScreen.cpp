@@ -348,7 +348,10 @@ int KvTVWallDisplayScreen::SelectionMode() const
     return m_pWall != nullptr ? m_pWall->GetWindowSelectionMode() : KvTVWallDisplayWnd::NoSelection;
 }
 
-QColor KvTVWallDisplayScreen::BandColor() const { return m_pWall->BandColor(); }
+QColor KvTVWallDisplayScreen::BandColor() const
+{
+    return m_pWall != nullptr ? m_pWall->BandColor() : QColor();
+}
 
 QRect KvTVWallDisplayScreen::WindowGeometry(int window) const { return m_windows.at(window)->geometry(); }
 

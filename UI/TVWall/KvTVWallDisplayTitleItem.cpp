@@ -102,8 +102,6 @@ KvTVWallDisplayTitleItem::KvTVWallDisplayTitleItem(QWidget* parent)
 {
     setObjectName(QStringLiteral("pWindowTitleBar"));
     setAttribute(Qt::WA_StyledBackground);
-    setMouseTracking(true); // the window may want all moves
-    m_pText->setMouseTracking(true);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(1);
@@ -126,6 +124,12 @@ void KvTVWallDisplayTitleItem::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         ShowToolTips();
+}
+
+void KvTVWallDisplayTitleItem::PassMoves(bool pass)
+{
+    setMouseTracking(pass);
+    m_pText->setMouseTracking(pass);
 }
 
 QPushButton* KvTVWallDisplayTitleItem::AddButton(const QString& objectName)

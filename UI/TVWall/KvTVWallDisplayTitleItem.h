@@ -21,6 +21,7 @@ public:
     void SetVolumeOn(bool on);
     void SetMaximized(bool maximized);
     void SetSnapped(bool snapped);
+    void PassMoves(bool pass); ///< whether the window gets moves of the mouse without a button, too
 
     QPushButton* VolumeButton() const { return m_btnVolume; }
     QPushButton* SnapButton() const { return m_btnSnap; }

@@ -48,7 +48,7 @@ KvTVWallDisplayWindow::KvTVWallDisplayWindow(
 void KvTVWallDisplayWindow::PlaceOnScreen()
 {
     m_drag.End();
-    setMouseTracking(false);
+    m_pTitle->PassMoves(false);
     setGeometry(WallGeometry::Displayable(WallGeometry::WindowRect(m_pScreen->size(), GetScale())));
     if (!isVisible())
         LayOut(); // a hidden widget hears of its size when it is shown
@@ -234,7 +234,7 @@ void KvTVWallDisplayWindow::mousePressEvent(QMouseEvent* event)
     if (!edges && !m_pTitle->geometry().contains(event->pos()))
         return;
     m_drag.Begin(edges, event->globalPos(), geometry());
-    setMouseTracking(true); // moves tell when the button was released elsewhere
+    m_pTitle->PassMoves(true); // they tell when the button was released elsewhere
 }
 
 void KvTVWallDisplayWindow::mouseMoveEvent(QMouseEvent* event)

@@ -189,7 +189,11 @@ void KvTVWallOperateWnd::OnWheelEvent(int iDelta, const QPoint& pos)
     d->PlaceDisplayWall();
 }
 
-void KvTVWallOperateWnd::OnEagleEyeAreaChanged() { d_func()->PlaceEagleEye(); }
+void KvTVWallOperateWnd::OnEagleEyeAreaChanged()
+{
+    if (d_func()->Display() != nullptr)
+        d_func()->PlaceEagleEye();
+}
 
 void KvTVWallOperateWnd::OnEagleEyeLocated(float fX, float fY)
 {
