@@ -443,10 +443,10 @@ private Q_SLOTS:
         QVERIFY(qGray(white.pixel(2, 60)) > qGray(black.pixel(2, 60)) + 100);
         KvGUI::SetSkinVersion(QStringLiteral("Nowhere"));
         Zoomable none;
-        KvGUI::SetSkinVersion(QStringLiteral("Black"));
-        none.mouse.Wheel({799, 599}, 120);
+        none.mouse.Wheel({100, 100}, 120);
         const QRect zoomed = none.Geometry();
         QTest::mouseClick(none.Eye(), Qt::LeftButton);
+        KvGUI::SetSkinVersion(QStringLiteral("Black"));
         QCOMPARE(none.Geometry(), zoomed);
         QCOMPARE(nowhere.size(), white.size());
         QCOMPARE(z.Eye()->geometry(), place);

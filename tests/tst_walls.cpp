@@ -489,6 +489,11 @@ private Q_SLOTS:
             QCOMPARE(doubleClicked.count(), !editable && f.display ? 1 : 0);
             QCOMPARE(f.screenSelected.count(), 1);
         }
+        Fixture f({LeftUpper});
+        connect(f.wall, &Wall::SignalWindowGeoChanged, f.wall, [&f] { f.wall->DeleteWindow(0, 0); });
+        f.mouse.DoubleClick(f.OnVideo(0));
+        QCOMPARE(f.changed.count(), 1);
+        QCOMPARE(f.selected.count() + f.screenSelected.count(), 0);
     }
 
     // Catches indices fixed at opening, and buttons of windows that are not editable.
