@@ -196,28 +196,37 @@ private Q_SLOTS:
     }
 
     // Catches a mode set by what the client kept in a wall, or by who hears of the focus that the overview
-    // loses, as that wall goes, undone by the rest of the switch.
-    void switchedByWhatGoes()
+    // loses, as that wall goes, undone by the rest of the switch; and a wall that goes twice because the
+    // operate wall is deleted meanwhile.
+    void changedByWhatGoes()
     {
-        for (const bool byFocus : {false, true}) {
-            Zoomable z;
-            z.wall.OpenWindow(0, Whole, QVariant());
-            QWidget* const eye = z.Eye();
-            QApplication::setActiveWindow(&z.wall);
-            eye->setFocus();
-            auto* player = new QWidget(z.wall.GetWindowWidget(0, 0));
-            const auto back = [&] { z.wall.SetShowMode(Wall::DisplayMode); };
-            if (!byFocus)
-                connect(player, &QObject::destroyed, &z.wall, back);
+        for (const int variant : {0, 1, 2, 3}) {
+            const int mode = variant < 3 ? Wall::DisplayMode : Wall::NormalMode;
+            QWidget client;
+            const QPointer<Wall> wall = new Wall(&client);
+            wall->SetShowMode(mode);
+            wall->SetTVWallGridCount(1, 1);
+            wall->AddScreen(Whole, QVariant());
+            wall->OpenWindow(0, Whole, QVariant());
+            client.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&client));
+            auto* player = new QWidget(wall->GetWindowWidget(0, 0));
+            const auto change = [&] { variant < 2 ? wall->SetShowMode(mode) : delete wall.data(); };
+            if (variant > 0)
+                connect(player, &QObject::destroyed, &client, change);
+            QWidget* const eye = EagleEye(*wall);
+            QApplication::setActiveWindow(&client);
+            if (eye != nullptr)
+                eye->setFocus();
+            connect(qApp, &QApplication::focusChanged, player, [&](QWidget* old) {
+                if (variant == 0 && old == eye)
+                    change();
+            });
+            wall->SetShowMode(Wall::NormalMode + Wall::DisplayMode - mode);
+            if (variant < 2)
+                QVERIFY(!NormalWall(*wall) && DisplayWall(*wall) && EagleEye(*wall));
             else
-                connect(qApp, &QApplication::focusChanged, player, [&](QWidget* old) {
-                    if (old == eye)
-                        back();
-                });
-            z.wall.SetShowMode(Wall::NormalMode);
-            QVERIFY(!NormalWall(z.wall));
-            QVERIFY(DisplayWall(z.wall) && z.Eye());
-            QCOMPARE(z.wall.GetScreenCount(), 0);
+                QVERIFY(!wall && client.findChildren<QWidget*>().isEmpty());
         }
     }
 
@@ -241,28 +250,6 @@ private Q_SLOTS:
         z.wall.SetTVWallGridCount(1, 1);
         z.wall.AddScreen(Whole, QVariant());
         QVERIFY(z.Eye()->grab().toImage() != empty);
-    }
-
-    // Catches a wall that goes by its mode and, deleted with the operate wall meanwhile, goes twice.
-    void deletedByWhatGoes()
-    {
-        for (const int mode : {Wall::NormalMode, Wall::DisplayMode}) {
-            QWidget client;
-            client.resize(800, 600);
-            const QPointer<Wall> wall = new Wall(&client);
-            wall->resize(800, 600);
-            wall->SetShowMode(mode);
-            wall->SetTVWallGridCount(1, 1);
-            wall->AddScreen(Whole, QVariant());
-            wall->OpenWindow(0, Whole, QVariant());
-            client.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&client));
-            auto* player = new QWidget(wall->GetWindowWidget(0, 0));
-            connect(player, &QObject::destroyed, &client, [&wall] { delete wall; });
-            wall->SetShowMode(Wall::NormalMode + Wall::DisplayMode - mode);
-            QVERIFY(!wall);
-            QVERIFY(client.findChildren<QWidget*>().isEmpty());
-        }
     }
 
     // Catches the end of a wall that assistive technology does not learn of: what it knows of the dead widget

@@ -304,12 +304,6 @@ private Q_SLOTS:
         QTEST(after.selectOnly, "selectOnlyAfter");
         for (const int nobody : {-1, 2})
             QCOMPARE(WallSelection::Clicked(before, nobody, click).selected, before.selected);
-        // A right click takes no selection away.
-        QVERIFY(WallSelection::TakesPart(2, Qt::LeftButton, true));
-        QVERIFY(WallSelection::TakesPart(1, Qt::RightButton, false));
-        QVERIFY(!WallSelection::TakesPart(2, Qt::RightButton, true));
-        QVERIFY(!WallSelection::TakesPart(2, Qt::MiddleButton, false));
-        QVERIFY(!WallSelection::TakesPart(0, Qt::LeftButton, false));
         QVERIFY(!WallSelection::TakesPart(3, Qt::LeftButton, false));
     }
 

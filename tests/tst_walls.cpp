@@ -132,12 +132,14 @@ struct Action
 };
 
 /// As a slot does that opens a dialog, while which @p change comes: what is deleted for later goes in it.
-void InADialog(const std::function<void()>& change)
+std::function<void(Fixture&)> InADialog(const std::function<void(Fixture&)>& change)
 {
-    QEventLoop loop;
-    QTimer::singleShot(0, &loop, change);
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
+    return [change](Fixture& f) {
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&] { change(f); });
+        QTimer::singleShot(5, &loop, &QEventLoop::quit);
+        loop.exec();
+    };
 }
 
 /// What a client does to a wall with a window at the wrong moment.
@@ -156,15 +158,12 @@ const QVector<Action> Changes = {
     {"the wall goes by its mode",
      [](Fixture& f) { f.wall->SetShowMode(f.display ? Wall::NormalMode : Wall::DisplayMode); }},
     {"the operate wall goes", [](Fixture& f) { delete f.wall; }},
-    {"all screens go in a dialog", [](Fixture& f) { InADialog([&f] { f.wall->DeleteAllScreen(); }); }},
-    {"the operate wall goes in a dialog", [](Fixture& f) { InADialog([&f] { delete f.wall; }); }},
-    {"the operate wall goes and the mouse draws on",
-     [](Fixture& f) {
-         InADialog([&f] {
-             delete f.wall;
-             f.mouse.Drag(OnEmpty, OnEmpty + QPoint(50, 30));
-         });
-     }},
+    {"all screens go in a dialog", InADialog([](Fixture& f) { f.wall->DeleteAllScreen(); })},
+    {"the operate wall goes in a dialog", InADialog([](Fixture& f) { delete f.wall; })},
+    {"the operate wall goes and the mouse draws on", InADialog([](Fixture& f) {
+         delete f.wall;
+         f.mouse.Drag(OnEmpty, OnEmpty + QPoint(50, 30));
+     })},
 };
 constexpr int FirstOfWindows = 1;
 constexpr int FirstOfScreens = 3;
