@@ -30,8 +30,8 @@ protected:
         const QList<Screen*>& screens, Screen* screen, void (Screen::*from)(Args...), Wall* wall,
         void (Wall::*to)(int, Args...))
     {
-        connect(screen, from, this, [&screens, screen, wall, to](Args... args) {
-            Q_EMIT(wall->*to)(screens.indexOf(screen), args...);
+        connect(screen, from, this, [list = &screens, screen, wall, to](Args... args) {
+            Q_EMIT(wall->*to)(list->indexOf(screen), args...);
         });
     }
 };
