@@ -244,6 +244,9 @@ private Q_SLOTS:
         delete DisplayWall(z.wall);
         z.Eye()->grab();
         QTest::keyClick(z.Eye(), Qt::Key_Right);
+        const QPoint place = z.Eye()->pos();
+        QTest::keyClick(z.Eye(), Qt::Key_Space);
+        QCOMPARE(z.Eye()->pos(), place); // there is no wall to keep the corner of
         QCOMPARE(z.wall.GetScreenCount(), 0);
         z.wall.SetShowMode(Wall::DisplayMode);
         const QImage empty = z.Eye()->grab().toImage();
