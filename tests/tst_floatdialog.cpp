@@ -265,6 +265,12 @@ private Q_SLOTS:
         QCOMPARE(f.dialog->Filtered(f.window.get()), 1);
         QCOMPARE(f.dialog->Filtered(inner), 0);
         QCOMPARE(f.dialog->Filtered(outer), 0);
+
+        f.dialog->setParent(nullptr);
+        inner->installEventFilter(f.dialog); // by the client
+        inner->setParent(&otherWindow);
+        QCOMPARE(changed.count(), 3);
+        delete f.dialog;
     }
 
     /// Catches a dialog that goes on listening to the parent it was taken from.

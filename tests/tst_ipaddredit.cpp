@@ -307,6 +307,7 @@ private slots:
     void NoticeFollowsTheFocus()
     {
         Form form;
+        form.other->installEventFilter(form.address); // as a derived field does with edits of its own
         QVERIFY(form.address->property("notice").toBool());
         const QImage focused = form.address->grab().toImage();
         form.Press(Qt::Key_Tab);

@@ -238,7 +238,6 @@ void CCutPhotoWithZoomPrivate::EndHold()
 
 bool CCutPhotoWithZoomPrivate::PopupMenu()
 {
-    CloseMenu(); // the last one, when it was dismissed
     menu = new KvGUI::KvMenu(q);
     menu->setObjectName(QStringLiteral("mainMenu"));
     menu->setMinimumWidth(MenuWidth);

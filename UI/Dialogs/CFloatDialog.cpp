@@ -140,6 +140,8 @@ bool CFloatDialog::event(QEvent* event)
 
 bool CFloatDialog::eventFilter(QObject* watched, QEvent* event)
 {
+    if (parentWidget() == nullptr)
+        return false;
     if (watched == m_watched.value(0) || watched == m_watched.value(1))
         FollowParent(*event);
     if (event->type() == QEvent::Move)

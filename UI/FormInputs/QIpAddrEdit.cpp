@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QStyle>
 #include <UI/FormInputs/QIpPartLineEdit.h>
+#include <algorithm>
 
 namespace UICommonMdl {
 
@@ -189,7 +190,8 @@ void QIpAddrEdit::texteditedslot(const QString&)
 
 bool QIpAddrEdit::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+    const bool focusEvent = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+    if (focusEvent && std::find(m_octets.begin(), m_octets.end(), watched) != m_octets.end()) {
         m_bNotice = event->type() == QEvent::FocusIn;
         RefreshStyle();
     }
