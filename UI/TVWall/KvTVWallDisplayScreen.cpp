@@ -7,6 +7,7 @@
 #include "ScreenOverlay.h"
 #include "WallEvents.h"
 #include "WallGeometry.h"
+#include "WallRelay.h"
 #include "WallStacking.h"
 #include "WindowTitle.h"
 
@@ -209,34 +210,11 @@ int KvTVWallDisplayScreen::OpenWindow(
         window->ShowNumber(m_windows.size());
     window->PlaceOnScreen();
     window->installEventFilter(m_pWatcher);
-    Connect(window, scale.bEditable);
+    WallRelay::RelayWindow(window, this, scale.bEditable, [this](const QObject* w) { return IndexOf(w); });
     RaiseOverlays();
     window->show();
     Q_EMIT SignalArrangementChanged();
     return m_windows.size() - 1;
-}
-
-void KvTVWallDisplayScreen::Connect(KvTVWallDisplayWindow* window, bool editable)
-{
-    using Window = KvTVWallDisplayWindow;
-    if (!editable) {
-        connect(
-            window, &Window::SignalDoubleClickedSelectedChanged, this,
-            &KvTVWallDisplayScreen::SignalWindowDoubleClicked);
-        return;
-    }
-    connect(window, &Window::SignalCloseBtnClicked, this, [this, window] {
-        Q_EMIT SignalWindowCloseBtnClicked(IndexOf(window));
-    });
-    connect(window, &Window::SignalVolemeBtnClicked, this, [this, window] {
-        Q_EMIT SignalWindowVolumeBtnClicked(IndexOf(window));
-    });
-    connect(window, &Window::SignalGeoChanged, this, [this, window](const KvGUI::StructScaleRect& rect) {
-        Q_EMIT SignalWindowGeoChanged(IndexOf(window), rect);
-    });
-    connect(
-        window, &Window::SignalDoubleClickedSelectedChanged, this,
-        &KvTVWallDisplayScreen::SignalWindowSelectedChanged);
 }
 
 bool KvTVWallDisplayScreen::DeleteWindow(int index)

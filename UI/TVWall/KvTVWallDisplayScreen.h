@@ -121,7 +121,6 @@ private:
     /// every event shall be reported once.
     class Watcher;
 
-    void Connect(KvTVWallDisplayWindow* window, bool editable);
     bool WatchWindow(KvTVWallDisplayWindow* window, QEvent* event);
 
     int SelectionMode() const override;

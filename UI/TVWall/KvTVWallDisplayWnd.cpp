@@ -4,6 +4,7 @@
 #include "KvTVWallDisplayVideo.h"
 #include "KvTVWallDisplayWindow.h"
 #include "WallGeometry.h"
+#include "WallRelay.h"
 
 #include <Common/CommonFun.h>
 
@@ -48,24 +49,10 @@ KvTVWallDisplayWndPrivate::AddScreen(const KvGUI::StructScaleRect& rect, const Q
         WallGeometry::CellSpan(q->GetColumnCount(), rect.dLeft, rect.dRight), rect, userData);
     screens.append(screen);
     screen->PlaceOnWall();
-    const auto relay = [this, screen](auto from, auto to) { Relay(screens, screen, from, q, to); };
     using Screen = KvTVWallDisplayScreen;
-    using Wall = KvTVWallDisplayWnd;
-    relay(&Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
-    relay(&Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
-    relay(&Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
-    relay(&Screen::SignalLabelEvent, &Wall::SignalLabelEvent);
-    connect(screen, &Screen::SignalSelected, this, [this, screen] { SelectScreen(screen); });
-    relay(&Screen::SignalSelected, &Wall::SignalScreenSelectedChanged);
     connect(screen, &QWidget::customContextMenuRequested, screen, &Screen::SignalRightClick);
-    relay(&Screen::SignalRightClick, &Wall::SignalScreenRightClick);
-    relay(&Screen::SignalWindowSelectedChanged, &Wall::SignalWindowSelectedChanged);
-    relay(&Screen::SignalDrawAreaOpenWindow, &Wall::SignalDrawAreaOpenWindow);
-    relay(&Screen::SignalScreenDropEvent, &Wall::SignalScreenEvent);
-    relay(&Screen::SignalWindowVolumeBtnClicked, &Wall::SignalWindowVolumeBtnClicked);
-    relay(&Screen::SignalWindowDoubleClicked, &Wall::SignalWindowDoubleClicked);
-    relay(&Screen::Signal3DSite, &Wall::SignalWindow3DSite);
-    connect(screen, &Screen::SignalWindowClicked, q, &Wall::SignalWindowClicked);
+    connect(screen, &Screen::SignalSelected, this, [this, screen] { SelectScreen(screen); });
+    WallRelay::RelayScreen(this, screens, screen, q);
     connect(screen, &Screen::SignalArrangementChanged, this, &WallArrangement::SignalArrangementChanged);
     screen->show();
     Q_EMIT SignalArrangementChanged();

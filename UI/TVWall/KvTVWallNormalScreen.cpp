@@ -6,6 +6,7 @@
 #include "OverlayLabels.h"
 #include "WallEvents.h"
 #include "WallGeometry.h"
+#include "WallRelay.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -225,33 +226,12 @@ int KvTVWallNormalScreen::OpenWindow(
     if (!m_pView->AreAudioButtonsVisible())
         window->SetAudioButtonVisible(false);
     window->PlaceOnScreen();
-    Connect(window, scale.bEditable);
+    connect(
+        window, &KvTVWallNormalWindow::SignalArrangementChanged, this,
+        &KvTVWallNormalScreen::SignalArrangementChanged);
+    WallRelay::RelayWindow(window, this, scale.bEditable, [this](const QObject* w) { return IndexOf(w); });
     Q_EMIT SignalArrangementChanged();
     return m_windows.size() - 1;
-}
-
-void KvTVWallNormalScreen::Connect(KvTVWallNormalWindow* window, bool editable)
-{
-    using Window = KvTVWallNormalWindow;
-    connect(window, &Window::SignalArrangementChanged, this, &KvTVWallNormalScreen::SignalArrangementChanged);
-    if (!editable) {
-        connect(
-            window, &Window::SignalDoubleClickedSelectedChanged, this,
-            &KvTVWallNormalScreen::SignalWindowDoubleClicked);
-        return;
-    }
-    connect(window, &Window::SignalCloseBtnClicked, this, [this, window] {
-        Q_EMIT SignalWindowCloseBtnClicked(IndexOf(window));
-    });
-    connect(window, &Window::SignalVolemeBtnClicked, this, [this, window] {
-        Q_EMIT SignalWindowVolumeBtnClicked(IndexOf(window));
-    });
-    connect(window, &Window::SignalGeoChanged, this, [this, window](const KvGUI::StructScaleRect& rect) {
-        Q_EMIT SignalWindowGeoChanged(IndexOf(window), rect);
-    });
-    connect(
-        window, &Window::SignalDoubleClickedSelectedChanged, this,
-        &KvTVWallNormalScreen::SignalWindowSelectedChanged);
 }
 
 bool KvTVWallNormalScreen::DeleteWindow(int index)

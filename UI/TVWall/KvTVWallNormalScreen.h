@@ -115,7 +115,6 @@ Q_SIGNALS:
     void SignalArrangementChanged(); ///< windows, their places, order or selection; for the library's own use
 
 private:
-    void Connect(KvTVWallNormalWindow* window, bool editable);
     void PlaceCover();
     QRect HeadingRect() const;
     void PaintHeading(QPainter& painter);

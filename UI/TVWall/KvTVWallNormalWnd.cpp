@@ -6,6 +6,7 @@
 #include "KvTVWallNormalView.h"
 #include "KvTVWallNormalWindow.h"
 #include "WallGeometry.h"
+#include "WallRelay.h"
 
 #include <Common/CommonFun.h>
 
@@ -32,27 +33,13 @@ KvTVWallNormalWndPrivate::KvTVWallNormalWndPrivate(KvTVWallNormalWnd* wall)
 KvTVWallNormalScreen* KvTVWallNormalWndPrivate::AddScreen(const KvGUI::StructScaleRect& rect)
 {
     using Screen = KvTVWallNormalScreen;
-    using Wall = KvTVWallNormalWnd;
     auto* screen = new Screen(
         view, WallGeometry::CellSpan(q->GetRowCount(), rect.dTop, rect.dBottom),
         WallGeometry::CellSpan(q->GetColumnCount(), rect.dLeft, rect.dRight), rect);
     view->AddScreen(screen);
     LayOut(); // a hidden wall hears of its size when it is shown
-    const auto relay = [this, screen](auto from, auto to) { Relay(view->Screens(), screen, from, q, to); };
-    relay(&Screen::SignalWindowCloseBtnClicked, &Wall::SignalWindowCloseBtnClicked);
-    relay(&Screen::SignalWindowGeoChanged, &Wall::SignalWindowGeoChanged);
-    relay(&Screen::SignalWindowEvent, &Wall::SignalWindowEvent);
-    relay(&Screen::SignalLabelEvent, &Wall::SignalLabelEvent);
-    relay(&Screen::SignalRightClick, &Wall::SignalScreenRightClick);
-    relay(&Screen::SignalWindowSelectedChanged, &Wall::SignalWindowSelectedChanged);
-    relay(&Screen::SignalDrawAreaOpenWindow, &Wall::SignalDrawAreaOpenWindow);
-    relay(&Screen::SignalScreenDropEvent, &Wall::SignalScreenEvent);
-    relay(&Screen::SignalWindowVolumeBtnClicked, &Wall::SignalWindowVolumeBtnClicked);
-    relay(&Screen::SignalWindowDoubleClicked, &Wall::SignalWindowDoubleClicked);
-    relay(&Screen::Signal3DSite, &Wall::SignalWindow3DSite);
-    connect(screen, &Screen::SignalWindowClicked, q, &Wall::SignalWindowClicked);
     connect(screen, &Screen::SignalSelected, this, [this, screen] { SelectScreen(screen); });
-    relay(&Screen::SignalSelected, &Wall::SignalScreenSelectedChanged);
+    WallRelay::RelayScreen(this, view->Screens(), screen, q);
     connect(screen, &Screen::SignalArrangementChanged, this, &WallArrangement::SignalArrangementChanged);
     Q_EMIT SignalArrangementChanged();
     return screen;
