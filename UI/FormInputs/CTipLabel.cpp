@@ -86,6 +86,7 @@ CTipLabel::CTipLabel()
     m_pTextBox->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_pTextBox->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_pTextBox->setReadOnly(true);
+    m_pTextBox->setTextInteractionFlags(Qt::NoTextInteraction); // else there is text to be dragged
     m_pTextBox->setFocusPolicy(Qt::NoFocus);
     m_pTextBox->setContextMenuPolicy(Qt::NoContextMenu);
     m_pTextBox->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -115,6 +115,13 @@ QFont FontOfSize(int points)
 
 bool IsForeign(const QWidget* widget) { return qobject_cast<QFileDialog*>(widget->window()) != nullptr; }
 
+/// Whether no window system gives the widget's window any input.
+bool IsOutOfReach(const QWidget* widget)
+{
+    const QWindow* window = widget->window()->windowHandle();
+    return window != nullptr && window->flags().testFlag(Qt::WindowTransparentForInput);
+}
+
 } // namespace
 
 Storm::Storm(const Kind& kind, int seed)
@@ -304,7 +311,8 @@ QWidget* Storm::AnyWidget()
     QWidget* root = m_dice.OneIn(4) || !m_subject ? tops.at(m_dice.Below(tops.size())) : m_subject.data();
     const QWidgetList widgets = root->findChildren<QWidget*>();
     QWidget* widget = widgets.value(m_dice.Below(widgets.size() + 1), root);
-    return widget->isVisible() && !IsForeign(widget) ? widget : m_window.data();
+    const bool isReached = widget->isVisible() && !IsForeign(widget) && !IsOutOfReach(widget);
+    return isReached ? widget : m_window.data();
 }
 
 /// As the window system sends it: Qt finds the widget, and keeps to it while a button is held.
