@@ -25,9 +25,8 @@ int ScreenHolding(const QRect& widget, const QVector<ScreenArea>& screens);
 
 /// @p popup with its top left corner moved to the nearest available area, unless it lies in one, and then
 /// left and up, so that it ends at least a pixel before the right and the lower edge of the monitor that
-/// holds
-/// @p widget; @p popup itself without monitors. Only the corner is a place for the popup: the far edges stay
-/// behind, so the rectangle may have grown.
+/// holds @p widget; @p popup itself without monitors. Only the corner is a place for the popup: the far
+/// edges stay behind, so the rectangle may have grown.
 QRect AvailableGeometry(const QRect& popup, const QRect& widget, const QVector<ScreenArea>& screens);
 
 } // namespace UICommonMdl::PopupPlacement
