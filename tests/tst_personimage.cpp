@@ -238,6 +238,28 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), name);
     }
 
+    /// Catches any use of a button or caption that the client has found by its name and deleted.
+    void ClientDeletesAChild()
+    {
+        WmPersonImage whole;
+        Hover(whole, true);
+        const QStringList names = Shown(whole);
+        for (const QString& name : names) {
+            WmPersonImage panel;
+            panel.SetShowAvatarOrFaceLabel(true, 1);
+            delete panel.findChild<QWidget*>(name);
+            for (const auto& switched : Switches)
+                (panel.*switched.second)(true);
+            panel.SetShowTurnPageButton(true);
+            panel.SetShowAvatarOrFaceLabel(true, 2);
+            panel.ResetUI();
+            QEvent language(QEvent::LanguageChange);
+            QApplication::sendEvent(&panel, &language);
+            panel.RefreshUIButton();
+            QCOMPARE(Shown(panel).size(), names.size() - 1);
+        }
+    }
+
     /// Catches a panel that forgets which buttons are in use while it is disabled.
     void DisabledPanelKeepsItsButtons()
     {

@@ -21,10 +21,14 @@ QSize StripSize(const QWidget* panel) { return {qMax(0, panel->width() - 2 * kMa
 /// Enabled is the mark of a child that is in use.
 void SetInUse(QWidget* child, bool bInUse)
 {
+    if (!child)
+        return;
     child->setEnabled(bInUse);
     if (!bInUse)
         child->hide();
 }
+
+bool IsInUse(const QWidget* child, const QWidget* panel) { return child && child->isEnabledTo(panel); }
 
 } // namespace
 
@@ -90,6 +94,8 @@ void WmPersonImage::SetShowAvatarOrFaceLabel(bool bShow, int type)
 
 void WmPersonImage::ShowCaption()
 {
+    if (!m_lbAvatarOrFace)
+        return;
     if (m_iCaptionType == kAvatar)
         m_lbAvatarOrFace->setText(tr("Avatar"));
     else // the numbers are one below the types
@@ -114,6 +120,8 @@ void WmPersonImage::ResetUI()
 
 void WmPersonImage::ShowTurnText()
 {
+    if (!m_btnTurnPage)
+        return;
     const QString text = m_bSecondPage ? tr("Previous Picture") : tr("Next Picture");
     m_btnTurnPage->setText(text);
     m_btnTurnPage->setToolTip(text);
@@ -131,8 +139,10 @@ void WmPersonImage::SetPhotoBtnVisible(bool bVisible)
 {
     QWidget* const children[] = {m_btnUpLoad,      m_btnCapture,  m_btnVistorCapture, m_btnIDCard,
                                  m_btnPhotoDelete, m_btnTurnPage, m_lbAvatarOrFace};
-    for (QWidget* child : children)
-        child->setVisible(bVisible && child->isEnabledTo(this));
+    for (QWidget* child : children) {
+        if (child)
+            child->setVisible(bVisible && child->isEnabledTo(this));
+    }
     SetButtonSize();
 }
 
@@ -141,17 +151,17 @@ void WmPersonImage::SetButtonSize()
     QWidget* const stack[] = {m_btnPhotoDelete, m_btnUpLoad, m_btnCapture, m_btnVistorCapture, m_btnIDCard};
     int used = 0;
     for (QWidget* button : stack) {
-        if (!button->isEnabledTo(this))
+        if (!IsInUse(button, this))
             continue;
         button->setFixedSize(StripSize(this));
         button->move(kMargin, height() - button->height() - used);
         used += button->height();
     }
-    if (m_btnTurnPage->isEnabledTo(this)) {
+    if (IsInUse(m_btnTurnPage, this)) {
         m_btnTurnPage->setFixedSize(width() / 4, kStripHeight);
         m_btnTurnPage->move(width() * 3 / 4, 0);
     }
-    if (m_lbAvatarOrFace->isEnabledTo(this)) {
+    if (IsInUse(m_lbAvatarOrFace, this)) {
         m_lbAvatarOrFace->setFixedSize(StripSize(this));
         m_lbAvatarOrFace->move(kMargin, 0);
     }
@@ -178,7 +188,7 @@ void WmPersonImage::changeEvent(QEvent* event)
     if (event->type() != QEvent::LanguageChange)
         return;
     ShowTurnText();
-    if (!m_lbAvatarOrFace->text().isEmpty())
+    if (m_lbAvatarOrFace && !m_lbAvatarOrFace->text().isEmpty())
         ShowCaption();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPointer>
 #include <UIComponentsExport.h>
 
 class QPushButton;
@@ -23,7 +24,8 @@ namespace UICommonMdl {
 /// SetPhotoBtnAlwaysShow(). A button that is switched off is never shown and takes no room. The buttons
 /// take no keyboard focus: offer their actions by keyboard elsewhere, or by the shortcuts of QAction.
 ///
-/// A slot may delete the panel.
+/// A slot may delete the panel. A child that the client finds by its name and deletes is as one switched off
+/// for good.
 class UICOMPONENTS_EXPORT WmPersonImage : public QLabel
 {
     Q_OBJECT
@@ -88,13 +90,14 @@ private:
     void ShowTurnText();
     void ShowCaption();
 
-    QPushButton* m_btnUpLoad;
-    QPushButton* m_btnCapture;
-    QPushButton* m_btnVistorCapture;
-    QPushButton* m_btnIDCard;
-    QPushButton* m_btnPhotoDelete;
-    QPushButton* m_btnTurnPage;
-    QLabel* m_lbAvatarOrFace;
+    // The client can find the children by their names, and may delete one.
+    QPointer<QPushButton> m_btnUpLoad;
+    QPointer<QPushButton> m_btnCapture;
+    QPointer<QPushButton> m_btnVistorCapture;
+    QPointer<QPushButton> m_btnIDCard;
+    QPointer<QPushButton> m_btnPhotoDelete;
+    QPointer<QPushButton> m_btnTurnPage;
+    QPointer<QLabel> m_lbAvatarOrFace;
     int m_iCaptionType = 0;
     bool m_bSecondPage = false;
     bool m_bAlwaysShow = false;
