@@ -10,6 +10,7 @@ namespace {
 
 constexpr int DeepestNesting = 16;
 constexpr int ColorSize = 11; // in a stream
+constexpr quint32 FirstExtendedTypeInQt4 = 128; // QMetaType::VoidStar
 
 bool IsHexDigit(QChar character)
 {
@@ -81,6 +82,9 @@ private:
         m_stream >> type;
         if (m_stream.version() >= QDataStream::Qt_4_2)
             m_stream.skipRawData(1); // whether it is null
+        // Kinds of numbers, from long to signed char, had other ids in Qt 4.
+        if (m_stream.version() < QDataStream::Qt_5_0 && type >= FirstExtendedTypeInQt4)
+            type -= FirstExtendedTypeInQt4 - QMetaType::VoidStar;
         switch (type) {
         case QMetaType::QVariantList:
             return depth < DeepestNesting && AreSafe(depth + 1, false);
@@ -148,6 +152,8 @@ bool Walker::SkipPlain(quint32 type)
     static const int plain[]
         = {QMetaType::UnknownType, QMetaType::Bool,       QMetaType::Int,     QMetaType::UInt,
            QMetaType::LongLong,    QMetaType::ULongLong,  QMetaType::Double,  QMetaType::QChar,
+           QMetaType::Long,        QMetaType::ULong,      QMetaType::Short,   QMetaType::UShort,
+           QMetaType::Char,        QMetaType::SChar,      QMetaType::UChar,   QMetaType::Float,
            QMetaType::QString,     QMetaType::QByteArray, QMetaType::QDate,   QMetaType::QTime,
            QMetaType::QDateTime,   QMetaType::QUrl,       QMetaType::QLocale, QMetaType::QRect,
            QMetaType::QRectF,      QMetaType::QSize,      QMetaType::QSizeF,  QMetaType::QLine,

@@ -162,6 +162,8 @@ private slots:
         };
         Row("number", QByteArray("@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)"), true);
         Row("colour", QByteArray("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)"), true);
+        Row("short number", QByteArray("@Variant(\\0\\0\\0\\x87?\\xc0\\0\\0)"), true);
+        Row("pointer", QByteArray("@Variant(\\0\\0\\0\\x80?\\xc0\\0\\0)"), false);
         Row("list", deep(3), true);
         Row("a text", QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\""), true);
         Row("font", QByteArray("@Variant(\\0\\0\\0\\x40)"), true);
@@ -232,7 +234,11 @@ private slots:
                QUrl("http://a/b"_s),
                QDateTime::currentDateTime(),
                QColor(Qt::red),
-               QVariantMap{{"a"_s, QVariantList{1, QSize(2, 3), 'c'}}},
+               QVariantMap{{"a"_s, QVariantList{1, QSize(2, 3), 1.5F}}},
+               1.5F,
+               QVariant::fromValue(-3L),
+               QVariant::fromValue('c'),
+               QVariant::fromValue(quint16(65535)),
                QLocale(QLocale::German)};
         for (const QVariant& value : plain) {
             CIniFile(Path()).WriteValue(kSection, kKey, value);
