@@ -15,6 +15,7 @@
 #include <UI/TVWall/WindowPlacement.h>
 
 #include <QApplication>
+#include <QBitmap>
 #include <QTest>
 #include <limits>
 
@@ -365,7 +366,7 @@ private Q_SLOTS:
         QVERIFY(ScreenOverlay::AlignmentOf(2) & Qt::AlignRight);
         QVERIFY(ScreenOverlay::AlignmentOf(9) & Qt::AlignLeft);
         const auto padded = [](int textWidth, int spaceWidth) {
-            return ScreenOverlay::PaddedToWidth("text"_s, textWidth, spaceWidth, 100);
+            return ScreenOverlay::PaddedToWidth("text"_s, textWidth, spaceWidth, 100, Qt::AlignLeft);
         };
         QCOMPARE(padded(93, 4), "text"_s); // 7 pixels left
         QCOMPARE(padded(92, 4), "text  "_s);
@@ -408,6 +409,32 @@ private Q_SLOTS:
         QCOMPARE(label.IsRolling(), roll && room != 0);
         label.Advance(milliseconds);
         QTEST(label.TextOffset(), "offset");
+    }
+
+    void rollingTextsAreAligned_data()
+    {
+        TestSupport::Columns<int, int, double>("mode", "align", "place"); // 0 at the left, 1 at the right
+        for (const int align : {0, 1, 2}) {
+            QTest::addRow("%d", align) << int(QOSDShowLabel::RightToLeft) << align << align / 2.0;
+            QTest::addRow("%d, swings from the left", align)
+                << int(QOSDShowLabel::BackAndForth) << align << 0.0;
+        }
+    }
+
+    // Catches spaces that push a text away from its side, or out of sight.
+    void rollingTextsAreAligned()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, align);
+        QFETCH(double, place);
+        QOSDShowLabel label(nullptr);
+        label.resize(600, 60);
+        label.SetContent({"##"_s, 40, Qt::white, Qt::black, true, ScreenOverlay::AlignmentOf(align), mode});
+        const QImage painted = label.grab().toImage();
+        const QBitmap letters = QBitmap::fromImage(painted.createMaskFromColor(qRgb(0, 0, 0)));
+        const QRect ink = QRegion(letters).boundingRect();
+        QVERIFY(!ink.isEmpty());
+        QVERIFY(qAbs(ink.x() - place * (600 - ink.width())) < 10);
     }
 
     void baseMapFiles()

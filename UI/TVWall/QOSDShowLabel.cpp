@@ -37,7 +37,7 @@ void QOSDShowLabel::SetContent(const Content& content)
     for (const QString& line : lines) {
         const int lineWidth = metrics.horizontalAdvance(line);
         widest = qMax(widest, lineWidth);
-        m_lines << ScreenOverlay::PaddedToWidth(line, lineWidth, spaceWidth, width());
+        m_lines << ScreenOverlay::PaddedToWidth(line, lineWidth, spaceWidth, width(), content.alignment);
     }
     // A text that swings takes its own width, so that it turns where it touches the label's edges.
     const bool swings = content.roll && content.rollMode == BackAndForth;

@@ -92,12 +92,16 @@ QString StyleSheet(const KvGUI::StructOSDInfo& info, int fontPixelSize)
         + rgb(QStringLiteral("background-color: rgb(%1, %2, %3)"), BackColor(info));
 }
 
-QString PaddedToWidth(const QString& text, int textWidth, int spaceWidth, int width)
+QString PaddedToWidth(const QString& text, int textWidth, int spaceWidth, int width, Qt::Alignment alignment)
 {
     const int slack = width - textWidth;
     if (slack <= LargestSlack || spaceWidth <= 0)
         return text;
-    return text + QString(std::min(slack / spaceWidth, MostSpaces), QLatin1Char(' '));
+    const int count = std::min(slack / spaceWidth, MostSpaces);
+    const auto spaces = [](int n) { return QString(n, QLatin1Char(' ')); };
+    if (alignment & Qt::AlignHCenter)
+        return spaces(count / 2) + text + spaces(count / 2);
+    return alignment & Qt::AlignRight ? spaces(count) + text : text + spaces(count);
 }
 
 std::string BaseMapFile(const std::string& path)
