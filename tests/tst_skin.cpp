@@ -191,8 +191,9 @@ private slots:
         }
     }
 
-    /// Catches widgets that are polished again for a sheet that both skins share, and one that is noted
-    /// twice: the earlier call would come back with the skin.
+    /// Catches widgets that are polished again for a sheet that both skins share, one that is not when the
+    /// client styles it again after a change of a property, and one that is noted twice: the earlier call
+    /// would come back with the skin.
     void LastCallCounts()
     {
         SampleWidget widget;
@@ -202,8 +203,10 @@ private slots:
         KvGUI::SetSkinVersion(kNight);
         QCOMPARE(widget.styleSheet(), SheetOf("shared.css"));
         QCOMPARE(widget.m_styleChanges, 0);
+        CommonFun::SetStyleSheet(&widget, kForms, kShared, QString());
+        QCOMPARE(widget.m_styleChanges, 1);
         CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
-        QVERIFY(widget.m_styleChanges > 0);
+        QVERIFY(widget.m_styleChanges > 1);
         KvGUI::SetSkinVersion(kDay);
         QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
     }

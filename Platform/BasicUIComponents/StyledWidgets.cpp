@@ -18,14 +18,19 @@ QString StyleSheetText(const StyleSheetSource& source)
 
 namespace {
 
+/// Also sets a sheet that the widget has: its rules by properties are then looked at again.
 void SetSheet(QWidget* widget, const QString& text)
 {
-    if (text == widget->styleSheet())
-        return;
     // Qt does not parse a second sheet where children have asked for the first before the widget is polished.
-    if (!widget->styleSheet().isEmpty())
+    if (!widget->styleSheet().isEmpty() && text != widget->styleSheet())
         widget->ensurePolished();
     widget->setStyleSheet(text);
+}
+
+void ChangeSheet(QWidget* widget, const QString& text)
+{
+    if (text != widget->styleSheet())
+        SetSheet(widget, text);
 }
 
 } // namespace
@@ -112,7 +117,7 @@ void StyledWidgets::Restyle(QWidget* widget)
         const QString text = StyleSheetText(*source);
         if (text.isEmpty())
             continue;
-        SetSheet(widget, text);
+        ChangeSheet(widget, text);
         return;
     }
     // A sheet that the client set by hand stays.
@@ -123,5 +128,5 @@ void StyledWidgets::Restyle(QWidget* widget)
     if (text.isEmpty())
         return;
     styling.baseText = text;
-    SetSheet(widget, text);
+    ChangeSheet(widget, text);
 }
