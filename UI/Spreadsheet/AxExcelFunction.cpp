@@ -309,10 +309,11 @@ bool AxExcelFunction::SetMergeCellValue(int row1, int column1, int row2, int col
     if (!IsOpenExcel())
         return false;
     const QString start = SheetAddress::Cell(row1, column1);
-    const ObjectPtr first = Range(*m_pWorkSheet, start);
+    ObjectPtr first = Range(*m_pWorkSheet, start);
     if (!first)
         return false;
     SetValue(*first, text);
+    first.reset();
     const ObjectPtr range
         = Range(*m_pWorkSheet, start + QLatin1Char(':') + SheetAddress::Cell(row2, column2));
     if (!range)

@@ -51,7 +51,7 @@ RecordedObject::RecordedObject(QString name, bool null, Recording& recording)
     , m_null(null)
     , m_recording(recording)
 {
-    ++m_recording.living;
+    m_recording.most = qMax(m_recording.most, ++m_recording.living);
 }
 
 RecordedObject::~RecordedObject() { --m_recording.living; }

@@ -17,6 +17,7 @@ struct Recording
     QHash<QString, QVariant> answers; ///< of calls and of properties that are read, by member
     QVariantList blocks; ///< what SetValue got
     int living = 0; ///< recorded objects that have not been deleted
+    int most = 0; ///< of them at one time
 };
 
 /// A spreadsheet application that does nothing but write down what is asked of it.
