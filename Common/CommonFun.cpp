@@ -1,8 +1,8 @@
 #include <Common/CommonFun.h>
 
 #include <Common/ByteBudget.h>
+#include <Platform/BasicUIComponents/KvFile.h>
 #include <Platform/BasicUIComponents/SkinPath.h>
-#include <Platform/BasicUIComponents/StyleSheets.h>
 #include <Platform/BasicUIComponents/StyledWidgets.h>
 #include <QFile>
 #include <QFileInfo>
@@ -85,7 +85,8 @@ void CommonFun::SetStyleSheetEx(QWidget* w, const QString& fileName, const QStri
 {
     if (w == nullptr)
         return;
-    const QString text = StyleSheetText(fileName, SkinFilePath(subDir));
+    // Not from the sheets that are kept: files on disk may change at any time.
+    const QString text = QString::fromUtf8(KvGUI::KvFile::ReadAll(fileName, SkinFilePath(subDir)));
     if (text.isEmpty())
         return;
     StyledWidgets::Instance().Forget(w);

@@ -48,8 +48,8 @@ public:
     /// Gives @p w the style sheet @p fileName of the folder "<current path>/Skin/<subDir>" on disk.
     ///
     /// These sheets belong to no skin: the widget keeps the sheet when the skin changes, also when
-    /// SetStyleSheet() had styled it before. A sheet that is missing or empty changes nothing. Each
-    /// sheet is read once until the skin changes.
+    /// SetStyleSheet() had styled it before. The file is read at each call; one that is missing or empty
+    /// changes nothing.
     /// @param w the widget; null does nothing
     static void SetStyleSheetEx(QWidget* w, const QString& fileName, const QString& subDir);
 

@@ -8,6 +8,7 @@
 #include <Platform/BasicUIComponents/KvDir.h>
 #include <Platform/BasicUIComponents/KvFile.h>
 #include <Platform/BasicUIComponents/KvSkin.h>
+#include <Platform/BasicUIComponents/StyleSheets.h>
 #include <QtTest>
 #include <array>
 #include <memory>
@@ -248,43 +249,44 @@ private slots:
         }
     }
 
-    /// Catches a sheet on disk that is looked for in the skin, or that a change of skin takes away.
+    /// Catches a sheet on disk that is looked for in the skin, that a change of skin takes away, or that is
+    /// set as it was before its file was written again or removed.
     void SheetsOnDiskBelongToNoSkin()
     {
         QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkpath("Skin/forms"_s));
-        Write(folder.filePath("Skin/forms/disk.css"_s), "QWidget { color: \"\xE6\x97\xA5\" }");
+        const QString path = folder.filePath("Skin/forms/disk.css"_s);
+        Write(path, "QWidget { color: red }");
         KvGUI::KvDir::SetCurrentPath(folder.path());
         SampleWidget widget;
+        CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
+        Write(path, "QWidget { color: \"\xE6\x97\xA5\" }");
         CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
         KvGUI::SetSkinVersion(kNight);
         QCOMPARE(widget.styleSheet(), "QWidget { color: \"\u65E5\" }"_s);
         CommonFun::SetStyleSheet(&widget, kForms, kSample, QString());
+        QFile::remove(path);
+        CommonFun::SetStyleSheetEx(&widget, "disk.css"_s, kForms);
         KvGUI::SetSkinVersion(kDay);
         QCOMPARE(widget.styleSheet(), SheetOf("day.css"));
     }
 
-    /// Catches a sheet that is read for each widget, one that is kept for ever, and one that comes late.
+    /// Catches a sheet of a skin that is read for each widget, one that is kept for ever, and one that comes
+    /// late.
     void SheetsAreReadOnce()
     {
         QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath("Skin"_s));
-        KvGUI::KvDir::SetCurrentPath(folder.path());
-        const QString path = folder.filePath("Skin/a.css"_s);
-        const auto styled = [] {
-            QWidget widget;
-            CommonFun::SetStyleSheetEx(&widget, "a.css"_s, QString());
-            return widget.styleSheet();
-        };
-        QCOMPARE(styled(), QString());
+        const QString path = folder.filePath("a.css"_s);
+        const auto text = [&folder] { return StyleSheetText("a.css"_s, folder.path()); };
+        QCOMPARE(text(), QString());
         Write(path, "QWidget { margin: 1px }");
-        QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
+        QCOMPARE(text(), "QWidget { margin: 1px }"_s);
         Write(path, "QWidget { margin: 2px }");
-        QCOMPARE(styled(), "QWidget { margin: 1px }"_s);
+        QCOMPARE(text(), "QWidget { margin: 1px }"_s);
         KvGUI::SetSkinVersion(kNight);
-        QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
+        QCOMPARE(text(), "QWidget { margin: 2px }"_s);
         QFile::remove(path);
-        QCOMPARE(styled(), "QWidget { margin: 2px }"_s);
+        QCOMPARE(text(), "QWidget { margin: 2px }"_s);
     }
 
     /// Catches a picture for another density, which is blurred or of another size, and none where only one
