@@ -413,24 +413,35 @@ private Q_SLOTS:
 
     void rollingTextsAreAligned_data()
     {
-        TestSupport::Columns<int, int, double>("mode", "align", "place"); // 0 at the left, 1 at the right
+        QTest::addColumn<Qt::LayoutDirection>("program");
+        TestSupport::Columns<QString, int, int, double>("text", "mode", "align", "place"); // 0 left, 1 right
         for (const int align : {0, 1, 2}) {
-            QTest::addRow("%d", align) << int(QOSDShowLabel::RightToLeft) << align << align / 2.0;
+            QTest::addRow("%d", align)
+                << Qt::LeftToRight << "##"_s << int(QOSDShowLabel::RightToLeft) << align << align / 2.0;
+            QTest::addRow("%d, program from right to left", align)
+                << Qt::RightToLeft << "##"_s << int(QOSDShowLabel::RightToLeft) << align << align / 2.0;
+            QTest::addRow("%d, text from right to left", align)
+                << Qt::LeftToRight << QStringLiteral("\u05d0\u05d0") << int(QOSDShowLabel::RightToLeft)
+                << align << align / 2.0;
             QTest::addRow("%d, swings from the left", align)
-                << int(QOSDShowLabel::BackAndForth) << align << 0.0;
+                << Qt::LeftToRight << "##"_s << int(QOSDShowLabel::BackAndForth) << align << 0.0;
         }
     }
 
     // Catches spaces that push a text away from its side, or out of sight.
     void rollingTextsAreAligned()
     {
+        QFETCH(Qt::LayoutDirection, program);
+        QFETCH(QString, text);
         QFETCH(int, mode);
         QFETCH(int, align);
         QFETCH(double, place);
+        QGuiApplication::setLayoutDirection(program);
         QOSDShowLabel label(nullptr);
         label.resize(600, 60);
-        label.SetContent({"##"_s, 40, Qt::white, Qt::black, true, ScreenOverlay::AlignmentOf(align), mode});
+        label.SetContent({text, 40, Qt::white, Qt::black, true, ScreenOverlay::AlignmentOf(align), mode});
         const QImage painted = label.grab().toImage();
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
         const QBitmap letters = QBitmap::fromImage(painted.createMaskFromColor(qRgb(0, 0, 0)));
         const QRect ink = QRegion(letters).boundingRect();
         QVERIFY(!ink.isEmpty());

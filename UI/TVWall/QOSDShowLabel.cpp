@@ -111,8 +111,11 @@ void QOSDShowLabel::paintEvent(QPaintEvent*)
     QRect line(0, (height() - m_textSize.height()) / 2, m_textSize.width(), lineHeight);
     line.translate(TextOffset());
     for (const QString& text : qAsConst(m_lines)) {
-        if (line.intersects(rect()))
+        if (line.intersects(rect())) {
+            // A painter goes by the program's direction: the spaces would lie on the other side of the text.
+            painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
             painter.drawText(line, int(m_content.alignment) | Qt::TextSingleLine, text);
+        }
         line.translate(0, lineHeight);
     }
 }

@@ -101,7 +101,8 @@ QString PaddedToWidth(const QString& text, int textWidth, int spaceWidth, int wi
     const auto spaces = [](int n) { return QString(n, QLatin1Char(' ')); };
     if (alignment & Qt::AlignHCenter)
         return spaces(count / 2) + text + spaces(count / 2);
-    return alignment & Qt::AlignRight ? spaces(count) + text : text + spaces(count);
+    const bool textLast = alignment.testFlag(Qt::AlignRight) != text.isRightToLeft();
+    return textLast ? spaces(count) + text : text + spaces(count);
 }
 
 std::string BaseMapFile(const std::string& path)

@@ -52,8 +52,8 @@ Qt::Alignment AlignmentOf(int iAlign);
 QString StyleSheet(const KvGUI::StructOSDInfo& info, int fontPixelSize);
 
 /// @p text with spaces of @p spaceWidth pixels that fill a label of @p width pixels, of which the text itself
-/// takes @p textWidth; unchanged when 7 pixels or less are left. At most 4096 spaces are added: on the side
-/// away from @p alignment, for a centred text as many on either side.
+/// takes @p textWidth; unchanged when 7 pixels or less are left. At most 4096 spaces are added: where
+/// @p alignment leaves room beside a text that is painted in its own direction.
 QString PaddedToWidth(const QString& text, int textWidth, int spaceWidth, int width, Qt::Alignment alignment);
 
 /// The picture file to show for a base map: a raw video frame (a path with ".yuv" in it) stands for the
