@@ -346,6 +346,23 @@ private slots:
         QVERIFY(bubble->isVisible());
     }
 
+    /// Catches a mark that a slot sets, taken back by the very edit that the slot was told of.
+    void SlotMarksTheEdit()
+    {
+        for (const auto signal : {&QIpAddrEdit::textedited, &QIpAddrEdit::textchanged}) {
+            Form form;
+            connect(form.address, signal, form.address, [&](const QString& text) {
+                form.address->showErrorHint(true, text, CTipLabel::Left);
+            });
+            QGuiApplication::clipboard()->setText(QStringLiteral("10.0.0.254"));
+            for (const auto modifier : {Qt::NoModifier, Qt::ControlModifier}) { // types a digit, pastes all
+                form.Press(modifier == Qt::NoModifier ? Qt::Key_1 : Qt::Key_V, modifier);
+                QVERIFY(form.address->errorState());
+                QVERIFY(CTipLabel::Instance()->isVisible());
+            }
+        }
+    }
+
     /// Catches gaps, overlaps, lost pixels and negative widths: even, one and three pixels left over,
     /// narrower than the dots, nothing.
     void OctetsShareTheWidth()

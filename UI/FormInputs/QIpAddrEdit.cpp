@@ -133,13 +133,14 @@ void QIpAddrEdit::clear()
 void QIpAddrEdit::TakeAddress(const QString& address)
 {
     const QPointer<QIpAddrEdit> self(this);
+    ForgetError();
     settext(address);
     if (!self)
         return;
     m_octets.back()->setFocus();
     m_octets.back()->deselect();
     m_octets.back()->end(false);
-    texteditedslot(QString());
+    Emit(&QIpAddrEdit::textedited);
 }
 
 void QIpAddrEdit::setRequired(bool required)
@@ -182,9 +183,14 @@ void QIpAddrEdit::textchangedslot(const QString&) { Emit(&QIpAddrEdit::textchang
 
 void QIpAddrEdit::texteditedslot(const QString&)
 {
-    const QPointer<QIpAddrEdit> self(this);
+    ForgetError();
     Emit(&QIpAddrEdit::textedited);
-    if (self && m_bError)
+}
+
+/// Before an edit is reported: a slot may find the new address wrong, too.
+void QIpAddrEdit::ForgetError()
+{
+    if (m_bError)
         showErrorHint(false, QString(), CTipLabel::None);
 }
 

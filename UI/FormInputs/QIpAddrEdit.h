@@ -52,7 +52,8 @@ public:
     void setRequired(bool required);
 
     /// Marks the field as wrong and tells why in a CTipLabel, or takes both back. The bubble goes after its
-    /// display time, the mark stays until it is taken back or the operator edits the address.
+    /// display time, the mark stays until it is taken back or the operator edits the address. A slot of that
+    /// edit's signals may set it again.
     /// @param text of the bubble; when empty, only the mark is shown
     /// @param position the bubble's side with the arrow
     void showErrorHint(bool show, QString text, CTipLabel::DisplayPosition position);
@@ -88,6 +89,7 @@ private:
     void BuildSymbol();
     void AdjustPartLenth();
     void TakeAddress(const QString& address);
+    void ForgetError();
     void NameOctets();
     void RefreshStyle();
     void Emit(void (QIpAddrEdit::*signal)(const QString&));
