@@ -23,7 +23,7 @@ bool NamesAValue(const QString& iniKey) { return iniKey.count(QLatin1Char('/')) 
 bool IsSafeFile(const QString& path)
 {
     QFile file(path);
-    return !file.open(QIODevice::ReadOnly) || IsSafeIniText(file.readAll());
+    return path.isEmpty() || !file.open(QIODevice::ReadOnly) || IsSafeIniText(file.readAll());
 }
 
 /// Puts a file that cannot be read without harm away under another name, and its backup, if there is one, to

@@ -140,7 +140,8 @@ private slots:
         QCOMPARE(file.ReadAllSecName(), (QStringList{"Users"_s, kSection}));
     }
 
-    /// Catches an empty name that clears the whole file, which is what the settings class makes of it.
+    /// Catches an empty name that clears the whole file, which is what the settings class makes of it, and a
+    /// warning for a file without a name.
     void EmptyNamesTouchNothing()
     {
         const QByteArray text = "[Wall]\nLayout=1\n";
@@ -151,6 +152,7 @@ private slots:
         file.WriteValue(QString(), QString(), 5);
         QCOMPARE(file.ReadValue(QString(), QString(), 6), QVariant(6));
         QCOMPARE(Read(Path()), text);
+        QVERIFY(CIniFile(QString()).ReadAllSecName().isEmpty());
     }
 
     void DamagedValues_data()
