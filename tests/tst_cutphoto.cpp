@@ -503,12 +503,14 @@ private slots:
         KvGUI::KvMessageNotify::Instance()->CloseAll();
     }
 
-    // Catches a frame that does not follow its photo, and a file that is not read again.
+    // Catches a frame that does not follow its photo, a file that is not read again, and one that is not
+    // found by its name without the ending.
     void ResizingReadsTheFileAgain()
     {
         const QTemporaryDir folder;
-        const QString path
+        const QString file
             = WriteFile(folder, QStringLiteral("photo.png"), Encoded(PlacePicture(Source), "PNG"));
+        const QString path = folder.filePath(QStringLiteral("photo"));
         const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
         canvas->SetSrcPhoto(path);
         Drag(*canvas, {20, 10}, {120, 60});
@@ -517,7 +519,7 @@ private slots:
         QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50)); // the same pixels of the picture
         canvas->resize(Canvas * 2);
         QCOMPARE(Framed(*canvas), QRect(20, 10, 100, 50));
-        QVERIFY(QFile::remove(path));
+        QVERIFY(QFile::remove(file));
         canvas->resize(Canvas);
         QVERIFY(!canvas->GetCutPhoto().bHasImage);
     }

@@ -43,10 +43,11 @@ public:
     /// @name The picture
     /// @{
 
-    /// Reads the picture file @p path, whose format is told by its content, not by its name. An empty path
-    /// does nothing. A file that is missing or unreadable leaves the canvas without a source picture
-    /// (GetCutPhoto() is cleared) and is not reported. The pixels are taken as the file stores them: a
-    /// camera's note that it was held on its side is not applied.
+    /// Reads the picture file @p path, whose format is told by its content, not by its name. The ending of
+    /// the name may be left out: the file of that name and the ending of a picture is read when there is none
+    /// without. An empty path does nothing. A file that is missing or unreadable leaves the canvas without a
+    /// source picture (GetCutPhoto() is cleared) and is not reported. The pixels are taken as the file stores
+    /// them: a camera's note that it was held on its side is not applied.
     void SetSrcPhoto(const QString& path);
 
     /// Takes @p image as the source picture, stretches it over the widget's present size and selects all

@@ -2,7 +2,6 @@
 
 #include "JpegFitting.h"
 
-#include <QFile>
 #include <QImageReader>
 
 namespace UICommonMdl::CropPicture {
@@ -38,25 +37,31 @@ bool CanBeMade(const QSize& size)
     return size.isEmpty() || qint64(size.width()) * size.height() <= MaximumPixels;
 }
 
-} // namespace
-
-QImage ReadPicture(const QString& path)
+QImage ReadWith(QImageReader& reader)
 {
-    if (path.isEmpty())
-        return QImage(); // Qt would warn of it
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? ReadPicture(file) : QImage();
-}
-
-QImage ReadPicture(QIODevice& file)
-{
-    QImageReader reader(&file, QByteArray());
     reader.setDecideFormatFromContent(true);
     QImage image;
     // A damaged header can promise more pixels than there is memory.
     if (!reader.canRead() || !CanBeMade(reader.size()) || !reader.read(&image))
         return QImage();
     return image;
+}
+
+} // namespace
+
+QImage ReadPicture(const QString& path)
+{
+    if (path.isEmpty())
+        return QImage(); // Qt would warn of it
+    // Given the path and not an open file, the reader finds a name without its ending too.
+    QImageReader reader(path, QByteArray());
+    return ReadWith(reader);
+}
+
+QImage ReadPicture(QIODevice& file)
+{
+    QImageReader reader(&file, QByteArray());
+    return ReadWith(reader);
 }
 
 QRect PhotoRect(const QSize& widget, const QSize& display)

@@ -15,9 +15,9 @@
 /// no value of any argument overflows.
 namespace UICommonMdl::CropPicture {
 
-/// The picture in the file @p path, its format told by the content, with its pixels in the order in which
-/// the file stores them (a camera's note about its orientation is not applied). Null when there is no such
-/// file, it cannot be read as a whole, or it has more than 268 million pixels.
+/// The picture in the file @p path, whose name may lack its ending, the format told by the content, with its
+/// pixels in the order in which the file stores them (a camera's note about its orientation is not applied).
+/// Null when there is no such file, it cannot be read as a whole, or it has more than 268 million pixels.
 QImage ReadPicture(const QString& path);
 
 /// The same of what @p file, which is open, holds from its position on.
