@@ -425,6 +425,22 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(path));
     }
 
+    // Catches a relative path that counts from the folder in which the office was started.
+    void FollowsTheClientsFolder()
+    {
+        const QString before = QDir::currentPath();
+        QDir(m_folder.path()).mkdir("here"_s);
+        QVERIFY(QDir::setCurrent(Path("here"_s)));
+        const bool stored = Store("near.xlsx"_s, {{"a"_s}, {"b"_s}});
+        AxExcelFunction excel;
+        const bool opened = excel.OpenExcel("../here/near.xlsx"_s, false);
+        QVERIFY(QDir::setCurrent(before));
+        QVERIFY(stored);
+        QVERIFY(QFile::exists(Path("here/near.xlsx"_s)));
+        QVERIFY(opened);
+        QCOMPARE(RowOf(excel, 2), QStringList{"b"_s});
+    }
+
     void ReportsUnwritablePlaces_data()
     {
         QTest::addColumn<QString>("path");

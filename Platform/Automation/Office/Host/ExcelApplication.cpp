@@ -1,8 +1,7 @@
 #include <Platform/Automation/Office/Host/ExcelApplication.h>
 
+#include <Platform/Automation/Office/Host/ExcelUnits.h>
 #include <Platform/Automation/Office/Host/ExcelWorkbook.h>
-
-#include <QDir>
 
 namespace Office {
 
@@ -32,7 +31,7 @@ public:
         if (member == QLatin1String("add"))
             return m_pApplication->AddWorkbook();
         if (member == QLatin1String("open") && !arguments.isEmpty())
-            return m_pApplication->OpenWorkbook(QDir::fromNativeSeparators(arguments.first().toString()));
+            return m_pApplication->OpenWorkbook(ClientPath(arguments.first().toString()));
         return ExcelObject::SubObject(member, arguments);
     }
 

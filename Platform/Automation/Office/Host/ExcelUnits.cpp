@@ -1,6 +1,8 @@
 #include <Platform/Automation/Office/Host/ExcelUnits.h>
 
+#include <QDir>
 #include <algorithm>
+#include <unistd.h>
 
 namespace Office {
 
@@ -40,6 +42,13 @@ bool IsSheetName(const QString& name)
         && !name.endsWith(apostrophe) && std::none_of(name.begin(), name.end(), [&](QChar c) {
                return forbidden.contains(c) || c < QLatin1Char(' ');
            });
+}
+
+QString ClientPath(const QString& nativePath)
+{
+    // Our own folder is the one that the client was in when it started us.
+    const QFileInfo folder(QStringLiteral("/proc/%1/cwd").arg(getppid()));
+    return QDir(folder.symLinkTarget()).absoluteFilePath(QDir::fromNativeSeparators(nativePath));
 }
 
 } // namespace Office

@@ -18,4 +18,8 @@ QString MemberName(const QString& text);
 /// end.
 bool IsSheetName(const QString& name);
 
+/// The file of the client's that @p nativePath names; a relative path counts from the folder that the client
+/// is in at present.
+QString ClientPath(const QString& nativePath);
+
 } // namespace Office

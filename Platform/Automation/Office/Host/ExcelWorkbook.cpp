@@ -1,8 +1,8 @@
 #include <Platform/Automation/Office/Host/ExcelWorkbook.h>
 
 #include <Platform/Automation/Office/Host/ExcelSheet.h>
+#include <Platform/Automation/Office/Host/ExcelUnits.h>
 
-#include <QDir>
 #include <com/sun/star/container/XIndexAccess.hpp>
 
 namespace Office {
@@ -79,8 +79,7 @@ void ExcelWorkbook::Close() { m_pDocument.reset(); }
 
 bool ExcelWorkbook::Save(const QVariant& path, FileFormat format)
 {
-    Open().Save(
-        QDir::fromNativeSeparators(path.toString()), format, m_context.scratchFolder, m_context.saving);
+    Open().Save(ClientPath(path.toString()), format, m_context.scratchFolder, m_context.saving);
     return true;
 }
 
