@@ -101,7 +101,7 @@ private Q_SLOTS:
     void initTestCase() { TestSupport::SpoilFreedMemory(); }
 
     /// Catches a panel beside its parent, of another height, visible before it was asked for, or left behind
-    /// when the parent or a widget around it moves or resizes.
+    /// when the parent or a widget around it moves or resizes; a wider one that sticks out of the parent.
     void followsTheParent()
     {
         const Fixture f;
@@ -121,6 +121,8 @@ private Q_SLOTS:
         f.dialog->UpdateHeight(0);
         f.dialog->UpdateHeight(-3);
         QCOMPARE(f.dialog->height(), 333);
+        f.dialog->SetFixWidth(Width + 50);
+        QCOMPARE(f.dialog->pos(), corner() - QPoint(50, 0));
     }
 
     /// Catches a wrong direction, a missing report, and a panel that counts as out while it still slides.

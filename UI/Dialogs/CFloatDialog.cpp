@@ -60,6 +60,7 @@ void CFloatDialog::SetFixWidth(int iWidth)
     setFixedWidth(width);
     m_floatWgt->setFixedWidth(width);
     PlacePanel();
+    UpdatePos();
 }
 
 void CFloatDialog::SetCentralWidgetStyle(const QString& strStyle) { setStyleSheet(styleSheet() + strStyle); }

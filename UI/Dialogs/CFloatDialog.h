@@ -59,7 +59,8 @@ public:
 
     void SetTitle(const QString& strTitle); ///< the text of the title bar, plain
 
-    /// Sets the width of dialog and panel in pixels; a negative one counts as 0.
+    /// Sets the width of dialog and panel in pixels; a negative one counts as 0. The right edge stays where
+    /// the parent's is.
     void SetFixWidth(int iWidth);
 
     /// Appends @p strStyle to the dialog's style sheet. It stays when the skin changes.
@@ -85,7 +86,7 @@ public:
 
     /// @name Place
     ///
-    /// Called by the dialog itself whenever the parent's place or size may be another one.
+    /// Called by the dialog itself whenever the parent's place or size, or its own width, may be another one.
     /// @{
 
     void UpdateHeight(int h); ///< fixes the dialog's height in pixels; 0 or less leaves it
