@@ -751,6 +751,9 @@ private slots:
             QVERIFY(!form.Calendar()->isVisible());
             QVERIFY(!form.button->isChecked());
         }
+        QTest::mouseDClick(form.window->windowHandle(), Qt::LeftButton, {}, OnButton); // opens and closes
+        QVERIFY(!form.Calendar()->isVisible());
+        QVERIFY(form.button->isChecked());
         // On the calendar's own edge where it covers the button, as on a small screen.
         form.Press(OnButton);
         form.Calendar()->move(form.button->mapToGlobal(QPoint(0, 0)));

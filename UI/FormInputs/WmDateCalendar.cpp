@@ -115,7 +115,8 @@ bool WmDateCalendar::eventFilter(QObject* /*watched*/, QEvent* event)
 {
     if (event->type() == QEvent::Hide)
         UncheckAtHide();
-    if (event->type() != QEvent::MouseButtonPress)
+    // The second press of a double-click comes as the latter alone when the first one opened the calendar.
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick)
         return false;
     // While it is open the calendar gets every press. One on the button would close it and come back to the
     // button, which would open it again.
