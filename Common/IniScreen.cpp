@@ -170,13 +170,22 @@ bool Walker::SkipPlain(quint32 type)
     return true;
 }
 
+/// Whether what stands at @p at goes on with a text: QSettings looks for marks at the beginning of a value
+/// only, which is behind "=" or ",". In front of a text that begins with "@" it writes another one.
+bool IsInsideText(const QString& text, int at)
+{
+    while (at > 0 && text.at(at - 1) == QLatin1Char(' '))
+        --at;
+    const QChar before = at > 0 ? text.at(at - 1) : QChar();
+    return before.isLetterOrNumber() || (before.isPunct() && before != QLatin1Char(','));
+}
+
 /// Whether all objects behind the mark are safe. It is looked for everywhere, not just where values begin: a
 /// damaged file has its values elsewhere.
 bool AreSafe(const QString& text, QLatin1String mark, QDataStream::Version version)
 {
     for (int at = text.indexOf(mark); at >= 0; at = text.indexOf(mark, at + 1)) {
-        const bool isText = at > 0 && text.at(at - 1) == QLatin1Char('@');
-        if (!isText && !Walker(text.mid(at + mark.size()).toLatin1(), version).IsSafe())
+        if (!IsInsideText(text, at) && !Walker(text.mid(at + mark.size()).toLatin1(), version).IsSafe())
             return false;
     }
     return true;

@@ -241,6 +241,8 @@ private slots:
                QVariant::fromValue(-3L),
                QVariant::fromValue('c'),
                QVariant::fromValue(quint16(65535)),
+               "Gate 1: @Variant(opened)"_s,
+               "North @Variant(closed)"_s,
                QLocale(QLocale::German)};
         for (const QVariant& value : plain) {
             CIniFile(Path()).WriteValue(kSection, kKey, value);
