@@ -122,6 +122,16 @@ private slots:
         QCOMPARE(Caption(panel)->geometry(), QRect(1, 0, 98, 20));
     }
 
+    /// Catches a hole in the stack of a pinned panel, where the button was that has been switched off.
+    void StackClosesUp()
+    {
+        WmPersonImage panel;
+        panel.resize(100, 120);
+        panel.SetPhotoBtnAlwaysShow(true);
+        panel.SetShowUpLoadButton(false);
+        QCOMPARE(Button(panel, "m_btnCapture")->geometry(), QRect(1, 80, 98, 20));
+    }
+
     /// Catches sizes below zero, of which Qt warns, and buttons that keep the place of the old size.
     void TinyPanels()
     {

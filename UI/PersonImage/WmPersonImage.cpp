@@ -19,15 +19,6 @@ constexpr int kFirstFace = 2;
 QSize StripSize(const QWidget* panel) { return {qMax(0, panel->width() - 2 * kMargin), kStripHeight}; }
 
 /// Enabled is the mark of a child that is in use.
-void SetInUse(QWidget* child, bool bInUse)
-{
-    if (!child)
-        return;
-    child->setEnabled(bInUse);
-    if (!bInUse)
-        child->hide();
-}
-
 bool IsInUse(const QWidget* child, const QWidget* panel) { return child && child->isEnabledTo(panel); }
 
 } // namespace
@@ -71,6 +62,17 @@ WmPersonImage::AddButton(const char* name, QString (*caption)(), void (WmPersonI
     button->setFixedSize(StripSize(this));
     connect(button, &QPushButton::clicked, this, clicked);
     return button;
+}
+
+void WmPersonImage::SetInUse(QWidget* child, bool bInUse)
+{
+    if (!child)
+        return;
+    child->setEnabled(bInUse);
+    if (bInUse)
+        return;
+    child->hide();
+    SetButtonSize(); // those above it come down
 }
 
 void WmPersonImage::SetShowUpLoadButton(bool bShow) { SetInUse(m_btnUpLoad, bShow); }

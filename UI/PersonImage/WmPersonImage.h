@@ -87,6 +87,7 @@ protected:
 private:
     /// @param caption null for one that changes with the page
     QPushButton* AddButton(const char* name, QString (*caption)(), void (WmPersonImage::*clicked)());
+    void SetInUse(QWidget* child, bool bInUse);
     void ShowTurnText();
     void ShowCaption();
 
