@@ -85,7 +85,8 @@ public:
     /// @name Opening and closing
     /// @{
 
-    /// Closes the present workbook without saving it, and opens the file @p path.
+    /// Closes the present workbook without saving it, and opens the file @p path. The file is looked at
+    /// first: no path, no file to read, or one that cannot be deleted leaves the present workbook open.
     /// @param bCreate true deletes the file when it exists and starts an empty workbook, to be stored there
     ///        by SaveExcel(); false reads the first sheet of the file into memory
     /// @return false with an error: no such file (or no path), no application, or it could not be opened
