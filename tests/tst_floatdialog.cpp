@@ -241,7 +241,8 @@ private Q_SLOTS:
         QCOMPARE(shape(), QRegion(f.dialog->rect()));
     }
 
-    /// Catches a filter that is left on a former ancestor, missing on a new one, or there twice.
+    /// Catches a filter that is left on a former ancestor, missing on a new one, or there twice, and a panel
+    /// that stays where the former parent is.
     void watchesEachAncestorOnce()
     {
         const Fixture f;
@@ -251,6 +252,7 @@ private Q_SLOTS:
         auto* inner = new QWidget(outer);
         f.page->setParent(inner);
         QCOMPARE(changed.count(), 1);
+        QCOMPARE(f.dialog->pos(), f.page->mapToGlobal(QPoint(f.page->width() - Width, 0)));
         for (QWidget* ancestor : {f.page, inner, outer, &otherWindow})
             QCOMPARE(f.dialog->Filtered(ancestor), 1);
         QCOMPARE(f.dialog->Filtered(f.window.get()), 0);

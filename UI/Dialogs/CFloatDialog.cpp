@@ -149,6 +149,7 @@ bool CFloatDialog::eventFilter(QObject* watched, QEvent* event)
         UpdatePos();
     if (event->type() == QEvent::ParentChange) {
         WatchAncestors();
+        UpdatePos(); // no move comes of it where the place in the new parent is the old one
         Q_EMIT SignalParentChange();
     }
     return false;
