@@ -20,10 +20,10 @@ namespace UICommonMdl {
 /// Objects can be moved, not copied; one that was moved from reads as an empty file and writes nothing.
 /// No errors are reported: what cannot be read gives the default, what cannot be written is lost.
 ///
-/// Values can be numbers, texts, bytes, dates, times, addresses, points, lines, sizes, rectangles, colours,
-/// fonts, and lists and maps of them; others, such as pictures, are not written. A file with a damaged value
-/// that would take the reader down is put away under its name with ".damaged" added, when it is opened; its
-/// backup takes its place, if there is one.
+/// Values can be numbers, texts, bytes, bits, unique ids, dates, times, addresses, points, lines, sizes,
+/// rectangles, colours, fonts, and lists and maps of them; others, such as pictures, are not written. A file
+/// with a damaged value that would take the reader down is put away under its name with ".damaged" added,
+/// when it is opened; its backup takes its place, if there is one.
 class UICOMPONENTS_EXPORT CIniFile
 {
 public:

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int DeepestNesting = 16;
 constexpr int ColorSize = 11; // in a stream
+constexpr quint32 UserTypeInQt4 = 127; // is followed by the type's name
 constexpr quint32 FirstExtendedTypeInQt4 = 128; // QMetaType::VoidStar
 
 bool IsHexDigit(QChar character)
@@ -98,6 +99,8 @@ private:
             return true;
         case QMetaType::QFont: // whose reader needs an application
             return depth == 0;
+        case UserTypeInQt4:
+            return m_stream.version() < QDataStream::Qt_5_0 && IsUuid();
         default:
             return SkipPlain(type);
         }
@@ -121,6 +124,14 @@ private:
         for (quint32 i = 0; i < count && !m_stream.atEnd(); ++i)
             Skip<QString>();
         return m_honest;
+    }
+
+    /// A name and sixteen bytes: what unique ids are written as.
+    bool IsUuid()
+    {
+        QByteArray name;
+        m_stream >> name;
+        return qstrcmp(name.constData(), "QUuid") == 0 && SkipPlain(QMetaType::QUuid);
     }
 
     bool SkipPlain(quint32 type);
@@ -157,7 +168,8 @@ bool Walker::SkipPlain(quint32 type)
            QMetaType::QString,     QMetaType::QByteArray, QMetaType::QDate,   QMetaType::QTime,
            QMetaType::QDateTime,   QMetaType::QUrl,       QMetaType::QLocale, QMetaType::QRect,
            QMetaType::QRectF,      QMetaType::QSize,      QMetaType::QSizeF,  QMetaType::QLine,
-           QMetaType::QLineF,      QMetaType::QPoint,     QMetaType::QPointF};
+           QMetaType::QLineF,      QMetaType::QPoint,     QMetaType::QPointF, QMetaType::QUuid,
+           QMetaType::QBitArray};
     if (std::find(std::begin(plain), std::end(plain), static_cast<int>(type)) == std::end(plain))
         return false;
     if (type == QMetaType::UnknownType) { // written as an empty text

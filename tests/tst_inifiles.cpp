@@ -165,6 +165,7 @@ private slots:
         Row("number", QByteArray("@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)"), true);
         Row("colour", QByteArray("@Variant(\\0\\0\\0\\x43\\x1\\xff\\xff\\0\\0\\0\\0\\0\\0\\0\\0)"), true);
         Row("short number", QByteArray("@Variant(\\0\\0\\0\\x87?\\xc0\\0\\0)"), true);
+        Row("a client's type", QByteArray("@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\x2Q\\0)"), false);
         Row("pointer", QByteArray("@Variant(\\0\\0\\0\\x80?\\xc0\\0\\0)"), false);
         Row("list", deep(3), true);
         Row("a text", QByteArray("\"@@Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\""), true);
@@ -241,6 +242,8 @@ private slots:
                QVariant::fromValue(-3L),
                QVariant::fromValue('c'),
                QVariant::fromValue(quint16(65535)),
+               QUuid("{67C8770B-44F1-410A-AB9A-F9B5446F13EE}"_s),
+               QVariantMap{{"a"_s, QVariantList{QUuid(), QBitArray(5, true)}}},
                "Gate 1: @Variant(opened)"_s,
                "North @Variant(closed)"_s,
                QLocale(QLocale::German)};
