@@ -251,6 +251,8 @@ private slots:
         QTest::newRow("negative bytes") << whole << -9 << none << false << valid << QSize(400, 300) << -2;
         QTest::newRow("negative pixels")
             << whole << 900000 << QSize(-1, -1) << false << valid << QSize(400, 300) << 90;
+        QTest::newRow("negative height, no pixel to cut") // of a frame of negative width
+            << QSize(-9, 9) << 900000 << QSize(400, -1) << false << valid << none << 90;
         QTest::newRow("too wide") << whole << 900000 << QSize(399, 300) << false << pixels << none << -2;
         QTest::newRow("width alone") << whole << 900000 << QSize(400, 0) << false << pixels << none << -2;
         QTest::newRow("height alone") << whole << 900000 << QSize(0, 300) << false << pixels << none << -2;

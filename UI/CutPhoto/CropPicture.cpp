@@ -130,11 +130,11 @@ CheckedCut CheckCut(
     if (limits.iMaxCapacity <= 0)
         return {Verdict::Valid, image, std::nullopt};
 
-    const bool limited = limits.maximum.width() > 0 || limits.maximum.height() > 0;
-    if (limited && Exceeds(image.size(), limits.maximum)) {
+    const QSize maximum = limits.maximum.expandedTo(QSize(0, 0));
+    if (maximum != QSize(0, 0) && Exceeds(image.size(), maximum)) {
         if (!limits.bKeepAspectRatio)
             return {Verdict::TooManyPixels, QImage(), std::nullopt};
-        image = ChanageImageByAspectRatio(image, limits.maximum);
+        image = ChanageImageByAspectRatio(image, maximum);
     }
 
     const JpegFit fit = FitJpeg(image, limits.iMaxCapacity);
