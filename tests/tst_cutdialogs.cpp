@@ -368,10 +368,20 @@ private slots:
         QCOMPARE(followed(50, false, 60, 200), 50); // inside the view
     }
 
-    /// Catches a canvas that does not report its drag to the dialog, and swapped axes.
+    void DragScrollsTheCanvas_data()
+    {
+        TestSupport::Columns<Qt::LayoutDirection>("direction");
+        QTest::newRow("left to right") << Qt::LeftToRight;
+        QTest::newRow("mirrored") << Qt::RightToLeft;
+    }
+
+    /// Catches a canvas that does not report its drag to the dialog, swapped axes, and columns that a
+    /// mirrored bar counts from the other side: the frame's edge would be scrolled out of sight.
     void DragScrollsTheCanvas()
     {
+        QFETCH(Qt::LayoutDirection, direction);
         CCutPhotoDlg dialog;
+        dialog.setLayoutDirection(direction);
         dialog.SetPhotoResolution(800, 900); // too high and too wide for its view
         dialog.resize(700, 500);
         dialog.SetSrcPhoto(m_photo);
@@ -385,6 +395,7 @@ private slots:
             Drag(*dialog.GetCanvas(), QPoint(400, 400), QPoint(30, 450)); // to the left and down
             QCOMPARE(across->value(), 30);
             QCOMPARE(down->value(), 60);
+            QVERIFY(dialog.GetCanvas()->visibleRegion().contains(QPoint(30, 450)));
             across->setValue(60);
             Drag(*dialog.GetCanvas(), QPoint(400, 400), QPoint(450, 20)); // to the right and up
             QCOMPARE(across->value(), 60);

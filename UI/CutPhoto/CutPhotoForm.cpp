@@ -32,6 +32,7 @@ QScrollArea* ScrollAreaAround(QWidget* container, QWidget* parent)
     area->setVerticalScrollBar(new KvGUI::KvVerScrollBar(area));
     area->setFrameShape(QFrame::NoFrame);
     area->setAlignment(Qt::AlignCenter);
+    area->setLayoutDirection(Qt::LeftToRight); // the bar counts the photo's columns, from the left everywhere
     area->setWidget(container);
     return area;
 }
