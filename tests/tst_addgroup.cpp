@@ -92,7 +92,7 @@ private slots:
         }
     }
 
-    /// Catches the other button's signals, and a text in the way of the next name.
+    /// Catches the other button's signals, and a text or a focus in the way of the next name.
     void SaveAndNewStays()
     {
         Dialog form;
@@ -101,6 +101,7 @@ private slots:
         QCOMPARE(form.reports, QStringList(QStringLiteral("next below -1 A")));
         QVERIFY(form.dialog->isVisible());
         QCOMPARE(form.Edit()->text(), QString());
+        QVERIFY(form.Edit()->hasFocus());
         form.dialog->SetIsCloseAfterSave(false);
         form.Type(QStringLiteral("B"));
         form.Click(SaveAndNew);
@@ -267,7 +268,8 @@ private slots:
         }
     }
 
-    /// Catches a name that waits in the edit for the next opening, and a cancelled one that is reported.
+    /// Catches a name that waits in the edit for the next opening, a focus that waits on the button, and a
+    /// cancelled name that is reported.
     void CancelClears()
     {
         Dialog form;
@@ -279,6 +281,7 @@ private slots:
             }};
         for (const auto& cancel : ways) {
             form.dialog->show();
+            QCOMPARE(form.dialog->focusWidget(), form.Edit());
             form.Type(QStringLiteral("A"));
             cancel();
             QVERIFY(!form.dialog->isVisible());

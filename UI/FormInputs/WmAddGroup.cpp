@@ -45,7 +45,13 @@ void WmAddGroup::Init()
     SetMaxLen(UsualMaxLen);
     SetNameRegExp(QRegExp());
     resize(1, 1); // the layout decides
+}
+
+/// Each name is typed without the mouse, also after a button that was clicked before had the focus.
+void WmAddGroup::showEvent(QShowEvent* event)
+{
     m_ui->edtName->setFocus();
+    KvCustomDialog::showEvent(event);
 }
 
 void WmAddGroup::changeEvent(QEvent* event)
@@ -126,6 +132,7 @@ void WmAddGroup::OnLineEditTextChanged(const QString& strText)
 /// Returns false, and tells the operator why, when there is no name.
 bool WmAddGroup::TakeName(QString& strName)
 {
+    m_ui->edtName->setFocus(); // for the next name, and before the tool tip, which goes with the focus
     strName = m_ui->edtName->text().trimmed();
     if (!CommonFun::IsQStrEmpty(strName))
         return true;

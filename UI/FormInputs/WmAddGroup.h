@@ -86,6 +86,7 @@ signals:
     void SignalSaveAndNew(qint64 iParentID, const QString& strName); ///< "Save and New" was pressed
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
