@@ -404,6 +404,16 @@ private slots:
         });
     }
 
+    /// Catches a bubble in the client's large font, whose long hint is cut off at both sides of the canvas.
+    void HintFitsTheCanvas()
+    {
+        const auto dialog = ZoomDialog();
+        dialog->SetPhotoResolution(960, 640);
+        dialog->show();
+        const auto* bubble = dialog->findChild<CComTipWigetWithZoom*>();
+        QVERIFY(bubble->parentWidget()->rect().contains(bubble->geometry()));
+    }
+
     void BubbleFitsItsText_data()
     {
         QTest::addColumn<QString>("text");

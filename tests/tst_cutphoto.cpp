@@ -94,6 +94,20 @@ std::unique_ptr<CanvasType> MakeCanvas()
 
 QRgb PixelAt(QWidget& widget, const QPoint& pos) { return widget.grab().toImage().pixel(pos); }
 
+/// The largest difference of a colour between two pictures of one size.
+int LargestDifference(const QImage& one, const QImage& other)
+{
+    int largest = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x) {
+            const QColor a = one.pixelColor(x, y);
+            const QColor b = other.pixelColor(x, y);
+            for (const int difference : {a.red() - b.red(), a.green() - b.green(), a.blue() - b.blue()})
+                largest = qMax(largest, qAbs(difference));
+        }
+    return largest;
+}
+
 /// Runs when the next menu has opened, then closes it.
 void OnNextMenu(const std::function<void(QMenu*)>& act)
 {
@@ -309,9 +323,8 @@ private slots:
                 MoveHeld(*canvas, place);
                 QCoreApplication::processEvents();
                 const QImage shown = canvas->screen()->grabWindow(canvas->winId()).toImage();
-                QCOMPARE(
-                    shown.convertToFormat(QImage::Format_RGB32),
-                    canvas->grab().toImage().convertToFormat(QImage::Format_RGB32));
+                // A bubble's outline is rounded by the part of it that is painted, in some widths.
+                QVERIFY(LargestDifference(shown, canvas->grab().toImage()) <= 1);
             }
             QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(81, 11));
         }
