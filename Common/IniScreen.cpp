@@ -1,7 +1,9 @@
 #include <Common/IniScreen.h>
 
 #include <QDataStream>
+#include <QDateTime>
 #include <QString>
+#include <QTimeZone>
 #include <QVariant>
 #include <algorithm>
 #include <iterator>
@@ -61,6 +63,12 @@ QString Unescaped(const QString& text)
             plain += character;
     }
     return plain;
+}
+
+/// QSettings does not survive to write a time of a zone that this machine does not know.
+bool HasKnownZone(const QDateTime& time)
+{
+    return time.timeSpec() != Qt::TimeZone || time.timeZone().isValid();
 }
 
 /// Walks through a streamed object without making any.
@@ -178,8 +186,9 @@ bool Walker::SkipPlain(quint32 type)
     }
     void* value = QMetaType::create(static_cast<int>(type));
     QMetaType::load(m_stream, static_cast<int>(type), value);
+    const bool isSafe = type != QMetaType::QDateTime || HasKnownZone(*static_cast<QDateTime*>(value));
     QMetaType::destroy(static_cast<int>(type), value);
-    return true;
+    return isSafe;
 }
 
 /// Whether what stands at @p at goes on with a text: QSettings looks for marks at the beginning of a value
@@ -222,6 +231,8 @@ bool IsSafeIniValue(const QVariant& value)
     case QMetaType::QByteArray:
     case QMetaType::QKeySequence:
         return true;
+    case QMetaType::QDateTime:
+        return HasKnownZone(value.toDateTime());
     case QMetaType::QVariantList: {
         const QVariantList list = value.toList();
         return std::all_of(list.begin(), list.end(), IsSafeIniValue);

@@ -192,6 +192,10 @@ private slots:
         Row("points without end", QByteArray("@Variant(\\0\\0\\0GB231)"), false);
         Row("in a list", QByteArray("a, @Variant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)"), false);
         Row("in a moment", QByteArray("@DateTime(\\0\\0\\0\\x9\\0\\x7f\\xff\\xff\\xff)"), false);
+        Row("a moment nowhere",
+            QByteArray("@DateTime(\\0\\0\\0\\x10\\0" // in the time zone "abc"
+                       "\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\x3\\0\\0\\0\\x6\\0\\x61\\0\\x62\\0\\x63)"),
+            false);
         Row("written otherwise", QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\""),
             false);
     }
@@ -236,6 +240,7 @@ private slots:
             = {QRectF(1, 2, 3, 4),
                QUrl("http://a/b"_s),
                QDateTime::currentDateTime(),
+               QDateTime(QDate(2020, 1, 2), QTime(3, 4), QTimeZone("Asia/Tokyo")),
                QColor(Qt::red),
                QVariantMap{{"a"_s, QVariantList{1, QSize(2, 3), 1.5F}}},
                1.5F,
@@ -251,8 +256,12 @@ private slots:
             CIniFile(Path()).WriteValue(kSection, kKey, value);
             QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), value);
         }
-        CIniFile(Path()).WriteValue(kSection, kKey, QVariantList{QPolygon(QRect(0, 0, 2, 2))});
-        QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), QVariant(QLocale(QLocale::German)));
+        const QDateTime nowhere(QDate(2020, 1, 2), QTime(3, 4), QTimeZone("Nowhere"));
+        for (const QVariant& value : {QVariant(QPolygon(QRect(0, 0, 2, 2))), QVariant(nowhere)}) {
+            CIniFile(Path()).WriteValue(kSection, kKey, QVariantList{value});
+            QCOMPARE(
+                CIniFile(Path()).ReadValue(kSection, kKey, QVariant()), QVariant(QLocale(QLocale::German)));
+        }
     }
 
     /// Catches a writer that waits half a minute for one that was killed, before or after it had signed its
