@@ -208,6 +208,16 @@ private slots:
         QCOMPARE(Framed(*canvas), Whole);
     }
 
+    // Catches a canvas that hears of no move without a button, though its host has turned tracking on.
+    void ATrackingCanvasHearsOfEachMove()
+    {
+        const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
+        canvas->setMouseTracking(true);
+        QTest::mouseMove(canvas->windowHandle(), QPoint(60, 40));
+        QCoreApplication::processEvents();
+        QCOMPARE(Framed(*canvas), QRect(0, 0, 60, 40));
+    }
+
     // Catches a move that keeps the distance between corner and pointer, one that leaves the picture, and a
     // handle that reaches too far or not far enough.
     void TheCornerMovesToThePointer()

@@ -49,7 +49,9 @@ QRect Square(const QPoint& middle, int size)
 CCutPhotoWithZoomPrivate::CCutPhotoWithZoomPrivate(CCutPhotoWithZoom* canvas)
     : q(canvas)
     , mouseArea(new CropMouseArea(canvas))
-{ }
+{
+    mouseArea->setMouseTracking(true); // whether the canvas takes what is passed on, its own tracking decides
+}
 
 CCutPhotoWithZoomPrivate::~CCutPhotoWithZoomPrivate()
 {
