@@ -240,7 +240,7 @@ private slots:
             = {QRectF(1, 2, 3, 4),
                QUrl("http://a/b"_s),
                QDateTime::currentDateTime(),
-               QDateTime(QDate(2020, 1, 2), QTime(3, 4), QTimeZone("Asia/Tokyo")),
+               QDateTime(QDate(2020, 1, 2), QTime(3, 4), QTimeZone::utc()),
                QColor(Qt::red),
                QVariantMap{{"a"_s, QVariantList{1, QSize(2, 3), 1.5F}}},
                1.5F,
