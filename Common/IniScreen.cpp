@@ -216,7 +216,7 @@ bool AreSafe(const QString& text, QLatin1String mark, QDataStream::Version versi
 
 bool IsSafeIniText(const QByteArray& text)
 {
-    if (!text.contains('@') && !text.contains("\\x") && !text.contains("\\1"))
+    if (!text.contains('@') && !text.contains('\\'))
         return true; // no mark, however it is written
     const QString plain = Unescaped(QString::fromUtf8(text.constData(), text.size()));
     return AreSafe(plain, QLatin1String("@Variant("), QDataStream::Qt_4_0)

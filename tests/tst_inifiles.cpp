@@ -196,6 +196,7 @@ private slots:
             QByteArray("@DateTime(\\0\\0\\0\\x10\\0" // in the time zone "abc"
                        "\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\x3\\0\\0\\0\\x6\\0\\x61\\0\\x62\\0\\x63)"),
             false);
+        Row("in octal digits", QByteArray("\\0100Variant(\\0\\0\\0\\t\\0177\\0377\\0377\\0377)"), false);
         Row("written otherwise", QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\""),
             false);
     }
