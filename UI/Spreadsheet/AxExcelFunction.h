@@ -86,13 +86,15 @@ public:
     /// @{
 
     /// Closes the present workbook without saving it, and opens the file @p path. The file is looked at
-    /// first: no path, no file to read, or one that cannot be deleted leaves the present workbook open.
+    /// first: no path, no file to read, or one that cannot be deleted leaves the present workbook open. With
+    /// a path, SaveExcel() then goes by the new @p bCreate also for that workbook.
     /// @param bCreate true deletes the file when it exists and starts an empty workbook, to be stored there
     ///        by SaveExcel(); false reads the first sheet of the file into memory
     /// @return false with an error: no such file (or no path), no application, or it could not be opened
     bool OpenExcel(const QString& path, bool bCreate);
 
-    /// Closes the workbook without saving it, and quits the application. Both counts become 0.
+    /// Closes the workbook without saving it, and quits the application. Both counts become 0; of what was
+    /// read, the first row alone can still be asked for.
     void FreeExcel();
 
     /// Stores a workbook that was opened with bCreate, in the format of its path's suffix; another suffix
