@@ -17,7 +17,7 @@ constexpr quint32 FirstExtendedTypeInQt4 = 128; // QMetaType::VoidStar
 
 bool IsHexDigit(QChar character)
 {
-    return character.isDigit()
+    return (character >= QLatin1Char('0') && character <= QLatin1Char('9'))
         || (character.toLower() >= QLatin1Char('a') && character.toLower() <= QLatin1Char('f'));
 }
 bool IsOctalDigit(QChar character) { return character >= QLatin1Char('0') && character <= QLatin1Char('7'); }
@@ -34,8 +34,10 @@ QString Number(const QString& text, int& at, uint base, IsDigit isDigit)
     return QString(QChar(static_cast<ushort>(value)));
 }
 
-/// What the character behind a backslash stands for, which @p at is moved over; empty for a line end and
-/// others.
+bool IsLineEnd(QChar character) { return character == QLatin1Char('\n') || character == QLatin1Char('\r'); }
+
+/// What the character behind a backslash stands for, which @p at is moved over; empty for a line end, of one
+/// character or two, and others.
 QString Escaped(const QString& text, int& at)
 {
     static const QString names = QStringLiteral("abfnrtv\"?'\\");
@@ -44,23 +46,31 @@ QString Escaped(const QString& text, int& at)
     if (IsOctalDigit(character))
         return Number(text, at, 8, IsOctalDigit);
     ++at;
+    if (IsLineEnd(character) && at < text.size() && IsLineEnd(text.at(at)) && text.at(at) != character)
+        ++at;
     if (character == QLatin1Char('x'))
         return Number(text, at, 16, IsHexDigit);
     const int index = names.indexOf(character);
     return meanings.mid(index, index < 0 ? 0 : 1);
 }
 
-/// The text without its escapes and quotation marks.
+/// The text without its escapes and quotation marks, and without the byte order marks that QSettings skips:
+/// it decodes what is between escapes, quotation marks and separators piece by piece.
 QString Unescaped(const QString& text)
 {
+    constexpr QChar byteOrderMark(0xFEFF);
     QString plain;
     plain.reserve(text.size());
+    bool isPieceBegin = true;
     for (int at = 0; at < text.size();) {
         const QChar character = text.at(at++);
-        if (character == QLatin1Char('\\') && at < text.size())
+        const bool isEscape = character == QLatin1Char('\\') && at < text.size();
+        if (isEscape)
             plain += Escaped(text, at);
-        else if (character != QLatin1Char('"'))
+        else if (character != QLatin1Char('"') && !(isPieceBegin && character == byteOrderMark))
             plain += character;
+        isPieceBegin
+            = isEscape || QStringLiteral("\"=,").contains(character) || (isPieceBegin && character.isSpace());
     }
     return plain;
 }

@@ -197,6 +197,10 @@ private slots:
                        "\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\0\\x3\\0\\0\\0\\x6\\0\\x61\\0\\x62\\0\\x63)"),
             false);
         Row("in octal digits", QByteArray("\\0100Variant(\\0\\0\\0\\t\\0177\\0377\\0377\\0377)"), false);
+        Row("with foreign digits", QByteArray("\\x40Variant(\\0\\0\\0\\x43\xD9\xA0\\0)"), true);
+        Row("over two lines", QByteArray("@\\\r\nVariant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)"), false);
+        Row("with a byte order mark",
+            QByteArray("\\x40\xEF\xBB\xBFVariant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)"), false);
         Row("written otherwise", QByteArray("\\x40\\126ari\"ant(\\0\\0\\0\\x9\\x7f\\xff\\xff\\xff)\""),
             false);
     }
