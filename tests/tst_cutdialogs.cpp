@@ -16,6 +16,7 @@
 #include <UI/CutPhoto/CCutPhotoWithZoom.h>
 #include <UI/CutPhoto/CutPhotoForm.h>
 #include <functional>
+#include <limits>
 #include <memory>
 
 using namespace UICommonMdl;
@@ -376,7 +377,8 @@ private slots:
     }
 
     /// Catches a canvas that does not report its drag to the dialog, swapped axes, and columns that a
-    /// mirrored bar counts from the other side: the frame's edge would be scrolled out of sight.
+    /// mirrored bar counts from the other side: the frame's edge would be scrolled out of sight. And a wild
+    /// frame of a client, whose width no int can hold.
     void DragScrollsTheCanvas()
     {
         QFETCH(Qt::LayoutDirection, direction);
@@ -400,6 +402,11 @@ private slots:
             Drag(*dialog.GetCanvas(), QPoint(400, 400), QPoint(450, 20)); // to the right and up
             QCOMPARE(across->value(), 60);
             QCOMPARE(down->value(), 20);
+            constexpr int least = std::numeric_limits<int>::min();
+            constexpr int most = std::numeric_limits<int>::max();
+            dialog.OnUpdateCutRect(QRect(QPoint(least, least), QPoint(most, most)), true, false);
+            QCOMPARE(across->value(), across->maximum());
+            QCOMPARE(down->value(), 0);
             dialog.reject();
         });
     }

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <UI/CutPhoto/CropFrame.h>
 
 namespace UICommonMdl {
 
@@ -115,13 +116,14 @@ void FitCutPhotoHint(const KvGUI::KvCustomDialog* dialog, const CutPhotoForm& fo
 
 void FollowCutRect(const CutPhotoForm& form, const QRect& rcCut, bool bAddX, bool bAddY)
 {
+    const QRect cut = CropFrame::Bounded(rcCut);
     QScrollBar* horizontal = form.scrollArea->horizontalScrollBar();
     QScrollBar* vertical = form.scrollArea->verticalScrollBar();
     // Each bar keeps free what it is thick itself, across: the height and the width stand as they are.
     horizontal->setValue(FollowedScrollValue(
-        horizontal->value(), bAddX, rcCut.x(), rcCut.width(), form.container->width(), horizontal->height()));
+        horizontal->value(), bAddX, cut.x(), cut.width(), form.container->width(), horizontal->height()));
     vertical->setValue(FollowedScrollValue(
-        vertical->value(), bAddY, rcCut.y(), rcCut.height(), form.container->height(), vertical->width()));
+        vertical->value(), bAddY, cut.y(), cut.height(), form.container->height(), vertical->width()));
 }
 
 } // namespace UICommonMdl
