@@ -3,6 +3,7 @@
 #include <Platform/BasicUIComponents/KvLineStart.h>
 
 #include <QEvent>
+#include <QFontInfo>
 
 namespace OperatorClient {
 
@@ -10,6 +11,15 @@ StartLabel::StartLabel(QWidget* parent)
     : QLabel(parent)
 {
     Align();
+}
+
+void StartLabel::ShowAsHeading(double times)
+{
+    const int size = qRound(QFontInfo(font()).pixelSize() * times); // a font may have its size in points only
+    QFont heading = font();
+    heading.setPixelSize(size);
+    heading.setWeight(QFont::DemiBold);
+    setFont(heading);
 }
 
 void StartLabel::Align() { setAlignment(KvGUI::LineStart(layoutDirection())); }

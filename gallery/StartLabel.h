@@ -13,6 +13,13 @@ class StartLabel : public QLabel
 public:
     explicit StartLabel(QWidget* parent = nullptr);
 
+    /// Shows the text as a heading, in bold letters.
+    /// @param times how often as large as the letters of the desktop
+    void ShowAsHeading(double times);
+
+    static constexpr double PageTitle = 1.6;
+    static constexpr double PanelTitle = 1.25;
+
 protected:
     void changeEvent(QEvent* event) override;
 

@@ -20,6 +20,7 @@ namespace {
 constexpr int LookInterval = 20; // milliseconds
 constexpr int LongestWait = 10000; // milliseconds
 constexpr int LongestChain = 300; // presses of the Tab key
+constexpr int LargeLetters = 19; // pixels, 14 points on a usual display
 const QSize SmallDisplay(1024, 700);
 
 QByteArray ReadAll(const QString& path)
@@ -123,6 +124,29 @@ QString Describe(const QWidget* widget)
         .arg(
             QString::fromLatin1(widget->metaObject()->className()), widget->objectName(),
             QString::fromLatin1(widget->parentWidget()->metaObject()->className()));
+}
+
+/// The controls and the first row of tables on the page whose text has no room.
+QStringList CutTexts(const QWidget& page)
+{
+    QStringList cut;
+    for (QWidget* control : Controls(page)) {
+        const bool shows = qobject_cast<QAbstractButton*>(control) || qobject_cast<QComboBox*>(control)
+            || qobject_cast<QAbstractSpinBox*>(control);
+        if (shows && control->width() < control->minimumSizeHint().width())
+            cut << Describe(control)
+                    + QStringLiteral(" %1 of %2")
+                          .arg(control->width())
+                          .arg(control->minimumSizeHint().width());
+    }
+    for (const QTableView* table : page.findChildren<QTableView*>()) {
+        for (int column = 0; column < table->model()->columnCount(); ++column) {
+            const QString text = table->model()->index(0, column).data().toString();
+            if (table->columnWidth(column) <= table->fontMetrics().horizontalAdvance(text))
+                cut << text;
+        }
+    }
+    return cut;
 }
 
 } // namespace
@@ -518,6 +542,32 @@ private slots:
         QVERIFY2(
             least.width() <= SmallDisplay.width() && least.height() <= SmallDisplay.height(),
             qPrintable(hints));
+    }
+
+    void LargeLettersFit_data() { SmallDisplayHoldsEachPage_data(); }
+
+    // Catches widths in pixels that cut texts where the desktop's letters are large.
+    void LargeLettersFit()
+    {
+        const QFont usual = QApplication::font();
+        const auto restore = qScopeGuard([&] { QApplication::setFont(usual); });
+        QFont large = usual;
+        large.setPixelSize(LargeLetters);
+        QApplication::setFont(large);
+        ClientOptions options = Options();
+        QFETCH(QString, language);
+        options.language = language;
+        Client client(options);
+        client.Show();
+        QStringList cut;
+        for (const QString& page : PageNames()) {
+            QVERIFY(client.Window().ShowPage(page));
+            QCoreApplication::processEvents();
+            client.Window().resize(1, 1); // as small as it gets
+            QCoreApplication::processEvents();
+            cut << CutTexts(*client.Window().CurrentPage());
+        }
+        QCOMPARE(cut.join(QLatin1Char('\n')), QString());
     }
 
 private:

@@ -189,7 +189,7 @@ private slots:
         Client client;
         const auto* groups = client.page->findChild<QComboBox*>();
         const int before = groups->count();
-        client.Shortcut('o');
+        client.Shortcut('w');
         auto* dialog = client.page->findChild<WmAddGroup*>();
         QVERIFY(dialog->isVisible());
         auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("edtName"));

@@ -346,8 +346,8 @@ Do you want to replace it?</source>
         <translation>仓库</translation>
     </message>
     <message>
-        <source>New gr&amp;oup…</source>
-        <translation>新建分组(&amp;O)…</translation>
+        <source>Ne&amp;w…</source>
+        <translation>新建(&amp;W)…</translation>
     </message>
     <message>
         <source>Account</source>

@@ -12,6 +12,13 @@
 
 namespace UICommonMdl {
 
+namespace {
+
+constexpr int LeastWidth = 198; // pixels
+constexpr int PictureWidth = 24; // pixels; the style counts the text alone
+
+} // namespace
+
 WmDateCalendar::WmDateCalendar(QWidget* parent)
     : QPushButton(parent)
     , m_pCalendar(new KvGUI::KvCalendarEx(this, Qt::Popup | Qt::FramelessWindowHint))
@@ -94,6 +101,13 @@ void WmDateCalendar::Check(bool checked)
         setChecked(checked);
     }
     emit toggled(checked);
+}
+
+/// Not less than a range of dates takes, so that a form keeps its shape when there is none.
+QSize WmDateCalendar::sizeHint() const
+{
+    const QSize hint = QPushButton::sizeHint();
+    return {qMax(LeastWidth, hint.width() + PictureWidth), hint.height()};
 }
 
 void WmDateCalendar::mousePressEvent(QMouseEvent*) { ToggleCalendar(); }

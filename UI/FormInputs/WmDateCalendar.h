@@ -46,6 +46,7 @@ public:
     /// Where the calendar opens: its upper left corner, in global coordinates.
     QPoint GetCalendarPos();
 
+    QSize sizeHint() const override; ///< with room for the skin's picture behind the text
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:

@@ -32,9 +32,40 @@ using UICommonMdl::AxExcelFunction;
 
 namespace {
 
-const int ColumnWidths[] = {80, 160, 150, 180, 90, 120};
+const int ColumnWidths[] = {11, 21, 20, 24, 12, 16, 32}; // digits in the letters of the desktop
 constexpr int FilterWidth = 280;
 constexpr int ProgressWidth = 320;
+
+/// A table whose last column takes what is left, and never less than its own width: a header alone would
+/// leave it no room in a narrow table.
+class AlarmView : public QTableView
+{
+public:
+    using QTableView::QTableView;
+
+    void KeepLastColumn(int width)
+    {
+        m_iLeast = width;
+        connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { StretchLastColumn(); });
+        StretchLastColumn();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QTableView::resizeEvent(event);
+        StretchLastColumn();
+    }
+
+private:
+    void StretchLastColumn()
+    {
+        const int last = model()->columnCount() - 1;
+        setColumnWidth(last, qMax(m_iLeast, viewport()->width() - horizontalHeader()->sectionPosition(last)));
+    }
+
+    int m_iLeast = 0; // pixels
+};
 
 /// The hourglass while the spreadsheet application is waited for.
 class Waiting
@@ -71,7 +102,7 @@ AlarmPage::AlarmPage(const QVector<AlarmRecord>& alarms, QWidget* parent)
     m_pShown->setFilterKeyColumn(-1); // all of them
     m_pShown->setFilterCaseSensitivity(Qt::CaseInsensitive);
     auto* title = FollowLanguage(new StartLabel(this), "text", &AlarmPage::Title);
-    title->setObjectName(QStringLiteral("pageTitle"));
+    title->ShowAsHeading(StartLabel::PageTitle);
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(24, 20, 24, 12);
     page->setSpacing(12);
@@ -112,7 +143,7 @@ QHBoxLayout* AlarmPage::BuildTools()
 
 QTableView* AlarmPage::BuildTable()
 {
-    auto* table = new QTableView(this);
+    auto* table = new AlarmView(this);
     FollowLanguage(table, "accessibleName", [] { return tr("Alarms"); });
     table->setModel(m_pShown);
     table->setHorizontalScrollBar(new KvGUI::KvHorScrollBar(table));
@@ -124,11 +155,12 @@ QTableView* AlarmPage::BuildTable()
     table->setTabKeyNavigation(false); // Tab leaves the table
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(28);
-    table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setHighlightSections(false);
     int column = 0;
-    for (const int width : ColumnWidths)
-        table->setColumnWidth(column++, width);
+    const int digit = table->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    for (const int digits : ColumnWidths)
+        table->setColumnWidth(column++, digits * digit);
+    table->KeepLastColumn(table->columnWidth(column - 1));
     return table;
 }
 

@@ -42,16 +42,22 @@ CTipLabel::DisplayPosition TipSide(const QWidget& field)
     return field.isRightToLeft() ? CTipLabel::Right : CTipLabel::Left;
 }
 
-constexpr int FormWidth = 400; // pixels, where the window has them
+constexpr int FormWidth = 400; // pixels, where the window has them, and more in large letters:
+constexpr int FormDigits = 48;
 /// Pixels beside each column for the error bubbles of its fields, where the window has them.
 constexpr int BubbleRoom = 220;
-constexpr int LabelWidth = 100;
+constexpr int LabelWidth = 100; // pixels, so that the columns of groups below each other agree
 constexpr int LongestPeriod = 31; // days
 constexpr qint64 RootGroup = 1;
 
+int WidestForm(const QWidget& form)
+{
+    return qMax(FormWidth, FormDigits * form.fontMetrics().horizontalAdvance(QLatin1Char('0')));
+}
+
 QFormLayout* FormIn(QGroupBox* group)
 {
-    group->setMaximumWidth(FormWidth);
+    group->setMaximumWidth(WidestForm(*group));
     auto* form = new QFormLayout(group);
     form->setVerticalSpacing(10);
     form->setHorizontalSpacing(10);
@@ -67,14 +73,15 @@ QString WithoutShortcut(QString label)
 }
 
 /// A row whose field is also called by the label's text, without the mark of its shortcut.
-void AddRow(
+/// @return the label
+QLabel* AddRow(
     QFormLayout* form, const KvGUI::KvTranslatedText::Source& label, QWidget* field, QWidget* row = nullptr)
 {
     FollowLanguage(field, "accessibleName", [label] { return WithoutShortcut(label()); });
     auto* text = FollowLanguage(new StartLabel, "text", label);
-    text->setMinimumWidth(LabelWidth);
     text->setBuddy(field);
     form->addRow(text, row ? row : field);
+    return text;
 }
 
 QString StrengthName(int level)
@@ -97,7 +104,7 @@ DevicePage::DevicePage(QWidget* parent)
     : Page(parent)
 {
     auto* title = FollowLanguage(new StartLabel(this), "text", [] { return tr("Device and account"); });
-    title->setObjectName(QStringLiteral("pageTitle"));
+    title->ShowAsHeading(StartLabel::PageTitle);
     auto* hint = FollowLanguage(
         new StartLabel(this), "text", [] { return tr("Fields with an asterisk must be filled in."); });
     hint->setObjectName(QStringLiteral("hint"));
@@ -119,7 +126,7 @@ DevicePage::DevicePage(QWidget* parent)
     columns->addSpacerItem(new QSpacerItem(BubbleRoom, 0, QSizePolicy::Maximum));
     columns->addStretch(1);
     auto* page = new QVBoxLayout(this);
-    page->setContentsMargins(20, 20, 20, 20);
+    page->setContentsMargins(24, 20, 24, 20);
     page->setSpacing(2);
     page->addWidget(title);
     page->addWidget(hint);
@@ -133,13 +140,16 @@ QString DevicePage::Title() { return tr("Device form"); }
 QWidget* DevicePage::BuildDevice()
 {
     auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Device"); });
+    // The least width that the layout tells counts each label alone, not the column of them.
+    group->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     QFormLayout* form = FormIn(group);
     m_pName = new UICommonMdl::CRequiredEdit(group);
     m_pAddress = new UICommonMdl::QIpAddrEdit(group);
     m_pAddress->setRequired(true);
     m_pSerial = new UICommonMdl::KvLineEditEx(group);
-    AddRow(
+    QLabel* name = AddRow(
         form, [] { return tr("&Name"); }, m_pName);
+    name->setMinimumWidth(LabelWidth);
     AddRow(
         form, [] { return tr("&IP address"); }, m_pAddress);
     AddRow(
@@ -162,7 +172,11 @@ QWidget* DevicePage::GroupRow(QWidget* parent)
     m_pGroups = new QComboBox(row);
     m_pGroups->addItems({QString(), QString(), QString()});
     NameGroups();
-    auto* add = FollowLanguage(new KvGUI::KvPushButton(row), "text", [] { return tr("New gr&oup\u2026"); });
+    auto* add = FollowLanguage(new KvGUI::KvPushButton(row), "text", [] { return tr("Ne&w\u2026"); });
+    FollowLanguage(add, "accessibleName", [] { return tr("New group"); });
+    // as high as each other
+    m_pGroups->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    add->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
     layout->addWidget(m_pGroups, 1);
     layout->addWidget(add);
     connect(add, &QPushButton::clicked, this, &DevicePage::OpenNewGroup);
@@ -202,6 +216,7 @@ QWidget* DevicePage::StrengthRow(QWidget* parent)
 QWidget* DevicePage::BuildRecording()
 {
     auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Recording"); });
+    group->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     QFormLayout* form = FormIn(group);
     m_pCertificate = new UICommonMdl::KvLineEditWithDirButton(group);
     m_pFolder = new UICommonMdl::KvLineEditWithDirButton(group);
@@ -212,8 +227,9 @@ QWidget* DevicePage::BuildRecording()
     m_pCalendar->installEventFilter(this);
     auto* times = FollowLanguage(
         new KvGUI::KvCheckBox(group), "text", [] { return tr("Choose &times of day as well"); });
-    AddRow(
+    QLabel* certificate = AddRow(
         form, [] { return tr("Certi&ficate"); }, m_pCertificate);
+    certificate->setMinimumWidth(LabelWidth);
     AddRow(
         form, [] { return tr("Fol&der"); }, m_pFolder);
     AddRow(
@@ -270,7 +286,7 @@ void DevicePage::NameFileDialogs()
 QWidget* DevicePage::BuildButtons()
 {
     auto* row = new QWidget(this);
-    row->setMaximumWidth(FormWidth);
+    row->setMaximumWidth(WidestForm(*row));
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);

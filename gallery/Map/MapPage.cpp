@@ -113,6 +113,7 @@ QWidget* MapPage::NewFaultPanel()
     auto* panel = new QWidget;
     m_pFaultTitle = new StartLabel(panel);
     m_pFaultTitle->setObjectName(QStringLiteral("pageTitle"));
+    m_pFaultTitle->ShowAsHeading(StartLabel::PageTitle);
     m_pFaultHint = new StartLabel(panel);
     m_pFaultHint->setObjectName(QStringLiteral("hint"));
     m_pLoadAgain = FollowLanguage(new QPushButton(panel), "text", [] { return tr("Load the map again"); });
@@ -122,7 +123,7 @@ QWidget* MapPage::NewFaultPanel()
     all->setContentsMargins(32, 24, 32, 24);
     all->setSpacing(12);
     all->addStretch(2);
-    for (QLabel* label : {m_pFaultTitle, m_pFaultHint}) {
+    for (StartLabel* label : {m_pFaultTitle, m_pFaultHint}) {
         label->setWordWrap(true);
         all->addWidget(label);
     }

@@ -6,7 +6,6 @@
 #include <QStringList>
 #include <QTimer>
 
-class QLabel;
 class QPushButton;
 class QStackedWidget;
 
@@ -15,6 +14,8 @@ class CActiveXLinkWebCtrl;
 }
 
 namespace OperatorClient {
+
+class StartLabel;
 
 /// A plan of the site beside a wall: a camera that is chosen on the plan gets a window on the wall, and the
 /// plan shows which cameras are on the wall and selected there. The plan is a web page.
@@ -61,8 +62,8 @@ private:
     const QString m_strMapFile;
     UICommonMdl::CActiveXLinkWebCtrl* m_pMap;
     QStackedWidget* m_pMapOrFault;
-    QLabel* m_pFaultTitle;
-    QLabel* m_pFaultHint;
+    StartLabel* m_pFaultTitle;
+    StartLabel* m_pFaultHint;
     QPushButton* m_pLoadAgain;
     CameraWall* m_pCameras;
     QTimer m_wallChanged; ///< one message for all changes of a moment

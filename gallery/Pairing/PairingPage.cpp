@@ -36,15 +36,18 @@ PairingPage::PairingPage(QWidget* parent)
     all->setContentsMargins(24, 20, 24, 20);
     all->setSpacing(12);
     auto* title = FollowLanguage(new StartLabel(this), "text", [] { return tr("Pair a phone"); });
-    title->setObjectName(QStringLiteral("pageTitle"));
-    all->addWidget(title);
+    title->ShowAsHeading(StartLabel::PageTitle);
     auto* hint = FollowLanguage(new StartLabel(this), "text", [] {
         return tr("The phone scans a token that is good for a short time. While the code is shown, a new "
                   "one is issued at the end of each period.");
     });
     hint->setObjectName(QStringLiteral("hint"));
     hint->setWordWrap(true);
-    all->addWidget(hint);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    texts->addWidget(title);
+    texts->addWidget(hint);
+    all->addLayout(texts);
     AddInputs();
     auto* issued = FollowLanguage(new StartLabel(this), "text", [] { return tr("Issued tokens"); });
     issued->setObjectName(QStringLiteral("hint"));
@@ -62,14 +65,15 @@ void PairingPage::AddInputs()
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(16);
     form->setVerticalSpacing(10);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     FollowLanguage(m_pPhone, "text", [] { return tr("Guard's phone"); });
-    m_pPhone->setFixedWidth(InputWidth);
+    m_pPhone->setMinimumWidth(InputWidth);
     AddRowWithText(
         form, [] { return tr("&Phone"); }, m_pPhone);
     m_pPeriod->addItem(QString(), UsualPeriod);
     m_pPeriod->addItem(QString(), DemonstrationPeriod);
     PairingPage::OnLanguageChanged();
-    m_pPeriod->setFixedWidth(InputWidth);
+    m_pPeriod->setMinimumWidth(InputWidth);
     AddRowWithText(
         form, [] { return tr("&Renewal"); }, m_pPeriod);
     auto* show = FollowLanguage(new QPushButton(this), "text", [] { return tr("&Show the code"); });
@@ -77,7 +81,10 @@ void PairingPage::AddInputs()
     form->addRow(QString(), show);
     // The field would stretch the button over its width.
     form->setAlignment(show, Qt::AlignLeft);
-    static_cast<QVBoxLayout*>(layout())->addLayout(form);
+    auto* line = new QHBoxLayout; // the inputs are as wide as the widest needs
+    line->addLayout(form);
+    line->addStretch(1);
+    static_cast<QVBoxLayout*>(layout())->addLayout(line);
     connect(show, &QPushButton::clicked, this, &PairingPage::ShowCode);
     connect(m_pPhone, &QLineEdit::returnPressed, this, &PairingPage::ShowCode);
 }

@@ -2,6 +2,7 @@
 
 #include <Platform/BasicUIComponents/KvCheckBox.h>
 #include <Platform/BasicUIComponents/KvPushButton.h>
+#include <gallery/ElidedLabel.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/LastFolders.h>
 #include <gallery/OperatorHand.h>
@@ -88,6 +89,7 @@ PhotoPage::PhotoPage(const QString& file, QWidget* parent)
     page->addWidget(BuildPhotoSide(), 1);
     auto* side = new QVBoxLayout;
     side->setSpacing(12);
+    side->addStrut(SideWidth); // the least; large letters take more
     side->addWidget(BuildLimits());
     side->addWidget(BuildCommands());
     side->addWidget(BuildCut(), 1);
@@ -106,8 +108,8 @@ QWidget* PhotoPage::BuildPhotoSide()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
     auto* title = FollowLanguage(new StartLabel(side), "text", &PhotoPage::Title);
-    title->setObjectName(QStringLiteral("pageTitle"));
-    m_pPhotoText = new StartLabel(side);
+    title->ShowAsHeading(StartLabel::PageTitle);
+    m_pPhotoText = new ElidedLabel(side);
     m_pPhotoText->setObjectName(QStringLiteral("hint"));
     m_pPhotoText->setTextFormat(Qt::PlainText); // a file may have any name, of any length
     m_pPhotoText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -155,8 +157,9 @@ QSpinBox* PhotoPage::AddLimit(QFormLayout* form, QString (*label)(), int most, i
 QWidget* PhotoPage::BuildLimits()
 {
     auto* group = FollowLanguage(new QGroupBox(this), "title", [] { return tr("Limits of the cut"); });
-    group->setFixedWidth(SideWidth);
-    auto* form = new QFormLayout(group);
+    auto* column = new QVBoxLayout(group);
+    column->setSpacing(8);
+    auto* form = new QFormLayout;
     form->setVerticalSpacing(8);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     const auto pixels = [] { return tr(" pixels"); };
@@ -170,7 +173,8 @@ QWidget* PhotoPage::BuildLimits()
         new KvGUI::KvCheckBox(group), "text", [] { return tr("Hal&ve a cut with more pixels"); });
     m_pHalve->setChecked(true);
     FollowLanguage(m_pHalve, "toolTip", [] { return tr("Otherwise a cut with more pixels is refused"); });
-    form->addRow(m_pHalve);
+    column->addLayout(form);
+    column->addWidget(m_pHalve);
     return group;
 }
 

@@ -83,7 +83,7 @@ RecordPage::RecordPage(const QString& folder, QWidget* parent)
     , m_file(folder)
 {
     auto* title = FollowLanguage(new StartLabel(this), "text", &RecordPage::Title);
-    title->setObjectName(QStringLiteral("pageTitle"));
+    title->ShowAsHeading(StartLabel::PageTitle);
     auto* hint = FollowLanguage(new StartLabel(this), "text", [] {
         return tr("Point at the picture for its buttons, or use the menu below it. "
                   "Pictures are cropped and kept below 100 kB.");

@@ -29,6 +29,7 @@ WindowDetails::WindowDetails(QWidget* parent)
     , m_pFacts(new QWidget(this))
 {
     m_pHeading->setObjectName(QStringLiteral("detailsHeading"));
+    m_pHeading->ShowAsHeading(StartLabel::PanelTitle);
     m_pHeading->setWordWrap(true);
     m_pHeading->setTextFormat(Qt::PlainText);
     auto* form = new QFormLayout(m_pFacts);

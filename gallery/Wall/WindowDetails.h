@@ -13,6 +13,8 @@ class KvVolumeButton;
 
 namespace OperatorClient {
 
+class StartLabel;
+
 /// What is told of a window of the wall.
 struct WindowFacts
 {
@@ -44,7 +46,7 @@ private:
     QLabel* AddRow(QString (*name)());
     void AddSoundRow();
 
-    QLabel* m_pHeading;
+    StartLabel* m_pHeading;
     QWidget* m_pFacts;
     QLabel* m_pScreen = nullptr;
     QLabel* m_pWindow = nullptr;
