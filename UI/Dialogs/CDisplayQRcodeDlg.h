@@ -40,8 +40,9 @@ public:
     ~CDisplayQRcodeDlg() override;
 
     /// Shows @p value as a QR code and begins its period anew.
-    /// @param value encoded as UTF-8, at most 1,273 bytes. A longer one leaves the code that is shown, and
-    ///        its period begins anew as well. With an empty one the code stays and is not renewed any more.
+    /// @param value encoded as UTF-8 up to its first null character. 1,273 bytes always fit; texts with many
+    ///        digits or capitals may be longer. One that is too long leaves the code that is shown, and its
+    ///        period begins anew as well. With an empty one the code stays and is not renewed any more.
     /// @param initValue handed back with each SignalRefreshTimeout(); taken over in every case
     void SetQRCodeValue(const QString& value, const QString& initValue);
 
