@@ -274,7 +274,8 @@ private slots:
         QVERIFY(texts.contains(QStringLiteral("取消")));
     }
 
-    // Catches two texts of one property that overwrite one another at each change of the language.
+    // Catches two texts of one property that overwrite one another at each change of the language, and an
+    // exception where there is no source.
     void NewestTextOfAPropertyCounts()
     {
         QLabel label;
@@ -288,6 +289,9 @@ private slots:
         label.setText(OwnText);
         Switch(Chinese);
         text->Refresh();
+        QCOMPARE(label.text(), OwnText);
+        new KvTranslatedText(&label, "text", nullptr);
+        Switch(English);
         QCOMPARE(label.text(), OwnText);
     }
 

@@ -24,8 +24,9 @@ QString KvTranslatedText::Present() const { return parent()->property(m_property
 
 void KvTranslatedText::Refresh()
 {
-    if (Present() != m_shown)
-        return; // someone else's now
+    const bool someoneElses = Present() != m_shown;
+    if (someoneElses || !m_source)
+        return;
     parent()->setProperty(m_property.constData(), m_source());
     m_shown = Present(); // what the property made of it
 }

@@ -29,7 +29,7 @@ public:
     /// @param target must not be null
     /// @param property a property of @p target that holds a text; any other name changes nothing that can
     ///        be seen
-    /// @param source is called now and after each change of the language
+    /// @param source is called now and after each change of the language; an empty one leaves the text
     KvTranslatedText(QObject* target, const char* property, Source source);
 
 public slots:
