@@ -25,8 +25,9 @@ class CFloatDialog;
 ///     panel->SetFixWidth(280);
 ///     panel->AddCentralWidget(details);
 ///     panel->show();
-///     connect(panel, &UICommonMdl::CFloatDialog::SignalBtnCloseClicked, panel, [=] {
-///     panel->AnimaShow(false); }); panel->AnimaShow(true);
+///     connect(panel, &UICommonMdl::CFloatDialog::SignalBtnCloseClicked, panel,
+///             [panel] { panel->AnimaShow(false); });
+///     panel->AnimaShow(true);
 /// @endcode
 ///
 /// The dialog itself is a frameless window that stays where the panel is when it is shown. It is only as
