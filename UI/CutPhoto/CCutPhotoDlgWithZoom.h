@@ -61,7 +61,8 @@ public:
     /// @name Limits of the cut, as the canvas's operations of these names take them
     /// @{
     void SetPicMaxSize(int iMaxWidth, int iMaxHeight); ///< in pixels; 0 x 0, as at first, for no limit
-    void SetImageMaxCapacity(int iMaxCapacity); ///< in bytes as a JPEG; 0, as at first, for no limit
+    /// In bytes as a JPEG; 0, as at first, for no limit: then pixels are not limited either.
+    void SetImageMaxCapacity(int iMaxCapacity);
     void SetKeepAspectRatio(bool bKeep); ///< too many pixels are halved (true) or refused (as at first)
     /// @}
 

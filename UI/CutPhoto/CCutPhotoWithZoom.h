@@ -87,8 +87,8 @@ public:
     /// check is made then). A negative limit counts as 0.
     void SetImageMaxCapacity(int iMaxCapacity);
 
-    /// Resolution in pixels that the cut may have; 0 x 0, the initial value, does not limit it. With only
-    /// one of them 0, every cut is too large. A negative limit counts as 0.
+    /// Resolution in pixels that the cut may have, where its bytes are limited too; 0 x 0, the initial value,
+    /// does not limit it. With only one of them 0, every cut is too large. A negative limit counts as 0.
     void SetPicMaxSize(int iMaxWidth, int iMaxHeight);
 
     /// Whether a cut with too many pixels is halved until it fits (true) or refused (false, at first).
