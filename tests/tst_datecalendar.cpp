@@ -761,6 +761,20 @@ private slots:
         QVERIFY(form.Calendar()->isVisible());
     }
 
+    /// Catches a button that takes another object, which a client lets it watch, for its calendar.
+    void WatchesOthersAsWell()
+    {
+        ButtonForm form;
+        form.other->installEventFilter(form.button);
+        form.button->setChecked(true);
+        form.other->hide();
+        QVERIFY(form.button->isChecked());
+        form.other->setGeometry(form.button->geometry());
+        form.other->show();
+        form.Press(OnButton);
+        QVERIFY(!form.Calendar()->isVisible());
+    }
+
     /// Catches a button that only the mouse can open, and a state that does not follow.
     void ButtonByKeyboard()
     {

@@ -124,9 +124,10 @@ void WmDateCalendar::keyPressEvent(QKeyEvent* event)
         QPushButton::keyPressEvent(event);
 }
 
-/// Of the calendar, the only one that is watched.
-bool WmDateCalendar::eventFilter(QObject* /*watched*/, QEvent* event)
+bool WmDateCalendar::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched != m_pCalendar) // a client may let the button watch others
+        return QPushButton::eventFilter(watched, event);
     if (event->type() == QEvent::Hide)
         UncheckAtHide();
     // The second press of a double-click comes as the latter alone when the first one opened the calendar.
