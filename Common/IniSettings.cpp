@@ -2,6 +2,7 @@
 
 #include <Common/CommonFun.h>
 #include <Common/DiskRoom.h>
+#include <Common/IniCodec.h>
 #include <Common/IniScreen.h>
 #include <Common/OrphanedLock.h>
 
@@ -71,7 +72,7 @@ std::unique_ptr<QSettings> OpenIniFile(const QString& path)
     if (!SetAsideDamaged(path))
         return nullptr;
     auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    settings->setIniCodec("UTF-8");
+    settings->setIniCodec(IniCodec());
     return settings;
 }
 

@@ -96,11 +96,12 @@ private slots:
         QCOMPARE(CIniFile(Path()).ReadValue(kSection, kKey, 0).toByteArray(), QByteArray("\0\x01\xFF", 3));
     }
 
-    /// Catches escapes in place of UTF-8, a file of another hand that is read as Latin-1, a write that waits
-    /// for the object's end, and a written text that reads back as a list.
+    /// Catches escapes in place of UTF-8, characters beyond U+FFFF that do not reach the file, a file of
+    /// another hand that is read as Latin-1, a write that waits for the object's end, and a written text that
+    /// reads back as a list.
     void FileIsUtf8()
     {
-        const QString text = "\u4E2D\u6587,\u00E9"_s;
+        const QString text = "\u4E2D\U00020BB7\u6587,\U0001F4F7\U0001F6A8a\u00E9"_s;
         CIniFile file(Path());
         file.WriteValue(kSection, kKey, text);
         QVERIFY(Read(Path()).contains(text.toUtf8()));
@@ -111,6 +112,10 @@ private slots:
         Write(m_folder->filePath("other.ini"_s), "[Wall]\nLayout=\xE4\xB8\xAD\n");
         QIniFile other(m_folder->filePath("other.ini"_s));
         QCOMPARE(other.ReadValue(kSection, kKey).toString(), "\u4E2D"_s);
+        Write(m_folder->filePath("copy.ini"_s), Read(Path())); // of the written file nothing is remembered
+        QCOMPARE(QIniFile(m_folder->filePath("copy.ini"_s)).ReadValue(kSection, kKey), QVariant(text));
+        file.WriteValue(kSection, "Half"_s, QString(text.at(1)) + "a\u6587"_s);
+        QVERIFY(Read(Path()).contains("Half=a\xE6\x96\x87"));
     }
 
     /// Catches a key that is built in two steps, so that the key goes into the section's place mark.
