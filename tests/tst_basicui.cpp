@@ -300,10 +300,17 @@ private slots:
             dialog.SetButtonVisible(kOk, true);
             QTest::keyClick(input, Qt::Key_Return);
         });
+        row("a button that the client has deleted", "ok ", [](KvCustomDialog& dialog, QWidget* input) {
+            delete dialog.GetButton(kCancel);
+            QVERIFY(dialog.GetButton(kCancel) == nullptr);
+            dialog.SetButtonText(kCancel, QStringLiteral("No"));
+            QTest::keyClick(input, Qt::Key_Return);
+        });
     }
 
-    /// Catches swapped signals, buttons that close the dialog before the client has looked at its input, and
-    /// an Enter key that presses nothing, the first button of the row, or one that cannot be seen or pressed.
+    /// Catches swapped signals, buttons that close the dialog before the client has looked at its input, an
+    /// Enter key that presses nothing, the first button of the row, or one that cannot be seen or pressed,
+    /// and the use of a button that is gone.
     void ButtonsReport()
     {
         QFETCH(DialogAct, act);

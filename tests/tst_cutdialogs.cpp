@@ -421,6 +421,18 @@ private slots:
         QVERIFY(bubble->parentWidget()->rect().contains(bubble->geometry()));
     }
 
+    /// Catches a hint that is laid out beside a button that the client has deleted.
+    void HintTakesTheRoomOfADeletedButton()
+    {
+        CCutPhotoDlg dialog;
+        dialog.SetPhotoResolution(960, 640);
+        const auto* hint = dialog.findChild<QLabel*>(QStringLiteral("hint"));
+        const int before = hint->width();
+        delete dialog.GetButton(QDialogButtonBox::Cancel);
+        dialog.SetPhotoResolution(960, 640);
+        QVERIFY(hint->width() > before);
+    }
+
     void BubbleFitsItsText_data()
     {
         QTest::addColumn<QString>("text");

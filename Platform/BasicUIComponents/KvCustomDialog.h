@@ -3,6 +3,7 @@
 #include <Platform/BasicUIComponents/KvDialog.h>
 #include <QDialogButtonBox>
 #include <QMap>
+#include <QPointer>
 
 class QHBoxLayout;
 
@@ -37,7 +38,8 @@ public:
         QWidget* parent = nullptr, int iButtons = QDialogButtonBox::Ok | QDialogButtonBox::Cancel,
         int iDialogFlags = CloseButton);
 
-    /// The button of the value @p iButton; null when the dialog has none of that value.
+    /// The button of the value @p iButton; null when the dialog has none of that value, or the client has
+    /// deleted it.
     KvPushButton* GetButton(int iButton) const;
 
     /// Shows or hides the button. The Enter key does not press a hidden one. A value that the dialog has
@@ -59,7 +61,7 @@ signals:
 private:
     void AddButton(QHBoxLayout* row, int iButton, void (KvCustomDialog::*clicked)());
 
-    QMap<int, KvPushButton*> m_buttons; ///< by their value
+    QMap<int, QPointer<KvPushButton>> m_buttons; ///< by their value
 };
 
 } // namespace KvGUI

@@ -106,8 +106,10 @@ void SetCutPhotoResolution(KvGUI::KvCustomDialog* dialog, const CutPhotoForm& fo
 void FitCutPhotoHint(const KvGUI::KvCustomDialog* dialog, const CutPhotoForm& form)
 {
     int buttons = kGapBeforeButtons;
-    for (const int value : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel})
-        buttons += dialog->GetButton(value)->sizeHint().width() + kGapBeforeButtons;
+    for (const int value : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
+        if (const KvGUI::KvPushButton* button = dialog->GetButton(value))
+            buttons += button->sizeHint().width() + kGapBeforeButtons;
+    }
     const int room = dialog->width() - buttons - kHintLeft;
     form.sign->setVisible(room >= kHintLeastWidth);
     form.hint->setVisible(room >= kHintLeastWidth);
