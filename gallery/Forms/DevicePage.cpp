@@ -132,6 +132,10 @@ DevicePage::DevicePage(QWidget* parent)
     page->addWidget(hint);
     page->addSpacing(16);
     page->addLayout(columns, 1);
+    // Enter saves, or leads to what is missing; in the address it goes on to the next field.
+    for (QLineEdit* edit : std::initializer_list<QLineEdit*>{
+             m_pName, m_pSerial, m_pUser, m_pPassword, m_pCertificate, m_pFolder})
+        connect(edit, &QLineEdit::returnPressed, this, &DevicePage::Save);
     Clear();
 }
 
@@ -193,24 +197,13 @@ QWidget* DevicePage::BuildAccount()
         form, [] { return tr("Us&er"); }, m_pUser);
     AddRow(
         form, [] { return tr("&Password"); }, m_pPassword);
-    form->addRow(new QLabel, StrengthRow(group));
+    m_pStrength = new UICommonMdl::CPasswordStrength(group);
+    m_pStrength->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    m_pStrengthText = new StartLabel(group);
+    m_pStrengthText->setObjectName(QStringLiteral("hint"));
+    form->addRow(m_pStrengthText, m_pStrength); // nothing moves when the text comes
     connect(m_pPassword, &QLineEdit::textChanged, this, &DevicePage::ShowStrength);
     return group;
-}
-
-QWidget* DevicePage::StrengthRow(QWidget* parent)
-{
-    auto* row = new QWidget(parent);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(12);
-    m_pStrength = new UICommonMdl::CPasswordStrength(row);
-    m_pStrength->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    m_pStrengthText = new StartLabel(row);
-    m_pStrengthText->setObjectName(QStringLiteral("hint"));
-    layout->addWidget(m_pStrength);
-    layout->addWidget(m_pStrengthText, 1);
-    return row;
 }
 
 QWidget* DevicePage::BuildRecording()

@@ -50,7 +50,6 @@ private:
     QWidget* BuildAccount();
     QWidget* BuildRecording();
     QWidget* BuildButtons();
-    QWidget* StrengthRow(QWidget* parent);
     QWidget* GroupRow(QWidget* parent);
     void PlaceCalendar() const;
     void NameGroups();

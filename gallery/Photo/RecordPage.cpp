@@ -180,6 +180,8 @@ QWidget* RecordPage::BuildForm()
     column->addLayout(form);
     column->addLayout(buttons);
     connect(save, &QPushButton::clicked, this, &RecordPage::SaveRecord);
+    for (QLineEdit* edit : std::initializer_list<QLineEdit*>{m_pName, m_pCard, m_pDepartment})
+        connect(edit, &QLineEdit::returnPressed, this, &RecordPage::SaveRecord);
     connect(reset, &QPushButton::clicked, this, &RecordPage::ResetRecord);
     return group;
 }
