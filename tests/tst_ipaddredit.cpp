@@ -268,6 +268,16 @@ private slots:
         QCOMPARE(form.FocusedOctet(), 1);
     }
 
+    /// Catches a number that passes for a small one because it is too long for an int.
+    void OctetsEndAt255()
+    {
+        Form form;
+        for (const char* number : {"256", "4294967551", "99999999999999999999"}) {
+            form.Octet(0)->setText(QString::fromLatin1(number));
+            QCOMPARE(form.Octet(0)->text(), QStringLiteral("255"));
+        }
+    }
+
     /// Catches signals with the octet's text in place of the address, and edits told of changes by the
     /// program.
     void Signals()

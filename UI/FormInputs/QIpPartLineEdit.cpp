@@ -111,7 +111,7 @@ void QIpPartLineEdit::text_edited(const QString& text)
         return;
     if (IsOctetComplete(text) && m_pNextEdit)
         GoTo(m_pNextEdit);
-    if (text.toInt() > LargestOctet)
+    if (text.toDouble() > LargestOctet) // a number of any length
         setText(QString::number(LargestOctet));
 }
 
