@@ -12,6 +12,7 @@
 #include <QtTest>
 #include <QtWidgets>
 #include <functional>
+#include <limits>
 
 using namespace UICommonMdl;
 using TestSupport::LocaleCodec;
@@ -219,9 +220,9 @@ private slots:
         form.dialog->SetLenCheckType(static_cast<WmAddGroup::NameLenCheckType_e>(2));
         form.dialog->SetMaxLen(16);
         QCOMPARE(form.Edit()->maxLength(), 7);
-        for (const int type : {0, 1}) {
+        for (const int type : {2, 0, 1}) {
             form.dialog->SetLenCheckType(static_cast<WmAddGroup::NameLenCheckType_e>(type));
-            for (const int length : {-5, 0}) {
+            for (const int length : {-5, 0, std::numeric_limits<int>::min()}) {
                 form.dialog->SetMaxLen(length);
                 form.Type(QStringLiteral("a"));
                 QCOMPARE(form.Edit()->text(), QString());

@@ -25,7 +25,7 @@ QString FittingGroupName(const QString& name, int maxLength, bool checkCharacter
     const int count = checkCharacters ? name.toLatin1().size() : name.toLocal8Bit().size();
     if (count < maxLength)
         return name;
-    return checkCharacters ? CommonFun::GetUtf8ValidByteLenString(name, maxLength - 1)
+    return checkCharacters ? CommonFun::GetUtf8ValidByteLenString(name, qMax(maxLength, 1) - 1)
                            : CommonFun::GetLocal8BitValidByteLenString(name, maxLength);
 }
 
