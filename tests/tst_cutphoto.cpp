@@ -503,13 +503,18 @@ private slots:
         }
     }
 
-    // Catches Escape and the host's key slot that keep the frame, or that begin a new selection.
+    // Catches Escape and the host's key slot that keep the frame, or that begin a new selection, and an
+    // Escape that closes the menu and empties the frame as well.
     void KeysEmptyTheFrame()
     {
         const auto canvas = MakeCanvas<CCutPhotoWithZoom>();
         QSignalSpy closed(canvas.get(), &CCutPhotoWithZoom::SignCloseWind);
         Drag(*canvas, {40, 30}, {120, 80});
         QTest::keyRelease(canvas.get(), Qt::Key_Return);
+        QCOMPARE(Framed(*canvas), QRect(40, 30, 80, 50));
+        OnNextMenu([](QMenu* menu) { QTest::keyPress(menu, Qt::Key_Escape); });
+        Press(*canvas, {100, 60}, Qt::RightButton);
+        QTest::keyRelease(canvas.get(), Qt::Key_Escape); // it was the menu that this closed
         QCOMPARE(Framed(*canvas), QRect(40, 30, 80, 50));
         QTest::keyRelease(canvas.get(), Qt::Key_Escape);
         QCOMPARE(Framed(*canvas), QRect());

@@ -157,6 +157,7 @@ void CCutPhotoWithZoomPrivate::TakeHandle(const QPoint& pos, const QPoint& globa
 bool CCutPhotoWithZoomPrivate::Press(const QPoint& pos, const QPoint& globalPos, Qt::MouseButton button)
 {
     const QPointer<CCutPhotoWithZoom> guard(q);
+    escapeWasMenus = false; // its release went elsewhere
     if (!pressed)
         q->update();
     pressed = true;
@@ -256,7 +257,12 @@ bool CCutPhotoWithZoomPrivate::PopupMenu()
         [] { return CCutPhotoWithZoom::tr("Human Body Image Search"); }, "iconBody_n.png",
         SLOT(OnHumanSearchPicture()));
     AddAction([] { return CCutPhotoWithZoom::tr("Cancel"); }, "close.png", SLOT(OnClose()));
-    return menu->exec(QCursor::pos()) != nullptr;
+    const EscapeWatch watch(*menu);
+    const QPointer<CCutPhotoWithZoom> guard(q);
+    const bool chosen = menu->exec(QCursor::pos()) != nullptr;
+    if (guard)
+        escapeWasMenus = watch.WasPressed();
+    return chosen;
 }
 
 void CCutPhotoWithZoomPrivate::AddAction(
@@ -479,6 +485,8 @@ void CCutPhotoWithZoom::keyReleaseEvent(QKeyEvent* event)
         QWidget::keyReleaseEvent(event);
         return;
     }
+    if (std::exchange(d_func()->escapeWasMenus, false))
+        return; // it closed the menu, and the frame stays
     showNormal();
     d_func()->SetCrop(QRect());
 }

@@ -72,6 +72,7 @@ public:
     bool pressed = false; ///< something was pressed since the last OnClose(): the frame is painted
     bool cropUnpainted = false; ///< the frame on the screen is not the present one
     bool pressing = false; ///< a press is being handled, perhaps with its menu open
+    bool escapeWasMenus = false; ///< an open menu took the press of Escape, whose release comes to the canvas
     bool searchRequested = false; ///< the host is about to close: a resize reads no file
     QColor background;
     QPointer<KvGUI::KvMenu> menu;

@@ -1,5 +1,7 @@
 #include "SearchMenu.h"
 
+#include <QKeyEvent>
+
 namespace UICommonMdl {
 
 namespace {
@@ -35,6 +37,15 @@ SearchMenuIcons::SearchMenuIcons(QObject* parent) { setParent(parent); }
 int SearchMenuIcons::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     return metric == PM_SmallIconSize ? IconSize : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+EscapeWatch::EscapeWatch(QWidget& menu) { menu.installEventFilter(this); }
+
+bool EscapeWatch::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        m_bPressed = true;
+    return false;
 }
 
 } // namespace UICommonMdl

@@ -2,6 +2,7 @@
 
 #include <QProxyStyle>
 #include <QString>
+#include <QWidget>
 
 namespace UICommonMdl {
 
@@ -19,6 +20,24 @@ public:
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr, const QWidget* widget = nullptr)
         const override;
+};
+
+/// Tells whether Escape closed a menu. The release of the key then comes to the widget behind it, which must
+/// not take it for an Escape of its own.
+class EscapeWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit EscapeWatch(QWidget& menu);
+
+    bool WasPressed() const { return m_bPressed; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool m_bPressed = false;
 };
 
 } // namespace UICommonMdl
