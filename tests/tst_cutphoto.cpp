@@ -552,13 +552,22 @@ private slots:
         QVERIFY(!canvas->GetCutPhoto().bHasImage);
     }
 
-    // Catches a canvas that keeps what it cannot read again.
+    // Catches a canvas that keeps what it cannot read again, and one that takes a picture in memory for the
+    // file that it showed before, which a resize would bring back.
     void APictureInMemoryIsLostByAResize()
     {
+        const QTemporaryDir folder;
+        const QString path
+            = WriteFile(folder, QStringLiteral("before.png"), Encoded(PlacePicture(QSize(60, 40)), "PNG"));
         const auto zoom = MakeCanvas<CCutPhotoWithZoom>();
+        zoom->SetSrcPhoto(path);
+        zoom->SetSrcImage(PlacePicture(Source));
         zoom->resize(100, 100);
         QVERIFY(zoom->GetCutPhoto().image.isNull());
         const auto plain = MakeCanvas<CCutDetailPhoto>();
+        plain->SetSrcPhoto(path);
+        plain->SetSrcImage(PlacePicture(Source));
+        QCOMPARE(plain->GetCutPhoto().strFilePath, QString());
         plain->resize(100, 100);
         QCOMPARE(plain->GetCutPhoto().image.size(), Source);
     }

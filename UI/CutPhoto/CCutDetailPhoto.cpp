@@ -30,9 +30,12 @@ void CCutDetailPhoto::SetSrcPhoto(const QString& path)
 {
     if (path.isEmpty())
         return;
-    const QImage image = d_func()->state.ReadSource(path);
-    if (!image.isNull())
-        SetSrcImage(image);
+    CropState& state = d_func()->state;
+    const QImage image = state.ReadSource(path);
+    if (image.isNull())
+        return;
+    SetSrcImage(image);
+    state.cutInfo.strFilePath = path;
 }
 
 void CCutDetailPhoto::SetSrcImage(const QImage& image)

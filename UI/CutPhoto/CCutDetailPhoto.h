@@ -52,7 +52,7 @@ public:
     void SetSrcPhoto(const QString& path);
 
     /// Takes @p image as the source picture, stretches it over the widget's present size and selects all
-    /// of it.
+    /// of it. The path of GetCutPhoto() is empty then.
     void SetSrcImage(const QImage& image);
 
     /// The source picture; after IsCutPhotoVaildWithNotify() returned true, the cut.

@@ -102,8 +102,10 @@ void CCutPhotoWithZoomPrivate::UpdateTipPos()
 void CCutPhotoWithZoomPrivate::ReadSource(const QString& path)
 {
     const QImage image = state.ReadSource(path);
-    if (!image.isNull())
-        q->SetSrcImage(image);
+    if (image.isNull())
+        return;
+    q->SetSrcImage(image);
+    state.cutInfo.strFilePath = path;
 }
 
 void CCutPhotoWithZoomPrivate::SetCrop(const QRect& crop)

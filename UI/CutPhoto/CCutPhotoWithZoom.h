@@ -65,7 +65,7 @@ public:
     void SetSrcPhoto(const QString& path);
 
     /// Takes @p image as the source picture and stretches it over the widget's present size. A frame that is
-    /// there keeps its place relative to the photo.
+    /// there keeps its place relative to the photo. The path of GetCutPhoto() is empty then.
     void SetSrcImage(const QImage& image);
 
     /// The source picture; after IsCutPhotoVaildWithNotify() returned true, the cut.

@@ -29,16 +29,14 @@ QString Message(CropPicture::Verdict verdict, const QSize& maximum)
 QImage CropState::ReadSource(const QString& path)
 {
     cutInfo.Clear();
-    QImage image = CropPicture::ReadPicture(path);
-    if (!image.isNull())
-        cutInfo.strFilePath = path;
-    return image;
+    return CropPicture::ReadPicture(path);
 }
 
 void CropState::ShowSource(const QImage& image, const QWidget& canvas)
 {
     cutInfo.image = image;
     cutInfo.bHasImage = true;
+    cutInfo.strFilePath.clear();
     display = CropPainting::Stretched(image, canvas.size(), canvas.devicePixelRatioF());
     displaySize = display.isNull() ? QSize(0, 0) : canvas.size();
     CalculationPhotoRect(canvas.size());

@@ -21,11 +21,10 @@ struct CropState
     CropPicture::Limits limits;
     int compressRatio = 100;
 
-    /// The picture in the file @p path, for ShowSource(); null when it cannot be read. Clears cutInfo and
-    /// notes the path of a picture that could be read.
+    /// The picture in the file @p path, for ShowSource(); null when it cannot be read. Clears cutInfo.
     QImage ReadSource(const QString& path);
 
-    /// Makes @p image the picture of cutInfo and stretches it over @p canvas.
+    /// Makes @p image the picture of cutInfo, which has no path then, and stretches it over @p canvas.
     void ShowSource(const QImage& image, const QWidget& canvas);
 
     /// Puts the photo into the middle of a widget of @p widget pixels; nothing without a picture.
