@@ -34,7 +34,7 @@ public:
     /// Paints the cell of one day, in the view's colours.
     void PaintDay(QPainter& painter, const QRect& cell, const QModelIndex& index) const;
 
-signals:
+Q_SIGNALS:
     void SignalPicked(const QDate& day); ///< by a click or by the keyboard
     void SignalHovered(const QDate& day); ///< invalid where the mouse is on no day that can be picked
     void SignalMoveWanted(const QDate& day); ///< the keyboard goes to this day, perhaps of another month

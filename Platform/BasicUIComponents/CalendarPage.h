@@ -25,7 +25,7 @@ public:
     QDate Month() const; ///< first day of the month
     void SetMonth(const QDate& month);
 
-signals:
+Q_SIGNALS:
     void SignalMonthWanted(const QDate& month); ///< the page shows the old month still
 
 protected:

@@ -16,7 +16,7 @@ public:
 
     void SetTitle(const QString& title);
 
-signals:
+Q_SIGNALS:
     void SignalCloseClicked();
 
 protected:

@@ -54,7 +54,7 @@ public:
     /// Shows or hides the calendar. Shown by a slot while it is being hidden, it comes up again after that.
     void setVisible(bool visible) override;
 
-signals:
+Q_SIGNALS:
     /// Another range is chosen. A change of a time edit is reported when the event loop comes round.
     void SgnDateTimeChanged();
     void SgnStartYearMonthChanged(); ///< the range starts in another month; follows SgnDateTimeChanged()

@@ -53,7 +53,7 @@ public:
     /// Lets the button be pressed or not.
     void SetButtonEnabled(int iButton, bool bEnabled);
 
-signals:
+Q_SIGNALS:
     void SignalOkButtonClicked(); ///< by mouse, Space or Enter; the dialog stays open
     void SignalCancelButtonClicked(); ///< not for Escape or the title bar's button; the dialog stays open
     void SignalOtherButtonClicked(); ///< the third button; the dialog stays open

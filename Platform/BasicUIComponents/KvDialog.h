@@ -52,7 +52,7 @@ public:
     /// Ends the dialog as QDialog::done() does; a slot of its signals may delete it.
     void done(int iResult) override;
 
-public slots:
+public Q_SLOTS:
     /// The title bar's button was clicked or Escape pressed. Rejects the dialog; override it to do more.
     virtual void OnCloseBtmClicked();
 

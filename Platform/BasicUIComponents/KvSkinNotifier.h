@@ -18,7 +18,7 @@ public:
     /// The one notifier; never null.
     static KvSkinNotifier* Instance();
 
-signals:
+Q_SIGNALS:
     /// The application name or the skin version is another one now; GetAppName() and GetSkinVersion()
     /// give the new values.
     void SignalSkinChanged();

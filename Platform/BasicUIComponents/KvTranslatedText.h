@@ -32,7 +32,7 @@ public:
     /// @param source is called now and after each change of the language; an empty one leaves the text
     KvTranslatedText(QObject* target, const char* property, Source source);
 
-public slots:
+public Q_SLOTS:
     /// Sets the text again, for a source that depends on more than the language. A text that someone else
     /// has set stays here too.
     void Refresh();

@@ -24,7 +24,7 @@ public:
     /// Fits the label to the text, long lines wrapped, and gives the size of the whole.
     QSize FittedSize();
 
-signals:
+Q_SIGNALS:
     void SignalClosed(); ///< the message is gone; its object is deleted later
 
 protected:

@@ -99,7 +99,7 @@ public:
     QImage ChanageImageByAspectRatio(const QImage& image) const;
     /// @}
 
-signals:
+Q_SIGNALS:
     /// Each step of a drag. A slot may delete the canvas.
     /// @param rcCut the frame in widget coordinates
     /// @param bAddX, bAddY whether the pointer is at or beyond the point of the press: the frame grows to

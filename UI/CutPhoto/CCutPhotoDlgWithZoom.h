@@ -69,7 +69,7 @@ public:
     /// The canvas, for what the dialog does not pass on: pictures in memory, the JPEG quality. Never null.
     CCutPhotoWithZoom* GetCanvas() const;
 
-public slots:
+public Q_SLOTS:
     /// Shows the dialog, reads the picture 10 milliseconds later, and returns when the dialog is closed:
     /// QDialog::Accepted or QDialog::Rejected. The dialog or its parent may be deleted meanwhile.
     int exec() override;

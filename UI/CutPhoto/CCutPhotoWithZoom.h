@@ -114,7 +114,7 @@ public:
     QImage ChanageImageByAspectRatio(const QImage& image) const;
     /// @}
 
-signals:
+Q_SIGNALS:
     /// Declared for hosts that connect both canvases alike; this one never emits it.
     void SignalUpdateCutRect(const QRect& rcCut, bool bAddX, bool bAddY);
     void SignCloseWind(); ///< OnKeyPressed() was reached: the host should close
@@ -122,7 +122,7 @@ signals:
     void SignClickVehicleSearch(); ///< "Vehicle Images Search" was chosen in the menu
     void SignClickFaceSearch(); ///< "Face Image Search" was chosen in the menu
 
-public slots:
+public Q_SLOTS:
     /// Sets the cursor by the place of the last press; for a timer of the host, the canvas has none.
     /// Nothing while no frame is completed.
     void OnTimeOut();

@@ -58,7 +58,7 @@ public:
     /// @param milliseconds 300 and less are ignored
     void SetDisplayTime(int milliseconds);
 
-private slots:
+private Q_SLOTS:
     void OnFadeOutFinished();
 
 protected:

@@ -39,7 +39,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
-private slots:
+private Q_SLOTS:
     void onDirButtonClicked();
 
 private:

@@ -65,7 +65,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-signals:
+Q_SIGNALS:
     /// An octet has another text; @p text is text(). Setting an address emits it once an octet that changes.
     void textchanged(const QString& text);
     /// The operator edited the address; comes before textchanged() while typing.
@@ -79,7 +79,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
-private slots:
+private Q_SLOTS:
     void textchangedslot(const QString& text);
     void texteditedslot(const QString& text);
 

@@ -28,7 +28,7 @@ public:
     /// texts by the program. Switched on at first.
     void setDealTextEditEnable(bool enable);
 
-signals:
+Q_SIGNALS:
     /// The operator pasted or dropped @p address, four octets with dots, blanks around it removed.
     void addresspasted(const QString& address);
 
@@ -39,7 +39,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
-private slots:
+private Q_SLOTS:
     void text_edited(const QString& text);
 
 private:

@@ -73,14 +73,14 @@ public:
     /// Clears the name, and closes the dialog when a "Save" since the last call has not closed it.
     void CanCloseDialog();
 
-public slots:
+public Q_SLOTS:
     void OnBtnSave(); ///< reports the name by SignalNewName() and closes; a blank one gets a tool tip
     void OnBtnSaveAndNew(); ///< reports the name by SignalSaveAndNew(); a blank one gets a tool tip
     void OnClose(); ///< clears the name and closes
     void OnCloseBtmClicked() override; ///< clears the name and closes
     void OnLineEditTextChanged(const QString& strText); ///< cuts what was typed to the maximum length
 
-signals:
+Q_SIGNALS:
     void SignalNewName(const QString& strName); ///< "Save" was pressed
     void SignalNewName(qint64 iParentID, const QString& strName); ///< the same; comes second
     void SignalSaveAndNew(qint64 iParentID, const QString& strName); ///< "Save and New" was pressed

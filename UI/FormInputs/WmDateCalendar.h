@@ -49,12 +49,12 @@ public:
     QSize sizeHint() const override; ///< with room for the skin's picture behind the text
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-signals:
+Q_SIGNALS:
     void SgnDateTimeChanged(const QDateTime& start, const QDateTime& end); ///< another range is chosen
     void SgnStartYearMonthChanged(int year, int month); ///< the range starts in this month now
     void SgnEndYearMonthChanged(int year, int month); ///< the range ends in this month now
 
-public slots:
+public Q_SLOTS:
     void OnDateTimeChanged(); ///< shows the calendar's range and reports it
     void OnStartYearMonthChanged(); ///< reports the month in which the calendar's range starts
     void OnEndYearMonthChanged(); ///< reports the month in which the calendar's range ends

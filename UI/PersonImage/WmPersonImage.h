@@ -70,7 +70,7 @@ public:
     /// Lays the buttons out for the panel's present size; called by each resize.
     void SetButtonSize();
 
-signals:
+Q_SIGNALS:
     void SignalClickUploadPicBtn(); ///< "Upload Pic" was clicked
     void SignalCameraBtnClick(); ///< "CameraCaptchPicture" was clicked
     void SignalVistorSnapBtnClick(); ///< "ACHCaptchPicture" was clicked

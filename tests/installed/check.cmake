@@ -58,3 +58,11 @@ separate_arguments(flags UNIX_COMMAND "${flags} ${CXX_FLAGS}")
 run("${CXX}" -std=c++17 -fPIC "${SOURCE_DIR}/main.cpp" -o "${WORK_DIR}/by-pkg-config" ${flags}
     "-Wl,-rpath,${pc_dir}/..")
 run("${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen "${WORK_DIR}/by-pkg-config")
+
+# All installed headers, in a client that has other uses for the words "signals", "slots" and "emit".
+set(includes "${WORK_DIR}/prefix/include/UIComponents")
+file(GLOB_RECURSE headers RELATIVE "${includes}" "${includes}/*.h")
+list(TRANSFORM headers REPLACE "(.+)" "#include <\\1>\n")
+list(JOIN headers "" text)
+file(WRITE "${WORK_DIR}/headers.cpp" "${text}")
+run("${CXX}" -std=c++17 -fPIC -fsyntax-only -DQT_NO_KEYWORDS "${WORK_DIR}/headers.cpp" ${flags})
