@@ -122,6 +122,19 @@ private Q_SLOTS:
         QCOMPARE(ranges.last(), QStringLiteral("sheet.Range(const QString&)(A2003:A2502)"));
     }
 
+    // Catches an export begun from a window that is not active yet, whose end leaves the keyboard elsewhere.
+    void KeyboardComesBack()
+    {
+        AlarmPage page({});
+        auto* button = Button(page, QStringLiteral("xport"));
+        const Page::Picture exporting = page.Pictures().constLast();
+        button->setFocus();
+        exporting.enter();
+        QCOMPARE(page.focusWidget(), Button(page, QStringLiteral("ancel")));
+        exporting.leave();
+        QCOMPARE(page.focusWidget(), button);
+    }
+
     // Catches a cancelled export that writes its file all the same, or leaves the page locked or without the
     // keyboard, and progress that is seen only when the step after it has ended.
     void CancelsBetweenBlocks()

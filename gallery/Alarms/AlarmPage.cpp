@@ -331,7 +331,8 @@ void AlarmPage::ShowWork(const QString& text, int done, int all)
     m_pProgress->setRange(0, qMax(1, all));
     m_pProgress->setValue(done);
     m_pWork->show();
-    if (m_pExport->hasFocus())
+    // Not by hasFocus(): the file dialog may not have given the keyboard back to the window yet.
+    if (focusWidget() == m_pExport)
         m_pCancel->setFocus();
     m_pImport->setEnabled(false);
     m_pExport->setEnabled(false);
@@ -347,7 +348,7 @@ void AlarmPage::EndWork()
     m_pRunning.clear();
     m_pImport->setEnabled(true);
     m_pExport->setEnabled(true);
-    if (m_pCancel->hasFocus())
+    if (focusWidget() == m_pCancel)
         m_pExport->setFocus(); // otherwise it leaves the page
     m_pWork->hide();
 }
