@@ -11,8 +11,9 @@ namespace OperatorClient {
 
 namespace {
 
-constexpr QSize Size(460, 560);
-constexpr int KeyWidth = 170; // pixels
+constexpr QSize Size(460, 560); // at least
+constexpr int Digits = 60; // its width in large letters
+constexpr int KeyDigits = 22;
 constexpr int RowHeight = 28; // pixels
 
 } // namespace
@@ -22,7 +23,8 @@ KeysDialog::KeysDialog(const QList<QAction*>& actions, QWidget* parent)
     , m_pTable(new QTableWidget(0, 2, GetCentralWidget()))
 {
     SetTitle(tr("Keys"));
-    resize(Size);
+    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    resize(qMax(Size.width(), Digits * digit), Size.height());
     m_pTable->setAccessibleName(tr("Keys"));
     m_pTable->setVerticalScrollBar(new KvGUI::KvVerScrollBar(m_pTable));
     m_pTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -34,7 +36,7 @@ KeysDialog::KeysDialog(const QList<QAction*>& actions, QWidget* parent)
     m_pTable->verticalHeader()->setDefaultSectionSize(RowHeight);
     m_pTable->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_pTable->horizontalHeader()->hide();
-    m_pTable->setColumnWidth(1, KeyWidth);
+    m_pTable->setColumnWidth(1, KeyDigits * digit);
     auto* layout = new QVBoxLayout(GetCentralWidget());
     layout->setContentsMargins(12, 12, 12, 12);
     layout->addWidget(m_pTable);

@@ -192,6 +192,25 @@ class TestDateCalendar : public QObject
     Q_OBJECT
 
 private slots:
+    // Catches cells of a size in pixels, in which the names of the days run into each other.
+    void LargeLettersFit()
+    {
+        const QFont usual = QApplication::font();
+        const auto restore = qScopeGuard([&] { QApplication::setFont(usual); });
+        QFont large = usual;
+        large.setPixelSize(24);
+        QApplication::setFont(large);
+        KvGUI::KvCalendarEx calendar(nullptr, Qt::Popup);
+        calendar.adjustSize();
+        const auto months = calendar.findChildren<QTableView*>();
+        QVERIFY(!months.isEmpty());
+        for (const QTableView* month : months) {
+            const QString day = month->model()->headerData(0, Qt::Horizontal).toString();
+            QVERIFY(month->columnWidth(0) > month->fontMetrics().horizontalAdvance(day));
+            QVERIFY(month->rowHeight(0) >= month->fontMetrics().height());
+        }
+    }
+
     void initTestCase() { TestSupport::SpoilFreedMemory(); }
 
     void DaysOfAMonth_data()

@@ -10,9 +10,11 @@ namespace KvGUI {
 
 namespace {
 
-constexpr int CellWidth = 36; // pixels
-constexpr int CellHeight = 28; // pixels
-constexpr int HeaderHeight = 26; // pixels
+// Pixels, at least: large letters take more.
+constexpr int CellWidth = 36;
+constexpr int CellHeight = 28;
+constexpr int HeaderHeight = 26;
+constexpr int Gap = 8; // pixels between texts
 constexpr int Radius = 4; // pixels, of the corners of marks
 constexpr int WheelStep = 120; // eighths of a degree, one click of a wheel
 
@@ -72,12 +74,18 @@ void CalendarMonthView::SetUpHeaders()
     header->setSectionResizeMode(QHeaderView::Fixed);
     header->setSectionsClickable(false);
     header->setHighlightSections(false);
-    header->setFixedHeight(HeaderHeight);
+    header->setFixedHeight(qMax(HeaderHeight, fontMetrics().height() + Gap));
 }
 
 QSize CalendarMonthView::sizeHint() const
 {
-    return {CalendarColumns * CellWidth, HeaderHeight + CalendarRows * CellHeight};
+    int width = CellWidth;
+    for (int column = 0; column < CalendarColumns; ++column) {
+        const QString day = m_pDays->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        width = qMax(width, fontMetrics().horizontalAdvance(day) + Gap);
+    }
+    const int height = qMax(CellHeight, fontMetrics().height() + Gap);
+    return {CalendarColumns * width, horizontalHeader()->height() + CalendarRows * height};
 }
 
 QSize CalendarMonthView::minimumSizeHint() const { return sizeHint(); }

@@ -11,7 +11,8 @@ namespace OperatorClient {
 
 namespace {
 
-constexpr int Width = 260; // pixels
+constexpr int Width = 260; // pixels, at least
+constexpr int Digits = 28; // in large letters
 
 } // namespace
 
@@ -24,7 +25,7 @@ DetailsPanel::DetailsPanel(CameraWall* cameras)
     FollowLanguage(this, "windowTitle", [] { return tr("Details"); }); // in the desktop's list of windows
     SetTitle(tr("Details"));
     InitUI();
-    SetFixWidth(Width);
+    SetFixWidth(qMax(Width, Digits * fontMetrics().horizontalAdvance(QLatin1Char('0'))));
     AddCentralWidget(m_pDetails);
     connect(cameras, &CameraWall::SignalSelectionChanged, this, &DetailsPanel::Follow);
     connect(cameras, &CameraWall::SignalChanged, this, &DetailsPanel::Follow);
