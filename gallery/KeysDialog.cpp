@@ -1,5 +1,7 @@
 #include <gallery/KeysDialog.h>
 
+#include <gallery/DigitsWidth.h>
+
 #include <Platform/BasicUIComponents/KvVerScrollBar.h>
 
 #include <QAction>
@@ -23,8 +25,7 @@ KeysDialog::KeysDialog(const QList<QAction*>& actions, QWidget* parent)
     , m_pTable(new QTableWidget(0, 2, GetCentralWidget()))
 {
     SetTitle(tr("Keys"));
-    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    resize(qMax(Size.width(), Digits * digit), Size.height());
+    resize(qMax(Size.width(), DigitsWidth(*this, Digits)), Size.height());
     m_pTable->setAccessibleName(tr("Keys"));
     m_pTable->setVerticalScrollBar(new KvGUI::KvVerScrollBar(m_pTable));
     m_pTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -36,7 +37,7 @@ KeysDialog::KeysDialog(const QList<QAction*>& actions, QWidget* parent)
     m_pTable->verticalHeader()->setDefaultSectionSize(RowHeight);
     m_pTable->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_pTable->horizontalHeader()->hide();
-    m_pTable->setColumnWidth(1, KeyDigits * digit);
+    m_pTable->setColumnWidth(1, DigitsWidth(*this, KeyDigits));
     auto* layout = new QVBoxLayout(GetCentralWidget());
     layout->setContentsMargins(12, 12, 12, 12);
     layout->addWidget(m_pTable);

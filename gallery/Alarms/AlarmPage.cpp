@@ -9,6 +9,7 @@
 #include <gallery/Alarms/AlarmExport.h>
 #include <gallery/Alarms/AlarmImport.h>
 #include <gallery/Alarms/AlarmTable.h>
+#include <gallery/DigitsWidth.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/LastFolders.h>
 #include <gallery/StartLabel.h>
@@ -157,9 +158,8 @@ QTableView* AlarmPage::BuildTable()
     table->verticalHeader()->setDefaultSectionSize(28);
     table->horizontalHeader()->setHighlightSections(false);
     int column = 0;
-    const int digit = table->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const int digits : ColumnWidths)
-        table->setColumnWidth(column++, digits * digit);
+        table->setColumnWidth(column++, DigitsWidth(*table, digits));
     table->KeepLastColumn(table->columnWidth(column - 1));
     return table;
 }

@@ -15,6 +15,7 @@
 #include <UI/FormInputs/WmAddGroup.h>
 #include <UI/FormInputs/WmDateCalendar.h>
 #include <UI/FormInputs/WmNoImpPushButton.h>
+#include <gallery/DigitsWidth.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/Forms/PasswordRating.h>
 #include <gallery/StartLabel.h>
@@ -50,10 +51,7 @@ constexpr int LabelWidth = 100; // pixels, so that the columns of groups below e
 constexpr int LongestPeriod = 31; // days
 constexpr qint64 RootGroup = 1;
 
-int WidestForm(const QWidget& form)
-{
-    return qMax(FormWidth, FormDigits * form.fontMetrics().horizontalAdvance(QLatin1Char('0')));
-}
+int WidestForm(const QWidget& form) { return qMax(FormWidth, DigitsWidth(form, FormDigits)); }
 
 QFormLayout* FormIn(QGroupBox* group)
 {

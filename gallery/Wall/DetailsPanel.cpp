@@ -1,5 +1,6 @@
 #include <gallery/Wall/DetailsPanel.h>
 
+#include <gallery/DigitsWidth.h>
 #include <gallery/FollowLanguage.h>
 #include <gallery/Wall/CameraWall.h>
 #include <gallery/Wall/WallSound.h>
@@ -25,7 +26,7 @@ DetailsPanel::DetailsPanel(CameraWall* cameras)
     FollowLanguage(this, "windowTitle", [] { return tr("Details"); }); // in the desktop's list of windows
     SetTitle(tr("Details"));
     InitUI();
-    SetFixWidth(qMax(Width, Digits * fontMetrics().horizontalAdvance(QLatin1Char('0'))));
+    SetFixWidth(qMax(Width, DigitsWidth(*this, Digits)));
     AddCentralWidget(m_pDetails);
     connect(cameras, &CameraWall::SignalSelectionChanged, this, &DetailsPanel::Follow);
     connect(cameras, &CameraWall::SignalChanged, this, &DetailsPanel::Follow);
