@@ -770,14 +770,16 @@ private slots:
             QVERIFY(!form.Calendar()->isVisible());
             QVERIFY(!form.button->isChecked());
         }
-        QTest::mouseDClick(form.window->windowHandle(), Qt::LeftButton, {}, OnButton); // opens and closes
-        QVERIFY(!form.Calendar()->isVisible());
-        QVERIFY(form.button->isChecked());
         // On the calendar's own edge where it covers the button, as on a small screen.
         form.Press(OnButton);
         form.Calendar()->move(form.button->mapToGlobal(QPoint(0, 0)));
         form.Press(form.button->geometry().topLeft() + QPoint(3, 3));
         QVERIFY(form.Calendar()->isVisible());
+        form.Press(OnOther);
+        // Opens and closes; last, as Qt warns of a window shown anew before the X server tells of the first.
+        QTest::mouseDClick(form.window->windowHandle(), Qt::LeftButton, {}, OnButton); // opens and closes
+        QVERIFY(!form.Calendar()->isVisible());
+        QVERIFY(form.button->isChecked());
     }
 
     /// Catches a button that takes another object, which a client lets it watch, for its calendar.
